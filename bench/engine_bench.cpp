@@ -1,0 +1,505 @@
+// The engine beside plain SQLite, both on the same contacts in the same run: what does the dialect cost?
+// Plain means what a careful SQLite user would write: built-in NOCASE, the same indexes, prepared statements
+// where a statement comes again, write-ahead log with full sync; and texts as QString, which every Qt program
+// needs.
+
+#include "core/store/book_schema.h"
+#include "jet/database.h"
+#include "jet/engine.h"
+#include "tools/book_generator.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <numeric>
+#include <sqlite3.h>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kGoalsHoldAt = 100000;
+
+[[noreturn]] void stop(const QString& what)
+{
+    std::fprintf(stderr, "engine_bench: %s\n", what.toUtf8().constData());
+    std::exit(1);
+}
+
+QString columnText(sqlite3_stmt* statement, int column)
+{
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
+        sqlite3_column_bytes(statement, column));
+}
+
+/// The same contacts in a file that knows nothing of the dialect.
+class Plain {
+public:
+    Plain(const QString& path, const QString& book)
+    {
+        if (sqlite3_open(path.toUtf8().constData(), &m_connection) != SQLITE_OK)
+            stop(path);
+        QStringList definitions;
+        const jet::Schema schema = core::bookSchema();
+        for (const jet::SchemaColumn& column : schema.table(u"cnt_main")->columns) {
+            definitions << u'[' + column.name + u']'
+                    + (column.type == jet::ColumnType::AutoNumber   ? u" INTEGER PRIMARY KEY AUTOINCREMENT"_s
+                            : column.type == jet::ColumnType::YesNo ? u" INTEGER NOT NULL DEFAULT 0"_s
+                                                                    : u" TEXT COLLATE NOCASE"_s);
+            m_columns << column.name;
+        }
+        run(u"PRAGMA journal_mode = WAL"_s);
+        run(u"PRAGMA synchronous = FULL"_s);
+        run(u"PRAGMA cache_size = -4096"_s);
+        run(u"CREATE TABLE cnt_main ("_s + definitions.join(u',') + u')');
+        run(u"ATTACH '%1' AS book"_s.arg(book));
+        const QString list = u'[' + m_columns.join(u"],["_s) + u']';
+        run(u"INSERT INTO cnt_main (%1) SELECT %1 FROM book.cnt_main"_s.arg(list));
+        run(u"DETACH book"_s);
+        run(u"CREATE INDEX byname ON cnt_main (Name)"_s);
+        run(u"CREATE INDEX bycategory ON cnt_main (category1, category2)"_s);
+        run(u"CREATE INDEX bysubcategory ON cnt_main (category2, Name)"_s);
+        run(u"CREATE INDEX blank ON cnt_main (id) WHERE length(trim(Name)) = 0 AND length(trim([First])) = 0 "
+            u"AND "
+            "length(trim([Last])) = 0 AND length(trim(Company)) = 0"_s);
+        run(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
+    }
+    ~Plain()
+    {
+        while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
+            sqlite3_finalize(left);
+        sqlite3_close(m_connection);
+    }
+    Q_DISABLE_COPY_MOVE(Plain)
+
+    void run(const QString& sql)
+    {
+        if (sqlite3_exec(m_connection, sql.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+            stop(sql + u": "_s + QString::fromUtf8(sqlite3_errmsg(m_connection)));
+    }
+    sqlite3_stmt* prepare(const QString& sql)
+    {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(m_connection, sql.toUtf8().constData(), -1, &statement, nullptr) != SQLITE_OK)
+            stop(sql + u": "_s + QString::fromUtf8(sqlite3_errmsg(m_connection)));
+        return statement;
+    }
+    /// Runs a selection and turns every cell into a text; the number of rows.
+    int walk(const QString& sql)
+    {
+        sqlite3_stmt* statement = prepare(sql);
+        const int width = sqlite3_column_count(statement);
+        int rows = 0;
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            for (int column = 0; column < width; ++column)
+                m_last = columnText(statement, column);
+            ++rows;
+        }
+        sqlite3_finalize(statement);
+        return rows;
+    }
+    const QStringList& columns() const { return m_columns; }
+
+private:
+    sqlite3* m_connection = nullptr;
+    QStringList m_columns;
+    QString m_last;
+};
+
+struct Line {
+    QString name;
+    int n;
+    double ours;
+    double plain;
+    double goal; ///< of the ratio, at the largest book; 0 when there is none
+};
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// Microseconds of one call of each, taken in turns so that both meet the same machine.
+std::pair<double, double> inTurns(
+    int times, const std::function<void()>& ours, const std::function<void()>& plain)
+{
+    std::vector<double> a;
+    std::vector<double> b;
+    const auto measure = [](const std::function<void()>& work) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        return double(timer.nsecsElapsed()) / 1000;
+    };
+    ours();
+    plain();
+    for (int i = 0; i < times; ++i) {
+        a.push_back(measure(ours));
+        b.push_back(measure(plain));
+    }
+    return {median(a), median(b)};
+}
+
+void same(const QString& what, int ours, int plain)
+{
+    if (ours != plain)
+        stop(u"%1: %2 rows here, %3 there"_s.arg(what).arg(ours).arg(plain));
+}
+
+int walkOurs(jet::Database& book, const QString& sql)
+{
+    const jet::Recordset rows = book.openRecordset(sql);
+    if (!rows.isValid())
+        stop(sql);
+    const int width = int(rows.columns().size());
+    QString last;
+    for (int row = 0; row < rows.count(); ++row) {
+        for (int column = 0; column < width; ++column)
+            last = rows.textAt(row, column);
+    }
+    return rows.count();
+}
+
+// ---- the statements
+
+constexpr QStringView kSearched[] = {u"first", u"last", u"company", u"category1", u"category2", u"h_city",
+    u"w_addtype", u"fam_note", u"b_note", u"education", u"region", u"hobbies", u"altcontact"};
+
+QString searchSql(const QString& pattern)
+{
+    QStringList terms;
+    for (const QStringView column : kSearched)
+        terms << column.toString() + u" like '"_s + pattern + u'\'';
+    return u"select id,name from cnt_main where "_s + terms.join(u" or "_s);
+}
+
+/// One arm of the birthday list: whose name and date, and the flag beside it.
+struct Celebrant {
+    QStringView name;
+    QStringView date;
+    QStringView flag;
+};
+constexpr Celebrant kCelebrants[] = {{u"name", u"m_bd", u"cpsmnbd"}, {u"spouse", u"sp_bd", u"cpsspbd"},
+    {u"kid1", u"kid1_bd", u"cpsk1bd"}, {u"kid2", u"kid2_bd", u"cpsk1bd"}, {u"kid3", u"kid3_bd", u"cpsk1bd"}};
+
+QString birthdaySql()
+{
+    QString sql;
+    for (const Celebrant& c : kCelebrants) {
+        const bool isFirst = sql.isEmpty();
+        sql += (isFirst ? u""_s : u" union ("_s)
+            + u"select month(%2) as linkidid,day(%2) as sunsign,id,name as contact,%1 ,%2,%2,2026 - year(%2) "
+              u"as gen_id "
+              ",category1,category2,priority,first,h_city,%3 as [Copy To Scheduler] from cnt_main where %1 "
+              "is not null "
+              " and len(%1) <> 0 and %2 is not null  and len(%2) <> 0 "_s.arg(c.name, c.date, c.flag)
+            + (isFirst ? u""_s : u")"_s);
+    }
+    return sql + u" order by linkidid,sunsign,category1,category2,name "_s;
+}
+
+QString plainBirthdaySql()
+{
+    QStringList arms;
+    for (const Celebrant& c : kCelebrants)
+        arms << u"SELECT CAST(substr(%2,6,2) AS INTEGER) AS linkidid, CAST(substr(%2,9,2) AS INTEGER) AS "
+                u"sunsign, id, "
+                "name AS contact, %1 AS celebrant, %2 AS bd, %2, 2026 - CAST(substr(%2,1,4) AS INTEGER) AS "
+                "gen_id, "
+                "category1, category2, priority, first, h_city, %3 FROM cnt_main WHERE %1 IS NOT NULL AND "
+                "length(%1) <> 0 AND %2 IS NOT NULL AND length(%2) <> 0"_s.arg(c.name, c.date, c.flag);
+    return arms.join(u" UNION "_s) + u" ORDER BY linkidid, sunsign, category1, category2, celebrant"_s;
+}
+
+// ---- the measurements
+
+class Bench {
+public:
+    Bench(const QString& folder, int count, bool quick)
+        : m_count(count)
+        , m_times(quick                   ? 3
+                  : count >= kGoalsHoldAt ? 7
+                                          : 15)
+        , m_path(folder + u"/book-%1.dll"_s.arg(count))
+    {
+        if (!tools::makeBook(m_path, count))
+            stop(m_path);
+        m_plain = std::make_unique<Plain>(folder + u"/plain-%1.db"_s.arg(count), m_path);
+        if (m_book.open(m_path) != jet::Database::OpenResult::Opened)
+            stop(m_path);
+        m_book.setFailureHandler(
+            [](const jet::Failure& failure) { stop(failure.statement + u": "_s + failure.reason); });
+    }
+
+    QList<Line> run()
+    {
+        list();
+        search();
+        lookUp();
+        birthdays();
+        save();
+        return m_lines;
+    }
+
+    /// Translation needs no contacts; the goals are in microseconds and stand in the place of plain SQLite.
+    QList<Line> translations()
+    {
+        jet::Engine engine;
+        engine.open(m_path, jet::Database::Kind::Data);
+        int serial = 0;
+        // Aliases that were never seen make statements that were never seen.
+        const auto fresh = [&](const QStringList& texts) {
+            std::vector<double> all;
+            for (int i = 0; i < 150; ++i) {
+                for (const QString& text : texts) {
+                    const QString sql = text.arg(++serial);
+                    QElapsedTimer timer;
+                    timer.start();
+                    if (!engine.request(sql, jet::Way::Dao))
+                        stop(sql);
+                    all.push_back(double(timer.nsecsElapsed()) / 1000);
+                }
+            }
+            // The sum of the medians would hide nothing either; the mean over all texts is what a person
+            // waits.
+            std::sort(all.begin(), all.end());
+            all.resize(all.size() * 98 / 100);
+            double sum = 0;
+            for (const double one : all)
+                sum += one;
+            return sum / double(all.size());
+        };
+        const QStringList everyday{u"SELECT id,name as a%1 FROM cnt_main ORDER BY Name "_s,
+            u"select *,id as a%1 from cnt_main where name='Asha Rao'"_s,
+            u"select distinct category1+'-'+category2 as a%1 from CNTB_CATEGORIES where category1 is not null and category1 <>''"_s,
+            u"select distinct [RELATION] as a%1 from CNTB_OTHER1 where [RELATION] is not null and [RELATIONVERSION] ='C' and relation <>''"_s,
+            u"select id as a%1,name from cnt_main where month(m_bd)='6' and category1 like 'B*' order by name"_s};
+        QString search = searchSql(u"*tea*"_s);
+        search.replace(u"select id,"_s, u"select id as a%1,"_s);
+        QString union5 = birthdaySql();
+        union5.replace(union5.indexOf(u"name as contact"_s), 15, u"name as contact, id as a%1"_s);
+        for (qsizetype at = union5.indexOf(u"union"_s); (at = union5.indexOf(u"name as contact,"_s, at)) >= 0;
+             at += 20)
+            union5.replace(at, 16, u"name as contact, id,"_s);
+        const double news = fresh(everyday);
+        m_lines << Line{u"translation, new: everyday statements (ratio to the goal of 25)"_s, 0, news, 25, 1};
+        m_lines << Line{u"translation, new: thirteen-column search (ratio to the goal of 25)"_s, 0,
+            fresh({search}), 25, 1};
+        m_lines << Line{u"translation, new: five-arm union (no goal of its own, ratio to 25)"_s, 0,
+            fresh({union5}), 25, 0};
+        const auto cached = [&](const QString& sql) {
+            constexpr int kCalls = 1000;
+            const auto all = [&] {
+                for (int i = 0; i < kCalls; ++i)
+                    engine.request(sql, jet::Way::Dao);
+            };
+            return inTurns(21, all, [] {}).first / kCalls;
+        };
+        m_lines << Line{u"translation, cached: list (ratio to the goal of 1)"_s, 0,
+            cached(u"SELECT id,name FROM cnt_main ORDER BY Name "_s), 1, 1};
+        m_lines << Line{u"translation, cached: five-arm union (ratio to the goal of 1)"_s, 0,
+            cached(birthdaySql()), 1, 1};
+        return std::exchange(m_lines, {});
+    }
+
+private:
+    void add(const QString& name, std::pair<double, double> taken, double goal)
+    {
+        m_lines << Line{name, m_count, taken.first, taken.second, goal};
+    }
+
+    void list()
+    {
+        const QString sql = u"SELECT id,name FROM cnt_main ORDER BY Name "_s;
+        same(u"list"_s, walkOurs(m_book, sql), m_plain->walk(sql));
+        add(u"list of all contacts by name, opened and walked"_s,
+            inTurns(
+                m_times, [&] { walkOurs(m_book, sql); }, [&] { m_plain->walk(sql); }),
+            1.3);
+    }
+
+    void search()
+    {
+        const QStringList words{u"quotation"_s, u"chess"_s, u"zzz"_s, u"pur"_s};
+        std::vector<double> ours;
+        std::vector<double> plain;
+        for (const QString& word : words) {
+            const QString mine = searchSql(u'*' + word + u'*');
+            const QString theirs = searchSql(u'%' + word + u'%');
+            same(u"search "_s + word, walkOurs(m_book, mine), m_plain->walk(theirs));
+            const auto taken = inTurns(
+                m_times, [&] { walkOurs(m_book, mine); }, [&] { m_plain->walk(theirs); });
+            ours.push_back(taken.first);
+            plain.push_back(taken.second);
+        }
+        const auto mean = [](const std::vector<double>& all) {
+            return std::accumulate(all.begin(), all.end(), 0.0) / double(all.size());
+        };
+        add(u"keyword in thirteen columns"_s, {mean(ours), mean(plain)}, 1.0);
+    }
+
+    void lookUp()
+    {
+        QStringList names;
+        const jet::Recordset all
+            = m_book.openRecordset(u"select id,name from cnt_main where name is not null order by id"_s);
+        const int step = std::max(1, all.count() / 1000);
+        for (int row = 0; row < all.count(); row += step) {
+            const QString name = all.textAt(row, 1);
+            // As on a screen: an apostrophe breaks the statement, and there is nothing to measure.
+            if (!name.contains(u'\''))
+                names << name;
+        }
+        sqlite3_stmt* statement = m_plain->prepare(u"SELECT * FROM cnt_main WHERE Name = ?"_s);
+        const int first = int(m_plain->columns().indexOf(u"First"_s));
+        const int city = int(m_plain->columns().indexOf(u"h_city"_s));
+        const int phone = int(m_plain->columns().indexOf(u"H_Ph1"_s));
+        QString last;
+        const auto ours = [&] {
+            for (const QString& name : names) {
+                const jet::Recordset found
+                    = m_book.openRecordset(u"select * from cnt_main where name='"_s + name + u"'"_s);
+                last = found.textOrEmpty(u"id") + found.textOrEmpty(u"first") + found.textOrEmpty(u"h_city")
+                    + found.textOrEmpty(u"H_Ph1");
+            }
+        };
+        const auto plain = [&] {
+            for (const QString& name : names) {
+                const QByteArray utf8 = name.toUtf8();
+                sqlite3_bind_text(statement, 1, utf8.constData(), int(utf8.size()), SQLITE_STATIC);
+                if (sqlite3_step(statement) != SQLITE_ROW)
+                    stop(u"look-up"_s);
+                last = columnText(statement, 0) + columnText(statement, first) + columnText(statement, city)
+                    + columnText(statement, phone);
+                sqlite3_reset(statement);
+            }
+        };
+        auto taken = inTurns(m_times, ours, plain);
+        taken.first /= double(names.size());
+        taken.second /= double(names.size());
+        add(u"look-up of a person by name"_s, taken, 2.0);
+    }
+
+    void birthdays()
+    {
+        const QString mine = birthdaySql();
+        const QString theirs = plainBirthdaySql();
+        same(u"birthdays"_s, walkOurs(m_book, mine), m_plain->walk(theirs));
+        add(u"birthday list, union of five arms"_s,
+            inTurns(
+                m_times, [&] { walkOurs(m_book, mine); }, [&] { m_plain->walk(theirs); }),
+            1.0);
+    }
+
+    void save()
+    {
+        const jet::Recordset model = m_book.openRecordset(u"select * from cnt_main where id=1"_s);
+        QList<QVariant> values;
+        const QStringList& columns = m_plain->columns();
+        for (int i = 0; i < columns.size(); ++i) {
+            const QVariant value = model.valueAt(0, i);
+            values << (value.isValid() || i == 0                   ? value
+                    : model.columnType(i) == jet::ColumnType::Date ? QVariant(QDate(1970, 6, 15))
+                                                                   : QVariant(u"Some text"_s));
+        }
+        QStringList marks(columns.size() - 1, u"?"_s);
+        sqlite3_stmt* insert = m_plain->prepare(u"INSERT INTO cnt_main (["_s + columns.mid(1).join(u"],["_s)
+            + u"]) VALUES ("_s + marks.join(u',') + u')');
+        const auto ours = [&] {
+            jet::Recordset rows = m_book.openRecordset(u"select * from cnt_main where id=0"_s);
+            rows.addNew();
+            for (int i = 1; i < columns.size(); ++i)
+                rows.set(columns[i], values[i]);
+            if (!rows.update())
+                stop(u"save"_s);
+        };
+        const auto plain = [&] {
+            for (int i = 1; i < columns.size(); ++i) {
+                const QVariant& value = values[i];
+                if (value.typeId() == QMetaType::Bool) {
+                    sqlite3_bind_int(insert, i, value.toBool());
+                    continue;
+                }
+                const QByteArray utf8
+                    = (value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate)
+                                                          : value.toString())
+                          .toUtf8();
+                sqlite3_bind_text(insert, i, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+            }
+            if (sqlite3_step(insert) != SQLITE_DONE)
+                stop(u"plain save"_s);
+            sqlite3_reset(insert);
+        };
+        add(u"durable save of a full contact"_s, inTurns(m_times * 15, ours, plain), 1.5);
+    }
+
+    int m_count;
+    int m_times;
+    QString m_path;
+    jet::Database m_book;
+    std::unique_ptr<Plain> m_plain;
+    QList<Line> m_lines;
+};
+
+void print(const Line& line)
+{
+    const double ratio = line.ours / line.plain;
+    const bool isGoal = line.goal > 0 && (line.n == 0 || line.n == kGoalsHoldAt);
+    const QString verdict = !isGoal
+        ? QString()
+        : u"%1 (goal %2)"_s.arg(ratio <= line.goal ? u"OK"_s : u"MISSED"_s).arg(line.goal);
+    std::printf("%-70s %7d %12.1f %12.1f %7.2f  %s\n", line.name.toUtf8().constData(), line.n, line.ours,
+        line.plain, ratio, verdict.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const bool quick = arguments.contains(u"--quick");
+    const qsizetype jsonAt = arguments.indexOf(u"--json"_s);
+    // Beside the program and not in a folder of temporary files, which may lie in memory, where a sync costs
+    // nothing.
+    const QTemporaryDir folder(QCoreApplication::applicationDirPath() + u"/bench-XXXXXX"_s);
+    if (!folder.isValid())
+        stop(folder.errorString());
+
+    std::printf("%-70s %7s %12s %12s %7s\n", "", "n", "ours us", "plain us", "ratio");
+    QList<Line> lines;
+    std::vector<int> counts{1000, 10000, 100000};
+    if (quick)
+        counts.pop_back();
+    for (const int count : counts) {
+        Bench bench(folder.path(), count, quick);
+        QList<Line> taken = count == counts.front() ? bench.translations() : QList<Line>();
+        taken += bench.run();
+        for (const Line& line : taken)
+            print(line);
+        lines += taken;
+    }
+    if (jsonAt > 0 && jsonAt + 1 < arguments.size()) {
+        QJsonArray list;
+        for (const Line& line : lines)
+            list << QJsonObject{{u"name"_s, line.name}, {u"n"_s, line.n}, {u"ours_us"_s, line.ours},
+                {u"plain_us"_s, line.plain}, {u"ratio"_s, line.ours / line.plain}};
+        QFile file(arguments[jsonAt + 1]);
+        if (!file.open(QIODevice::WriteOnly))
+            stop(file.fileName() + u": "_s + file.errorString());
+        file.write(QJsonDocument(list).toJson());
+    }
+    return 0;
+}

@@ -1,0 +1,60 @@
+#include "core/screens.h"
+
+#include "core/frame.h"
+#include "core/paint_timing.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace core {
+
+QStringList Screens::names() const
+{
+    QStringList names = m_factories.keys();
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Screen* Screens::load(QStringView form)
+{
+    if (Screen* open = find(form))
+        return open;
+    const auto factory = m_factories.constFind(form.toString());
+    if (factory == m_factories.constEnd())
+        return nullptr;
+    Q_ASSERT(m_context);
+    Screen* screen = (*factory)(*m_context);
+    screen->setObjectName(form.toString());
+    m_open.insert(form.toString(), screen);
+    reportFirstPaint(screen);
+    screen->load();
+    return screen;
+}
+
+Screen* Screens::find(QStringView form) const { return m_open.value(form.toString()); }
+
+bool Screens::show(QStringView form, Shown shown)
+{
+    Screen* screen = load(form);
+    if (!screen)
+        return false;
+    m_context->frame.place(screen, shown);
+    return true;
+}
+
+void Screens::unload(QStringView form)
+{
+    if (Screen* open = find(form)) {
+        m_open.remove(form.toString());
+        open->deleteLater();
+    }
+}
+
+void Screens::unloadAll()
+{
+    const auto open = std::exchange(m_open, {});
+    for (const QPointer<Screen>& screen : open)
+        delete screen.data();
+}
+
+} // namespace core

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/frame.h"
+#include "core/shell/action_performer.h"
+
+#include <QMainWindow>
+
+class QDockWidget;
+class QLabel;
+class QStackedWidget;
+class QTabWidget;
+class QToolBar;
+
+namespace shell {
+
+class ListBar;
+class StartPage;
+class ToolActions;
+
+/// The frame of the program: tool bar and menus from the tool bar table, the list bar, the status panes, and the
+/// screens as tabs. Built while the splash waits; reads nothing before loadFrame().
+class MDIForm1 : public QMainWindow, public core::Frame {
+    Q_OBJECT
+
+public:
+    /// Made without a context, since the context holds the frame; build() completes it.
+    MDIForm1();
+    ~MDIForm1() override;
+
+    void build(core::Context& context);
+    /// Load: the switches, the folders, the mails that are due.
+    void loadFrame();
+    /// Load once more, after the book was exchanged: no screen is open any more.
+    void reloadFrame();
+
+    void place(core::Screen* screen, core::Shown shown) override;
+    void setTitle(const QString& title) override;
+    void showPosition(const QString& text) override;
+    void showDate(const QString& text) override;
+    void clearStatus() override;
+    bool perform(const core::Action& action) override;
+    bool canPerform(const core::Action& action) const override;
+
+Q_SIGNALS:
+    void firstActivated(); ///< the splash can go
+    void restoreWanted();
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildToolBar();
+    void buildMenus();
+    void buildPanes();
+    void addGoMenu();
+    void activate();
+    void dropDown(const QString& page);
+    void closeTab(int index);
+    void showTabOrStartPage();
+    void toggleLook(bool dark);
+    void offerDueMails();
+    void rememberWindow() const;
+    void recallWindow();
+    QString windowStateFile() const;
+
+    core::Context* m_context = nullptr;
+    ActionPerformer* m_performer = nullptr;
+    ToolActions* m_tools = nullptr;
+    QToolBar* SSActiveToolBars1 = nullptr;
+    QDockWidget* m_listBarDock = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    StartPage* m_startPage = nullptr;
+    QTabWidget* m_tabs = nullptr;
+    QLabel* m_positionPane = nullptr;
+    QLabel* m_datePane = nullptr;
+    bool m_loaded = false;
+    bool m_wasActivated = false;
+};
+
+} // namespace shell

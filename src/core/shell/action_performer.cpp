@@ -1,0 +1,175 @@
+#include "core/shell/action_performer.h"
+
+#include "core/frame.h"
+#include "core/handover/page_screen.h"
+#include "core/screens.h"
+#include "platform/drive.h"
+#include "platform/help_viewer.h"
+#include "platform/message_boxes.h"
+#include "platform/shell.h"
+
+using namespace Qt::StringLiterals;
+
+namespace shell {
+
+namespace {
+
+constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
+constexpr QStringView kHelpFile = u"\\UserFiles\\Help\\OrvaneHelp.chm";
+
+QString fileOf(QStringView program) { return u'\\' + program.toString(); }
+
+/// The screen that an action needs; empty for an action that needs none.
+struct ScreenNeeded {
+    QStringView operator()(const core::OpenScreen& open) const { return open.form; }
+    QStringView operator()(const core::OpenLaunchPad&) const { return u"FrmLaunchDisk"; }
+    QStringView operator()(const core::EditColumns&) const { return u"FormUserEdit"; }
+    QStringView operator()(const core::ListReport&) const { return u"FrmAddFullRptView"; }
+    QStringView operator()(const core::TextReport&) const { return u"FrmTelTxt"; }
+    QStringView operator()(const core::ShowLinkedRecords&) const { return u"frmCntViewer"; }
+    template <class Other> QStringView operator()(const Other&) const { return {}; }
+};
+
+} // namespace
+
+ActionPerformer::ActionPerformer(core::Context& context, QObject* parent)
+    : QObject(parent)
+    , m_context(context)
+{
+}
+
+bool ActionPerformer::perform(const core::Action& action)
+{
+    return std::visit([this](const auto& what) { return run(what); }, action);
+}
+
+bool ActionPerformer::canPerform(const core::Action& action) const
+{
+    const QStringView form = std::visit(ScreenNeeded{}, action);
+    return form.isEmpty() || m_context.screens.has(form);
+}
+
+bool ActionPerformer::openScreen(QStringView form, QStringView page, core::Shown shown)
+{
+    if (!m_context.screens.has(form))
+        return false;
+    auto* paged = m_context.screens.load<core::PageScreen>(form);
+    if (paged && !page.isEmpty())
+        paged->openPage(page.toString());
+    return m_context.screens.show(form, shown);
+}
+
+bool ActionPerformer::run(const core::OpenScreen& open)
+{
+    if (open.listBar == core::ListBar::Hidden)
+        Q_EMIT listBarHidden();
+    if (!open.letterKind.isEmpty())
+        m_context.shared.LetterKind = open.letterKind.toString();
+    if (!open.title.isEmpty() && m_context.screens.has(open.form))
+        m_context.frame.setTitle(open.title.toString());
+    return openScreen(open.form, open.page, open.shown);
+}
+
+bool ActionPerformer::run(const core::OpenLaunchPad& open)
+{
+    m_context.shared.LaunchMode = open.mode.toString();
+    return openScreen(u"FrmLaunchDisk", open.mode);
+}
+
+bool ActionPerformer::run(const core::EditColumns& edit) { return openScreen(u"FormUserEdit", edit.columnSet); }
+
+bool ActionPerformer::run(const core::ListReport& report) { return openScreen(u"FrmAddFullRptView", report.page); }
+
+bool ActionPerformer::run(const core::LaunchLinkAndSync& launch)
+{
+    if (launch.ask == core::Ask::Yes) {
+        const auto answer = m_context.services.boxes.ask(
+            tr("Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "), m_context.shared.AppTitle);
+        if (answer == platform::Answer::No)
+            return false;
+    }
+    return startProgram(kLinkAndSync, core::WhenMissing::ShowProductPages);
+}
+
+// The key is left only for a program that is there; nobody else would take it away again.
+bool ActionPerformer::run(const core::StartSibling& start)
+{
+    if (!start.key.isEmpty() && m_context.services.shell.siblingExists(fileOf(start.program)))
+        m_context.data.execute(u"update ov_setup set key='"_s + start.key.toString() + u"'"_s);
+    return startProgram(start.program, start.whenMissing);
+}
+
+bool ActionPerformer::run(const core::RequestReport& request)
+{
+    m_context.data.execute(u"update ov_setup set key='report'"_s);
+    m_context.data.execute(u"update ov_setup set rptMod='Contacts'"_s);
+    m_context.data.execute(u"update ov_setup set rptSubMod='"_s + request.subModule.toString() + u"'"_s);
+    return startProgram(kLinkAndSync, core::WhenMissing::ShowProductPages);
+}
+
+bool ActionPerformer::startProgram(QStringView program, core::WhenMissing whenMissing)
+{
+    platform::Shell& desktop = m_context.services.shell;
+    if (desktop.siblingExists(fileOf(program))) {
+        if (!desktop.startSibling(fileOf(program)))
+            return false;
+        desktop.endProgram();
+        return true;
+    }
+    if (whenMissing == core::WhenMissing::ShowProductPages)
+        m_context.screens.show(u"FrmProjectMsg", core::Shown::Modally);
+    return false;
+}
+
+bool ActionPerformer::run(const core::TextReport&) { return false; }
+
+bool ActionPerformer::run(const core::OpenFile& open)
+{
+    if (m_context.services.drive.exists(open.path))
+        return m_context.services.shell.openFile(open.path);
+    return m_context.screens.show(u"FrmProjectMsg", core::Shown::Modally);
+}
+
+bool ActionPerformer::run(const core::OpenHelpFile&)
+{
+    m_context.services.help.openHelp(kHelpFile);
+    return true;
+}
+
+bool ActionPerformer::run(const core::ShowLinkedRecords&)
+{
+    m_context.frame.setTitle(u"Contacts Link Viewer"_s);
+    return openScreen(u"frmCntViewer", {});
+}
+
+bool ActionPerformer::run(const core::EndProgram&)
+{
+    m_context.services.shell.endProgram();
+    return true;
+}
+
+bool ActionPerformer::run(const core::CloseFrame&)
+{
+    Q_EMIT closeWanted();
+    return true;
+}
+
+bool ActionPerformer::run(const core::HideListBar&)
+{
+    Q_EMIT listBarHidden();
+    return true;
+}
+
+bool ActionPerformer::run(const core::DropDown& drop)
+{
+    Q_EMIT dropDownWanted(drop.toolBarPage.toString());
+    return true;
+}
+
+bool ActionPerformer::run(const core::Restore&)
+{
+    Q_EMIT restoreWanted();
+    return true;
+}
+
+} // namespace shell

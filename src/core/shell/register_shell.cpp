@@ -1,0 +1,17 @@
+#include "core/shell/register_shell.h"
+
+#include "core/screens.h"
+#include "core/shell/FrmLaunchDisk.h"
+#include "core/shell/FrmProjectMsg.h"
+
+using namespace Qt::StringLiterals;
+
+namespace shell {
+
+void registerShell(core::Screens& screens)
+{
+    screens.add<FrmLaunchDisk>(u"FrmLaunchDisk"_s);
+    screens.add<FrmProjectMsg>(u"FrmProjectMsg"_s);
+}
+
+} // namespace shell

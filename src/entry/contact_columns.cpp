@@ -1,0 +1,241 @@
+#include "entry/contact_columns.h"
+
+#include "core/contact_category.h"
+#include "jet/date_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace entry {
+
+namespace {
+
+constexpr ColumnRow kDetailedAdd[] = {
+    {u"Title", u"Cmbtitle"},
+    {u"Name", u"", Rule::Name},
+    {u"category1", u"DtcmbCate", Rule::Category1},
+    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"h_city", u"dtcmbcity"},
+    {u"sex", u"CmbSex"},
+    {u"Nview", u"cmbnview"},
+    {u"First", u"dtcmbfname"},
+    {u"Last", u"dtcmblname"},
+    {u"h_add1", u"txtadd1"},
+    {u"h_add2", u"txtadd2"},
+    {u"h_state", u"dtcmbstate"},
+    {u"h_country", u"dtcmbcountry"},
+    {u"h_pin", u"dtcmbpin"},
+    {u"Spouse", u"dtcspouse"},
+    {u"kid1", u"dtckid1"},
+    {u"kid2", u"dtckid2"},
+    {u"kid3", u"dtckid3"},
+    {u"Sp_BD", u"DateSpouse", Rule::Date},
+    {u"Kid1_BD", u"Datekid1", Rule::Date},
+    {u"Kid2_BD", u"datekid2", Rule::Date},
+    {u"Kid3_BD", u"datekid3", Rule::Date},
+    {u"Priority", u"cmbpriority", Rule::Priority},
+    {u"h_std", u"txtstd"},
+    {u"H_Ph1", u"txtph1"},
+    {u"h_ph2", u"txtph2"},
+    {u"h_ph3", u"txtph3"},
+    {u"Mobile", u"txtMobile"},
+    {u"SP_Mobile", u"txtspmobile"},
+    {u"h_web", u"txtweb", Rule::AsTyped},
+    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"h_email2", u"txtemail2", Rule::AsTyped},
+    {u"Sms", u"txtSMS", Rule::AsTyped},
+    {u"M_BD", u"DateBday", Rule::Date},
+    {u"Anniv", u"DateAnn", Rule::Date},
+    {u"b_add1", u"txtbadd1"},
+    {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
+    // Kept: the first line of the Work 1 address is written a second time.
+    {u"b_add1", u"txtbadd1"},
+    {u"b_add2", u"txtbadd2"},
+    {u"b_city", u"dtcmbbcity"},
+    {u"b_state", u"dtcmbbstate"},
+    {u"b_country", u"dtcmbbcountry"},
+    {u"b_pin", u"dtcmbbpin"},
+    {u"B_std", u"txtbstd"},
+    {u"B_Ph1", u"txtbph1"},
+    {u"b_tel_xtn", u"txtbxtn"},
+    {u"B_Ph2", u"txtbph2"},
+    {u"B_ph3", u"txtbph3"},
+    {u"b_email1", u"txtbemail1"},
+    {u"b_email2", u"txtbemail2"},
+    {u"B_Web", u"txtbweb", Rule::AsTyped},
+    {u"b_note", u"txtbnote", Rule::AsTyped},
+    {u"Job_Title", u"dtcmbjob", Rule::AsTyped},
+    {u"Company", u"txtcmpny"},
+    {u"B_Add_Type", u"txtbaddty"},
+    {u"w_add1", u"txtwadd1"},
+    {u"w_add2", u"txtwadd2"},
+    {u"w_city", u"dtcmbwcity"},
+    // Kept: the address type again in the place of the Work 2 state, so a new contact has none.
+    {u"B_Add_Type", u"txtbaddty"},
+    {u"w_country", u"dtcmbwcountry"},
+    {u"w_pin", u"dtcmbwpin"},
+    {u"w_Ph1", u"txtwph1"},
+    {u"W_AddType", u"dtcmbbadtyp"},
+    {u"W_Tel_XTN", u"txtwxtn"},
+    {u"w_Ph2", u"txtwph2"},
+    {u"w_ph3", u"txtwph3"},
+    {u"W_std", u"txtwstd"},
+    {u"fax", u"txtfax", Rule::AsTyped},
+    {u"Status", u"Dtcmbstatus", Rule::OrUndefined},
+    {u"Mid", u"dtcmbmid", Rule::AsTyped},
+    {u"nick", u"dtcmbnick", Rule::AsTyped},
+    {u"Relation", u"dtcmbrelation", Rule::AsTyped},
+    {u"Religion", u"dtcmbreligion", Rule::AsTyped},
+    {u"education", u"CmbEducation", Rule::AsTyped},
+    {u"region", u"dtcmbregion", Rule::OrUndefined},
+    {u"Hobbies", u"txthobby"},
+    {u"Asso1", u"dtcmbasso1"},
+    {u"asso2", u"dtcmbasso2"},
+    // Kept: a new note goes to memo1, a changed one to Memo; the form reads memo1.
+    {u"memo1", u"txtMemo"},
+    {u"dateEnter", u"", Rule::Today},
+    {u"DateModi", u"", Rule::Today},
+    {u"Maiden", u"dtcmbmaiden"},
+    {u"altcontact", u"txtaltcontact"},
+    {u"AltTitle", u"dtcmbalttitle"},
+    {u"User1", u"cmbuser1"},
+    {u"User2", u"cmbuser2"},
+    {u"User3", u"cmbuser3"},
+    {u"PhotLoc", u"Photo"},
+};
+
+constexpr ColumnRow kDetailedEdit[] = {
+    {u"Title", u"Cmbtitle"},
+    {u"Name", u"", Rule::Name},
+    {u"category1", u"DtcmbCate", Rule::Category1},
+    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"h_city", u"dtcmbcity"},
+    {u"sex", u"CmbSex"},
+    {u"Nview", u"cmbnview"},
+    {u"First", u"dtcmbfname"},
+    {u"Last", u"dtcmblname"},
+    {u"h_add1", u"txtadd1"},
+    {u"h_add2", u"txtadd2"},
+    {u"h_state", u"dtcmbstate"},
+    {u"h_country", u"dtcmbcountry"},
+    {u"h_pin", u"dtcmbpin"},
+    {u"Spouse", u"dtcspouse"},
+    {u"kid1", u"dtckid1"},
+    {u"kid2", u"dtckid2"},
+    {u"kid3", u"dtckid3"},
+    {u"Sp_BD", u"DateSpouse", Rule::DateInWords},
+    {u"Kid1_BD", u"Datekid1", Rule::DateInWords},
+    {u"Kid2_BD", u"datekid2", Rule::DateInWords},
+    {u"Kid3_BD", u"datekid3", Rule::DateInWords},
+    {u"Priority", u"cmbpriority", Rule::Priority},
+    {u"h_std", u"txtstd"},
+    {u"H_Ph1", u"txtph1"},
+    {u"h_ph2", u"txtph2"},
+    {u"h_ph3", u"txtph3"},
+    {u"Mobile", u"txtMobile"},
+    {u"SP_Mobile", u"txtspmobile"},
+    {u"h_web", u"txtweb", Rule::AsTyped},
+    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"h_email2", u"txtemail2", Rule::AsTyped},
+    {u"Sms", u"txtSMS", Rule::AsTyped},
+    {u"M_BD", u"DateBday", Rule::DateInWords},
+    {u"Anniv", u"DateAnn", Rule::DateInWords},
+    {u"b_add1", u"txtbadd1"},
+    {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
+    {u"b_add2", u"txtbadd2"},
+    {u"b_city", u"dtcmbbcity"},
+    {u"b_state", u"dtcmbbstate"},
+    {u"b_country", u"dtcmbbcountry"},
+    {u"b_pin", u"dtcmbbpin"},
+    {u"B_std", u"txtbstd"},
+    {u"B_Ph1", u"txtbph1"},
+    {u"B_Ph2", u"txtbph2"},
+    {u"B_ph3", u"txtbph3"},
+    {u"b_email1", u"txtbemail1"},
+    {u"b_email2", u"txtbemail2"},
+    {u"B_Web", u"txtbweb", Rule::AsTyped},
+    {u"b_note", u"txtbnote", Rule::AsTyped},
+    {u"Job_Title", u"dtcmbjob", Rule::AsTyped},
+    {u"Company", u"txtcmpny"},
+    {u"w_add1", u"txtwadd1"},
+    {u"w_add2", u"txtwadd2"},
+    {u"w_city", u"dtcmbwcity"},
+    {u"w_State", u"dtcmbwstate"},
+    {u"w_country", u"dtcmbwcountry"},
+    {u"w_pin", u"dtcmbwpin"},
+    {u"w_Ph1", u"txtwph1"},
+    {u"w_Ph2", u"txtwph2"},
+    {u"w_ph3", u"txtwph3"},
+    {u"W_std", u"txtwstd"},
+    // Kept: the fax is not among the columns that a change writes.
+    {u"Status", u"Dtcmbstatus", Rule::OrUndefined},
+    {u"Mid", u"dtcmbmid", Rule::AsTyped},
+    {u"nick", u"dtcmbnick", Rule::AsTyped},
+    {u"Relation", u"dtcmbrelation", Rule::AsTyped},
+    {u"Religion", u"dtcmbreligion", Rule::AsTyped},
+    {u"education", u"CmbEducation", Rule::AsTyped},
+    {u"region", u"dtcmbregion", Rule::OrUndefined},
+    {u"Hobbies", u"txthobby"},
+    {u"Asso1", u"dtcmbasso1"},
+    {u"asso2", u"dtcmbasso2"},
+    // Kept: see memo1 of a new contact.
+    {u"Memo", u"txtMemo"},
+    {u"DateModi", u"", Rule::TodayInWords},
+    {u"Maiden", u"dtcmbmaiden"},
+    {u"altcontact", u"txtaltcontact"},
+    {u"AltTitle", u"dtcmbalttitle"},
+    {u"User1", u"cmbuser1"},
+    {u"User2", u"cmbuser2"},
+    {u"User3", u"cmbuser3"},
+    {u"B_Add_Type", u"txtbaddty"},
+    {u"b_tel_xtn", u"txtbxtn"},
+    {u"W_AddType", u"dtcmbbadtyp"},
+    {u"W_Tel_XTN", u"txtwxtn"},
+    {u"PhotLoc", u"Photo"},
+};
+
+QVariant dateValue(const std::optional<QDate>& date, bool inWords)
+{
+    if (!date)
+        return {};
+    return inWords ? QVariant(jet::formatIsoDate(jet::isoDate(*date), u"dd/mmm/yyyy")) : QVariant(*date);
+}
+
+} // namespace
+
+std::span<const ColumnRow> detailedAddColumns() { return kDetailedAdd; }
+std::span<const ColumnRow> detailedEditColumns() { return kDetailedEdit; }
+
+QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptions& options)
+{
+    const auto category = [&] {
+        return core::storedCategory(values.text(u"DtcmbCate"), values.text(u"DtcmbSubCate"), options.mergedCategory);
+    };
+    switch (row.rule) {
+    case Rule::Trimmed: return values.trimmed(row.control);
+    case Rule::AsTyped: return values.text(row.control);
+    case Rule::OrUndefined: return core::orUndefined(values.text(row.control));
+    case Rule::Priority: {
+        const QString priority = values.trimmed(row.control);
+        return priority.isEmpty() ? u"2"_s : priority;
+    }
+    case Rule::Name: return options.name;
+    case Rule::Category1: return category().category;
+    case Rule::Category2: return category().subcategory;
+    // Kept: the sign stands there also when nothing was entered round it.
+    case Rule::Email: return QString(values.text(row.control) + u'@' + values.text(u"cboemail1"));
+    case Rule::Date: return dateValue(values.date(row.control), false);
+    case Rule::DateInWords: return dateValue(values.date(row.control), true);
+    case Rule::Today: return options.today;
+    case Rule::TodayInWords: return dateValue(options.today, true);
+    }
+    return {};
+}
+
+void assign(
+    jet::Recordset& rows, std::span<const ColumnRow> columns, const FormValues& values, const SaveOptions& options)
+{
+    for (const ColumnRow& row : columns)
+        rows.set(row.column, valueOf(row, values, options));
+}
+
+} // namespace entry

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "entry/form_values.h"
+#include "platform/contact_sync.h"
+
+namespace entry {
+
+/// The key of a contact's item in the mail client.
+QString mailKeyOf(qint64 id);
+
+/// The item of the mail client for what stands in an entry form.
+platform::MailContact mailContactOf(const FormValues& values, const QString& name, qint64 id);
+
+} // namespace entry

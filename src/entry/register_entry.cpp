@@ -1,0 +1,7 @@
+#include "entry/register_entry.h"
+
+namespace entry {
+
+void registerEntry(core::Screens&) { }
+
+} // namespace entry

@@ -1,0 +1,384 @@
+#include "jet/database.h"
+
+#include "jet/engine.h"
+#include "jet/recordset_data.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+
+namespace {
+
+/// What statements rely on to stand in a row that nobody set.
+struct Default {
+    QStringView table;
+    QStringView column;
+    QStringView value;
+};
+constexpr Default kDefaults[] = {
+    {u"cnt_main", u"gen_id", u"0"},
+    {u"GF_MAST", u"delst", u"N"},
+    {u"cnt_fmtree", u"PRIORITY", u"Low"},
+};
+
+/// The indexes of the data database. Each is there for one statement that must not read the whole book.
+struct Index {
+    QStringView name;
+    QStringView table;
+    QStringView columns;
+    QStringView condition;
+};
+constexpr Index kIndexes[] = {
+    // The list of all contacts, and every look-up of a person by name.
+    {u"cnt_main_name", u"cnt_main", u"[Name]", u""},
+    // The tree of categories: its branches, and the people of a branch in order.
+    {u"cnt_main_category", u"cnt_main", u"[category1], [category2]", u""},
+    {u"cnt_main_subcategory", u"cnt_main", u"[category2], [Name]", u""},
+    // The blank rows that entry forms clear away at each start: none, as a rule.
+    {u"cnt_main_blank", u"cnt_main", u"[id]",
+        u"length(trim([Name])) = 0 AND length(trim([First])) = 0 AND length(trim([Last])) = 0 AND "
+        u"length(trim([Company])) = 0"},
+    // By the name alone: the first of several rows is the one entered first.
+    {u"wia_cntnames_first", u"wia_cntnames", u"[first]", u""},
+    {u"wia_city_city", u"WIA_CITY", u"[city]", u""},
+    {u"wia_india_city", u"WIA_INDIA", u"[city]", u""},
+};
+
+QString bracketed(QStringView name)
+{
+    return u'[' + name.toString() + u']';
+}
+
+QString columnDefinition(const SchemaTable& table, const SchemaColumn& column)
+{
+    QString definition = bracketed(column.name);
+    switch (column.type) {
+    case ColumnType::AutoNumber: return definition + u" INTEGER PRIMARY KEY AUTOINCREMENT"_s;
+    case ColumnType::Memo: definition += u" MEMOTEXT COLLATE JET"_s; break;
+    case ColumnType::Number: definition += u" NUMBER"_s; break;
+    case ColumnType::YesNo: return definition + u" YESNOINT NOT NULL ON CONFLICT REPLACE DEFAULT 0"_s;
+    case ColumnType::Date: definition += u" DATETEXT"_s; break;
+    default: definition += u" TEXT COLLATE JET"_s; break;
+    }
+    for (const Default& known : kDefaults) {
+        if (known.table.compare(table.name, Qt::CaseInsensitive) == 0
+            && known.column.compare(column.name, Qt::CaseInsensitive) == 0)
+            definition += u" DEFAULT '"_s + known.value.toString() + u'\'';
+    }
+    return definition;
+}
+
+QString createTable(const SchemaTable& table)
+{
+    QStringList definitions;
+    for (const SchemaColumn& column : table.columns)
+        definitions << columnDefinition(table, column);
+    return u"CREATE TABLE "_s + bracketed(table.name) + u" ("_s + definitions.join(u", "_s) + u')';
+}
+
+} // namespace
+
+Database::Database()
+    : m_engine(std::make_shared<Engine>())
+{
+}
+Database::~Database() = default;
+Database::Database(const Database&) = default;
+Database& Database::operator=(const Database&) = default;
+
+// Recordsets of a file that was open before keep their own engine, so the new file starts with a fresh one.
+Database::OpenResult Database::open(const QString& path, Kind kind)
+{
+    auto engine = std::make_shared<Engine>();
+    const OpenResult result = engine->open(path, kind);
+    engine->setFailureHandler(m_engine->failureHandler());
+    m_engine = std::move(engine);
+    return result;
+}
+
+void Database::close()
+{
+    auto closed = std::make_shared<Engine>();
+    closed->setFailureHandler(m_engine->failureHandler());
+    m_engine->close();
+    m_engine = std::move(closed);
+}
+
+bool Database::isOpen() const
+{
+    return m_engine->isOpen();
+}
+bool Database::isReadOnly() const
+{
+    return m_engine->isReadOnly();
+}
+QString Database::path() const
+{
+    return m_engine->path();
+}
+void Database::setFailureHandler(FailureHandler handler)
+{
+    m_engine->setFailureHandler(std::move(handler));
+}
+
+Recordset Database::openRecordset(QStringView sql, Way way)
+{
+    const auto request = m_engine->request(sql, way);
+    if (!request)
+        return {};
+    const auto kind = request->plan->translation.kind;
+    if (kind != Translation::Kind::Keyset && kind != Translation::Kind::Snapshot) {
+        m_engine->report(sql, u"an action has no rows"_s);
+        return {};
+    }
+    auto data = std::make_unique<RecordsetData>(m_engine, *request, way, sql.toString());
+    return data->load() ? Recordset(std::move(data)) : Recordset();
+}
+
+Outcome Database::execute(QStringView sql, Way way)
+{
+    const auto request = m_engine->request(sql, way);
+    if (!request)
+        return {};
+    const Translation& translation = request->plan->translation;
+    switch (translation.kind) {
+    case Translation::Kind::OtherFile: return {true, 0};
+    case Translation::Kind::Keyset:
+    case Translation::Kind::Snapshot: m_engine->report(sql, u"a selection is no action"_s); return {};
+    default: break;
+    }
+    int result = SQLITE_ERROR;
+    {
+        const Prepared statement = m_engine->prepareMain(*request);
+        if (statement)
+            result = sqlite3_step(statement.get());
+        if (result != SQLITE_DONE)
+            m_engine->reportLast(sql);
+    }
+    if (translation.kind == Translation::Kind::MakeTable)
+        m_engine->forgetTables();
+    if (result != SQLITE_DONE)
+        return {};
+    return {
+        true, translation.kind == Translation::Kind::Action ? sqlite3_changes(m_engine->connection()) : 0};
+}
+
+std::optional<bool> Database::givesRows(QStringView sql, Way way)
+{
+    const auto request = m_engine->request(sql, way);
+    if (!request)
+        return {};
+    const auto kind = request->plan->translation.kind;
+    return kind == Translation::Kind::Keyset || kind == Translation::Kind::Snapshot;
+}
+
+QString Database::checkSoundness()
+{
+    const Prepared check
+        = m_engine->isOpen() ? m_engine->prepareText(u"PRAGMA quick_check(1)"_s) : Prepared();
+    if (!check || sqlite3_step(check.get()) != SQLITE_ROW)
+        return m_engine->isOpen() ? QString::fromUtf8(sqlite3_errmsg(m_engine->connection())) : u"not open"_s;
+    const auto text = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(check.get(), 0)));
+    return text == u"ok" ? QString() : text;
+}
+
+int Database::version() const
+{
+    const Prepared read = m_engine->isOpen() ? m_engine->prepareText(u"PRAGMA user_version"_s) : Prepared();
+    return read && sqlite3_step(read.get()) == SQLITE_ROW ? sqlite3_column_int(read.get(), 0) : 0;
+}
+
+bool Database::setVersion(int version)
+{
+    return m_engine->isOpen() && m_engine->run(u"PRAGMA user_version = "_s + QString::number(version));
+}
+
+QStringList Database::tables() const
+{
+    QStringList names;
+    const Prepared read = m_engine->isOpen()
+        ? m_engine->prepareText(
+            u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY name"_s)
+        : Prepared();
+    while (read && sqlite3_step(read.get()) == SQLITE_ROW)
+        names << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(read.get(), 0)));
+    return names;
+}
+
+QStringList Database::columns(const QString& table) const
+{
+    QStringList names;
+    if (const CatalogTable* known = m_engine->table(table)) {
+        for (const CatalogColumn& column : known->columns)
+            names << column.name;
+    }
+    return names;
+}
+
+bool Database::backUpTo(const QString& path)
+{
+    const QString partial = path + u".part"_s;
+    QFile::remove(partial);
+    sqlite3* target = nullptr;
+    bool done = false;
+    if (m_engine->isOpen() && sqlite3_open(partial.toUtf8().constData(), &target) == SQLITE_OK) {
+        if (sqlite3_backup* copy = sqlite3_backup_init(target, "main", m_engine->connection(), "main")) {
+            done = sqlite3_backup_step(copy, -1) == SQLITE_DONE;
+            done = sqlite3_backup_finish(copy) == SQLITE_OK && done;
+        }
+        // A copy is one file, without a log beside it.
+        done = sqlite3_exec(target, "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr) == SQLITE_OK
+            && done;
+    }
+    sqlite3_close(target);
+    done = done && !QFileInfo::exists(path) && QFile::rename(partial, path);
+    if (!done) {
+        QFile::remove(partial);
+        m_engine->report(
+            u"backup", u"the copy "_s + path + u" could not be written"_s, Failure::Cause::Storage);
+    }
+    return done;
+}
+
+bool Database::applySchema(const Schema& schema, const QString& databaseName)
+{
+    if (!m_engine->isOpen())
+        return false;
+    Batch batch(*this);
+    bool done = true;
+    const auto step = [&](const QString& sql) {
+        if (done && !m_engine->run(sql)) {
+            m_engine->reportLast(sql);
+            done = false;
+        }
+    };
+    QStringList made;
+    for (const SchemaTable& table : schema.tables) {
+        if (table.database != databaseName)
+            continue;
+        made << table.name.toLower();
+        const CatalogTable* known = m_engine->table(table.name);
+        if (!known) {
+            step(createTable(table));
+            continue;
+        }
+        for (const SchemaColumn& column : table.columns) {
+            if (!known->column(column.name))
+                step(u"ALTER TABLE "_s + bracketed(table.name) + u" ADD COLUMN "_s
+                    + columnDefinition(table, column));
+        }
+    }
+    for (const Index& index : kIndexes) {
+        if (!made.contains(index.table.toString().toLower()))
+            continue;
+        step(u"CREATE INDEX IF NOT EXISTS "_s + bracketed(index.name) + u" ON "_s + bracketed(index.table)
+            + u" ("_s + index.columns.toString() + u')'
+            + (index.condition.isEmpty() ? QString() : u" WHERE "_s + index.condition.toString()));
+    }
+    if (done)
+        done = batch.commit();
+    else
+        batch.rollBack();
+    m_engine->forgetTables();
+    return done;
+}
+
+bool Database::appendRows(const QString& table, const QStringList& columns, const QList<QStringList>& rows)
+{
+    const CatalogTable* known = m_engine->table(table);
+    if (!known)
+        return false;
+    std::vector<ColumnType> types;
+    QStringList names;
+    QStringList marks;
+    for (const QString& name : columns) {
+        const CatalogColumn* column = known->column(name);
+        if (!column) {
+            m_engine->report(table, u"no such column: "_s + name);
+            return false;
+        }
+        types.push_back(column->type);
+        names << bracketed(column->name);
+        marks << u"?"_s;
+    }
+    Batch batch(*this);
+    const Prepared insert = m_engine->prepareText(u"INSERT INTO "_s + bracketed(table) + u" ("_s
+        + names.join(u", "_s) + u") VALUES ("_s + marks.join(u", "_s) + u')');
+    bool done = bool(insert);
+    for (const QStringList& row : rows) {
+        for (int i = 0; done && i < int(types.size()); ++i) {
+            const QString text = row.value(i);
+            QVariant stored;
+            done = text.isEmpty() || toStored(text, types[size_t(i)], &stored);
+            bindStored(insert.get(), i + 1, stored);
+        }
+        done = done && sqlite3_step(insert.get()) == SQLITE_DONE;
+        if (!done)
+            break;
+        sqlite3_reset(insert.get());
+    }
+    if (!done) {
+        m_engine->reportLast(table);
+        batch.rollBack();
+        return false;
+    }
+    return batch.commit();
+}
+
+bool Database::create(const QString& path)
+{
+    if (QFileInfo::exists(path))
+        return false;
+    sqlite3* connection = nullptr;
+    bool done = sqlite3_open_v2(QFile::encodeName(path).constData(), &connection,
+                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr)
+        == SQLITE_OK;
+    done = done
+        && sqlite3_exec(connection, "PRAGMA encoding = 'UTF-8'; PRAGMA page_size = 4096; VACUUM", nullptr,
+               nullptr, nullptr)
+            == SQLITE_OK;
+    sqlite3_close(connection);
+    return done;
+}
+
+// ---- batches
+
+Batch::Batch(Database& database)
+    : m_engine(database.m_engine)
+{
+    // Inside another batch this one is part of it.
+    m_open = m_engine->isOpen() && sqlite3_get_autocommit(m_engine->connection())
+        && m_engine->run(u"BEGIN IMMEDIATE"_s);
+}
+
+Batch::~Batch()
+{
+    commit();
+}
+
+bool Batch::commit()
+{
+    if (!m_open)
+        return m_engine->isOpen();
+    m_open = false;
+    if (m_engine->run(u"COMMIT"_s))
+        return true;
+    m_engine->reportLast(u"commit");
+    m_engine->run(u"ROLLBACK"_s);
+    return false;
+}
+
+void Batch::rollBack()
+{
+    if (!std::exchange(m_open, false))
+        return;
+    m_engine->run(u"ROLLBACK"_s);
+    m_engine->forgetTables(); // one may have been made or dropped inside
+}
+
+} // namespace jet

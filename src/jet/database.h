@@ -1,0 +1,107 @@
+#pragma once
+
+#include "jet/recordset.h"
+#include "jet/schema.h"
+#include "jet/types.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace jet {
+
+class Engine;
+
+struct Outcome {
+    bool ok = false;
+    int changed = 0; ///< rows inserted, updated or deleted
+    explicit operator bool() const { return ok; }
+};
+
+/// One database file and the dialect in which the program speaks to it.
+///
+/// No call throws. What fails changes nothing, gives back something harmless, and is told to the failure
+/// handler and to the log category orvane.sql. Copies share the open file. One thread.
+class Database {
+public:
+    enum class Kind {
+        Data, ///< write-ahead log with a full sync a commit: what a save reported survives a power cut
+        Information, ///< shipped reference rows; readable also in a folder that can not be written
+    };
+    enum class OpenResult { Opened, Missing, NotADatabase, Failed };
+
+    Database();
+    ~Database();
+    Database(const Database&);
+    Database& operator=(const Database&);
+
+    /// Opens an existing file. Neither creates nor changes one.
+    OpenResult open(const QString& path, Kind kind = Kind::Data);
+    void close();
+    bool isOpen() const;
+    bool isReadOnly() const;
+    QString path() const;
+
+    Recordset openRecordset(QStringView sql, Way way = Way::Dao);
+    Outcome execute(QStringView sql, Way way = Way::Dao);
+    /// Whether a statement gives rows; without a value when it can not be understood, which is reported.
+    std::optional<bool> givesRows(QStringView sql, Way way = Way::Dao);
+
+    void setFailureHandler(FailureHandler handler);
+
+    /// Empty when the file is sound, else the engine's words about the first damage.
+    QString checkSoundness();
+    /// The version number that was stored with setVersion(); 0 in a file that never had one.
+    int version() const;
+    bool setVersion(int version);
+    QStringList tables() const;
+    QStringList columns(const QString& table) const;
+    /// Copies the whole database, also while it is in use, to a new file that is complete or not there.
+    bool backUpTo(const QString& path);
+    /// Makes what the schema has and the file has not: tables, columns, indexes. Nothing is ever dropped.
+    bool applySchema(const Schema& schema, const QString& databaseName);
+    /// Appends rows to a table in one go, for seeds. Values are texts as in a CSV: true/false, ISO dates, ""
+    /// is null.
+    bool appendRows(const QString& table, const QStringList& columns, const QList<QStringList>& rows);
+
+    /// Makes a new, empty database file; false when there is a file already or it can not be written.
+    static bool create(const QString& path);
+
+private:
+    friend class Batch;
+    std::shared_ptr<Engine> m_engine;
+};
+
+/// Work on many rows in one commit: what succeeded is kept, a statement that failed changed nothing, as row
+/// by row. Commits at the end of its life; rolls back after rollBack(), or as a whole when the program dies
+/// before.
+class Batch {
+public:
+    explicit Batch(Database& database);
+    ~Batch();
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+    bool commit();
+    void rollBack();
+
+private:
+    std::shared_ptr<Engine> m_engine;
+    bool m_open = false;
+};
+
+/// The other way to the same file: `like` takes % and _ here.
+class Connection {
+public:
+    explicit Connection(const Database& database)
+        : m_database(database)
+    {
+    }
+    Recordset openRecordset(QStringView sql) { return m_database.openRecordset(sql, Way::Ado); }
+    Outcome execute(QStringView sql) { return m_database.execute(sql, Way::Ado); }
+
+private:
+    Database m_database;
+};
+
+} // namespace jet

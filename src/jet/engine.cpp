@@ -1,0 +1,417 @@
+#include "jet/engine.h"
+
+#include "jet/date_text.h"
+#include "jet/parser.h"
+#include "jet/sql_functions.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcSql, "orvane.sql", QtCriticalMsg)
+
+constexpr qsizetype kLongestKeptText = 8 * 1024;
+
+ColumnType columnTypeOf(const QString& declared)
+{
+    static const QHash<QString, ColumnType> types{
+        {u"TEXT"_s, ColumnType::Text},
+        {u"MEMOTEXT"_s, ColumnType::Memo},
+        {u"DATETEXT"_s, ColumnType::Date},
+        {u"NUMBER"_s, ColumnType::Number},
+        {u"YESNOINT"_s, ColumnType::YesNo},
+        {u"INTEGER"_s, ColumnType::AutoNumber},
+    };
+    return types.value(declared.toUpper(), ColumnType::Unknown);
+}
+
+QString columnText(sqlite3_stmt* statement, int column)
+{
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
+        sqlite3_column_bytes(statement, column));
+}
+
+bool isStorageFault(int code)
+{
+    switch (code & 0xFF) {
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_READONLY:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_CANTOPEN: return true;
+    default: return false;
+    }
+}
+
+QString lowered(QStringView name)
+{
+    return name.toString().toLower();
+}
+
+} // namespace
+
+Prepared::~Prepared()
+{
+    if (!m_statement)
+        return;
+    sqlite3_reset(m_statement);
+    sqlite3_clear_bindings(m_statement);
+    constexpr size_t kMostWaiting = 4;
+    if (m_pool && m_pool->size() < kMostWaiting)
+        m_pool->push_back(m_statement);
+    else
+        sqlite3_finalize(m_statement);
+}
+
+Engine::~Engine()
+{
+    close();
+}
+
+void Engine::close()
+{
+    for (auto& cache : m_byText)
+        cache.clear();
+    for (auto& cache : m_byShape)
+        cache.clear();
+    m_tables.clear();
+    if (!m_connection)
+        return;
+    // Statements that wait in pools; recordsets hold the engine, so none is in use any more.
+    while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
+        sqlite3_finalize(left);
+    sqlite3_close_v2(m_connection);
+    m_connection = nullptr;
+}
+
+bool Engine::connect(const QString& path, const char* mode)
+{
+    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + mode;
+    if (m_connection)
+        sqlite3_close_v2(m_connection);
+    m_connection = nullptr;
+    if (sqlite3_open_v2(uri.constData(), &m_connection,
+            SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr)
+        != SQLITE_OK) {
+        sqlite3_close_v2(m_connection);
+        m_connection = nullptr;
+        return false;
+    }
+    sqlite3_extended_result_codes(m_connection, 1);
+    sqlite3_busy_timeout(m_connection, 3000);
+    // A name that does not exist must fail; it must not turn into a text.
+    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_limit(m_connection, SQLITE_LIMIT_ATTACHED, 0);
+    registerDialect(m_connection);
+    return true;
+}
+
+Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
+{
+    close();
+    const QFileInfo file(path);
+    if (!file.exists())
+        return Database::OpenResult::Missing;
+    // The file engine would take an empty file for a database without tables.
+    if (file.isFile() && file.size() == 0)
+        return Database::OpenResult::NotADatabase;
+    m_path = file.canonicalFilePath();
+    m_readOnly = false;
+    const bool data = kind == Database::Kind::Data;
+    const auto probe = [this, data] {
+        return run(u"SELECT count(*) FROM sqlite_master"_s) && (!data || run(u"PRAGMA journal_mode = WAL"_s));
+    };
+    bool sound = connect(m_path, "?mode=rw") && probe();
+    if (!sound && m_connection && (sqlite3_errcode(m_connection) & 0xFF) == SQLITE_NOTADB) {
+        close();
+        return Database::OpenResult::NotADatabase;
+    }
+    // A folder that can not be written: the rows can still be looked at, unless a log waits that would be
+    // ignored.
+    if (!sound && QFileInfo(m_path + u"-wal"_s).size() == 0) {
+        sound = connect(m_path, "?mode=ro&immutable=1") && run(u"SELECT count(*) FROM sqlite_master"_s);
+        m_readOnly = sound;
+    }
+    if (!sound) {
+        close();
+        return Database::OpenResult::Failed;
+    }
+    m_readOnly = m_readOnly || sqlite3_db_readonly(m_connection, "main") == 1;
+    if (data && !m_readOnly) {
+        run(u"PRAGMA synchronous = FULL"_s);
+        run(u"PRAGMA wal_autocheckpoint = 1000"_s);
+    }
+    run(u"PRAGMA cache_size = -4096"_s);
+    run(u"PRAGMA temp_store = MEMORY"_s);
+    return Database::OpenResult::Opened;
+}
+
+bool Engine::run(const QString& sql)
+{
+    return sqlite3_exec(m_connection, sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+// ---- translations
+
+std::optional<Request> Engine::request(QStringView sql, Way way)
+{
+    if (!m_connection) {
+        report(sql, u"no database is open"_s, Failure::Cause::Storage);
+        return {};
+    }
+    auto& byText = m_byText[size_t(way)];
+    const QString key = QString::fromRawData(sql.data(), sql.size());
+    if (const Request* kept = byText.object(key); kept && kept->plan->generation == m_generation)
+        return *kept;
+    Lexed lexed = lex(sql);
+    QString error = lexed.error;
+    Request result;
+    if (error.isEmpty())
+        result.plan = plan(lexed, way, &error);
+    if (!result.plan) {
+        report(sql, error);
+        return {};
+    }
+    result.literals = std::make_shared<const std::vector<Literal>>(std::move(lexed.literals));
+    if (sql.size() <= kLongestKeptText)
+        byText.insert(sql.toString(), new Request(result));
+    return result;
+}
+
+std::shared_ptr<Plan> Engine::plan(const Lexed& lexed, Way way, QString* error)
+{
+    auto& byShape = m_byShape[size_t(way)];
+    if (const auto* kept = byShape.object(lexed.shape); kept && (*kept)->generation == m_generation)
+        return *kept;
+    const auto statement = parseStatement(lexed.tokens, error);
+    if (!statement)
+        return {};
+    auto translation = translate(*statement, catalog(), way, error);
+    if (!translation)
+        return {};
+    auto result = std::make_shared<Plan>();
+    result->translation = std::move(*translation);
+    result->generation = m_generation;
+    if (lexed.shape.size() <= kLongestKeptText)
+        byShape.insert(lexed.shape, new std::shared_ptr<Plan>(result));
+    return result;
+}
+
+Prepared Engine::prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled)
+{
+    // A recordset may outlive its file, and the statements in the pools of its plan ended with the file.
+    if (!m_connection)
+        return {};
+    if (pooled && !pool->empty()) {
+        Prepared waiting(pool->back(), pool);
+        pool->pop_back();
+        return waiting;
+    }
+    const QByteArray utf8 = sql.toUtf8();
+    sqlite3_stmt* statement = nullptr;
+    const char* rest = nullptr;
+    if (sqlite3_prepare_v3(m_connection, utf8.constData(), int(utf8.size()),
+            pooled ? SQLITE_PREPARE_PERSISTENT : 0, &statement, &rest)
+        != SQLITE_OK) {
+        sqlite3_finalize(statement);
+        return {};
+    }
+    return Prepared(statement, pooled ? pool : nullptr);
+}
+
+Prepared Engine::prepareMain(const Request& request)
+{
+    const Translation& translation = request.plan->translation;
+    Prepared result = prepare(translation.main.sql, request.plan->mainPool, true);
+    if (result && !bind(result.get(), translation.main.values, *request.literals))
+        return {};
+    return result;
+}
+
+Prepared Engine::prepareRow(const Request& request, qint64 key)
+{
+    const Piece& row = request.plan->translation.row;
+    Prepared result = prepare(row.sql, request.plan->rowPool, true);
+    if (result && !bind(result.get(), row.values, *request.literals))
+        return {};
+    if (result)
+        sqlite3_bind_int64(result.get(), int(row.values.size()) + 1, key);
+    return result;
+}
+
+Prepared Engine::prepareText(const QString& sql)
+{
+    return prepare(sql, nullptr, false);
+}
+
+bool Engine::bind(
+    sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals)
+{
+    int place = 0;
+    for (const Slot& slot : slots) {
+        const Literal& literal = literals[size_t(slot.literal)];
+        ColumnType type = literal.kind == Literal::Kind::Number ? ColumnType::Number : ColumnType::Text;
+        switch (slot.reading) {
+        case Slot::Reading::Date: type = ColumnType::Date; break;
+        case Slot::Reading::Number: type = ColumnType::Number; break;
+        case Slot::Reading::YesNo: type = ColumnType::YesNo; break;
+        case Slot::Reading::AsIs: break;
+        }
+        QVariant stored;
+        if (!toStored(literal.text, type, &stored) || !stored.isValid()) {
+            m_refusal = u"the value does not fit its column: "_s + literal.text.left(40);
+            return false;
+        }
+        bindStored(statement, ++place, stored);
+    }
+    return true;
+}
+
+// ---- tables
+
+const CatalogTable* Engine::table(QStringView name)
+{
+    const QString key = lowered(name);
+    if (const auto known = m_tables.find(key); known != m_tables.end())
+        return known->second.get();
+    if (!m_connection || key.startsWith(u"sqlite_"))
+        return nullptr;
+    const Prepared columns
+        = prepareText(u"SELECT t.name, c.name, c.type FROM sqlite_master t, pragma_table_info(t.name) c "
+                      "WHERE t.type = 'table' AND t.name = ?1 COLLATE NOCASE ORDER BY c.cid"_s);
+    if (!columns)
+        return nullptr;
+    const QByteArray utf8 = key.toUtf8();
+    sqlite3_bind_text(columns.get(), 1, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+    std::unique_ptr<CatalogTable> table;
+    while (sqlite3_step(columns.get()) == SQLITE_ROW) {
+        if (!table)
+            table = std::make_unique<CatalogTable>(CatalogTable{columnText(columns.get(), 0), {}});
+        table->columns.push_back({columnText(columns.get(), 1), columnTypeOf(columnText(columns.get(), 2))});
+    }
+    if (!table)
+        return nullptr;
+    return m_tables.emplace(key, std::move(table)).first->second.get();
+}
+
+// Recordsets that are open keep their plans; new requests translate anew.
+void Engine::forgetTables()
+{
+    ++m_generation;
+    m_tables.clear();
+}
+
+// ---- failures
+
+void Engine::report(QStringView statement, const QString& reason, Failure::Cause cause)
+{
+    qCDebug(lcSql).noquote() << reason << "in" << statement.left(400);
+    if (m_failureHandler)
+        m_failureHandler({cause, statement.toString(), reason});
+}
+
+void Engine::reportLast(QStringView statement)
+{
+    if (!m_refusal.isEmpty())
+        return report(statement, std::exchange(m_refusal, QString()));
+    const int code = m_connection ? sqlite3_errcode(m_connection) : SQLITE_CANTOPEN;
+    const QString reason
+        = m_connection ? QString::fromUtf8(sqlite3_errmsg(m_connection)) : u"no database is open"_s;
+    report(statement, reason, isStorageFault(code) ? Failure::Cause::Storage : Failure::Cause::Statement);
+}
+
+// ---- values
+
+bool toStored(const QVariant& value, ColumnType type, QVariant* stored)
+{
+    *stored = {};
+    const bool isText = value.typeId() == QMetaType::QString;
+    if (!value.isValid() || value.isNull()) {
+        if (type == ColumnType::YesNo)
+            *stored = 0;
+        else if (isText && (type == ColumnType::Text || type == ColumnType::Memo))
+            *stored = QString(u""_s);
+        return true;
+    }
+    switch (type) {
+    case ColumnType::YesNo:
+        if (isText) {
+            const QString word = value.toString().trimmed().toLower();
+            if (word == u"true" || word == u"yes" || word == u"on")
+                *stored = 1;
+            else if (word == u"false" || word == u"no" || word == u"off")
+                *stored = 0;
+            else if (toStored(word, ColumnType::Number, stored))
+                *stored = stored->toDouble() != 0 ? 1 : 0;
+            else
+                return false;
+        } else {
+            *stored = value.toDouble() != 0 ? 1 : 0;
+        }
+        return true;
+    case ColumnType::Date: {
+        if (value.typeId() == QMetaType::QDate) {
+            *stored = isoDate(value.toDate());
+            return value.toDate().isValid();
+        }
+        if (value.typeId() == QMetaType::QDateTime) {
+            *stored = isoDate(value.toDateTime().date(), value.toDateTime().time());
+            return value.toDateTime().isValid();
+        }
+        const auto iso = parseDateText(value.toString());
+        if (iso)
+            *stored = *iso;
+        return iso.has_value();
+    }
+    case ColumnType::Number:
+    case ColumnType::AutoNumber: {
+        if (value.typeId() == QMetaType::Bool) {
+            *stored = value.toBool() ? -1 : 0;
+            return true;
+        }
+        bool ok = false;
+        const qint64 whole = value.toString().trimmed().toLongLong(&ok);
+        if (ok) {
+            *stored = whole;
+            return true;
+        }
+        const double real = value.toString().trimmed().toDouble(&ok);
+        *stored = real;
+        return ok && real - real == 0;
+    }
+    default: break;
+    }
+    if (value.typeId() == QMetaType::QDate)
+        *stored = isoDate(value.toDate());
+    else if (value.typeId() == QMetaType::Bool)
+        *stored = value.toBool() ? u"-1"_s : u"0"_s;
+    else
+        *stored = value.toString();
+    return true;
+}
+
+void bindStored(sqlite3_stmt* statement, int place, const QVariant& stored)
+{
+    switch (stored.typeId()) {
+    case QMetaType::UnknownType: sqlite3_bind_null(statement, place); break;
+    case QMetaType::Int:
+    case QMetaType::LongLong: sqlite3_bind_int64(statement, place, stored.toLongLong()); break;
+    case QMetaType::Double: sqlite3_bind_double(statement, place, stored.toDouble()); break;
+    default: {
+        const QByteArray utf8 = stored.toString().toUtf8();
+        sqlite3_bind_text(statement, place, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+    }
+    }
+}
+
+} // namespace jet

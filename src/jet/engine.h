@@ -1,0 +1,113 @@
+#pragma once
+
+#include "jet/database.h"
+#include "jet/lexer.h"
+#include "jet/translator.h"
+
+#include <QCache>
+#include <QHash>
+#include <sqlite3.h>
+
+#include <memory>
+#include <unordered_map>
+
+namespace jet {
+
+/// A statement of the file engine, given back to its pool at the end of its use.
+class Prepared {
+public:
+    using Pool = std::vector<sqlite3_stmt*>;
+    Prepared() = default;
+    Prepared(sqlite3_stmt* statement, std::shared_ptr<Pool> pool)
+        : m_statement(statement)
+        , m_pool(std::move(pool))
+    {
+    }
+    Prepared(Prepared&& other) noexcept { *this = std::move(other); }
+    Prepared& operator=(Prepared&& other) noexcept
+    {
+        std::swap(m_statement, other.m_statement);
+        std::swap(m_pool, other.m_pool);
+        return *this;
+    }
+    ~Prepared();
+    sqlite3_stmt* get() const { return m_statement; }
+    explicit operator bool() const { return m_statement != nullptr; }
+
+private:
+    sqlite3_stmt* m_statement = nullptr;
+    std::shared_ptr<Pool> m_pool;
+};
+
+/// A translation with the prepared statements that are waiting to run it again.
+struct Plan {
+    Translation translation;
+    std::shared_ptr<Prepared::Pool> mainPool = std::make_shared<Prepared::Pool>();
+    std::shared_ptr<Prepared::Pool> rowPool = std::make_shared<Prepared::Pool>();
+    int generation = 0;
+};
+
+/// A plan and the values that one text has for it.
+struct Request {
+    std::shared_ptr<Plan> plan;
+    std::shared_ptr<const std::vector<Literal>> literals;
+};
+
+/// One open file: connection, tables known, translations kept. Shared by a Database, its copies and its
+/// recordsets.
+class Engine {
+public:
+    Engine() = default;
+    ~Engine();
+    Q_DISABLE_COPY_MOVE(Engine)
+
+    Database::OpenResult open(const QString& path, Database::Kind kind);
+    void close();
+    bool isOpen() const { return m_connection != nullptr; }
+    bool isReadOnly() const { return m_readOnly; }
+    const QString& path() const { return m_path; }
+    sqlite3* connection() const { return m_connection; }
+
+    std::optional<Request> request(QStringView sql, Way way);
+    Prepared prepareMain(const Request& request);
+    Prepared prepareRow(const Request& request, qint64 key);
+    Prepared prepareText(const QString& sql);
+    bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals);
+    bool run(const QString& sql);
+
+    const CatalogTable* table(QStringView name);
+    Catalog catalog()
+    {
+        return [this](QStringView name) { return table(name); };
+    }
+    void forgetTables();
+
+    void report(
+        QStringView statement, const QString& reason, Failure::Cause cause = Failure::Cause::Statement);
+    void reportLast(QStringView statement); ///< what the file engine says
+    void setFailureHandler(FailureHandler handler) { m_failureHandler = std::move(handler); }
+    const FailureHandler& failureHandler() const { return m_failureHandler; }
+
+private:
+    std::shared_ptr<Plan> plan(const Lexed& lexed, Way way, QString* error);
+    Prepared prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled);
+    bool connect(const QString& path, const char* mode);
+
+    sqlite3* m_connection = nullptr;
+    QString m_path;
+    bool m_readOnly = false;
+    int m_generation = 0;
+    FailureHandler m_failureHandler;
+    QString m_refusal; ///< why the last values were not bound; the file engine knows nothing of it
+    std::unordered_map<QString, std::unique_ptr<CatalogTable>> m_tables; ///< by lower-case name
+    QCache<QString, Request> m_byText[2] = {QCache<QString, Request>(512), QCache<QString, Request>(512)};
+    QCache<QString, std::shared_ptr<Plan>> m_byShape[2]
+        = {QCache<QString, std::shared_ptr<Plan>>(512), QCache<QString, std::shared_ptr<Plan>>(512)};
+};
+
+/// Turns a value into what a column of a type holds; false when it does not fit.
+bool toStored(const QVariant& value, ColumnType type, QVariant* stored);
+/// Binds text, whole number, real number or null.
+void bindStored(sqlite3_stmt* statement, int place, const QVariant& stored);
+
+} // namespace jet

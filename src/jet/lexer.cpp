@@ -1,0 +1,224 @@
+#include "jet/lexer.h"
+
+#include "jet/date_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+
+namespace {
+
+constexpr qsizetype kLongestStatement = 32 * 1024 * 1024;
+
+bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+}
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+bool startsWord(QChar c)
+{
+    return c.isLetter() || c == u'_';
+}
+bool continuesWord(QChar c)
+{
+    return startsWord(c) || c.isDigit() || c == u'$';
+}
+
+class Lexer {
+public:
+    explicit Lexer(QStringView sql)
+        : m_sql(sql)
+    {
+        m_result.shape.reserve(sql.size());
+    }
+
+    Lexed run()
+    {
+        if (m_sql.size() > kLongestStatement)
+            fail(u"the statement is too long"_s);
+        while (m_result.error.isEmpty() && m_at < m_sql.size())
+            next();
+        m_result.tokens.push_back({});
+        return std::move(m_result);
+    }
+
+private:
+    void next()
+    {
+        const QChar c = m_sql[m_at];
+        if (isBlank(c))
+            ++m_at;
+        else if (startsWord(c))
+            word();
+        else if (isDigit(c) || (c == u'.' && m_at + 1 < m_sql.size() && isDigit(m_sql[m_at + 1])))
+            number();
+        else if (c == u'[')
+            bracketedName();
+        else if (c == u'\'' || c == u'"')
+            quotedText(c);
+        else if (c == u'#')
+            date();
+        else
+            symbol();
+    }
+
+    void word()
+    {
+        const qsizetype from = m_at;
+        while (m_at < m_sql.size() && continuesWord(m_sql[m_at]))
+            ++m_at;
+        const QStringView text = m_sql.mid(from, m_at - from);
+        mark(text);
+        add(Token::Kind::Word, text.toString());
+    }
+
+    // 06 is six, and 022 in trim(022) counts two digits.
+    void number()
+    {
+        const qsizetype from = m_at;
+        while (m_at < m_sql.size() && isDigit(m_sql[m_at]))
+            ++m_at;
+        bool whole = true;
+        if (m_at < m_sql.size() && m_sql[m_at] == u'.') {
+            whole = false;
+            ++m_at;
+            while (m_at < m_sql.size() && isDigit(m_sql[m_at]))
+                ++m_at;
+        }
+        QString text = m_sql.mid(from, m_at - from).toString();
+        if (whole && text.size() <= 18)
+            text = QString::number(text.toLongLong());
+        else
+            text = QString::number(text.toDouble(), 'g', 15);
+        if (comparesWithName()) {
+            addLiteral(Literal::Kind::Number, Token::Kind::Number, text);
+        } else {
+            mark(text);
+            add(Token::Kind::Number, text);
+        }
+    }
+
+    // A number is bound only where it is compared with a plain name (id=5); elsewhere it may carry structure,
+    // and written out it lets the planner use an index that was made for just that condition.
+    bool comparesWithName() const
+    {
+        const auto& tokens = m_result.tokens;
+        if (tokens.size() < 2)
+            return false;
+        const Token& op = tokens[tokens.size() - 1];
+        const Token& name = tokens[tokens.size() - 2];
+        return op.kind == Token::Kind::Symbol
+            && (op.text == u"=" || op.text == u"<>" || op.text == u"<" || op.text == u">" || op.text == u"<="
+                || op.text == u">=")
+            && (name.kind == Token::Kind::Word || name.kind == Token::Kind::Name);
+    }
+
+    void bracketedName()
+    {
+        const qsizetype end = m_sql.indexOf(u']', m_at);
+        if (end < 0)
+            return fail(u"a name in brackets does not end"_s);
+        const QStringView name = m_sql.mid(m_at + 1, end - m_at - 1);
+        if (name.trimmed().isEmpty() || name.contains(u'[') || name.contains(QChar(0)))
+            return fail(u"a name in brackets is no name"_s);
+        m_at = end + 1;
+        // With its closing bracket: a name may hold anything else, even what looks like the rest of a
+        // statement.
+        m_result.shape += u'[' + name.toString() + u']';
+        add(Token::Kind::Name, name.trimmed().toString());
+    }
+
+    void quotedText(QChar quote)
+    {
+        QString text;
+        qsizetype at = m_at + 1;
+        for (;;) {
+            const qsizetype end = m_sql.indexOf(quote, at);
+            if (end < 0)
+                return fail(u"a text does not end"_s);
+            text += m_sql.mid(at, end - at);
+            at = end + 1;
+            if (at >= m_sql.size() || m_sql[at] != quote)
+                break;
+            text += quote;
+            ++at;
+        }
+        m_at = at;
+        addLiteral(Literal::Kind::Text, Token::Kind::Text, text);
+    }
+
+    void date()
+    {
+        const qsizetype end = m_sql.indexOf(u'#', m_at + 1);
+        if (end < 0)
+            return fail(u"a date does not end"_s);
+        const auto iso = parseDateText(m_sql.mid(m_at + 1, end - m_at - 1));
+        if (!iso)
+            return fail(
+                u"no such date: "_s + m_sql.mid(m_at + 1, qMin<qsizetype>(end - m_at - 1, 40)).toString());
+        m_at = end + 1;
+        addLiteral(Literal::Kind::Date, Token::Kind::Date, *iso);
+    }
+
+    void symbol()
+    {
+        static constexpr QStringView twoCharacters[] = {u"<=", u">=", u"<>"};
+        for (const QStringView two : twoCharacters) {
+            if (m_sql.mid(m_at, 2) == two) {
+                m_at += 2;
+                mark(two);
+                return add(Token::Kind::Symbol, two.toString());
+            }
+        }
+        const QChar c = m_sql[m_at];
+        if (!QStringView(u"<>=+-*/\\^&(),.;").contains(c))
+            return fail(u"a character that the language does not know: "_s + c);
+        // The comment mark of other dialects; a doubled sign has no use here.
+        if (c == u'-' && m_sql.mid(m_at, 2) == u"--")
+            return fail(u"-- is no operator"_s);
+        ++m_at;
+        mark(QStringView(&c, 1));
+        add(Token::Kind::Symbol, QString(c));
+    }
+
+    void mark(QStringView text)
+    {
+        m_result.shape += text;
+        m_result.shape += u' ';
+    }
+
+    void add(Token::Kind kind, QString text) { m_result.tokens.push_back({kind, std::move(text), -1}); }
+
+    void addLiteral(Literal::Kind kind, Token::Kind tokenKind, const QString& text)
+    {
+        // Control characters can stand in no other place of a shape. Equal neighbours have a mark of their
+        // own, since a chain of terms with one pattern is translated into one call.
+        const bool repeated = !m_result.literals.empty() && m_result.literals.back().kind == kind
+            && m_result.literals.back().text == text;
+        m_result.shape += QChar(char16_t(1 + int(kind) + (repeated ? 3 : 0)));
+        m_result.tokens.push_back({tokenKind, text, int(m_result.literals.size())});
+        m_result.literals.push_back({kind, text});
+    }
+
+    void fail(const QString& error)
+    {
+        m_result.error = error;
+        m_at = m_sql.size();
+    }
+
+    QStringView m_sql;
+    qsizetype m_at = 0;
+    Lexed m_result;
+};
+
+} // namespace
+
+Lexed lex(QStringView sql)
+{
+    return Lexer(sql).run();
+}
+
+} // namespace jet

@@ -1,0 +1,582 @@
+#include "jet/parser.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+
+namespace {
+
+constexpr int kDeepest = 120;
+
+// In operand position any other word is a name: columns are called default, group, from, to, desc, date.
+constexpr std::array<QStringView, 14> kNeverNames{u"select", u"and", u"or", u"not", u"like", u"in",
+    u"between", u"is", u"union", u"where", u"having", u"null", u"true", u"false"};
+constexpr std::array<QStringView, 9> kNeverAliases{
+    u"where", u"union", u"having", u"on", u"inner", u"left", u"right", u"join", u"set"};
+constexpr std::array<QStringView, 3> kHiddenKeys{u"rowid", u"oid", u"_rowid_"};
+
+template <class Words> bool isOneOf(const QString& word, const Words& words)
+{
+    return std::any_of(words.begin(), words.end(),
+        [&](QStringView other) { return word.compare(other, Qt::CaseInsensitive) == 0; });
+}
+
+/// Stops the parse; caught in this file only. The grammar would drown in error checks without it.
+struct SyntaxError {
+    QString reason;
+};
+
+class Parser {
+public:
+    explicit Parser(const std::vector<Token>& tokens)
+        : m_tokens(tokens)
+    {
+    }
+
+    Statement statement()
+    {
+        Statement result;
+        if (takeWord(u"update"))
+            result = update();
+        else if (takeWord(u"delete"))
+            result = remove();
+        else if (takeWord(u"insert"))
+            result = insert();
+        else if (takeWord(u"drop"))
+            result = drop();
+        else
+            result.select = select();
+        takeSymbol(u";");
+        expectEnd();
+        return result;
+    }
+
+    ExpressionPtr condition()
+    {
+        ExpressionPtr result = expression();
+        expectEnd();
+        return result;
+    }
+
+private:
+    class Level {
+    public:
+        explicit Level(Parser& parser)
+            : m_parser(parser)
+        {
+            if (++m_parser.m_level > kDeepest)
+                throw SyntaxError{u"nested too deeply"_s};
+        }
+        ~Level() { --m_parser.m_level; }
+        Q_DISABLE_COPY_MOVE(Level)
+
+    private:
+        Parser& m_parser;
+    };
+
+    // ---- statements
+
+    Statement update()
+    {
+        Statement result;
+        result.kind = Statement::Kind::Update;
+        result.table.name = name();
+        expectWord(u"set");
+        do {
+            Assignment assignment;
+            assignment.column = name();
+            if (takeSymbol(u"."))
+                assignment.column = name();
+            expectSymbol(u"=");
+            assignment.value = expression();
+            result.assignments.push_back(std::move(assignment));
+        } while (takeSymbol(u","));
+        result.where = whereClause();
+        return result;
+    }
+
+    Statement remove()
+    {
+        Statement result;
+        result.kind = Statement::Kind::Delete;
+        takeSymbol(u"*");
+        expectWord(u"from");
+        result.table.name = name();
+        result.where = whereClause();
+        return result;
+    }
+
+    Statement insert()
+    {
+        Statement result;
+        result.kind = Statement::Kind::Insert;
+        expectWord(u"into");
+        result.table.name = name();
+        if (takeSymbol(u"(")) {
+            do
+                result.columns.push_back(name());
+            while (takeSymbol(u","));
+            expectSymbol(u")");
+        }
+        expectWord(u"values");
+        expectSymbol(u"(");
+        do
+            result.values.push_back(expression());
+        while (takeSymbol(u","));
+        expectSymbol(u")");
+        if (!result.columns.empty() && result.columns.size() != result.values.size())
+            throw SyntaxError{u"columns and values differ in number"_s};
+        return result;
+    }
+
+    Statement drop()
+    {
+        Statement result;
+        result.kind = Statement::Kind::Drop;
+        expectWord(u"table");
+        result.table.name = name();
+        return result;
+    }
+
+    Select select()
+    {
+        const Level level(*this);
+        Select result;
+        result.arms.push_back(arm(result));
+        while (takeWord(u"union")) {
+            const bool keepsDoubles = takeWord(u"all");
+            result.arms.push_back(arm(result));
+            result.arms.back().keepsDoubles = keepsDoubles;
+        }
+        if (result.arms.size() > 1 && !result.into.isEmpty())
+            throw SyntaxError{u"a union makes no table"_s};
+        return result;
+    }
+
+    SelectArm arm(Select& whole)
+    {
+        const Level level(*this);
+        if (takeSymbol(u"(")) {
+            SelectArm result = arm(whole);
+            expectSymbol(u")");
+            result.inBrackets = true;
+            if (isOrderBy())
+                result.orderBy = orderBy();
+            return result;
+        }
+        expectWord(u"select");
+        SelectArm result;
+        result.distinct = takeWord(u"distinct");
+        if (!result.distinct)
+            takeWord(u"all");
+        do
+            result.items.push_back(selectItem());
+        while (takeSymbol(u","));
+        if (takeWord(u"into"))
+            into(whole);
+        if (takeWord(u"from")) {
+            do
+                result.tables.push_back(tableName());
+            while (takeSymbol(u","));
+        }
+        result.where = whereClause();
+        if (isPair(u"group", u"by")) {
+            m_at += 2;
+            do
+                result.groupBy.push_back(expression());
+            while (takeSymbol(u","));
+        }
+        if (takeWord(u"having"))
+            result.having = expression();
+        if (isOrderBy())
+            result.orderBy = orderBy();
+        return result;
+    }
+
+    void into(Select& whole)
+    {
+        whole.into = name();
+        if (takeSymbol(u".")) {
+            whole.intoOtherFile = true;
+            whole.into = name();
+        }
+    }
+
+    SelectItem selectItem()
+    {
+        SelectItem item;
+        if (takeSymbol(u"*")) {
+            item.star = true;
+            return item;
+        }
+        if (isName(peek()) && peek(1).isSymbol(u".") && peek(2).isSymbol(u"*")) {
+            item.star = true;
+            item.starTable = peek().text;
+            m_at += 3;
+            return item;
+        }
+        item.expression = expression();
+        if (takeWord(u"as"))
+            item.alias = name();
+        return item;
+    }
+
+    TableName tableName()
+    {
+        TableName table;
+        table.name = name();
+        if (takeWord(u"as"))
+            table.alias = name();
+        else if (isName(peek()) && !isClauseWord())
+            table.alias = name();
+        return table;
+    }
+
+    bool isClauseWord() const
+    {
+        return peek().kind == Token::Kind::Word
+            && (isOneOf(peek().text, kNeverAliases) || isOrderBy() || isPair(u"group", u"by"));
+    }
+
+    ExpressionPtr whereClause() { return takeWord(u"where") ? expression() : nullptr; }
+
+    bool isOrderBy() const { return isPair(u"order", u"by"); }
+
+    std::vector<OrderTerm> orderBy()
+    {
+        m_at += 2;
+        std::vector<OrderTerm> terms;
+        do {
+            OrderTerm term;
+            term.expression = expression();
+            term.descending = takeWord(u"desc");
+            if (!term.descending)
+                takeWord(u"asc");
+            terms.push_back(std::move(term));
+        } while (takeSymbol(u","));
+        return terms;
+    }
+
+    // ---- expressions, from loose to tight
+
+    ExpressionPtr expression()
+    {
+        const Level level(*this);
+        return chain(Expression::Kind::Or, u"or",
+            [this] { return chain(Expression::Kind::And, u"and", [this] { return negation(); }); });
+    }
+
+    template <class Next> ExpressionPtr chain(Expression::Kind kind, QStringView word, Next next)
+    {
+        ExpressionPtr first = next();
+        if (!peek().isWord(word))
+            return first;
+        auto whole = make(kind);
+        adopt(*whole, std::move(first));
+        while (takeWord(word))
+            adopt(*whole, next());
+        return whole;
+    }
+
+    ExpressionPtr negation()
+    {
+        if (!peek().isWord(u"not"))
+            return comparison();
+        const Level level(*this);
+        ++m_at;
+        auto result = make(Expression::Kind::Not);
+        adopt(*result, negation());
+        return result;
+    }
+
+    // A comparison may itself be compared or tested: region='West' is not null.
+    ExpressionPtr comparison()
+    {
+        static constexpr std::array<QStringView, 6> operators{u"=", u"<>", u"<", u">", u"<=", u">="};
+        ExpressionPtr left = joined();
+        for (;;) {
+            if (peek().kind == Token::Kind::Symbol && isOneOf(peek().text, operators)) {
+                const QString op = take().text;
+                left = binary(Expression::Kind::Compare, op, std::move(left), joined());
+                continue;
+            }
+            if (takeWord(u"is")) {
+                auto test = make(Expression::Kind::IsNull);
+                test->negated = takeWord(u"not");
+                expectWord(u"null");
+                adopt(*test, std::move(left));
+                left = std::move(test);
+                continue;
+            }
+            const bool negated = peek().isWord(u"not")
+                && (peek(1).isWord(u"like") || peek(1).isWord(u"in") || peek(1).isWord(u"between"));
+            if (negated)
+                ++m_at;
+            if (takeWord(u"like"))
+                left = binary(Expression::Kind::Like, {}, std::move(left), joined());
+            else if (takeWord(u"between"))
+                left = between(std::move(left));
+            else if (takeWord(u"in"))
+                left = in(std::move(left));
+            else
+                return left;
+            left->negated = negated;
+        }
+    }
+
+    ExpressionPtr between(ExpressionPtr value)
+    {
+        auto result = binary(Expression::Kind::Between, {}, std::move(value), joined());
+        expectWord(u"and");
+        adopt(*result, joined());
+        return result;
+    }
+
+    ExpressionPtr in(ExpressionPtr value)
+    {
+        expectSymbol(u"(");
+        auto result = make(Expression::Kind::In);
+        adopt(*result, std::move(value));
+        if (peek().isWord(u"select")) {
+            result->kind = Expression::Kind::InSelect;
+            result->select = std::make_unique<Select>(select());
+        } else {
+            do
+                adopt(*result, expression());
+            while (takeSymbol(u","));
+        }
+        expectSymbol(u")");
+        return result;
+    }
+
+    ExpressionPtr joined()
+    {
+        return leftToRight<1>({u"&"}, [this] {
+            return leftToRight<2>({u"+", u"-"}, [this] {
+                return leftToRight<1>({u"mod"}, [this] {
+                    return leftToRight<1>({u"\\"}, [this] {
+                        return leftToRight<2>({u"*", u"/"}, [this] { return signedPower(); });
+                    });
+                });
+            });
+        });
+    }
+
+    template <size_t count, class Next>
+    ExpressionPtr leftToRight(std::array<QStringView, count> operators, Next next)
+    {
+        ExpressionPtr left = next();
+        while ((peek().kind == Token::Kind::Symbol || peek().isWord(u"mod"))
+            && isOneOf(peek().text, operators)) {
+            const QString op = take().text.toLower();
+            left = binary(Expression::Kind::Arithmetic, op, std::move(left), next());
+        }
+        return left;
+    }
+
+    ExpressionPtr signedPower()
+    {
+        const Level level(*this);
+        if (takeSymbol(u"+"))
+            return signedPower();
+        if (takeSymbol(u"-")) {
+            auto result = make(Expression::Kind::Negative);
+            adopt(*result, signedPower());
+            return result;
+        }
+        ExpressionPtr left = operand();
+        while (takeSymbol(u"^"))
+            left = binary(Expression::Kind::Arithmetic, u"^"_s, std::move(left), operand());
+        return left;
+    }
+
+    ExpressionPtr operand()
+    {
+        const Level level(*this);
+        const Token& token = peek();
+        switch (token.kind) {
+        case Token::Kind::Text:
+        case Token::Kind::Date:
+        case Token::Kind::Number: return value();
+        case Token::Kind::Symbol: return inBrackets();
+        case Token::Kind::End: throw SyntaxError{u"the statement ends too early"_s};
+        default: break;
+        }
+        if (token.isWord(u"null") || token.isWord(u"true") || token.isWord(u"false")) {
+            const auto kind = token.isWord(u"null") ? Expression::Kind::Null
+                : token.isWord(u"true")             ? Expression::Kind::True
+                                                    : Expression::Kind::False;
+            ++m_at;
+            return make(kind);
+        }
+        if (token.isWord(u"exists") && peek(1).isSymbol(u"(")) {
+            m_at += 2;
+            auto result = make(Expression::Kind::Exists);
+            result->select = std::make_unique<Select>(select());
+            expectSymbol(u")");
+            return result;
+        }
+        if (token.kind == Token::Kind::Word && peek(1).isSymbol(u"("))
+            return call();
+        if (token.kind == Token::Kind::Word
+            && (isOneOf(token.text, kNeverNames) || isOrderBy() || isPair(u"group", u"by")))
+            throw SyntaxError{u"an operand is missing before "_s + token.text};
+        auto column = make(Expression::Kind::Column);
+        column->name = name();
+        if (takeSymbol(u".")) {
+            column->table = column->name;
+            column->name = name();
+        }
+        return column;
+    }
+
+    ExpressionPtr value()
+    {
+        const Token& token = take();
+        auto result = make(token.literal < 0 ? Expression::Kind::Number : Expression::Kind::Literal);
+        result->name = token.text;
+        result->literal = token.literal;
+        result->literalKind = int(token.kind == Token::Kind::Text ? Literal::Kind::Text
+                : token.kind == Token::Kind::Number               ? Literal::Kind::Number
+                                                                  : Literal::Kind::Date);
+        return result;
+    }
+
+    ExpressionPtr inBrackets()
+    {
+        expectSymbol(u"(");
+        ExpressionPtr result;
+        if (peek().isWord(u"select")) {
+            result = make(Expression::Kind::Subselect);
+            result->select = std::make_unique<Select>(select());
+        } else {
+            result = expression();
+        }
+        expectSymbol(u")");
+        return result;
+    }
+
+    ExpressionPtr call()
+    {
+        auto result = make(Expression::Kind::Call);
+        result->name = take().text.toLower();
+        expectSymbol(u"(");
+        if (result->name == u"count" && takeSymbol(u"*"))
+            result->kind = Expression::Kind::CountAll;
+        else if (!peek().isSymbol(u")")) {
+            do
+                adopt(*result, expression());
+            while (takeSymbol(u","));
+        }
+        expectSymbol(u")");
+        return result;
+    }
+
+    // ---- building
+
+    static ExpressionPtr make(Expression::Kind kind)
+    {
+        auto result = std::make_unique<Expression>();
+        result->kind = kind;
+        return result;
+    }
+
+    static void adopt(Expression& parent, ExpressionPtr child)
+    {
+        parent.depth = std::max(parent.depth, child->depth + 1);
+        if (parent.depth > 4 * kDeepest)
+            throw SyntaxError{u"nested too deeply"_s};
+        parent.parts.push_back(std::move(child));
+    }
+
+    static ExpressionPtr binary(
+        Expression::Kind kind, const QString& op, ExpressionPtr left, ExpressionPtr right)
+    {
+        auto result = make(kind);
+        result->op = op;
+        adopt(*result, std::move(left));
+        adopt(*result, std::move(right));
+        return result;
+    }
+
+    // ---- tokens
+
+    const Token& peek(size_t ahead = 0) const
+    {
+        return m_tokens[std::min(m_at + ahead, m_tokens.size() - 1)];
+    }
+    const Token& take()
+    {
+        const Token& token = peek();
+        if (m_at < m_tokens.size())
+            ++m_at;
+        return token;
+    }
+    bool isPair(QStringView first, QStringView second) const
+    {
+        return peek().isWord(first) && peek(1).isWord(second);
+    }
+    static bool isName(const Token& token)
+    {
+        return token.kind == Token::Kind::Name || token.kind == Token::Kind::Word;
+    }
+    bool takeWord(QStringView word) { return peek().isWord(word) && ++m_at; }
+    bool takeSymbol(QStringView symbol) { return peek().isSymbol(symbol) && ++m_at; }
+    void expectWord(QStringView word)
+    {
+        if (!takeWord(word))
+            throw SyntaxError{word.toString() + u" is missing before "_s + shown()};
+    }
+    void expectSymbol(QStringView symbol)
+    {
+        if (!takeSymbol(symbol))
+            throw SyntaxError{symbol.toString() + u" is missing before "_s + shown()};
+    }
+    void expectEnd()
+    {
+        if (peek().kind != Token::Kind::End)
+            throw SyntaxError{u"something stands behind the statement: "_s + shown()};
+    }
+    QString shown() const { return peek().kind == Token::Kind::End ? u"the end"_s : peek().text.left(40); }
+
+    // Every table has a hidden key in the file; the dialect does not know it.
+    QString name()
+    {
+        if (!isName(peek()))
+            throw SyntaxError{u"a name is missing before "_s + shown()};
+        if (isOneOf(peek().text, kHiddenKeys))
+            throw SyntaxError{u"no such name: "_s + peek().text};
+        return take().text;
+    }
+
+    const std::vector<Token>& m_tokens;
+    size_t m_at = 0;
+    int m_level = 0;
+};
+
+} // namespace
+
+std::optional<Statement> parseStatement(const std::vector<Token>& tokens, QString* error)
+{
+    try {
+        return Parser(tokens).statement();
+    } catch (const SyntaxError& failure) {
+        *error = failure.reason;
+        return {};
+    }
+}
+
+ExpressionPtr parseCondition(const std::vector<Token>& tokens, QString* error)
+{
+    try {
+        return Parser(tokens).condition();
+    } catch (const SyntaxError& failure) {
+        *error = failure.reason;
+        return {};
+    }
+}
+
+} // namespace jet

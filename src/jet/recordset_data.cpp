@@ -1,0 +1,258 @@
+#include "jet/recordset_data.h"
+
+#include "jet/parser.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+
+RecordsetData::RecordsetData(std::shared_ptr<Engine> engine, Request request, Way way, QString text)
+    : m_engine(std::move(engine))
+    , m_request(std::move(request))
+    , m_way(way)
+    , m_text(std::move(text))
+{
+}
+
+bool RecordsetData::load()
+{
+    const Translation& translation = m_request.plan->translation;
+    m_isKeyset = translation.kind == Translation::Kind::Keyset;
+    m_rowsHeld = !translation.idsOnly;
+    const int width = int(translation.columns.size());
+    m_held.reset(width);
+    m_fetched.reset(width);
+    const Prepared statement = m_engine->prepareMain(m_request);
+    int result = SQLITE_ERROR;
+    if (statement) {
+        while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
+            if (m_isKeyset)
+                m_keys.push_back(sqlite3_column_int64(statement.get(), 0));
+            // The first row is current now and most often the only one. Fetched here it needs no transaction
+            // of its own.
+            if (!m_rowsHeld && m_keys.size() == 1)
+                look(0);
+            if (m_rowsHeld && !m_held.append(statement.get(), m_isKeyset ? 1 : 0))
+                break;
+        }
+    }
+    if (result == SQLITE_DONE)
+        return true;
+    m_engine->reportLast(m_text);
+    return false;
+}
+
+int RecordsetData::columnIndex(QStringView name) const
+{
+    const auto& all = columns();
+    for (size_t i = 0; i < all.size(); ++i) {
+        if (name.compare(all[i].name, Qt::CaseInsensitive) == 0)
+            return int(i);
+    }
+    return -1;
+}
+
+RecordsetData::Place RecordsetData::look(int row)
+{
+    if (m_rowsHeld)
+        return {&m_held, row};
+    const int changes = m_engine->isOpen() ? sqlite3_total_changes(m_engine->connection()) : m_changesAtFetch;
+    if (m_fetchedRow == row && m_changesAtFetch == changes)
+        return {&m_fetched, 0};
+    m_fetched.clear();
+    m_fetchedRow = -1;
+    const Prepared statement = m_engine->prepareRow(m_request, m_keys[size_t(row)]);
+    // A row that was deleted in the meantime reads as nulls.
+    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW || !m_fetched.append(statement.get(), 0))
+        return {nullptr, 0};
+    m_fetchedRow = row;
+    m_changesAtFetch = changes;
+    return {&m_fetched, 0};
+}
+
+QString RecordsetData::text(int row, int column)
+{
+    const Place place = look(row);
+    if (!place.store)
+        return {};
+    return place.store->text(place.row, column);
+}
+
+qint64 RecordsetData::number(int row, int column)
+{
+    const Place place = look(row);
+    return place.store ? place.store->number(place.row, column) : 0;
+}
+
+QVariant RecordsetData::value(int row, int column)
+{
+    const Place place = look(row);
+    return place.store ? place.store->value(place.row, column, columns()[size_t(column)].type) : QVariant();
+}
+
+int RecordsetData::find(QStringView criterion)
+{
+    const Lexed lexed = lex(criterion);
+    QString error = lexed.error;
+    const ExpressionPtr condition = error.isEmpty() ? parseCondition(lexed.tokens, &error) : nullptr;
+    std::optional<Piece> piece;
+    const Translation& translation = m_request.plan->translation;
+    std::vector<Literal> literals = lexed.literals;
+    if (condition && m_isKeyset) {
+        piece = translateCondition(
+            *condition, translation.table, translation.tableAlias, m_engine->catalog(), m_way, &error);
+    } else if (condition) {
+        piece = translateSnapshotCondition(*condition, translation, m_way, &error);
+        // The criterion's values come behind those of the selection that stands inside.
+        if (piece) {
+            literals = *m_request.literals;
+            literals.insert(literals.end(), lexed.literals.begin(), lexed.literals.end());
+            for (size_t i = translation.main.values.size(); i < piece->values.size(); ++i)
+                piece->values[i].literal += int(m_request.literals->size());
+        }
+    }
+    if (!piece) {
+        m_engine->report(criterion, error);
+        return -1;
+    }
+    const Prepared statement = m_engine->prepareText(piece->sql);
+    if (!statement || !m_engine->bind(statement.get(), piece->values, literals)) {
+        m_engine->reportLast(criterion);
+        return -1;
+    }
+    if (!m_isKeyset) {
+        const int found = sqlite3_step(statement.get());
+        if (found != SQLITE_ROW && found != SQLITE_DONE)
+            m_engine->reportLast(criterion);
+        return found == SQLITE_ROW ? sqlite3_column_int(statement.get(), 0) : -1;
+    }
+    std::vector<qint64> matches;
+    int result = SQLITE_ERROR;
+    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
+        matches.push_back(sqlite3_column_int64(statement.get(), 0));
+    if (result != SQLITE_DONE) {
+        m_engine->reportLast(criterion);
+        return -1;
+    }
+    std::sort(matches.begin(), matches.end());
+    const auto found = std::find_if(m_keys.begin(), m_keys.end(),
+        [&](qint64 key) { return std::binary_search(matches.begin(), matches.end(), key); });
+    return found == m_keys.end() ? -1 : int(found - m_keys.begin());
+}
+
+bool RecordsetData::isEditable() const
+{
+    return m_isKeyset && !m_engine->isReadOnly();
+}
+
+void RecordsetData::begin(bool adding)
+{
+    m_changes.clear();
+    m_editing = !m_isKeyset ? Editing::Nothing : adding ? Editing::NewRow : Editing::Row;
+}
+
+bool RecordsetData::set(QStringView columnName, const QVariant& value)
+{
+    if (m_editing == Editing::Nothing || !m_isKeyset) {
+        m_engine->report(
+            m_text, u"assignment to "_s + columnName.toString() + u" without a row that is edited"_s);
+        return false;
+    }
+    const int index = columnIndex(columnName);
+    const ResultColumn* column = index < 0 ? nullptr : &columns()[size_t(index)];
+    QVariant stored;
+    if (!column || column->source.isEmpty() || !toStored(value, column->type, &stored)) {
+        m_engine->report(m_text, u"the value does not fit the column "_s + columnName.toString());
+        return false;
+    }
+    const auto before = std::find_if(m_changes.begin(), m_changes.end(),
+        [&](const Change& change) { return change.column == column->source; });
+    if (before != m_changes.end())
+        before->stored = stored;
+    else
+        m_changes.push_back({column->source, stored});
+    return true;
+}
+
+bool RecordsetData::update()
+{
+    const Editing editing = std::exchange(m_editing, Editing::Nothing);
+    const QString table = u'[' + m_request.plan->translation.table + u']';
+    if (editing == Editing::NewRow) {
+        QString names;
+        QString marks;
+        for (const Change& change : m_changes) {
+            names += (names.isEmpty() ? u"["_s : u", ["_s) + change.column + u']';
+            marks += marks.isEmpty() ? u"?"_s : u", ?"_s;
+        }
+        const QString sql = m_changes.empty()
+            ? u"INSERT INTO "_s + table + u" DEFAULT VALUES"_s
+            : u"INSERT INTO "_s + table + u" ("_s + names + u") VALUES ("_s + marks + u')';
+        if (!write(sql, {}))
+            return false;
+        lastAddedKey = sqlite3_last_insert_rowid(m_engine->connection());
+        forgetHeldRows();
+        m_keys.push_back(lastAddedKey);
+        return true;
+    }
+    if (editing != Editing::Row || position < 0 || position >= count()) {
+        m_engine->report(m_text, u"update without a row that is edited"_s);
+        return false;
+    }
+    if (m_changes.empty())
+        return true;
+    QString assignments;
+    for (const Change& change : m_changes)
+        assignments += (assignments.isEmpty() ? u"["_s : u", ["_s) + change.column + u"] = ?"_s;
+    forgetHeldRows();
+    return write(
+        u"UPDATE "_s + table + u" SET "_s + assignments + u" WHERE rowid = ?"_s, m_keys[size_t(position)]);
+}
+
+bool RecordsetData::write(const QString& sql, std::optional<qint64> key)
+{
+    const Prepared statement = m_engine->prepareText(sql);
+    if (statement) {
+        int place = 0;
+        for (const Change& change : m_changes)
+            bindStored(statement.get(), ++place, change.stored);
+        if (key)
+            sqlite3_bind_int64(statement.get(), ++place, *key);
+        if (sqlite3_step(statement.get()) == SQLITE_DONE) {
+            // Somebody else may have removed the row; then nothing was stored.
+            if (sqlite3_changes(m_engine->connection()) > 0)
+                return true;
+            m_engine->report(m_text, u"the row is gone"_s);
+            return false;
+        }
+    }
+    m_engine->reportLast(m_text);
+    return false;
+}
+
+bool RecordsetData::removeCurrent()
+{
+    if (!m_isKeyset || position < 0 || position >= count()) {
+        m_engine->report(m_text, u"no row to delete"_s);
+        return false;
+    }
+    m_changes.clear();
+    if (!write(u"DELETE FROM ["_s + m_request.plan->translation.table + u"] WHERE rowid = ?"_s,
+            m_keys[size_t(position)]))
+        return false;
+    forgetHeldRows();
+    m_keys.erase(m_keys.begin() + position);
+    return true;
+}
+
+void RecordsetData::forgetHeldRows()
+{
+    m_rowsHeld = false;
+    m_held.clear();
+    m_fetched.clear();
+    m_fetchedRow = -1;
+}
+
+} // namespace jet

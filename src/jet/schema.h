@@ -1,0 +1,36 @@
+#pragma once
+
+#include "jet/types.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+namespace jet {
+
+struct SchemaColumn {
+    QString name;
+    ColumnType type = ColumnType::Text;
+    int size = 255; ///< characters of a text column that a screen lets a person type
+};
+
+struct SchemaTable {
+    QString database; ///< "data" or "info"
+    QString name;
+    QList<SchemaColumn> columns;
+};
+
+/// The tables of both databases as the schema file lists them: one CSV row a column, with the columns
+/// database, table, column, type, size.
+struct Schema {
+    QList<SchemaTable> tables;
+
+    static Schema fromCsv(const QByteArray& csv);
+    const SchemaTable* table(QStringView name) const;
+    int textSize(QStringView tableName, QStringView column) const; ///< 255 where the schema says nothing
+};
+
+/// Splits CSV text (comma, double quotes, UTF-8) into rows; the rows may differ in length.
+QList<QStringList> parseCsv(const QByteArray& csv);
+
+} // namespace jet

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "jet/syntax_tree.h"
+#include "jet/types.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace jet {
+
+struct CatalogColumn {
+    QString name;
+    ColumnType type = ColumnType::Unknown;
+};
+
+struct CatalogTable {
+    QString name;
+    std::vector<CatalogColumn> columns;
+    const CatalogColumn* column(QStringView columnName) const;
+};
+
+/// Finds a table without regard to case; nullptr when there is none.
+using Catalog = std::function<const CatalogTable*(QStringView)>;
+
+/// One bound value of the file engine's statement: which literal of the text it is, and what it is read as.
+struct Slot {
+    enum class Reading { AsIs, Date, Number, YesNo };
+    int literal = 0;
+    Reading reading = Reading::AsIs;
+};
+
+struct ResultColumn {
+    QString name;
+    ColumnType type = ColumnType::Unknown;
+    QString source; ///< the table's column, empty for an expression
+};
+
+/// A piece of text for the file engine with the values it needs, in order.
+struct Piece {
+    QString sql;
+    std::vector<Slot> values;
+};
+
+struct Translation {
+    enum class Kind {
+        Snapshot, ///< all rows are read
+        Keyset, ///< main selects the row ids, or ids and columns; row selects the columns of one id
+        Action, ///< update, delete, insert
+        MakeTable, ///< select into, drop: the list of tables changes
+        OtherFile, ///< select into a file of another kind: recognised, done elsewhere
+    };
+    Kind kind = Kind::Snapshot;
+    Piece main;
+    std::vector<ResultColumn> columns;
+    // Of a keyset only:
+    QString table;
+    QString tableAlias;
+    Piece row; ///< the columns of the row whose id is bound last
+    bool idsOnly = false;
+};
+
+/// Turns a parsed statement into text for the file engine. Every name stands in brackets, every value is
+/// bound, so no text of a caller reaches the file engine as text.
+std::optional<Translation> translate(
+    const Statement& statement, const Catalog& catalog, Way way, QString* error);
+
+/// The ids of a table for which a bare condition holds.
+std::optional<Piece> translateCondition(const Expression& condition, const QString& table,
+    const QString& alias, const Catalog& catalog, Way way, QString* error);
+
+/// The 0-based positions of a snapshot's rows for which a bare condition holds, in order.
+std::optional<Piece> translateSnapshotCondition(
+    const Expression& condition, const Translation& snapshot, Way way, QString* error);
+
+} // namespace jet

@@ -1,0 +1,108 @@
+#include "core/context.h"
+#include "core/screens.h"
+#include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
+#include "core/shell/start_up.h"
+#include "core/shell/storage_notice.h"
+#include "core/store/book_files.h"
+#include "core/store/book_schema.h"
+#include "entry/register_entry.h"
+#include "platform/clock.h"
+#include "platform/desktop_boxes.h"
+#include "platform/desktop_shell.h"
+#include "platform/folder_drive.h"
+#include "platform/help_window.h"
+#include "platform/player_sounds.h"
+#include "platform/shortcut_favourites.h"
+#include "platform/single_instance.h"
+#include "platform/user_folders.h"
+#include "platform/vdir_contacts.h"
+#include "views/register_views.h"
+#include "widgets/theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QSettings>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The program's own folder for this user; the variable is for tests and repairs.
+QString programFolder()
+{
+    const QString set = qEnvironmentVariable("ORVANE_PROGRAM_FOLDER");
+    const QString folder
+        = set.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/orvane-contacts"_s : set;
+    QDir().mkpath(folder);
+    return QDir(folder).absolutePath();
+}
+
+QString rootDriveFolder()
+{
+    const QString set = qEnvironmentVariable("ORVANE_DRIVE_C");
+    return set.isEmpty() ? QDir::homePath() : set;
+}
+
+widgets::Look lookOf(const QString& folder)
+{
+    const QString kept = QSettings(folder + u"/window.ini"_s, QSettings::IniFormat).value(u"look"_s).toString();
+    if (kept.isEmpty())
+        return widgets::preferred();
+    return kept == u"dark" ? widgets::Look::Dark : widgets::Look::Light;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"orvane-contacts"_s);
+    QApplication::setApplicationDisplayName(u"Orvane Contacts"_s);
+    QApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+    QApplication::setDesktopFileName(u"org.orvane.Contacts"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const QString folder = programFolder();
+    const platform::SingleInstance instance(folder);
+    if (!instance.isFirst())
+        return 0;
+    widgets::apply(app, lookOf(folder));
+    QApplication::setWindowIcon(QIcon(u":/icons/app.svg"_s));
+
+    platform::FolderDrive drive(rootDriveFolder(), folder);
+    platform::DesktopBoxes boxes;
+    platform::DesktopShell desktop(drive);
+    platform::PlayerSounds sounds(drive, QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
+    platform::UserFolders folders(drive);
+    platform::ShortcutFavourites favourites(drive, folders);
+    platform::WindowHelpViewer help(drive, desktop);
+    platform::VdirContacts mailContacts(QDir(folder).filePath(u"MailContacts"_s));
+    platform::SystemClock clock;
+
+    jet::Database data;
+    jet::Database info;
+    const jet::Schema schema = core::bookSchema();
+    core::SharedState shared;
+    core::Screens screens;
+    shell::MDIForm1 frame;
+    core::Context context{data, info, schema, shared, screens, frame,
+        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock}};
+    screens.setContext(context);
+    shell::registerShell(screens);
+    entry::registerEntry(screens);
+    views::registerViews(screens);
+
+    const shell::StorageNotice storageNotice(context);
+    const QString backupFolder = drive.local(u"C:\\OVUserFiles\\Others\\Backup");
+    core::BookFiles files(folder, backupFolder);
+    shell::StartUp startUp(context, frame, files, backupFolder);
+    QObject::connect(&instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
+    startUp.begin(QLocale::system().territory() == QLocale::India);
+    const int result = QApplication::exec();
+    // Screens read the books, so they go first.
+    screens.unloadAll();
+    return result;
+}

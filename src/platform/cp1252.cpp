@@ -1,0 +1,40 @@
+#include "platform/cp1252.h"
+
+#include <algorithm>
+
+namespace platform {
+
+QString fromCp1252(QByteArrayView bytes)
+{
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
+        const auto code = static_cast<unsigned char>(byte);
+        const char16_t special = code >= 0x80 && code <= 0x9F ? cp1252Specials[code - 0x80u] : u'\0';
+        return QChar(special != 0 ? special : char16_t(code));
+    });
+    return text;
+}
+
+QByteArray toCp1252(QStringView text)
+{
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t code = text[i].unicode();
+        const auto* special = std::find(cp1252Specials.begin(), cp1252Specials.end(), code);
+        if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) {
+            bytes += char(code);
+        } else if (special != cp1252Specials.end()) {
+            bytes += char(0x80 + (special - cp1252Specials.begin()));
+        } else if (code >= 0x80 && code <= 0x9F && cp1252Specials[code - 0x80u] == 0) {
+            bytes += char(code);
+        } else {
+            bytes += '?';
+            if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+                ++i;
+        }
+    }
+    return bytes;
+}
+
+} // namespace platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+namespace platform {
+
+enum class Answer { Yes, No };
+enum class Icon { None, Information, Question, Warning, Critical };
+
+/// What the program tells and asks the user. All calls wait for the answer. File paths given back are paths
+/// of this computer (Drive::named() gives the program's spelling); no value means that the user cancelled.
+/// Filters are written as label and pattern with bars between, "VCF (*.vcf)|*.vcf".
+class MessageBoxes {
+public:
+    MessageBoxes() = default;
+    MessageBoxes(const MessageBoxes&) = delete;
+    MessageBoxes& operator=(const MessageBoxes&) = delete;
+    virtual ~MessageBoxes() = default;
+
+    virtual void information(const QString& text, const QString& title) = 0;
+    /// With the exclamation mark.
+    virtual void warning(const QString& text, const QString& title) = 0;
+    /// Yes or No; a box that is closed otherwise counts as No.
+    virtual Answer ask(const QString& text, const QString& title, Icon icon = Icon::Question) = 0;
+    virtual std::optional<QString> openFile(const QString& title, const QString& filter) = 0;
+    virtual std::optional<QString> saveFile(const QString& title, const QString& filter) = 0;
+    virtual std::optional<QString> folder(const QString& title) = 0;
+    virtual std::optional<QString> inputText(const QString& title, const QString& label) = 0;
+};
+
+} // namespace platform

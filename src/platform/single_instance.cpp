@@ -1,0 +1,121 @@
+#include "platform/single_instance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QSysInfo>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+constexpr int wholeWaitMs = 1800;
+constexpr int retryMs = 50;
+constexpr auto request = "raise\n";
+
+QString canonicalFolder(const QString& folder)
+{
+    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(QDir(folder).absolutePath()) : canonical;
+}
+
+QString socketName(const QString& folder)
+{
+    // The home folder stands for the user: it is there in every session, and a socket's name is seen by all
+    // users.
+    const QByteArray identity = canonicalFolder(folder).toUtf8() + '\0' + QDir::homePath().toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(identity, QCryptographicHash::Sha256).toHex().left(24);
+    return u"orvane-"_s + QString::fromLatin1(hash);
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& programFolder, QObject* parent)
+    : QObject(parent)
+    , m_socketName(socketName(programFolder))
+    , m_lock(canonicalFolder(programFolder) + u"/.orvane.lock"_s)
+{
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::readRequest);
+    // Never stale by age: a program may stay open for days.
+    m_lock.setStaleLockTime(0);
+    m_isFirst = takeLock();
+    if (m_isFirst)
+        listen();
+}
+
+SingleInstance::~SingleInstance() = default;
+
+bool SingleInstance::takeLock()
+{
+    if (m_lock.tryLock(0))
+        return true;
+    // In a folder where no lock can be made, only the socket tells.
+    if (m_lock.error() != QLockFile::LockFailedError)
+        return !askFirst(retryMs);
+
+    // The first may just be starting and not listen yet.
+    const QDeadlineTimer deadline(wholeWaitMs);
+    while (!deadline.hasExpired()) {
+        if (askFirst(int(qMax<qint64>(1, deadline.remainingTime()))))
+            return false;
+        if (m_lock.tryLock(0))
+            return true;
+        // A lock that can't be read, or comes from a computer that has this folder no more, and no one to
+        // answer.
+        qint64 pid = 0;
+        QString host;
+        QString name;
+        if (!m_lock.getLockInfo(&pid, &host, &name) || host != QSysInfo::machineHostName()) {
+            QThread::msleep(retryMs);
+            if (askFirst(retryMs))
+                return false;
+            return (m_lock.removeStaleLockFile() || QFile::remove(m_lock.fileName())) && m_lock.tryLock(0);
+        }
+        QThread::msleep(retryMs);
+    }
+    return false;
+}
+
+bool SingleInstance::askFirst(int waitMs) const
+{
+    QLocalSocket socket;
+    socket.connectToServer(m_socketName, QIODevice::WriteOnly);
+    if (!socket.waitForConnected(waitMs))
+        return false;
+    socket.write(request);
+    socket.waitForBytesWritten(waitMs);
+    return true;
+}
+
+void SingleInstance::listen()
+{
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    m_server.setMaxPendingConnections(8);
+    QLocalServer::removeServer(m_socketName);
+    m_server.listen(m_socketName);
+}
+
+void SingleInstance::readRequest()
+{
+    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+        const auto read = [this, socket] {
+            if (socket->canReadLine() && socket->readLine(16) == request)
+                Q_EMIT raiseRequested();
+            else if (socket->bytesAvailable() < 16)
+                return;
+            socket->abort();
+            socket->deleteLater();
+        };
+        connect(socket, &QLocalSocket::readyRead, this, read);
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        read();
+    }
+}
+
+} // namespace platform

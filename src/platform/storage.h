@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/// Bytes that this user can still write in the folder; -1 when the folder isn't there.
+qint64 freeBytes(const QString& folder);
+
+/// Whether a file can be made in the folder. It is tried, since the rights alone do not tell it for every
+/// user and file system.
+bool isWritable(const QString& folder);
+
+} // namespace platform

@@ -1,0 +1,55 @@
+#include "platform/text_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "platform/cp1252.h"
+#include "platform/drive.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+constexpr qint64 maxTextSize = 64 * 1024 * 1024;
+
+} // namespace
+
+std::optional<QString> readText(const QString& localPath)
+{
+    // Only a plain file: a pipe or a device under that name could block or never end.
+    QFile file(localPath);
+    if (!QFileInfo(localPath).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.read(maxTextSize + 1);
+    if (bytes.size() > maxTextSize || file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return fromCp1252(bytes).replace("\r\n"_L1, "\n"_L1);
+}
+
+std::optional<QString> readText(const Drive& drive, QStringView path)
+{
+    return readText(drive.local(path));
+}
+
+bool writeText(const QString& localPath, QStringView text)
+{
+    if (localPath.isEmpty())
+        return false;
+    QString lines = text.toString();
+    lines.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n').replace("\n"_L1, "\r\n"_L1);
+    QSaveFile file(localPath);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(toCp1252(lines));
+    return file.commit();
+}
+
+bool writeText(const Drive& drive, QStringView path, QStringView text)
+{
+    return writeText(drive.local(path), text);
+}
+
+} // namespace platform

@@ -1,0 +1,7 @@
+#include "views/register_views.h"
+
+namespace views {
+
+void registerViews(core::Screens&) { }
+
+} // namespace views

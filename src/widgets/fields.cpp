@@ -1,0 +1,79 @@
+#include "widgets/fields.h"
+
+#include "widgets/date_box.h"
+#include "widgets/filled_combo.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace widgets {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Lines end in CR LF in all stored texts.
+QString storedLines(QString text)
+{
+    return text.replace(u'\n', u"\r\n"_s);
+}
+
+} // namespace
+
+QString textOf(const QWidget* control)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(control))
+        return line->text();
+    if (const auto* combo = qobject_cast<const QComboBox*>(control))
+        return combo->currentText();
+    if (const auto* memo = qobject_cast<const QPlainTextEdit*>(control))
+        return storedLines(memo->toPlainText());
+    if (const auto* memo = qobject_cast<const QTextEdit*>(control))
+        return storedLines(memo->toPlainText());
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->text().replace(u"&&"_s, u"&"_s);
+    Q_ASSERT_X(false, "widgets::textOf", "a control without a text");
+    return {};
+}
+
+void setTextOf(QWidget* control, const QString& text)
+{
+    if (auto* line = qobject_cast<QLineEdit*>(control)) {
+        line->setText(text);
+        line->setCursorPosition(0);
+    } else if (auto* filled = qobject_cast<FilledCombo*>(control)) {
+        filled->setText(text);
+    } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        if (combo->isEditable())
+            combo->setEditText(text);
+        else
+            combo->setCurrentIndex(combo->findText(text));
+    } else if (auto* plain = qobject_cast<QPlainTextEdit*>(control)) {
+        plain->setPlainText(text);
+    } else if (auto* memo = qobject_cast<QTextEdit*>(control)) {
+        memo->setPlainText(text);
+    } else if (auto* label = qobject_cast<QLabel*>(control)) {
+        label->setText(text);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        button->setText(QString(text).replace(u"&"_s, u"&&"_s)); // a name's "&" is no mnemonic
+    } else {
+        Q_ASSERT_X(false, "widgets::setTextOf", "a control without a text");
+    }
+}
+
+void clear(QWidget* control)
+{
+    if (auto* check = qobject_cast<QCheckBox*>(control))
+        check->setChecked(false);
+    else if (!qobject_cast<QAbstractButton*>(control))
+        setTextOf(control, {});
+}
+
+} // namespace widgets

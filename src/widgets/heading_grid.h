@@ -1,0 +1,91 @@
+#pragma once
+
+#include "jet/recordset.h"
+
+#include <QElapsedTimer>
+#include <QList>
+#include <QStringList>
+#include <QTableView>
+
+#include <functional>
+
+namespace widgets {
+
+class RowsModel;
+
+struct Heading {
+    QString text;
+    int width = 0; ///< in characters
+
+    friend bool operator==(const Heading&, const Heading&) = default;
+};
+
+/// Headings are one string of columns joined by "|"; a column is as wide as its text with all its blanks.
+QList<Heading> parseHeadings(QStringView headings);
+
+/// The grid of all lists: a heading string above, the rows of a recordset below, one row current.
+///
+/// A recordset's rows are asked for only when they come in sight. Without column names, headings and columns
+/// pair off in order; blank headings in front that have no column, and a blank one over the key, are an empty
+/// margin. Columns beyond the headings are not shown but can be read by name. Typing looks for a row by its
+/// first visible text; Enter and double click choose a row.
+class HeadingGrid : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit HeadingGrid(QWidget* parent = nullptr);
+
+    /// `columns` names the column under each heading, "" for none.
+    void setHeadings(QStringView headings, const QStringList& columns = {});
+    void fill(jet::Recordset rows);
+    void fill(QStringView headings, jet::Recordset rows, const QStringList& columns = {});
+    /// Rows that come from no recordset; the names make them readable by column, and "id" among them is the
+    /// key.
+    void setRows(const QList<QStringList>& rows, const QStringList& names = {});
+    void clearRows();
+
+    void hideColumn(const QString& name);
+    using QTableView::hideColumn;
+    /// The column that holds the key of rows that have none of their own; "id" until told otherwise.
+    void setKeyColumn(const QString& name);
+    /// Shows a column's values in another way: dates, ticks.
+    void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
+    void setFontSize(int points);
+    void setEmptyText(const QString& text);
+
+    int rowCount() const;
+    int currentRow() const; ///< -1 when there is none
+    void setCurrentRow(int row);
+    qint64 currentKey() const; ///< 0 when there is no current row
+    qint64 keyAt(int row) const;
+    int rowOf(qint64 key) const; ///< -1 when it is not listed
+    bool selectKey(qint64 key);
+    QList<qint64> selectedKeys() const; ///< from top to bottom, for grids that allow several
+    /// Any column of a row, shown or not.
+    QString textAt(int row, const QString& column) const;
+    QString currentText(const QString& column) const;
+
+    void keyboardSearch(const QString& typed) override;
+
+Q_SIGNALS:
+    void chosen(int row);
+    void currentRowChanged(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void applyWidths();
+    void applyHiddenColumns();
+    int searchColumn() const;
+
+    RowsModel* m_model;
+    QString m_emptyText;
+    QStringList m_hidden;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
+};
+
+} // namespace widgets

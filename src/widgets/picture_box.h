@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+namespace widgets {
+
+/// Reads a picture no larger than it is needed, keeping its proportions. Nothing comes back from what is no
+/// ordinary file, is over 100 MB, claims a size beyond reason, or is damaged.
+QImage readPicture(const QString& path, QSize within);
+
+/// Shows a picture file, scaled into the box; a quiet placeholder stands for a picture that is missing or
+/// broken. The path that was set is kept in any case.
+class PictureBox : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    void setPath(const QString& path);
+    QString path() const { return m_path; }
+    bool hasPicture() const { return !m_image.isNull(); }
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QSize wantedSize() const;
+
+    QString m_path;
+    QImage m_image;
+    QSize m_readFor; ///< the room for which the picture was read
+    QPixmap m_scaled;
+};
+
+} // namespace widgets

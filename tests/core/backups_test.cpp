@@ -1,0 +1,252 @@
+#include <QtTest>
+
+#include "core/store/backups.h"
+#include "core/store/book_files.h"
+#include "jet/database.h"
+
+using namespace Qt::StringLiterals;
+using namespace core;
+
+class BackupsTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void onceADay();
+    void rotationKeepsTenAndTouchesNothingElse();
+    void clockSetBack();
+    void damagedBookIsNoBackup();
+    void noRoom();
+    void lastGood();
+    void restoreKeepsThePresentFile();
+    void restoreOverDamageWithALog();
+    void restoreWithoutAPresentFile();
+    void restoreFails_data();
+    void restoreFails();
+
+private:
+    QString path(const QString& name) const { return m_folder->filePath(name); }
+    QString daily(QDate day) const
+    {
+        return path(u"backup/Orvanedata-"_s + day.toString(Qt::ISODate) + u".dll"_s);
+    }
+    QStringList backups() const { return QDir(path(u"backup"_s)).entryList(QDir::Files, QDir::Name); }
+    QStringList kept() const
+    {
+        return QDir(path(u"program"_s)).entryList({u"*-replaced-*"_s}, QDir::Files, QDir::Name);
+    }
+    void add(const QString& name)
+    {
+        m_book.execute(u"insert into cnt_main (name) values ('"_s + name + u"')"_s);
+    }
+    static QByteArray bytes(const QString& path);
+    static void put(const QString& path, const QByteArray& bytes);
+    static QStringList names(const QString& database);
+
+    const QDate m_today{2026, 6, 15};
+    const QDateTime m_now{m_today, QTime(10, 30)};
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file;
+    jet::Database m_book;
+};
+
+void BackupsTest::init()
+{
+    m_book.close();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_file = path(u"program/Orvanedata.dll"_s);
+    QDir().mkpath(path(u"program"_s));
+    QVERIFY(BookFiles::makeNew(m_file, BookPart::Data, false));
+    QCOMPARE(m_book.open(m_file), jet::Database::OpenResult::Opened);
+    add(u"Asha"_s);
+}
+
+QByteArray BackupsTest::bytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void BackupsTest::put(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QStringList BackupsTest::names(const QString& path)
+{
+    jet::Database database;
+    if (database.open(path) != jet::Database::OpenResult::Opened)
+        return {u"not opened"_s};
+    QStringList all;
+    for (auto rows = database.openRecordset(u"select name from cnt_main order by id"_s); !rows.eof();
+         rows.moveNext())
+        all << rows.textOrEmpty(u"name");
+    return all;
+}
+
+void BackupsTest::onceADay()
+{
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Made);
+    add(u"Bela"_s);
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::NotNeeded);
+    QCOMPARE(names(daily(m_today)), QStringList{u"Asha"_s});
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(1)), BackupResult::Made);
+    QCOMPARE(names(daily(m_today.addDays(1))), (QStringList{u"Asha"_s, u"Bela"_s}));
+    // One file each: no log, no unfinished copy.
+    QCOMPARE(backups(), (QStringList{u"Orvanedata-2026-06-15.dll"_s, u"Orvanedata-2026-06-16.dll"_s}));
+}
+
+void BackupsTest::rotationKeepsTenAndTouchesNothingElse()
+{
+    const QStringList foreign{u"Orvanedata-2001-01-01.dll.bak"_s, u"Orvanedata-2001-13-01.dll"_s,
+        u"Orvanedata-version-0.dll"_s, u"My Orvanedata-2001-01-01.dll"_s, u"Orvanedata-2001-01-01 (1).dll"_s,
+        u"Orvaneinfo-2001-01-01.dll"_s, u"notes.txt"_s};
+    for (const QString& name : foreign)
+        put(path(u"backup/"_s + name), "mine");
+    for (int i = 0; i < 14; ++i)
+        QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i * 3)), BackupResult::Made);
+    for (const QString& name : foreign)
+        QCOMPARE(bytes(path(u"backup/"_s + name)), "mine");
+    QCOMPARE(backups().size(), foreign.size() + 10);
+    const QList<Backup> listed = listBackups(path(u"backup"_s));
+    QCOMPARE(listed.size(), 10);
+    QCOMPARE(listed.first().day, m_today.addDays(13 * 3));
+    QCOMPARE(listed.last().day, m_today.addDays(4 * 3));
+}
+
+void BackupsTest::clockSetBack()
+{
+    for (int i = 0; i < 10; ++i)
+        backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i));
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addYears(-5)), BackupResult::Made);
+    QVERIFY(QFileInfo::exists(daily(m_today.addYears(-5))));
+}
+
+// Damage in the book must not push the good copies out, one a day.
+void BackupsTest::damagedBookIsNoBackup()
+{
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Made);
+    m_book.close();
+    QByteArray damaged = bytes(m_file);
+    constexpr int kTail = 6 * 4096;
+    damaged.replace(damaged.size() - kTail, kTail, QByteArray(kTail, 'Z'));
+    put(m_file, damaged);
+    QCOMPARE(m_book.open(m_file), jet::Database::OpenResult::Opened);
+    const BackupResult result = backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(1));
+    QCOMPARE(result, BackupResult::BookUnsound);
+    QCOMPARE(backups(), QStringList{u"Orvanedata-2026-06-15.dll"_s});
+}
+
+void BackupsTest::noRoom()
+{
+    put(path(u"backup"_s), "a file where the folder should be");
+    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Failed);
+    QCOMPARE(bytes(path(u"backup"_s)), "a file where the folder should be");
+    QVERIFY(listBackups(path(u"backup"_s)).isEmpty());
+}
+
+// Newest first, but over a cut copy and one that is rotten inside.
+void BackupsTest::lastGood()
+{
+    QVERIFY(!lastGoodBackup(path(u"backup"_s)));
+    for (int i = 0; i < 3; ++i)
+        backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i));
+    const QByteArray whole = bytes(daily(m_today));
+    put(daily(m_today.addDays(3)), whole.left(whole.size() / 3));
+    QByteArray rotten = whole;
+    rotten.replace(3 * 4096, 9 * 4096, QByteArray(9 * 4096, 'Z'));
+    put(daily(m_today.addDays(2)), rotten);
+    QCOMPARE(listBackups(path(u"backup"_s)).first().day, m_today.addDays(2));
+    QCOMPARE(lastGoodBackup(path(u"backup"_s)).value().day, m_today.addDays(1));
+    QCOMPARE(bytes(daily(m_today.addDays(2))), rotten);
+}
+
+void BackupsTest::restoreKeepsThePresentFile()
+{
+    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    add(u"Bela"_s);
+    m_book.close();
+    for (int round = 1; round <= 2; ++round) {
+        const Restored restored = restore(daily(m_today), m_file, m_now);
+        QVERIFY2(restored, qPrintable(restored.reason));
+        QCOMPARE(names(m_file), QStringList{u"Asha"_s});
+        QCOMPARE(kept().size(), round);
+    }
+    QCOMPARE(kept().first(), u"Orvanedata-replaced-2026-06-15-103000-2.dll"_s);
+    QCOMPARE(names(path(u"program/Orvanedata-replaced-2026-06-15-103000.dll"_s)),
+        (QStringList{u"Asha"_s, u"Bela"_s}));
+    QCOMPARE(names(daily(m_today)), QStringList{u"Asha"_s});
+    // The restored file is a book that is written to, whatever rights the copy had.
+    QCOMPARE(m_book.open(m_file), jet::Database::OpenResult::Opened);
+    QVERIFY(m_book.execute(u"insert into cnt_main (name) values ('Chand')"_s));
+}
+
+// The log of the replaced book holds its newest rows: it goes with it and is not played into the copy.
+void BackupsTest::restoreOverDamageWithALog()
+{
+    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    add(u"Bela"_s);
+    const QByteArray file = bytes(m_file);
+    const QByteArray log = bytes(m_file + u"-wal"_s);
+    QVERIFY(!log.isEmpty());
+    m_book.close();
+    put(m_file, file);
+    put(m_file + u"-wal"_s, log);
+
+    const Restored restored = restore(daily(m_today), m_file, m_now);
+    QVERIFY(restored);
+    QCOMPARE(bytes(restored.keptFile), file);
+    QCOMPARE(bytes(restored.keptFile + u"-wal"_s), log);
+    QCOMPARE(names(m_file), QStringList{u"Asha"_s});
+    QCOMPARE(names(restored.keptFile), (QStringList{u"Asha"_s, u"Bela"_s}));
+}
+
+void BackupsTest::restoreWithoutAPresentFile()
+{
+    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    m_book.close();
+    QVERIFY(QFile::remove(m_file));
+    // The log of a lost book is all that is left of it.
+    put(m_file + u"-wal"_s, "newest rows");
+    const Restored restored = restore(daily(m_today), m_file, m_now);
+    QVERIFY(restored);
+    QCOMPARE(restored.keptFile, QString());
+    QCOMPARE(bytes(path(u"program"_s) + u'/' + kept().value(0)), "newest rows");
+    QCOMPARE(names(m_file), QStringList{u"Asha"_s});
+}
+
+void BackupsTest::restoreFails_data()
+{
+    QTest::addColumn<QByteArray>("backup");
+    QTest::addColumn<bool>("copyFails");
+    QTest::newRow("backup cut short") << QByteArray("SQLite format 3") << false;
+    QTest::newRow("backup is a text") << QByteArray("hello") << false;
+    QTest::newRow("backup is gone") << QByteArray() << false;
+    QTest::newRow("no room for the copy") << QByteArray("whole") << true;
+}
+
+void BackupsTest::restoreFails()
+{
+    QFETCH(const QByteArray, backup);
+    QFETCH(const bool, copyFails);
+    if (backup == "whole")
+        backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    else if (!backup.isEmpty())
+        put(daily(m_today), backup);
+    m_book.close();
+    const QByteArray before = bytes(m_file);
+    const QStringList filesBefore = QDir(path(u"program"_s)).entryList(QDir::Files);
+    if (copyFails)
+        QDir().mkpath(m_file + u".new/in the way"_s);
+    const Restored restored = restore(daily(m_today), m_file, m_now);
+    QVERIFY(!restored);
+    QVERIFY(!restored.reason.isEmpty());
+    QCOMPARE(bytes(m_file), before);
+    QCOMPARE(QDir(path(u"program"_s)).entryList(QDir::Files), filesBefore);
+}
+
+QTEST_GUILESS_MAIN(BackupsTest)
+#include "backups_test.moc"

@@ -1,0 +1,138 @@
+#include <signal.h>
+
+#include <QProcess>
+#include <QtTest>
+
+#include "platform/single_instance.h"
+
+using namespace Qt::StringLiterals;
+using platform::SingleInstance;
+
+/// The test program is its own second program: with "hold FOLDER" it says whether it is the first and stays.
+class SingleInstanceTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void firstAndFree();
+    void secondRaisesTheFirst();
+    void afterACrash();
+    void unreadableLock();
+    void firstThatDoesNotAnswer();
+    void oneForEachFolder();
+
+private:
+    /// What the other program says: "first" or "second".
+    QByteArray start(QProcess& other) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void SingleInstanceTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+QByteArray SingleInstanceTest::start(QProcess& other) const
+{
+    other.start(QCoreApplication::applicationFilePath(), {u"hold"_s, m_folder->path()});
+    // The first must serve its events while the other asks.
+    const bool spoke = QTest::qWaitFor([&other] { return other.bytesAvailable() > 0; }, 10'000);
+    return spoke ? other.readLine().trimmed() : QByteArray();
+}
+
+void SingleInstanceTest::firstAndFree()
+{
+    {
+        const SingleInstance first(m_folder->path());
+        QVERIFY(first.isFirst());
+    }
+    const SingleInstance next(m_folder->path());
+    QVERIFY(next.isFirst());
+}
+
+void SingleInstanceTest::secondRaisesTheFirst()
+{
+    SingleInstance first(m_folder->path());
+    QSignalSpy raised(&first, &SingleInstance::raiseRequested);
+    QProcess other;
+    QCOMPARE(start(other), "second");
+    QTRY_COMPARE(raised.count(), 1);
+    QProcess third;
+    QCOMPARE(start(third), "second");
+    QTRY_COMPARE(raised.count(), 2);
+    other.kill();
+    third.kill();
+    other.waitForFinished();
+    third.waitForFinished();
+}
+
+void SingleInstanceTest::afterACrash()
+{
+    QProcess other;
+    QCOMPARE(start(other), "first");
+    QVERIFY(!SingleInstance(m_folder->path()).isFirst());
+    other.kill();
+    QVERIFY(other.waitForFinished());
+    QVERIFY(QFileInfo::exists(m_folder->filePath(u".orvane.lock"_s)));
+
+    SingleInstance first(m_folder->path());
+    QVERIFY(first.isFirst());
+    // And it is reached where the dead one had its socket.
+    QSignalSpy raised(&first, &SingleInstance::raiseRequested);
+    QProcess second;
+    QCOMPARE(start(second), "second");
+    QTRY_COMPARE(raised.count(), 1);
+    second.kill();
+    second.waitForFinished();
+}
+
+void SingleInstanceTest::unreadableLock()
+{
+    QFile lock(m_folder->filePath(u".orvane.lock"_s));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    const SingleInstance first(m_folder->path());
+    QVERIFY(first.isFirst());
+}
+
+void SingleInstanceTest::firstThatDoesNotAnswer()
+{
+    QProcess other;
+    QCOMPARE(start(other), "first");
+    ::kill(pid_t(other.processId()), SIGSTOP);
+    QElapsedTimer time;
+    time.start();
+    const bool first = SingleInstance(m_folder->path()).isFirst();
+    const qint64 waited = time.elapsed();
+    ::kill(pid_t(other.processId()), SIGCONT);
+    other.kill();
+    other.waitForFinished();
+    QVERIFY(!first);
+    QVERIFY2(waited < 3000, qPrintable(QString::number(waited)));
+}
+
+void SingleInstanceTest::oneForEachFolder()
+{
+    const QTemporaryDir another;
+    const SingleInstance first(m_folder->path());
+    const SingleInstance second(another.path());
+    QVERIFY(first.isFirst());
+    QVERIFY(second.isFirst());
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "hold"_L1) {
+        const SingleInstance instance(arguments.value(2));
+        QTextStream(stdout) << (instance.isFirst() ? "first\n" : "second\n") << Qt::flush;
+        QTimer::singleShot(30'000, &application, &QCoreApplication::quit);
+        return QCoreApplication::exec();
+    }
+    SingleInstanceTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "single_instance_test.moc"

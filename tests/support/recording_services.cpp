@@ -1,0 +1,140 @@
+#include "support/recording_services.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using platform::MailContact;
+
+namespace support {
+
+FixedClock::FixedClock(const QDateTime& time)
+    : m_time(time)
+{
+}
+
+FixedClock::FixedClock(const QDate& day)
+    : m_time(day, QTime(12, 0))
+{
+}
+
+void FixedClock::set(const QDateTime& time)
+{
+    m_time = time;
+}
+
+QDateTime FixedClock::now() const
+{
+    return m_time;
+}
+
+void RecordingSounds::play(QStringView path)
+{
+    played << path.toString();
+}
+
+bool RecordingShell::openFile(QStringView path)
+{
+    openedFiles << path.toString();
+    return true;
+}
+
+bool RecordingShell::openAddress(QStringView address)
+{
+    openedAddresses << address.toString();
+    return true;
+}
+
+bool RecordingShell::siblingExists(QStringView name) const
+{
+    return siblings.contains(name.startsWith(u'\\') ? name.mid(1) : name, Qt::CaseInsensitive);
+}
+
+bool RecordingShell::startSibling(QStringView name)
+{
+    if (!siblingExists(name))
+        return false;
+    startedSiblings << (name.startsWith(u'\\') ? name.mid(1) : name).toString();
+    return true;
+}
+
+void RecordingShell::endProgram()
+{
+    ++ends;
+}
+
+QString FixedFolders::SpecialFolderPath(int csidl) const
+{
+    return folders.value(csidl);
+}
+
+bool RecordingFavourites::AddFavourite(QStringView url, QStringView name, QStringView suffix)
+{
+    if (url.trimmed().isEmpty())
+        return false;
+    added.emplace_back(name.toString() + suffix.toString(), url.toString());
+    return true;
+}
+
+void RecordingHelpViewer::openHelp(QStringView path)
+{
+    opened << path.toString();
+}
+
+bool RecordingMailContacts::add(const MailContact& contact)
+{
+    calls << u"add "_s + contact.key;
+    contacts.push_back(contact);
+    contacts.back().item = u"item"_s + QString::number(++m_lastItem);
+    return true;
+}
+
+bool RecordingMailContacts::update(const MailContact& contact)
+{
+    calls << u"update "_s + contact.key;
+    const auto found = find(contact.key);
+    if (found == contacts.end())
+        return false;
+    const QString item = found->item;
+    *found = contact;
+    found->item = item;
+    return true;
+}
+
+bool RecordingMailContacts::assignKey(const QString& item, const QString& key)
+{
+    calls << u"assignKey "_s + item + u' ' + key;
+    const auto found = std::find_if(
+        contacts.begin(), contacts.end(), [&item](const MailContact& c) { return c.item == item; });
+    if (found == contacts.end())
+        return false;
+    found->key = key;
+    return true;
+}
+
+bool RecordingMailContacts::remove(const QString& key)
+{
+    calls << u"remove "_s + key;
+    const auto found = find(key);
+    if (found == contacts.end())
+        return false;
+    contacts.erase(found);
+    return true;
+}
+
+bool RecordingMailContacts::contains(const QString& key)
+{
+    return find(key) != contacts.end();
+}
+
+std::vector<MailContact> RecordingMailContacts::list()
+{
+    return contacts;
+}
+
+std::vector<MailContact>::iterator RecordingMailContacts::find(const QString& key)
+{
+    return std::find_if(contacts.begin(), contacts.end(),
+        [&key](const MailContact& c) { return !key.isEmpty() && c.key == key; });
+}
+
+} // namespace support

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include <QHash>
+#include <QStringList>
+
+#include "platform/clock.h"
+#include "platform/contact_sync.h"
+#include "platform/favourites.h"
+#include "platform/help_viewer.h"
+#include "platform/shell.h"
+#include "platform/sounds.h"
+#include "platform/special_folders.h"
+
+/// Services of the platform that only write down what was asked of them.
+namespace support {
+
+class FixedClock final : public platform::Clock {
+public:
+    explicit FixedClock(const QDateTime& time);
+    explicit FixedClock(const QDate& day); ///< at noon
+
+    void set(const QDateTime& time);
+    QDateTime now() const override;
+
+private:
+    QDateTime m_time;
+};
+
+class RecordingSounds final : public platform::Sounds {
+public:
+    void play(QStringView path) override;
+
+    QStringList played;
+};
+
+/// Opens all that it is asked to, and knows the siblings that the test names.
+class RecordingShell final : public platform::Shell {
+public:
+    bool openFile(QStringView path) override;
+    bool openAddress(QStringView address) override;
+    bool siblingExists(QStringView name) const override;
+    bool startSibling(QStringView name) override;
+    void endProgram() override;
+
+    QStringList siblings; ///< file names without the leading backslash
+    QStringList openedFiles;
+    QStringList openedAddresses;
+    QStringList startedSiblings;
+    int ends = 0;
+};
+
+/// Folders on the root drive, or what the test sets for a number.
+class FixedFolders final : public platform::SpecialFolders {
+public:
+    QString SpecialFolderPath(int csidl) const override;
+
+    QHash<int, QString> folders{{0x05, QStringLiteral("C:\\Documents")},
+        {0x06, QStringLiteral("C:\\Favorites")}, {0x10, QStringLiteral("C:\\Desktop")}};
+};
+
+class RecordingFavourites final : public platform::Favourites {
+public:
+    bool AddFavourite(QStringView url, QStringView name, QStringView suffix) override;
+
+    std::vector<std::pair<QString, QString>> added; ///< name with suffix, address
+};
+
+class RecordingHelpViewer final : public platform::HelpViewer {
+public:
+    void openHelp(QStringView path) override;
+
+    QStringList opened;
+};
+
+/// A mail client whose contacts lie in memory.
+class RecordingMailContacts final : public platform::MailContacts {
+public:
+    bool add(const platform::MailContact& contact) override;
+    bool update(const platform::MailContact& contact) override;
+    bool assignKey(const QString& item, const QString& key) override;
+    bool remove(const QString& key) override;
+    bool contains(const QString& key) override;
+    std::vector<platform::MailContact> list() override;
+
+    std::vector<platform::MailContact> contacts;
+    QStringList calls; ///< "add 17OV", "update 17OV", "remove 17OV", also those that failed
+
+private:
+    std::vector<platform::MailContact>::iterator find(const QString& key);
+
+    int m_lastItem = 0;
+};
+
+} // namespace support

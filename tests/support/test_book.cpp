@@ -1,0 +1,104 @@
+#include "support/test_book.h"
+
+#include <QDate>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace support {
+
+namespace {
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString cell(const QVariant& value)
+{
+    if (!value.isValid())
+        return u"null"_s;
+    return value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate) : value.toString();
+}
+
+void addSampleRows(jet::Database& data)
+{
+    jet::Batch batch(data);
+    const QByteArray lines = contents(QStringLiteral(ORVANE_SOURCE_DIR "/tests/jet/data/rows.jsonl"));
+    for (const QByteArray& line : lines.split('\n')) {
+        const QJsonObject entry = QJsonDocument::fromJson(line).object();
+        if (entry.isEmpty())
+            continue;
+        jet::Recordset rows = data.openRecordset(u"select * from ["_s + entry[u"table"].toString() + u']');
+        rows.addNew();
+        const QJsonObject row = entry[u"row"].toObject();
+        for (auto column = row.begin(); column != row.end(); ++column)
+            rows.set(column.key(), column.value().isNull() ? QVariant() : column.value().toVariant());
+        if (!rows.update())
+            qFatal("a sample row was refused: %s", line.constData());
+    }
+}
+
+} // namespace
+
+TestBook::TestBook(Rows rows)
+{
+    if (!jet::Database::create(path()) || m_data.open(path()) != jet::Database::OpenResult::Opened)
+        qFatal("no test database");
+    jet::Schema all = schema();
+    for (jet::SchemaTable& table : all.tables)
+        table.database = u"data"_s;
+    if (!m_data.applySchema(all, u"data"_s))
+        qFatal("the schema was refused");
+    if (rows == Rows::Sample)
+        addSampleRows(m_data);
+    m_data.setFailureHandler([this](const jet::Failure& failure) {
+        m_failures << failure.reason + u" in: "_s + failure.statement.left(300);
+    });
+}
+
+QString TestBook::path() const { return m_folder.filePath(u"Orvanedata.dll"_s); }
+
+jet::Schema TestBook::schema()
+{
+    return jet::Schema::fromCsv(contents(QStringLiteral(ORVANE_SOURCE_DIR "/data/schema.csv")));
+}
+
+QString TestBook::unexpected()
+{
+    QStringList problems;
+    for (const QString& failure : m_failures) {
+        const auto expected = std::find_if(
+            m_expected.begin(), m_expected.end(), [&](const QString& piece) { return failure.contains(piece); });
+        if (expected == m_expected.end())
+            problems << u"unexpected: "_s + failure;
+        else
+            m_expected.erase(expected);
+    }
+    for (const QString& piece : m_expected)
+        problems << u"did not come: "_s + piece;
+    m_failures.clear();
+    m_expected.clear();
+    return problems.join(u'\n');
+}
+
+QStringList TestBook::rows(const QString& sql, jet::Way way)
+{
+    QStringList result;
+    jet::Recordset set = m_data.openRecordset(sql, way);
+    for (int row = 0; row < set.count(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < set.columns().size(); ++column)
+            cells << cell(set.valueAt(row, column));
+        result << cells.join(u'|');
+    }
+    return result;
+}
+
+QString TestBook::firstText(const QString& sql) { return m_data.openRecordset(sql).textAt(0); }
+
+} // namespace support

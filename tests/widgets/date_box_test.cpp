@@ -1,0 +1,163 @@
+#include "widgets/date_box.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+using namespace widgets;
+
+class DateBoxTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void formats_data();
+    void formats();
+    void reads_data();
+    void reads();
+    void wrongTextStays();
+    void tidiedWhenLeft();
+    void twoDigitYearKeepsCentury();
+    void tellsOfChangesOnce();
+    void calendarFillsTheField();
+};
+
+void DateBoxTest::formats_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("day first") << u"dd MMM-yyyy"_s << u"05 Mar-1990"_s;
+    QTest::newRow("month first") << u"MMM dd-yyyy"_s << u"Mar 05-1990"_s;
+    QTest::newRow("for statements") << u"dd-MMM-yyyy"_s << u"05-Mar-1990"_s;
+    QTest::newRow("for rows") << u"dd/MMM/yyyy"_s << u"05/Mar/1990"_s;
+    QTest::newRow("short") << u"dd-MMM-yy"_s << u"05-Mar-90"_s;
+    QTest::newRow("short, month first") << u"MMM-dd-yy"_s << u"Mar-05-90"_s;
+    QTest::newRow("small letters are months too") << u"dd mmm"_s << u"05 Mar"_s;
+}
+
+void DateBoxTest::formats()
+{
+    QFETCH(QString, pattern);
+    QLocale::setDefault(QLocale(QLocale::German)); // March is not März in a stored date
+    QTEST(formatDate(QDate(1990, 3, 5), pattern), "text");
+    QCOMPARE(formatDate({}, pattern), QString());
+    QLocale::setDefault(QLocale::c());
+}
+
+void DateBoxTest::reads_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QDate>("dayFirst"); // invalid: no date
+    QTest::addColumn<QDate>("monthFirst");
+    const QDate none;
+    const QDate february(1990, 2, 1);
+    const auto both = [](const char* name, const QString& text, QDate date) {
+        QTest::newRow(name) << text << date << date;
+    };
+    both("own format", u"01 Feb-1990"_s, february);
+    both("own format, month first", u"Feb 01-1990"_s, february);
+    both("long month, any case", u"1 FEBRUARY 1990"_s, february);
+    both("comma", u"feb 1, 1990"_s, february);
+    both("no blanks", u"1Feb1990"_s, february);
+    both("year first", u"1990-02-01"_s, february);
+    both("year first, month word", u"1990 Feb 1"_s, february);
+    both("blanks around", u"  1.feb.90 "_s, february);
+    both("September in four letters", u"3 sept 2001"_s, QDate(2001, 9, 3));
+    QTest::newRow("three numbers") << u"1/2/1990"_s << february << QDate(1990, 1, 2);
+    both("first number too large for a month", u"31/1/1990"_s, QDate(1990, 1, 31));
+    both("second number too large for a month", u"1/31/1990"_s, QDate(1990, 1, 31));
+    QTest::newRow("two-digit year of this century") << u"1.2.29"_s << QDate(2029, 2, 1) << QDate(2029, 1, 2);
+    QTest::newRow("two-digit year of the last") << u"1.2.30"_s << QDate(1930, 2, 1) << QDate(1930, 1, 2);
+    both("leap day", u"29 Feb 2000"_s, QDate(2000, 2, 29));
+    both("no leap year", u"29 Feb 1900"_s, none);
+    both("30th of February", u"30 Feb 1990"_s, none);
+    both("both over 12", u"13/13/1990"_s, none);
+    both("foreign month", u"1 Mai 1990"_s, none);
+    both("month too short to tell", u"1 Ju 1990"_s, none);
+    both("month and year only", u"Feb 1990"_s, none);
+    both("three-digit year", u"1/2/199"_s, none);
+    both("long number", u"1/2/99999999999999"_s, none);
+    both("a word more", u"about 1 Feb 1990"_s, none);
+    both("sign", u"1#2#1990"_s, none);
+    both("two months", u"Feb Mar 1990"_s, none);
+    both("empty", {}, none);
+}
+
+void DateBoxTest::reads()
+{
+    QFETCH(QString, text);
+    QTEST(readDate(text, DateOrder::DayFirst).value_or(QDate()), "dayFirst");
+    QTEST(readDate(text, DateOrder::MonthFirst).value_or(QDate()), "monthFirst");
+}
+
+void DateBoxTest::wrongTextStays()
+{
+    DateBox box;
+    box.setToolTip(u"Day of birth"_s);
+    const QColor right = box.palette().color(QPalette::Text);
+    QTest::keyClicks(&box, u"30 Feb 1990"_s);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.text(), u"30 Feb 1990"_s);
+    QVERIFY(!box.date());
+    QVERIFY(!box.isValidOrEmpty());
+    QVERIFY(box.palette().color(QPalette::Text) != right);
+    QVERIFY(box.toolTip().contains(u"01 Feb-1990"_s));
+
+    box.clear();
+    QVERIFY(box.isValidOrEmpty());
+    QCOMPARE(box.palette().color(QPalette::Text), right);
+    QCOMPARE(box.toolTip(), u"Day of birth"_s);
+}
+
+void DateBoxTest::tidiedWhenLeft()
+{
+    DateBox box;
+    box.setFormat(u"MMM dd-yyyy"_s);
+    QTest::keyClicks(&box, u"2/1/1990"_s);
+    QCOMPARE(box.text(), u"2/1/1990"_s);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.text(), u"Feb 01-1990"_s);
+    box.setFormat(u"dd MMM-yyyy"_s);
+    QCOMPARE(box.text(), u"01 Feb-1990"_s);
+}
+
+void DateBoxTest::twoDigitYearKeepsCentury()
+{
+    DateBox box;
+    box.setFormat(u"dd-MMM-yy"_s);
+    box.setDate(QDate(1925, 2, 1));
+    QCOMPARE(box.text(), u"01-Feb-25"_s);
+    QCOMPARE(box.date(), QDate(1925, 2, 1));
+    box.clear();
+    QTest::keyClicks(&box, u"1/2/1912"_s);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.date(), QDate(1912, 2, 1));
+}
+
+void DateBoxTest::tellsOfChangesOnce()
+{
+    DateBox box;
+    QSignalSpy changes(&box, &DateBox::dateChanged);
+    box.setDate(QDate(1990, 2, 1));
+    QCOMPARE(changes.size(), 1);
+    box.setText(u"1 Feb 1990"_s); // the same day in other words
+    QCOMPARE(changes.size(), 1);
+    box.setText(u"1 Feb 199"_s);
+    QCOMPARE(changes.size(), 2);
+}
+
+void DateBoxTest::calendarFillsTheField()
+{
+    DateBox box;
+    box.setDate(QDate(1990, 2, 1));
+    box.show();
+    QTest::keyClick(&box, Qt::Key_F4);
+    auto* calendar = box.findChild<QCalendarWidget*>();
+    QVERIFY(calendar);
+    QCOMPARE(calendar->selectedDate(), QDate(1990, 2, 1));
+    Q_EMIT calendar->clicked(QDate(1990, 2, 14));
+    QCOMPARE(box.text(), u"14 Feb-1990"_s);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+QTEST_MAIN(DateBoxTest)
+#include "date_box_test.moc"

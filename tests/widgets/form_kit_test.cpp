@@ -1,0 +1,156 @@
+#include "widgets/date_box.h"
+#include "widgets/fields.h"
+#include "widgets/filled_combo.h"
+#include "widgets/form_kit.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+using namespace widgets;
+
+class FormKitTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabWalksInTheOrderOfTheCalls();
+    void everyInputIsLabelled();
+    void lengthsComeFromTheColumns();
+    void radiosOfTwoRunsAreTwoChoices();
+    void gridTakesTheRoomThatIsLeft();
+    void textsSurviveTheFields_data();
+    void textsSurviveTheFields();
+};
+
+namespace {
+
+FormKit addressForm(QWidget* page, QWidget* later)
+{
+    FormKit form(page, [](QStringView column) { return column == u"h_std" ? 6 : 40; });
+    form.group(u"Home"_s)
+        .line(u"txtadd1"_s, u"&Address"_s, u"h_add1"_s)
+        .line(u"txtadd2"_s, {}, u"h_add2"_s)
+        .line(u"txtstd"_s, u"Area c&ode"_s, u"h_std"_s, KeyFilter::NoLetters)
+        .beside()
+        .line(u"txtph1"_s, u"Home && &away"_s, u"H_Ph1"_s)
+        .combo(u"dtcmbcity"_s, u"&City"_s, u"h_city"_s)
+        .nextColumn()
+        .group(u"Personal"_s)
+        .date(u"DateBday"_s, u"&Birthday"_s, u"M_BD"_s)
+        .memo(u"txtMemo"_s, u"N&otes"_s, u"memo1"_s)
+        .widget(u"later"_s, u"&Later"_s, later)
+        .check(u"chkType"_s, u"&Main cities"_s)
+        .buttonRow()
+        .button(u"CmdHelp"_s, {}, {}, u"Help"_s)
+        .stretch()
+        .button(u"Command1"_s, u"&Save"_s);
+    return form;
+}
+
+} // namespace
+
+void FormKitTest::tabWalksInTheOrderOfTheCalls()
+{
+    QWidget page;
+    auto* later = new QLineEdit(&page); // made before all others
+    const FormKit form = addressForm(&page, later);
+    QStringList expected;
+    for (const Control& control : form.controls())
+        expected += control.name;
+    QCOMPARE(expected.size(), 11);
+
+    page.show();
+    page.activateWindow();
+    form.controls().constFirst().widget->setFocus();
+    QStringList walked;
+    for (int i = 0; i < expected.size(); ++i) {
+        walked += page.focusWidget()->objectName();
+        QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(walked, expected);
+}
+
+void FormKitTest::everyInputIsLabelled()
+{
+    QWidget page;
+    const FormKit form = addressForm(&page, new QLineEdit(&page));
+    QHash<QWidget*, QString> labels;
+    for (const auto* label : page.findChildren<QLabel*>()) {
+        if (label->buddy())
+            labels.insert(label->buddy(), label->text());
+    }
+    QCOMPARE(labels.value(child<QWidget>(&page, u"txtadd1"_s)), u"&Address"_s);
+    QCOMPARE(labels.value(child<DateBox>(&page, u"DateBday"_s)), u"&Birthday"_s);
+    QCOMPARE(labels.value(child<FilledCombo>(&page, u"dtcmbcity"_s)), u"&City"_s);
+    for (const Control& control : form.controls())
+        QVERIFY2(!control.widget->accessibleName().isEmpty(), qPrintable(control.name));
+    QCOMPARE(child<QWidget>(&page, u"txtadd2"_s)->accessibleName(), u"Address"_s);
+    QCOMPARE(child<QWidget>(&page, u"txtph1"_s)->accessibleName(), u"Home & away"_s);
+    QCOMPARE(child<QWidget>(&page, u"CmdHelp"_s)->accessibleName(), u"Help"_s);
+}
+
+void FormKitTest::lengthsComeFromTheColumns()
+{
+    QWidget page;
+    addressForm(&page, new QLineEdit(&page));
+    auto* code = child<QLineEdit>(&page, u"txtstd"_s);
+    QTest::keyClicks(code, u"a0123456789"_s);
+    QCOMPARE(code->text(), u"012345"_s);
+    auto* city = child<QComboBox>(&page, u"dtcmbcity"_s);
+    QTest::keyClicks(city, QString(50, u'x'));
+    QCOMPARE(city->currentText().size(), 40);
+}
+
+void FormKitTest::radiosOfTwoRunsAreTwoChoices()
+{
+    QWidget page;
+    FormKit form(&page);
+    form.group()
+        .radio(u"Option1"_s, u"&All"_s)
+        .radio(u"Option2"_s, u"&USA"_s)
+        .line(u"txt"_s, u"&Text"_s)
+        .radio(u"Option3"_s, u"&List"_s)
+        .radio(u"Option4"_s, u"&Tree"_s);
+    for (const QString& name : {u"Option1"_s, u"Option3"_s, u"Option4"_s})
+        child<QRadioButton>(&page, name)->click();
+    QVERIFY(child<QRadioButton>(&page, u"Option1"_s)->isChecked());
+    QVERIFY(!child<QRadioButton>(&page, u"Option3"_s)->isChecked());
+    QVERIFY(child<QRadioButton>(&page, u"Option4"_s)->isChecked());
+}
+
+void FormKitTest::gridTakesTheRoomThatIsLeft()
+{
+    QWidget page;
+    FormKit form(&page);
+    auto* grid = new QTableView;
+    form.group(u"Search"_s).line(u"txt"_s, u"&Text"_s).group(u"Found"_s).wide(u"FG"_s, u"Found"_s, grid);
+    page.resize(500, 900);
+    page.show();
+    QVERIFY2(grid->height() > 650, qPrintable(QString::number(grid->height())));
+    QVERIFY(child<QLineEdit>(&page, u"txt"_s)->height() < 40);
+}
+
+void FormKitTest::textsSurviveTheFields_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("lines end as in the data") << u"txtMemo"_s << u"one\r\ntwo\r\n"_s;
+    QTest::newRow("a button's & is no mnemonic") << u"Command1"_s << u"Ram & Sons"_s;
+    QTest::newRow("a text that is not in the list") << u"dtcmbcity"_s << u"Nowhere"_s;
+    QTest::newRow("letters in an area code") << u"txtstd"_s << u"0a"_s;
+    QTest::newRow("no date") << u"DateBday"_s << u"some day"_s;
+}
+
+void FormKitTest::textsSurviveTheFields()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QWidget page;
+    addressForm(&page, new QLineEdit(&page));
+    auto* control = child<QWidget>(&page, name);
+    setTextOf(control, text);
+    QCOMPARE(textOf(control), text);
+}
+
+QTEST_MAIN(FormKitTest)
+#include "form_kit_test.moc"
