@@ -156,6 +156,7 @@ private Q_SLOTS:
     {
         const QString path = at(u"book"_s);
         QVERIFY(makeBook(path));
+        QCOMPARE(contents(path).mid(18, 2), QByteArray("\2\2")); // the write-ahead log is on
         QSet<QString> reported;
         for (int round = 0; round < 20; ++round) {
             QProcess child;

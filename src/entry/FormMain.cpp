@@ -1,0 +1,633 @@
+#include "entry/FormMain.h"
+
+#include "core/contact_category.h"
+#include "core/contact_names.h"
+#include "core/date_patterns.h"
+#include "core/frame.h"
+#include "core/record_steps.h"
+#include "core/scheduler_rows.h"
+#include "core/screens.h"
+#include "core/sound_files.h"
+#include "entry/assist_panel.h"
+#include "entry/entry_assists.h"
+#include "entry/entry_lists.h"
+#include "entry/entry_pages.h"
+#include "entry/mail_contact.h"
+#include "entry/photo_store.h"
+#include "entry/save_checks.h"
+#include "platform/clock.h"
+#include "platform/contact_sync.h"
+#include "platform/favourites.h"
+#include "platform/message_boxes.h"
+#include "widgets/date_box.h"
+#include "widgets/fields.h"
+#include "widgets/filled_combo.h"
+#include "widgets/heading_grid.h"
+#include "widgets/picture_box.h"
+#include "widgets/theme.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace entry {
+
+namespace {
+
+QString caption(const char* text) { return QCoreApplication::translate("entry", text); }
+
+/// Which column each field shows when a record is put on the form; the fields not listed show theirs as it is.
+constexpr QStringView kNotFromColumn[] = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
+
+} // namespace
+
+FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* parent)
+    : Screen(context, parent)
+    , m_variant(variant)
+    , sstab1(new QTabWidget)
+    , grdEditList(new widgets::HeadingGrid)
+    , m_assist(new AssistPanel(context.info, context.shared))
+{
+    layOut();
+    m_assists = new EntryAssists(this, sstab1, context);
+    wire();
+}
+
+// On unload the panes of the frame are cleared, and nobody asks for an edit any more.
+FormMain::~FormMain()
+{
+    context().frame.clearStatus();
+    shared().EditRequested = false;
+}
+
+// ---- layout
+
+void FormMain::layOut()
+{
+    setWindowTitle(caption(m_variant.caption));
+    sstab1->setObjectName(u"sstab1"_s);
+    grdEditList->setObjectName(u"grdEditList"_s);
+    grdEditList->setAccessibleName(tr("Contacts to edit"));
+    grdEditList->setMinimumWidth(200);
+
+    const auto sizeOf = [this](QStringView column) { return context().schema.textSize(u"cnt_main", column); };
+    struct Page {
+        QWidget* widget;
+        QString name;
+        QString title;
+        QStringView icon;
+    };
+    const Page pages[] = {
+        {contactPage(sizeOf), u"Contact"_s, tr("&1 Contact"), u"card"},
+        {workOnePage(sizeOf), u"Work1"_s, tr("&2 Work 1"), u"work"},
+        {workTwoPage(sizeOf), u"Work2"_s, tr("&3 Work 2"), u"work"},
+        {personalPage(sizeOf), u"Personal"_s, tr("&4 Personal"), u"family"},
+        {picturePage(), u"Picture"_s, tr("&5 Picture"), u"picture"},
+    };
+    for (const Page& page : pages) {
+        page.widget->setObjectName(page.name);
+        sstab1->addTab(page.widget, widgets::icon(page.icon), page.title);
+    }
+
+    auto* middle = new QSplitter(Qt::Horizontal);
+    middle->addWidget(grdEditList);
+    middle->addWidget(sstab1);
+    middle->addWidget(m_assist);
+    middle->setStretchFactor(1, 1);
+    middle->setChildrenCollapsible(false);
+    grdEditList->hide();
+    m_assist->hide();
+
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(12, 8, 12, 8);
+    whole->addWidget(headRow());
+    whole->addWidget(middle, 1);
+    whole->addWidget(buttonRow());
+    Photo = widgets::child<widgets::PictureBox>(this, u"Photo"_s);
+    widgets::child<QLabel>(this, u"lblPhoto"_s)->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    // Every control that a save reads or a clearing blanks.
+    for (const ColumnRow& row : m_variant.addColumns) {
+        const QString name = row.control.toString();
+        if (!name.isEmpty() && name != u"Photo" && control(name))
+            m_fields.append({name, row.column.toString(), control(name)});
+    }
+    for (const QString& name : {u"dtcmbwstate"_s, u"cboemail1"_s, u"txtcmpnyPrefix"_s, u"txtcmpnySuffix"_s}) {
+        if (QWidget* extra = control(name))
+            m_fields.append({name, name == u"dtcmbwstate" ? u"w_State"_s : QString(), extra});
+    }
+}
+
+QWidget* FormMain::headRow()
+{
+    auto* head = new QWidget;
+    auto* row = new QHBoxLayout(head);
+    row->setContentsMargins(2, 0, 2, 0);
+    auto* mode = new QLabel;
+    mode->setObjectName(u"Label10"_s);
+    QFont bold = mode->font();
+    bold.setBold(true);
+    mode->setFont(bold);
+    auto* id = new QLabel;
+    id->setObjectName(u"lblid"_s);
+    id->setToolTip(tr("The number of the contact"));
+    id->setEnabled(false);
+    auto* name = new QLabel;
+    name->setObjectName(u"lblname"_s);
+    name->setTextFormat(Qt::PlainText);
+    QFont large = name->font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    name->setFont(large);
+    auto* progress = new QProgressBar;
+    progress->setObjectName(u"ProgressBar1"_s);
+    progress->setFixedSize(120, 8);
+    progress->setTextVisible(false);
+    progress->hide();
+    row->addWidget(mode);
+    row->addWidget(id);
+    row->addSpacing(12);
+    row->addWidget(name, 1);
+    row->addWidget(progress);
+    return head;
+}
+
+QWidget* FormMain::buttonRow()
+{
+    auto* buttons = new QWidget;
+    widgets::FormKit kit(buttons);
+    kit.buttonRow()
+        .button(u"SSCommand3"_s, tr("&Add"), u"person-add", tr("Enter a new contact"))
+        .button(u"SSCommand10"_s, tr("&Edit"), u"person-edit", tr("Choose a contact and change it"))
+        .button(u"SSCommand6"_s, tr("Go to Simple"), u"previous", tr("Back to the first page"))
+        .button(u"SSCommand7"_s, tr("Go to Detailed"), u"next", tr("On to the personal page"))
+        .button(u"ssassist"_s, tr("Assist"), u"info", tr("Known cities, names and companies to pick from, and a key pad"))
+        .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
+        .stretch()
+        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save the contact as a card"))
+        .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
+        .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
+    buttons->layout()->setContentsMargins(0, 0, 0, 0);
+    widgets::child<QPushButton>(buttons, u"Command1"_s)->setShortcut(QKeySequence::Save);
+    return buttons;
+}
+
+void FormMain::wire()
+{
+    const auto onClick = [this](const QString& name, auto handler) {
+        connect(widgets::child<QPushButton>(this, name), &QPushButton::clicked, this, handler);
+    };
+    onClick(u"Command1"_s, &FormMain::save);
+    onClick(u"CmdCancel"_s, &FormMain::cancel);
+    onClick(u"SSCommand3"_s, &FormMain::startAdding);
+    onClick(u"SSCommand10"_s, &FormMain::startEditing);
+    onClick(u"SSCommand6"_s, [this] { turnPage(true); });
+    onClick(u"SSCommand7"_s, [this] { turnPage(false); });
+    onClick(u"SSCommand8"_s, [this] {
+        context().screens.show(u"FrmOthers", core::Shown::Modally);
+        refillLists(this);
+    });
+    onClick(u"SSCommand9"_s, &FormMain::selectPhoto);
+    onClick(u"CmdPhto"_s, &FormMain::selectPhoto);
+    onClick(u"cmdNoPhoto"_s, [this] { setText(u"Photo"_s, {}); });
+    onClick(u"ssassist"_s, &FormMain::toggleAssist);
+    onClick(u"CmdSave"_s, &FormMain::saveAs);
+    onClick(u"CmdHelp"_s, [this] { showHelp(m_variant.helpCode.toString(), control(u"CmdHelp"_s)); });
+    widgets::child<QPushButton>(this, u"SSCommand8"_s)->setEnabled(context().screens.has(u"FrmOthers"));
+    widgets::child<QPushButton>(this, u"CmdSave"_s)->setEnabled(context().screens.has(u"FrmAddSave"));
+
+    for (const QString& name : {u"cmbnview"_s, u"Cmbtitle"_s, u"dtcmbfname"_s, u"dtcmblname"_s})
+        connect(widgets::child<QComboBox>(this, name), &QComboBox::currentTextChanged, this, &FormMain::showNameLabel);
+    connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this, &FormMain::showNameLabel);
+
+    const auto chooseRow = [this](int row) { showRecord(grdEditList->textAt(row, u"ID"_s)); };
+    connect(grdEditList, &widgets::HeadingGrid::chosen, this, chooseRow);
+    connect(grdEditList, &QAbstractItemView::clicked, this,
+        [chooseRow](const QModelIndex& index) { chooseRow(index.row()); });
+
+    connect(m_assist, &AssistPanel::picked, m_assists,
+        [this](AssistPanel::Tab tab, const QString& value) { m_assists->takePick(tab, value, m_assist->country()); });
+    connect(m_assist, &AssistPanel::scopeChosen, m_assists, &EntryAssists::takeScope);
+    connect(m_assist, &AssistPanel::keyPressed, m_assists, &EntryAssists::pressKey);
+    wireUserFields();
+}
+
+void FormMain::wireUserFields()
+{
+    for (int number = 1; number <= 3; ++number) {
+        const QString place = QString::number(number);
+        auto* label = findChild<QPushButton*>(u"lbluser"_s + place);
+        if (!label)
+            return;
+        connect(label, &QPushButton::clicked, this, [this, number] { renameUserField(number); });
+        if (number < 3)
+            connect(widgets::child<QComboBox>(this, u"cmbuser"_s + place), &QComboBox::textActivated, this,
+                [this, number](const QString& value) { keepUserValue(number, value); });
+    }
+    connect(widgets::child<QLineEdit>(this, u"txtlbl"_s), &QLineEdit::returnPressed, this, &FormMain::keepUserLabel);
+}
+
+// ---- load and modes
+
+void FormMain::load()
+{
+    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+    for (widgets::DateBox* box : findChildren<widgets::DateBox*>())
+        box->setFormat(core::datePattern(shared().NationalMode));
+    context().data.execute(
+        u"delete * from CNT_MAIN where len(trim(name))=0 and len(trim(first))=0 and len(trim(last))=0 and len(trim(company))=0"_s);
+    showUserLabels();
+    const auto fill = [this](const QString& name, const QStringList& values) {
+        widgets::child<widgets::FilledCombo>(this, name)->setValues(values);
+    };
+    fill(u"Cmbtitle"_s, {u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
+    fill(u"cmbnview"_s, core::nameViews());
+    QStringList sexes;
+    for (const QStringView sex : m_variant.sexes)
+        sexes << sex.toString();
+    fill(u"CmbSex"_s, sexes);
+    fill(u"cmbpriority"_s, {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
+    clearForm();
+    setListSources(this, context());
+    m_assist->selectScope(CityScope::All);
+    if (shared().ContMerge)
+        control(u"DtcmbSubCate"_s)->hide();
+    context().frame.setTitle(caption(m_variant.title));
+    context().frame.showDate(
+        widgets::formatDate(context().services.clock.today(), core::datePattern(shared().NationalMode)));
+    turnPage(true);
+    go(Mode::Idle);
+}
+
+void FormMain::showUserLabels()
+{
+    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    for (int number = 1; number <= 3; ++number) {
+        auto* label = findChild<QPushButton*>(u"lbluser%1"_s.arg(number));
+        if (!label)
+            return;
+        const QString own = setup.textOrEmpty(u"lbluse%1"_s.arg(number));
+        label->setText(own.isEmpty() ? tr("User %1").arg(number) : own);
+    }
+}
+
+void FormMain::go(Mode mode)
+{
+    m_mode = mode;
+    IsEditing = mode == Mode::Editing;
+    const bool idle = mode == Mode::Idle;
+    for (const QString& name : {u"Command1"_s, u"CmdCancel"_s, u"CmdSave"_s})
+        control(name)->setVisible(!idle);
+    for (const QString& name : {u"SSCommand3"_s, u"SSCommand10"_s})
+        control(name)->setVisible(idle);
+    setText(u"Label10"_s, idle ? QString() : mode == Mode::Adding ? tr("Add Mode") : tr("Edit Mode"));
+    grdEditList->setVisible(mode == Mode::Editing);
+    // Without a record there is nothing that a change could be written to.
+    control(u"Command1"_s)->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
+    m_untouched = values().texts;
+}
+
+void FormMain::startAdding()
+{
+    clearForm();
+    go(Mode::Adding);
+    playSound(core::sounds::Add);
+    sstab1->setCurrentIndex(0);
+    control(u"dtcmbfname"_s)->setFocus();
+}
+
+void FormMain::startEditing()
+{
+    grdEditList->fill(u"|Name                    ",
+        context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s), {u"id"_s, u"Name"_s});
+    clearForm();
+    go(Mode::Editing);
+    // Kept: the start of an edit sounds like a deletion.
+    playSound(core::sounds::Delete);
+    grdEditList->setFocus();
+}
+
+void FormMain::cancel()
+{
+    Adodc1.cancelUpdate();
+    clearForm();
+    shared().EditRequested = false;
+    m_assist->hide();
+    setText(u"ssassist"_s, tr("Assist"));
+    go(Mode::Idle);
+    playSound(core::sounds::Cancel);
+}
+
+bool FormMain::showContact(qint64 id)
+{
+    if (!Adodc1.findFirst(u"id=%1"_s.arg(id))) {
+        // Another screen may have added it since this one was opened.
+        Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+        if (!Adodc1.findFirst(u"id=%1"_s.arg(id)))
+            return false;
+    }
+    if (!mayClose())
+        return true;
+    if (!showRecord(QString::number(id)))
+        return false;
+    go(Mode::Editing);
+    grdEditList->hide();
+    context().frame.showPosition(core::positionText(Adodc1));
+    return true;
+}
+
+void FormMain::clearForm()
+{
+    m_assists->setQuiet(true);
+    for (const widgets::Control& field : m_fields)
+        widgets::clear(field.widget);
+    setText(u"lblid"_s, {});
+    setText(u"LblStateFull"_s, {});
+    setText(u"Photo"_s, {});
+    setText(u"Cmbtitle"_s, u"Mr."_s);
+    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    if (setup.hasRow()) {
+        const core::Category category{setup.textOrEmpty(u"categ1"), setup.textOrEmpty(u"categ2")};
+        setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+        setText(u"DtcmbSubCate"_s, category.subcategory);
+        setText(u"cmbpriority"_s, setup.textOrEmpty(u"Priority"));
+        setText(u"txtcmpnySuffix"_s, setup.textOrEmpty(u"cmpnysuffix"));
+    }
+    m_assists->setQuiet(false);
+    showNameLabel();
+}
+
+bool FormMain::showRecord(const QString& id)
+{
+    const auto row = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
+    if (!row.hasRow())
+        return false;
+    clearForm();
+    m_assists->setQuiet(true);
+    for (const widgets::Control& field : m_fields) {
+        if (field.column.isEmpty() || std::ranges::find(kNotFromColumn, field.name) != std::end(kNotFromColumn))
+            continue;
+        if (auto* box = qobject_cast<widgets::DateBox*>(field.widget)) {
+            const QDate date = row.date(field.column);
+            box->setDate(date.isValid() ? std::optional(date) : std::nullopt);
+        } else {
+            widgets::setTextOf(field.widget, row.textOrEmpty(field.column));
+        }
+    }
+    const core::Category category{row.textOrEmpty(u"category1"), row.textOrEmpty(u"category2")};
+    setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+    setText(u"DtcmbSubCate"_s, category.subcategory);
+    const QString email = row.textOrEmpty(u"H_email1");
+    const qsizetype at = email.indexOf(u'@');
+    setText(u"txtemail1"_s, at < 0 ? email : email.left(at));
+    setText(u"cboemail1"_s, at < 0 ? QString() : email.mid(at + 1));
+    setText(u"lblid"_s, row.textOrEmpty(u"id"));
+    setText(u"Photo"_s, row.textOrEmpty(u"PhotLoc"));
+    m_assists->setQuiet(false);
+    showNameLabel();
+    control(u"Command1"_s)->setEnabled(true);
+    m_untouched = values().texts;
+    return true;
+}
+
+void FormMain::showNameLabel()
+{
+    const FormValues now = values();
+    const auto view = core::nameViewOf(now.text(u"cmbnview"));
+    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : QString());
+}
+
+void FormMain::toggleAssist()
+{
+    const bool shown = !m_assist->isVisible();
+    m_assist->setVisible(shown);
+    setText(u"ssassist"_s, shown ? tr("Assist Off") : tr("Assist"));
+}
+
+void FormMain::turnPage(bool simple)
+{
+    sstab1->setCurrentIndex(simple ? 0 : 3);
+    control(u"SSCommand6"_s)->setVisible(!simple);
+    control(u"SSCommand7"_s)->setVisible(simple);
+}
+
+// ---- reading the form
+
+QWidget* FormMain::control(const QString& name) const { return findChild<QWidget*>(name); }
+
+void FormMain::setText(const QString& name, const QString& text)
+{
+    if (name == u"Photo") {
+        m_photoPath = text;
+        Photo->setPath(photoFile(context().services.drive, text));
+        setText(u"lblPhoto"_s, text);
+        return;
+    }
+    if (QWidget* widget = control(name))
+        widgets::setTextOf(widget, text);
+}
+
+FormValues FormMain::values() const
+{
+    FormValues result;
+    for (const widgets::Control& field : m_fields) {
+        result.texts.insert(field.name, widgets::textOf(field.widget));
+        if (const auto* box = qobject_cast<const widgets::DateBox*>(field.widget))
+            result.dates.insert(field.name, box->date());
+    }
+    result.texts.insert(u"Photo"_s, m_photoPath);
+    return result;
+}
+
+bool FormMain::isTouched() const { return m_mode != Mode::Idle && values().texts != m_untouched; }
+
+bool FormMain::mayClose()
+{
+    if (!isTouched())
+        return true;
+    return context().services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
+               shared().AppTitle, platform::Icon::Warning)
+        == platform::Answer::Yes;
+}
+
+// ---- save
+
+void FormMain::refuse(int refusal)
+{
+    switch (Refusal(refusal)) {
+    case Refusal::AllBlank:
+        inform(tr("First, Last and Company are blank. At least one of these should not be blank."));
+        sstab1->setCurrentIndex(0);
+        control(u"dtcmbfname"_s)->setFocus();
+        break;
+    case Refusal::NoNameView: warn(tr("Not a Valid Name View")); break;
+    case Refusal::NeitherNameNorCompany: warn(tr("Either Name or Company should be entered")); break;
+    }
+}
+
+void FormMain::save()
+{
+    const FormValues now = values();
+    if (const auto refusal = refusalOfSave(now))
+        return refuse(int(*refusal));
+    const bool editing = IsEditing || shared().EditRequested;
+    if (editing) {
+        if (const auto refusal = refusalOfEdit(now))
+            return refuse(int(*refusal));
+    }
+    const QString name = core::composeName(*core::nameViewOf(now.text(u"cmbnview")), namePartsOf(now));
+    auto* progress = widgets::child<QProgressBar>(this, u"ProgressBar1"_s);
+    progress->setValue(0);
+    progress->show();
+    const bool stored = editing ? edit(now, name) : add(now, name);
+    // What could not be stored stays on the form, so that it can be saved again.
+    if (!stored) {
+        progress->hide();
+        return;
+    }
+    progress->setValue(45);
+    if (editing)
+        editSideEffects(now, name);
+    else
+        addSideEffects(now, name);
+    progress->setValue(50);
+    endSave();
+}
+
+bool FormMain::add(const FormValues& values, const QString& name)
+{
+    shared().TableName = u"Contact-AddData"_s;
+    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2"_s);
+    rows.addNew();
+    assign(rows, m_variant.addColumns, values, {name, context().services.clock.today(), shared().ContMerge});
+    return rows.update();
+}
+
+bool FormMain::edit(const FormValues& values, const QString& name)
+{
+    jet::Recordset rows = context().data.openRecordset(
+        u"Select * from cnt_main where id="_s + widgets::textOf(control(u"lblid"_s)));
+    if (!rows.hasRow())
+        return false;
+    rows.edit();
+    assign(rows, m_variant.editColumns, values, {name, context().services.clock.today(), shared().ContMerge});
+    return rows.update();
+}
+
+void FormMain::addSideEffects(const FormValues& values, const QString& name)
+{
+    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    if (setup.flag(u"UpdOutllook")) {
+        const auto newest = context().data.openRecordset(u"Select * from cnt_main order by ID desc"_s);
+        const qint64 id = newest.hasRow() ? newest.number(u"id") : 1;
+        context().services.mailContacts.add(mailContactOf(values, name, id));
+        core::ScheduledDates dates{id, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"),
+            values.trimmed(u"dtcspouse"),
+            {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
+            values.date(u"DateBday"), values.date(u"DateSpouse"),
+            {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")}, values.date(u"DateAnn")};
+        core::addSchedulerRows(
+            context().data, core::schedulerRows(dates, context().services.clock.today().year()));
+    }
+    if (setup.flag(u"AddFav"))
+        addFavourites(values, name, m_variant.homeSuffixOnAdd, m_variant.workSuffixOnAdd);
+}
+
+// A change makes no scheduler rows.
+void FormMain::editSideEffects(const FormValues& values, const QString& name)
+{
+    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    if (m_variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
+        context().services.mailContacts.update(
+            mailContactOf(values, name, widgets::textOf(control(u"lblid"_s)).toLongLong()));
+    if (setup.flag(u"AddFav"))
+        addFavourites(values, name, m_variant.homeSuffixOnEdit, m_variant.workSuffixOnEdit);
+}
+
+void FormMain::addFavourites(const FormValues& values, const QString& name, QStringView home, QStringView work)
+{
+    platform::Favourites& favourites = context().services.favourites;
+    favourites.AddFavourite(values.text(u"txtweb"), name, home);
+    favourites.AddFavourite(values.text(u"txtbweb"), name, work);
+}
+
+void FormMain::endSave()
+{
+    shared().EditRequested = false;
+    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+    context().frame.showPosition(core::positionText(Adodc1));
+    clearForm();
+    widgets::child<QProgressBar>(this, u"ProgressBar1"_s)->hide();
+    go(Mode::Idle);
+    sstab1->setCurrentIndex(0);
+    playSound(core::sounds::Save);
+}
+
+void FormMain::saveAs()
+{
+    shared().CallerForm = m_variant.form.toString();
+    context().screens.show(u"FrmAddSave", core::Shown::Modally);
+}
+
+// ---- picture and user fields
+
+void FormMain::selectPhoto()
+{
+    const auto chosen = context().services.boxes.openFile(
+        tr("Select Picture"), tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
+    if (!chosen)
+        return;
+    if (widgets::readPicture(*chosen, {64, 64}).isNull()) {
+        warn(tr("This file is no picture that can be shown."));
+        return;
+    }
+    setText(u"Photo"_s, storePhoto(context().services.drive, *chosen, shared().PhotoStoreMode));
+}
+
+void FormMain::renameUserField(int number)
+{
+    m_renamedField = number;
+    auto* line = widgets::child<QLineEdit>(this, u"txtlbl"_s);
+    line->clear();
+    line->show();
+    line->setFocus();
+}
+
+void FormMain::keepUserLabel()
+{
+    auto* line = widgets::child<QLineEdit>(this, u"txtlbl"_s);
+    const QString label = line->text().trimmed();
+    line->hide();
+    if (label.isEmpty())
+        return;
+    jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    if (!setup.hasRow())
+        return;
+    setup.edit();
+    setup.set(u"lbluse%1"_s.arg(m_renamedField), label);
+    setup.update();
+    showUserLabels();
+}
+
+void FormMain::keepUserValue(int number, const QString& value)
+{
+    if (value.trimmed().isEmpty())
+        return;
+    const QString column = u"user%1"_s.arg(number);
+    jet::Recordset known
+        = context().data.openRecordset(u"select * from CNTB_OTHER where "_s + column + u"='"_s + value + u"'"_s);
+    if (!known.isValid() || !known.isEmpty())
+        return;
+    known.addNew();
+    known.set(column, value);
+    known.update();
+    widgets::child<widgets::FilledCombo>(this, u"cmb"_s + column)->refill();
+}
+
+} // namespace entry

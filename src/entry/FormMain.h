@@ -1,0 +1,89 @@
+#pragma once
+
+#include "core/handover/contact_screen.h"
+#include "core/screen.h"
+#include "entry/form_variant.h"
+#include "widgets/form_kit.h"
+
+class QTabWidget;
+
+namespace widgets {
+class HeadingGrid;
+class PictureBox;
+}
+
+namespace entry {
+
+class AssistPanel;
+class EntryAssists;
+
+/// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in it. The
+/// shorter forms are the same class with another variant.
+class FormMain : public core::Screen, public core::ContactScreen {
+    Q_OBJECT
+
+public:
+    explicit FormMain(core::Context& context, const FormVariant& variant = detailedForm(), QWidget* parent = nullptr);
+    ~FormMain() override;
+
+    void load() override;
+    bool mayClose() override;
+    /// Goes to the edit mode with this contact.
+    bool showContact(qint64 id) override;
+
+private:
+    enum class Mode { Idle, Adding, Editing };
+
+    void layOut();
+    QWidget* buttonRow();
+    QWidget* headRow();
+    void wire();
+    void wireUserFields();
+
+    FormValues values() const;
+    QWidget* control(const QString& name) const;
+    void setText(const QString& name, const QString& text);
+
+    void go(Mode mode);
+    void startAdding();
+    void startEditing();
+    void cancel();
+    void clearForm();
+    void showUserLabels();
+    bool showRecord(const QString& id);
+    void showNameLabel();
+    void toggleAssist();
+    void turnPage(bool simple);
+
+    void save();
+    bool add(const FormValues& values, const QString& name);
+    bool edit(const FormValues& values, const QString& name);
+    void addSideEffects(const FormValues& values, const QString& name);
+    void editSideEffects(const FormValues& values, const QString& name);
+    void addFavourites(const FormValues& values, const QString& name, QStringView home, QStringView work);
+    void endSave();
+    void refuse(int refusal);
+
+    void selectPhoto();
+    void renameUserField(int number);
+    void keepUserLabel();
+    void keepUserValue(int number, const QString& value);
+    void saveAs();
+    bool isTouched() const;
+
+    const FormVariant& m_variant;
+    jet::Recordset Adodc1; ///< all contacts in order, for the position
+    bool IsEditing = false;
+    Mode m_mode = Mode::Idle;
+    QTabWidget* sstab1;
+    widgets::HeadingGrid* grdEditList;
+    AssistPanel* m_assist;
+    EntryAssists* m_assists = nullptr;
+    widgets::PictureBox* Photo = nullptr;
+    QList<widgets::Control> m_fields;
+    QString m_photoPath; ///< as the contact stores it
+    QHash<QString, QString> m_untouched; ///< what the form held when its mode began
+    int m_renamedField = 0;
+};
+
+} // namespace entry

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "widgets/form_kit.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace widgets {
+class PictureBox;
+}
+
+namespace entry {
+
+/// The pages of an entry form. Each is laid out by a function of its own and knows no behaviour; the form wires the
+/// controls by their names.
+using SizeOf = widgets::FormKit::SizeOf;
+
+/// Name, class, home address, telephones and e-mail.
+QWidget* contactPage(const SizeOf& sizeOf);
+QWidget* workOnePage(const SizeOf& sizeOf);
+QWidget* workTwoPage(const SizeOf& sizeOf);
+/// Family, dates, the person's own classes, the user's fields and the note.
+QWidget* personalPage(const SizeOf& sizeOf);
+QWidget* picturePage();
+
+} // namespace entry
