@@ -271,8 +271,7 @@ public:
                     all.push_back(double(timer.nsecsElapsed()) / 1000);
                 }
             }
-            // The sum of the medians would hide nothing either; the mean over all texts is what a person
-            // waits.
+            // Without the few that another program interrupted.
             std::sort(all.begin(), all.end());
             all.resize(all.size() * 98 / 100);
             double sum = 0;
@@ -296,8 +295,8 @@ public:
         m_lines << Line{u"translation, new: everyday statements (ratio to the goal of 25)"_s, 0, news, 25, 1};
         m_lines << Line{u"translation, new: thirteen-column search (ratio to the goal of 25)"_s, 0,
             fresh({search}), 25, 1};
-        m_lines << Line{u"translation, new: five-arm union (no goal of its own, ratio to 25)"_s, 0,
-            fresh({union5}), 25, 0};
+        m_lines << Line{
+            u"translation, new: five-arm union (ratio to the goal of 25)"_s, 0, fresh({union5}), 25, 1};
         const auto cached = [&](const QString& sql) {
             constexpr int kCalls = 1000;
             const auto all = [&] {

@@ -75,7 +75,8 @@ void FormMain::layOut()
     sstab1->setObjectName(u"sstab1"_s);
     grdEditList->setObjectName(u"grdEditList"_s);
     grdEditList->setAccessibleName(tr("Contacts to edit"));
-    grdEditList->setMinimumWidth(200);
+    grdEditList->setMinimumWidth(180);
+    grdEditList->setMaximumWidth(260);
 
     const auto sizeOf = [this](QStringView column) { return context().schema.textSize(u"cnt_main", column); };
     struct Page {
@@ -304,8 +305,8 @@ void FormMain::startAdding()
 
 void FormMain::startEditing()
 {
-    grdEditList->fill(u"|Name                    ",
-        context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s), {u"id"_s, u"Name"_s});
+    grdEditList->fill(
+        u"|Name                    ", context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s));
     clearForm();
     go(Mode::Editing);
     // Kept: the start of an edit sounds like a deletion.

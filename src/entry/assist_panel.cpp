@@ -97,7 +97,7 @@ void AssistPanel::layOut()
     whole->addWidget(m_cityChoice);
     whole->addWidget(CboFilter, 1);
     whole->addWidget(pad);
-    setFixedWidth(270);
+    setFixedWidth(262);
 }
 
 void AssistPanel::selectScope(CityScope scope)

@@ -147,6 +147,11 @@ void EntryAssists::setText(QStringView control, const QString& value)
 bool EntryAssists::eventFilter(QObject* watched, QEvent* event)
 {
     QWidget* control = controlOf(watched);
+    // The list that drops down under a field borrows its focus; the person is still in the field.
+    const bool borrowed = (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        && static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
+    if (borrowed)
+        return false;
     switch (event->type()) {
     case QEvent::FocusIn: focusEntered(control); break;
     case QEvent::FocusOut: focusLeft(control); break;

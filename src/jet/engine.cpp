@@ -82,6 +82,7 @@ void Engine::close()
     for (auto& cache : m_byShape)
         cache.clear();
     m_tables.clear();
+    m_kept.clear();
     if (!m_connection)
         return;
     // Statements that wait in pools; recordsets hold the engine, so none is in use any more.

@@ -72,6 +72,7 @@ public:
     Prepared prepareMain(const Request& request);
     Prepared prepareRow(const Request& request, qint64 key);
     Prepared prepareText(const QString& sql);
+    Prepared prepareKept(const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
     bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals);
     bool run(const QString& sql);
 
@@ -100,6 +101,7 @@ private:
     FailureHandler m_failureHandler;
     QString m_refusal; ///< why the last values were not bound; the file engine knows nothing of it
     std::unordered_map<QString, std::unique_ptr<CatalogTable>> m_tables; ///< by lower-case name
+    std::unordered_map<QString, std::shared_ptr<Prepared::Pool>> m_kept; ///< by text
     QCache<QString, Request> m_byText[2] = {QCache<QString, Request>(512), QCache<QString, Request>(512)};
     QCache<QString, std::shared_ptr<Plan>> m_byShape[2]
         = {QCache<QString, std::shared_ptr<Plan>>(512), QCache<QString, std::shared_ptr<Plan>>(512)};

@@ -48,7 +48,7 @@ int RecordsetData::columnIndex(QStringView name) const
 {
     const auto& all = columns();
     for (size_t i = 0; i < all.size(); ++i) {
-        if (name.compare(all[i].name, Qt::CaseInsensitive) == 0)
+        if (name.size() == all[i].name.size() && name.compare(all[i].name, Qt::CaseInsensitive) == 0)
             return int(i);
     }
     return -1;
@@ -213,7 +213,7 @@ bool RecordsetData::update()
 
 bool RecordsetData::write(const QString& sql, std::optional<qint64> key)
 {
-    const Prepared statement = m_engine->prepareText(sql);
+    const Prepared statement = m_engine->prepareKept(sql);
     if (statement) {
         int place = 0;
         for (const Change& change : m_changes)

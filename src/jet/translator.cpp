@@ -81,7 +81,7 @@ constexpr NeverEqualToNull kNeverEqualToNull[] = {{u"CNT_TOPCITIES", u"city"}, {
 
 bool same(QStringView a, QStringView b)
 {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+    return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
 struct Refusal {

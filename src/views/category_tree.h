@@ -6,8 +6,8 @@
 
 namespace views {
 
-/// The address book as a tree of categories, subcategories and people. A branch is read when it is opened, and nothing
-/// at all before the tree is seen for the first time.
+/// The address book as a tree of categories, subcategories and people. A branch is read when it is opened,
+/// and nothing at all before the tree is seen for the first time.
 class CategoryTree : public QTreeWidget {
     Q_OBJECT
 
@@ -16,7 +16,8 @@ public:
 
     /// Forgets all branches; they are read anew as they are opened.
     void rebuild();
-    /// Walks to a person and selects the leaf; where there is none, nothing is selected. Waits for the tree to be seen.
+    /// Walks to a person and selects the leaf; where there is none, nothing is selected. Waits for the tree
+    /// to be seen.
     void reveal(const QString& category, const QString& subcategory, const QString& name);
 
 Q_SIGNALS:

@@ -83,7 +83,8 @@ FullViewEdit::FullViewEdit(core::Context& context, QWidget* parent)
         .caption(u"LblESaved"_s)
         .button(u"CmdSave"_s, tr("&Save"), u"save", tr("Save the changes to this contact"));
     m_note = child<QLabel>(this, u"LblESaved"_s);
-    connect(child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this, &FullViewEdit::saveRequested);
+    connect(
+        child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this, &FullViewEdit::saveRequested);
     connectLists();
     for (auto* box : findChildren<widgets::DateBox*>())
         box->setFormat(core::datePattern(m_context.shared.NationalMode));
@@ -97,7 +98,8 @@ FullViewEdit::FullViewEdit(core::Context& context, QWidget* parent)
 
 FormKit FullViewEdit::kit(QWidget* page) const
 {
-    return FormKit(page, [this](QStringView column) { return m_context.schema.textSize(u"cnt_main", column); });
+    return FormKit(
+        page, [this](QStringView column) { return m_context.schema.textSize(u"cnt_main", column); });
 }
 
 QWidget* FullViewEdit::addPage(QTabWidget* tabs, const QString& title, QStringView icon) const
@@ -265,10 +267,14 @@ bool FullViewEdit::saveContact()
     row.edit();
     writeEditPage(row,
         {.text = [this](const QString& control) { return widgets::textOf(child<QWidget>(this, control)); },
-            .date = [this](const QString& control) { return child<widgets::DateBox>(this, control)->date(); }});
+            .date
+            = [this](const QString& control) { return child<widgets::DateBox>(this, control)->date(); }});
     return row.update();
 }
 
-void FullViewEdit::tell(const QString& text) { m_note->setText(text); }
+void FullViewEdit::tell(const QString& text)
+{
+    m_note->setText(text);
+}
 
 } // namespace views

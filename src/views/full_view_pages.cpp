@@ -95,7 +95,8 @@ void FullViewPages::layOutTelephones()
         // The label has a line for each line of the box.
         form.nextColumn()
             .group(numbers.title)
-            .readOnly(numbers.control, tr("Area code\nNumber 1\nNumber 2\nNumber 3\n%1").arg(numbers.last), 5);
+            .readOnly(
+                numbers.control, tr("Area code\nNumber 1\nNumber 2\nNumber 3\n%1").arg(numbers.last), 5);
     }
 }
 

@@ -22,7 +22,8 @@ struct SaveColumn {
     Stored how = Stored::AsTyped;
 };
 
-// Kept: the birthdays of contact and spouse and the anniversary are not among them, so this page can't change them.
+// Kept: the birthdays of contact and spouse and the anniversary are not among them, so this page can't change
+// them.
 constexpr SaveColumn kSaved[] = {
     {u"category1", u"CmbECategory", Stored::OrUndefined},
     {u"category2", u"CmbESubCategory", Stored::OrUndefined},
@@ -149,8 +150,8 @@ constexpr EditSource kTexts[] = {
     {u"TxtEHEmail2", u"h_email2"},
     {u"TxtEWEmail1", u"b_email1"},
     {u"TxtEWEmail2", u"b_email2"},
-    // Kept: both web addresses go into the one box, where the second wins; the home web box stays empty, and saving
-    // then clears the home web address.
+    // Kept: both web addresses go into the one box, where the second wins; the home web box stays empty, and
+    // saving then clears the home web address.
     {u"TxtEWWeb", u"h_web"},
     {u"TxtEWWeb", u"B_Web"},
     {u"CmbEStatus", u"Status"},
@@ -200,9 +201,15 @@ QVariant valueOf(const SaveColumn& saved, const EditPage& page)
 
 } // namespace
 
-std::span<const EditSource> editTexts() { return kTexts; }
+std::span<const EditSource> editTexts()
+{
+    return kTexts;
+}
 
-std::span<const EditSource> editDates() { return kDates; }
+std::span<const EditSource> editDates()
+{
+    return kDates;
+}
 
 void writeEditPage(jet::Recordset& row, const EditPage& page)
 {

@@ -16,7 +16,8 @@ struct EditSource {
     QStringView column;
 };
 
-/// The texts and dates of the edit page in the order in which they are filled; a later row of the same control wins.
+/// The texts and dates of the edit page in the order in which they are filled; a later row of the same
+/// control wins.
 std::span<const EditSource> editTexts();
 std::span<const EditSource> editDates();
 

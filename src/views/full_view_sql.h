@@ -13,8 +13,8 @@ QString keywordSql(const QString& keyword);
 
 QString contactByIdSql(qint64 id);
 QString contactForEditSql(qint64 id);
-/// A name is put into the statement as it is: of two people with one name it finds the first, and with an apostrophe
-/// in it the look-up fails.
+/// A name is put into the statement as it is: of two people with one name it finds the first, and with an
+/// apostrophe in it the look-up fails.
 QString contactByNameSql(const QString& name);
 /// The look-up behind an associate's name.
 QString associateSql(const QString& name);

@@ -1,7 +1,7 @@
 #include "views/keyword_panel.h"
 
-#include "widgets/form_kit.h"
 #include "widgets/fields.h"
+#include "widgets/form_kit.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -24,7 +24,8 @@ KeywordPanel::KeywordPanel(QWidget* parent)
     const auto search = [this] { Q_EMIT searched(txtkeyword->text()); };
     connect(widgets::child<QPushButton>(this, u"CmdSearch"_s), &QPushButton::clicked, this, search);
     connect(txtkeyword, &QLineEdit::returnPressed, this, search);
-    connect(widgets::child<QPushButton>(this, u"CmdKewordclose"_s), &QPushButton::clicked, this, &QWidget::hide);
+    connect(
+        widgets::child<QPushButton>(this, u"CmdKewordclose"_s), &QPushButton::clicked, this, &QWidget::hide);
 }
 
 void KeywordPanel::open()

@@ -10,8 +10,8 @@ class RecordList;
 
 namespace views {
 
-/// Lets a person change the names in a list where they stand, with F2 or a double click. The list itself stays one to
-/// read from; the new name is handed out to be stored.
+/// Lets a person change the names in a list where they stand, with F2 or a double click. The list itself
+/// stays one to read from; the new name is handed out to be stored.
 class ListEditing : public QObject {
     Q_OBJECT
 

@@ -237,7 +237,10 @@ QList<ShownText> detailViewTexts(const jet::Recordset& row, bool nationalMode, Q
     return composedAll(kDetailView, row, {nationalMode, today});
 }
 
-QString associationCaption(const QString& name) { return kBeforeName.toString() + name + kBehindName.toString(); }
+QString associationCaption(const QString& name)
+{
+    return kBeforeName.toString() + name + kBehindName.toString();
+}
 
 QString nameInAssociation(const QString& caption)
 {

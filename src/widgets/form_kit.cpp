@@ -141,6 +141,8 @@ FormKit& FormKit::line(const QString& name, const QString& label, const QString&
 FormKit& FormKit::combo(const QString& name, const QString& label, const QString& column, KeyFilter filter)
 {
     auto* combo = new FilledCombo(m_page);
+    // As narrow as a line may become: a page with many combos must fit beside lists and panels.
+    combo->setMinimumWidth(56);
     combo->lineEdit()->setMaxLength(sizeOf(column));
     setKeyFilter(combo, filter);
     return widget(name, label, combo, column);

@@ -98,6 +98,9 @@ QString styleSheetOf(const Colours& colours)
 QToolBar { border: none; border-bottom: 1px solid @line; spacing: 2px; padding: 3px; }
 QToolBar::separator { background: @line; width: 1px; margin: 5px 4px; }
 QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px; }
+QToolBar QToolButton[popupMode="1"] { padding-right: 18px; }
+QToolBar QToolButton::menu-button { border: none; width: 16px; border-radius: 5px; }
+QToolBar QToolButton::menu-button:hover { background: @pressed; }
 QToolBar QToolButton:hover { background: @hover; }
 QToolBar QToolButton:pressed, QToolBar QToolButton:checked { background: @pressed; border-color: @line; }
 QToolBar QToolButton:focus { border-color: @accent; }

@@ -12,7 +12,7 @@ namespace shell {
 namespace {
 
 constexpr int kDescription = Qt::UserRole + 1;
-constexpr QSize kTile(300, 84);
+constexpr QSize kTile(300, 100);
 
 class TileDelegate final : public QStyledItemDelegate {
 public:

@@ -52,7 +52,7 @@ void StartUp::begin(bool inHomeCountry)
     m_files.openInfo(m_context.info);
 
     m_splash = new frmSplash(m_context);
-    connect(m_splash, &frmSplash::activated, m_wait, [this] { delete m_wait; });
+    connect(m_splash, &frmSplash::activated, this, [this] { delete m_wait; });
     connect(m_splash, &frmSplash::mainShellWanted, this, &StartUp::showMainShell);
     connect(m_splash, &frmSplash::emailShellWanted, this, &StartUp::showEmailShell);
     connect(m_splash, &frmSplash::bookUnreadable, this, &StartUp::bookFailed);

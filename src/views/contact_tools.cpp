@@ -1,0 +1,285 @@
+#include "views/contact_tools.h"
+
+#include "core/handover/contact_screen.h"
+#include "core/handover/mail_composer.h"
+#include "core/handover/page_screen.h"
+#include "core/screens.h"
+#include "platform/message_boxes.h"
+#include "platform/shell.h"
+#include "views/full_view_sql.h"
+#include "widgets/theme.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+namespace {
+
+enum class Place { Labelled, IconOnly, MenuOnly, LabelledFirst, IconOnlyFirst, MenuOnlyFirst };
+
+bool startsGroup(Place place)
+{
+    return place == Place::LabelledFirst || place == Place::IconOnlyFirst || place == Place::MenuOnlyFirst;
+}
+
+constexpr QStringView kLinkAndSync = u"\\Orvane Link & Sync.exe";
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("views", text);
+}
+
+} // namespace
+
+struct ContactTools::ToolRow {
+    QStringView id;
+    QStringView icon;
+    const char* text;
+    QStringView form; ///< the screen without which the tool is disabled
+    void (ContactTools::*perform)(); ///< null for what is not there yet
+    Place place = Place::IconOnly;
+};
+
+// The first of a group stands behind a line.
+const ContactTools::ToolRow ContactTools::kTools[] = {
+    {u"EditDetails", u"person-edit", QT_TRANSLATE_NOOP("views", "Edit details"), u"FormMain",
+        &ContactTools::editDetails, Place::Labelled},
+    {u"Edit", u"edit", QT_TRANSLATE_NOOP("views", "Edit names in the list"), {}, &ContactTools::editList},
+    {u"Call", u"phone", QT_TRANSLATE_NOOP("views", "Call"), u"FrmDialer", &ContactTools::call,
+        Place::LabelledFirst},
+    {u"SMS", u"sms", QT_TRANSLATE_NOOP("views", "SMS"), u"frmSms", &ContactTools::sms, Place::Labelled},
+    {u"Email2", u"envelope", QT_TRANSLATE_NOOP("views", "E-mail"), u"FormEmail", &ContactTools::email,
+        Place::Labelled},
+    {u"Letter", u"letter", QT_TRANSLATE_NOOP("views", "Letter"), u"FrmLetter", &ContactTools::letter,
+        Place::Labelled},
+    {u"DetailView", u"card", QT_TRANSLATE_NOOP("views", "Detail view"), u"frmSelector",
+        &ContactTools::openSelector, Place::IconOnlyFirst},
+    {u"BriefView", u"list", QT_TRANSLATE_NOOP("views", "Brief view"), u"FrmContacts",
+        &ContactTools::openBriefView},
+    {u"ViewLinkedItem", u"link", QT_TRANSLATE_NOOP("views", "Linked records"), u"frmCntViewer",
+        &ContactTools::viewLinkedItem},
+    {u"Search", u"search", QT_TRANSLATE_NOOP("views", "Search for a keyword"), {}, &ContactTools::search,
+        Place::IconOnlyFirst},
+    {u"CommonFilter", u"filter", QT_TRANSLATE_NOOP("views", "Filter"), u"frmFilter",
+        &ContactTools::commonFilter},
+    {u"TabFilter", u"category", QT_TRANSLATE_NOOP("views", "Filter by tabs"), u"frmTabFilter",
+        &ContactTools::tabFilter},
+    {u"PrintRecord", u"report", QT_TRANSLATE_NOOP("views", "Print the address book"), {},
+        &ContactTools::printRecord, Place::IconOnlyFirst},
+    {u"PrintSingle", u"printer", QT_TRANSLATE_NOOP("views", "Print this contact"), {}, nullptr},
+    {u"PrintLabel", u"note", QT_TRANSLATE_NOOP("views", "Print a label"), u"FrmlblReport",
+        &ContactTools::printLabel},
+    {u"SaveasVCF", u"save", QT_TRANSLATE_NOOP("views", "Save as vCard"), {}, nullptr, Place::MenuOnlyFirst},
+    {u"SavetoDesktop", u"export", QT_TRANSLATE_NOOP("views", "Save to the desktop"), {}, nullptr,
+        Place::MenuOnly},
+    {u"SaveToDesktopAll", u"export", QT_TRANSLATE_NOOP("views", "Save all to the desktop"), {}, nullptr,
+        Place::MenuOnly},
+};
+
+ContactTools::ContactTools(core::Context& context, Host host, QWidget* screen)
+    : QObject(screen)
+    , m_context(context)
+    , m_host(std::move(host))
+{
+    for (const ToolRow& tool : kTools) {
+        auto* action = new QAction(translated(tool.text), screen);
+        action->setObjectName(tool.id.toString());
+        widgets::setIcon(action, tool.icon);
+        const bool available = isAvailable(tool);
+        action->setEnabled(available);
+        if (!available)
+            action->setToolTip(tr("%1\nNot available yet").arg(translated(tool.text)));
+        if (tool.perform)
+            connect(
+                action, &QAction::triggered, this, [this, perform = tool.perform] { (this->*perform)(); });
+        m_actions.insert(tool.id.toString(), action);
+    }
+    action(u"Edit")->setCheckable(true);
+}
+
+bool ContactTools::isAvailable(const ToolRow& tool) const
+{
+    return tool.perform && (tool.form.isEmpty() || m_context.screens.has(tool.form));
+}
+
+QAction* ContactTools::action(QStringView id) const
+{
+    QAction* found = m_actions.value(id.toString());
+    Q_ASSERT_X(found, "ContactTools::action", qUtf8Printable(id.toString()));
+    return found;
+}
+
+QToolBar* ContactTools::makeToolBar(QWidget* parent) const
+{
+    auto* bar = new QToolBar(parent);
+    bar->setIconSize({20, 20});
+    for (const ToolRow& tool : kTools) {
+        if (tool.place == Place::MenuOnly || tool.place == Place::MenuOnlyFirst)
+            continue;
+        if (startsGroup(tool.place))
+            bar->addSeparator();
+        bar->addAction(action(tool.id));
+        if (tool.place == Place::Labelled || tool.place == Place::LabelledFirst)
+            static_cast<QToolButton*>(bar->widgetForAction(action(tool.id)))
+                ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    }
+    return bar;
+}
+
+QMenu* ContactTools::makeMenu(QWidget* parent) const
+{
+    auto* menu = new QMenu(parent);
+    menu->setToolTipsVisible(true);
+    for (const ToolRow& tool : kTools) {
+        if (startsGroup(tool.place))
+            menu->addSeparator();
+        menu->addAction(action(tool.id));
+    }
+    return menu;
+}
+
+jet::Recordset ContactTools::contactByName() const
+{
+    const QString name = m_host.shownName();
+    return name.isEmpty() ? jet::Recordset() : m_context.data.openRecordset(contactByNameSql(name));
+}
+
+void ContactTools::notSelected()
+{
+    m_context.services.boxes.information(tr("Record not selected"), m_context.shared.AppTitle);
+}
+
+void ContactTools::handOver(QStringView form)
+{
+    const jet::Recordset contact = contactByName();
+    if (!contact.hasRow())
+        return notSelected();
+    m_context.shared.selectedContactId = contact.number(u"id");
+    m_context.shared.selectedContactName = contact.textOrEmpty(u"Name");
+    if (auto* screen = m_context.screens.load<core::ContactScreen>(form))
+        screen->showContact(contact.number(u"id"));
+    m_context.screens.show(form);
+}
+
+void ContactTools::openSelector()
+{
+    const jet::Recordset contact = contactByName();
+    if (!contact.hasRow())
+        return notSelected();
+    m_context.shared.selectedContactId = contact.number(u"id");
+    if (auto* selector = m_context.screens.load<core::PageScreen>(u"frmSelector"))
+        selector->openPage(u"Detail"_s);
+    m_context.screens.show(u"frmSelector");
+}
+
+void ContactTools::openBriefView()
+{
+    handOver(u"FrmContacts");
+}
+
+// By the row of the list, not by the name.
+void ContactTools::editDetails()
+{
+    const qint64 id = m_host.listedId();
+    if (id == 0)
+        return notSelected();
+    m_context.shared.EditRequested = true;
+    auto* form = m_context.screens.load<core::ContactScreen>(u"FormMain");
+    if (form && !form->showContact(id)) {
+        m_context.shared.EditRequested = false;
+        m_context.services.boxes.information(tr("Error"), m_context.shared.AppTitle);
+    }
+    m_context.screens.show(u"FormMain");
+}
+
+void ContactTools::printLabel()
+{
+    m_context.screens.show(u"FrmlblReport");
+}
+
+void ContactTools::viewLinkedItem()
+{
+    handOver(u"frmCntViewer");
+}
+
+void ContactTools::call()
+{
+    handOver(u"FrmDialer");
+}
+
+void ContactTools::letter()
+{
+    handOver(u"FrmLetter");
+}
+
+void ContactTools::email()
+{
+    const jet::Recordset contact = contactByName();
+    if (!contact.hasRow())
+        return notSelected();
+    m_context.shared.selectedContactId = contact.number(u"id");
+    if (auto* composer = m_context.screens.load<core::MailComposer>(u"FormEmail"))
+        composer->AddRecipient(contact.number(u"id"));
+    m_context.screens.show(u"FormEmail");
+}
+
+void ContactTools::sms()
+{
+    const jet::Recordset contact = contactByName();
+    if (!contact.hasRow())
+        return notSelected();
+    if (contact.value(u"Sms").isValid())
+        handOver(u"frmSms");
+}
+
+void ContactTools::editList()
+{
+    Q_EMIT listEditingWanted(action(u"Edit")->isChecked());
+}
+
+void ContactTools::printRecord()
+{
+    for (const QStringView statement : {
+             u"update ov_setup set key='report'",
+             u"update ov_setup set key='report'",
+             // Kept: the misspelt word is written and overwritten at once.
+             u"update ov_setup set rptMod='Contacs'",
+             u"update ov_setup set rptMod='Contacts'",
+             u"update ov_setup set rptSubMod='Address Book- Full'",
+         })
+        m_context.data.execute(statement);
+    platform::Shell& desktop = m_context.services.shell;
+    if (!desktop.siblingExists(kLinkAndSync))
+        m_context.screens.show(u"FrmProjectMsg", core::Shown::Modally);
+    else if (desktop.startSibling(kLinkAndSync))
+        desktop.endProgram();
+}
+
+void ContactTools::commonFilter()
+{
+    askFilter(u"frmFilter");
+}
+
+void ContactTools::tabFilter()
+{
+    askFilter(u"frmTabFilter");
+}
+
+void ContactTools::askFilter(QStringView form)
+{
+    m_context.shared.CallerForm = m_host.callerForm;
+    m_context.screens.show(form);
+}
+
+void ContactTools::search()
+{
+    Q_EMIT searchWanted();
+}
+
+} // namespace views

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace widgets {
+class PictureBox;
+}
+
+namespace views {
+
+/// The head of the full view: picture, name, a line of what matters most, the associates as links, and the
+/// buttons that write to or call the contact.
+class FullViewHeader : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FullViewHeader(QWidget* parent = nullptr);
+
+    /// A local path; empty for none.
+    void showPicture(const QString& path);
+    /// To be called after the texts were set: company and category, and which associates there are.
+    void tidy(const QStringList& facts);
+
+    widgets::PictureBox* ix1;
+    QPushButton* SSCommand8;
+    QLabel* lblid;
+    QPushButton* LblAsso1;
+    QPushButton* LblAsso2;
+    QToolButton* CmdTel;
+    QToolButton* CmdAdd;
+    QToolButton* CmdEmail;
+
+private:
+    QLabel* m_facts;
+    QLabel* m_associates;
+};
+
+} // namespace views
