@@ -384,7 +384,7 @@ private:
                 sqlite3_reset(statement);
             }
         };
-        auto taken = inTurns(m_times, ours, plain);
+        auto taken = inTurns(m_times * 4, ours, plain);
         taken.first /= double(names.size());
         taken.second /= double(names.size());
         add(u"look-up of a person by name"_s, taken, 2.0);

@@ -255,6 +255,23 @@ Prepared Engine::prepareText(const QString& sql)
     return prepare(sql, nullptr, false);
 }
 
+Prepared Engine::prepareKept(const QString& sql)
+{
+    constexpr size_t kMostKept = 32;
+    if (m_kept.size() >= kMostKept && !m_kept.contains(sql)) {
+        for (const auto& [text, pool] : m_kept) {
+            for (sqlite3_stmt* waiting : *pool)
+                sqlite3_finalize(waiting);
+            pool->clear();
+        }
+        m_kept.clear();
+    }
+    auto& pool = m_kept[sql];
+    if (!pool)
+        pool = std::make_shared<Prepared::Pool>();
+    return prepare(sql, pool, true);
+}
+
 bool Engine::bind(
     sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals)
 {

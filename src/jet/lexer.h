@@ -17,7 +17,8 @@ struct Token {
 
     bool isWord(QStringView word) const
     {
-        return kind == Kind::Word && text.size() == word.size() && text.compare(word, Qt::CaseInsensitive) == 0;
+        return kind == Kind::Word && text.size() == word.size()
+            && text.compare(word, Qt::CaseInsensitive) == 0;
     }
     bool isSymbol(QStringView symbol) const { return kind == Kind::Symbol && text == symbol; }
 };

@@ -20,8 +20,9 @@ constexpr std::array<QStringView, 3> kHiddenKeys{u"rowid", u"oid", u"_rowid_"};
 
 template <class Words> bool isOneOf(const QString& word, const Words& words)
 {
-    return std::any_of(words.begin(), words.end(),
-        [&](QStringView other) { return word.size() == other.size() && word.compare(other, Qt::CaseInsensitive) == 0; });
+    return std::any_of(words.begin(), words.end(), [&](QStringView other) {
+        return word.size() == other.size() && word.compare(other, Qt::CaseInsensitive) == 0;
+    });
 }
 
 /// Stops the parse; caught in this file only. The grammar would drown in error checks without it.

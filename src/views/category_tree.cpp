@@ -15,9 +15,9 @@ constexpr int FilledRole = Qt::UserRole + 2;
 
 } // namespace
 
-CategoryTree::CategoryTree(jet::Database& data, QWidget* parent)
+CategoryTree::CategoryTree(jet::Database& book, QWidget* parent)
     : QTreeWidget(parent)
-    , m_data(data)
+    , m_book(book)
 {
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -80,7 +80,7 @@ void CategoryTree::fill(QTreeWidgetItem* branch)
     case Kind::Person: return;
     }
     const auto childKind = Kind(int(kind) + 1);
-    const jet::Recordset rows = m_data.openRecordset(sql);
+    const jet::Recordset rows = m_book.openRecordset(sql);
     const int textColumn = childKind == Kind::Person ? rows.columnIndex(u"name") : 0;
     QList<QTreeWidgetItem*> children;
     children.reserve(rows.count());

@@ -4,6 +4,8 @@
 
 #include <QTreeWidget>
 
+#include <optional>
+
 namespace views {
 
 /// The address book as a tree of categories, subcategories and people. A branch is read when it is opened,
@@ -12,7 +14,7 @@ class CategoryTree : public QTreeWidget {
     Q_OBJECT
 
 public:
-    explicit CategoryTree(jet::Database& data, QWidget* parent = nullptr);
+    explicit CategoryTree(jet::Database& book, QWidget* parent = nullptr);
 
     /// Forgets all branches; they are read anew as they are opened.
     void rebuild();
@@ -40,7 +42,7 @@ private:
     void walk(const Wanted& wanted);
     QTreeWidgetItem* childOf(QTreeWidgetItem* branch, const QString& text);
 
-    jet::Database& m_data;
+    jet::Database& m_book;
     std::optional<Wanted> m_wanted;
 };
 

@@ -1,0 +1,146 @@
+#include "support/test_book.h"
+#include "views/category_tree.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+using namespace views;
+
+/// The tree of categories reads a branch when it is opened.
+class CategoryTreeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void branches();
+    void readsNothingBeforeItIsSeen();
+    void branchIsReadWhenItIsOpened();
+    void peopleOfOneSubcategoryStandUnderBothCategories();
+    void walksToAPersonOnceItIsSeen();
+    void leafIsChosenByClickAndByKey();
+    void apostropheLeavesABranchEmpty();
+
+private:
+    QStringList texts(const QTreeWidgetItem* branch) const;
+    QTreeWidgetItem* branch(const QStringList& path) const;
+
+    std::unique_ptr<support::TestBook> m_book;
+    std::unique_ptr<CategoryTree> m_tree;
+};
+
+void CategoryTreeTest::init()
+{
+    m_tree.reset();
+    m_book = std::make_unique<support::TestBook>();
+    jet::Recordset rows = m_book->data().openRecordset(u"select * from cnt_main");
+    const QList<QStringList> people{{u"Ann"_s, u"Friends"_s, u"Chess"_s}, {u"Bob"_s, u"Work"_s, u"Chess"_s},
+        {u"Cy"_s, u"Work"_s, u"Sales"_s}, {u"Dot"_s, u""_s, u"Sales"_s}, {u"Eve"_s, u"It's"_s, u"Odd"_s}};
+    for (const QStringList& person : people) {
+        rows.addNew();
+        rows.set(u"Name", person[0]);
+        rows.set(u"category1", person[1]);
+        rows.set(u"category2", person[2]);
+        QVERIFY(rows.update());
+    }
+    m_tree = std::make_unique<CategoryTree>(m_book->data());
+}
+
+QStringList CategoryTreeTest::texts(const QTreeWidgetItem* item) const
+{
+    QStringList all;
+    for (int i = 0; i < item->childCount(); ++i)
+        all << item->child(i)->text(0);
+    return all;
+}
+
+QTreeWidgetItem* CategoryTreeTest::branch(const QStringList& path) const
+{
+    QTreeWidgetItem* item = m_tree->topLevelItem(0);
+    for (const QString& step : path) {
+        item->setExpanded(true);
+        QTreeWidgetItem* found = nullptr;
+        for (int i = 0; i < item->childCount(); ++i) {
+            if (item->child(i)->text(0) == step)
+                found = item->child(i);
+        }
+        if (!found)
+            qFatal("no branch %s", qUtf8Printable(step));
+        item = found;
+    }
+    item->setExpanded(true);
+    return item;
+}
+
+void CategoryTreeTest::branches()
+{
+    m_tree->show();
+    QCOMPARE(m_tree->topLevelItem(0)->text(0), u"Orvane Contact Address Book"_s);
+    QCOMPARE(texts(m_tree->topLevelItem(0)), (QStringList{u"Friends"_s, u"It's"_s, u"Work"_s}));
+    QCOMPARE(texts(branch({u"Work"_s})), (QStringList{u"Chess"_s, u"Sales"_s}));
+}
+
+void CategoryTreeTest::readsNothingBeforeItIsSeen()
+{
+    QCOMPARE(m_tree->topLevelItem(0)->childCount(), 0);
+    m_tree->reveal(u"Friends"_s, u"Chess"_s, u"Ann"_s);
+    QCOMPARE(m_tree->topLevelItem(0)->childCount(), 0);
+}
+
+void CategoryTreeTest::branchIsReadWhenItIsOpened()
+{
+    m_tree->show();
+    const QTreeWidgetItem* chess = branch({u"Friends"_s})->child(0);
+    QCOMPARE(chess->childCount(), 0);
+    // A person who came meanwhile is there, so the branch was not read before.
+    QVERIFY(m_book->data().execute(u"update cnt_main set category2='Chess' where Name='Cy'").ok);
+    QCOMPARE(texts(branch({u"Friends"_s, u"Chess"_s})), (QStringList{u"Ann"_s, u"Bob"_s, u"Cy"_s}));
+}
+
+// Kept: the leaves are not asked for their category.
+void CategoryTreeTest::peopleOfOneSubcategoryStandUnderBothCategories()
+{
+    m_tree->show();
+    QCOMPARE(texts(branch({u"Friends"_s, u"Chess"_s})), (QStringList{u"Ann"_s, u"Bob"_s}));
+    QCOMPARE(texts(branch({u"Work"_s, u"Chess"_s})), (QStringList{u"Ann"_s, u"Bob"_s}));
+    QCOMPARE(texts(branch({u"Work"_s, u"Sales"_s})), (QStringList{u"Cy"_s, u"Dot"_s}));
+}
+
+void CategoryTreeTest::walksToAPersonOnceItIsSeen()
+{
+    m_tree->reveal(u"Work"_s, u"Chess"_s, u"Bob"_s);
+    m_tree->show();
+    QVERIFY(m_tree->currentItem());
+    QCOMPARE(m_tree->currentItem()->text(0), u"Bob"_s);
+    QCOMPARE(m_tree->currentItem()->parent()->parent()->text(0), u"Work"_s);
+    m_tree->reveal(u"Work"_s, u"Chess"_s, u"Nobody"_s);
+    QVERIFY(!m_tree->currentItem());
+}
+
+void CategoryTreeTest::leafIsChosenByClickAndByKey()
+{
+    m_tree->resize(300, 500);
+    m_tree->show();
+    QTreeWidgetItem* sales = branch({u"Work"_s, u"Sales"_s});
+    QSignalSpy chosen(m_tree.get(), &CategoryTree::contactChosen);
+    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualItemRect(sales).center());
+    QCOMPARE(chosen.size(), 0);
+    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualItemRect(sales->child(1)).center());
+    QCOMPARE(chosen.size(), 1);
+    QCOMPARE(chosen.takeFirst().value(0).toLongLong(), 4);
+    m_tree->setCurrentItem(sales->child(0));
+    QTest::keyClick(m_tree.get(), Qt::Key_Return);
+    QCOMPARE(chosen.size(), 1);
+    QCOMPARE(chosen.takeFirst().value(0).toLongLong(), 3);
+}
+
+void CategoryTreeTest::apostropheLeavesABranchEmpty()
+{
+    m_tree->show();
+    m_book->expectFailure(u"It's"_s);
+    QCOMPARE(branch({u"It's"_s})->childCount(), 0);
+    QCOMPARE(m_book->unexpected(), QString());
+}
+
+QTEST_MAIN(CategoryTreeTest)
+#include "category_tree_test.moc"
