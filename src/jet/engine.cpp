@@ -85,9 +85,7 @@ void Engine::close()
     m_kept.clear();
     if (!m_connection)
         return;
-    // Statements that wait in pools; recordsets hold the engine, so none is in use any more.
-    while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
-        sqlite3_finalize(left);
+    // Statements of recordsets that are still held go with them; the file engine waits for the last one.
     sqlite3_close_v2(m_connection);
     m_connection = nullptr;
 }
@@ -259,11 +257,6 @@ Prepared Engine::prepareKept(const QString& sql)
 {
     constexpr size_t kMostKept = 32;
     if (m_kept.size() >= kMostKept && !m_kept.contains(sql)) {
-        for (const auto& [text, pool] : m_kept) {
-            for (sqlite3_stmt* waiting : *pool)
-                sqlite3_finalize(waiting);
-            pool->clear();
-        }
         m_kept.clear();
     }
     auto& pool = m_kept[sql];

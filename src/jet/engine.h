@@ -16,7 +16,17 @@ namespace jet {
 /// A statement of the file engine, given back to its pool at the end of its use.
 class Prepared {
 public:
-    using Pool = std::vector<sqlite3_stmt*>;
+    /// Statements that wait to run again; they end with it, also when the file was closed before.
+    class Pool : public std::vector<sqlite3_stmt*> {
+    public:
+        Pool() = default;
+        ~Pool()
+        {
+            for (sqlite3_stmt* waiting : *this)
+                sqlite3_finalize(waiting);
+        }
+        Q_DISABLE_COPY_MOVE(Pool)
+    };
     Prepared() = default;
     Prepared(sqlite3_stmt* statement, std::shared_ptr<Pool> pool)
         : m_statement(statement)
@@ -72,7 +82,8 @@ public:
     Prepared prepareMain(const Request& request);
     Prepared prepareRow(const Request& request, qint64 key);
     Prepared prepareText(const QString& sql);
-    Prepared prepareKept(const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
+    Prepared prepareKept(
+        const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
     bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals);
     bool run(const QString& sql);
 

@@ -32,7 +32,8 @@ public:
     explicit Lexer(QStringView sql)
         : m_sql(sql)
     {
-        m_result.shape.reserve(sql.size());
+        m_result.shape.reserve(sql.size() + sql.size() / 4);
+        m_result.tokens.reserve(size_t(sql.size() / 4 + 8));
     }
 
     Lexed run()
@@ -72,7 +73,7 @@ private:
             ++m_at;
         const QStringView text = m_sql.mid(from, m_at - from);
         mark(text);
-        add(Token::Kind::Word, text.toString());
+        add(Token::Kind::Word, text);
     }
 
     // 06 is six, and 022 in trim(022) counts two digits.
@@ -97,7 +98,8 @@ private:
             addLiteral(Literal::Kind::Number, Token::Kind::Number, text);
         } else {
             mark(text);
-            add(Token::Kind::Number, text);
+            m_result.numbers.append(text);
+            add(Token::Kind::Number, m_result.numbers.constLast());
         }
     }
 
@@ -128,7 +130,7 @@ private:
         // With its closing bracket: a name may hold anything else, even what looks like the rest of a
         // statement.
         m_result.shape += u'[' + name.toString() + u']';
-        add(Token::Kind::Name, name.trimmed().toString());
+        add(Token::Kind::Name, name.trimmed());
     }
 
     void quotedText(QChar quote)
@@ -170,7 +172,7 @@ private:
             if (m_sql.mid(m_at, 2) == two) {
                 m_at += 2;
                 mark(two);
-                return add(Token::Kind::Symbol, two.toString());
+                return add(Token::Kind::Symbol, two);
             }
         }
         const QChar c = m_sql[m_at];
@@ -179,9 +181,10 @@ private:
         // The comment mark of other dialects; a doubled sign has no use here.
         if (c == u'-' && m_sql.mid(m_at, 2) == u"--")
             return fail(u"-- is no operator"_s);
+        const QStringView text = m_sql.mid(m_at, 1);
         ++m_at;
-        mark(QStringView(&c, 1));
-        add(Token::Kind::Symbol, QString(c));
+        mark(text);
+        add(Token::Kind::Symbol, text);
     }
 
     void mark(QStringView text)
@@ -190,7 +193,7 @@ private:
         m_result.shape += u' ';
     }
 
-    void add(Token::Kind kind, QString text) { m_result.tokens.push_back({kind, std::move(text), -1}); }
+    void add(Token::Kind kind, QStringView text) { m_result.tokens.push_back({kind, text, -1}); }
 
     void addLiteral(Literal::Kind kind, Token::Kind tokenKind, const QString& text)
     {
@@ -199,8 +202,9 @@ private:
         const bool repeated = !m_result.literals.empty() && m_result.literals.back().kind == kind
             && m_result.literals.back().text == text;
         m_result.shape += QChar(char16_t(1 + int(kind) + (repeated ? 3 : 0)));
-        m_result.tokens.push_back({tokenKind, text, int(m_result.literals.size())});
         m_result.literals.push_back({kind, text});
+        m_result.tokens.push_back(
+            {tokenKind, m_result.literals.back().text, int(m_result.literals.size()) - 1});
     }
 
     void fail(const QString& error)

@@ -1,26 +1,28 @@
 #pragma once
 
+#include "jet/same_name.h"
+
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <vector>
 
 namespace jet {
 
-/// One word of the dialect. Texts are unescaped, names are without their brackets.
+/// One word of the dialect. Texts are unescaped, names are without their brackets. The text is a view into
+/// the statement, or into what the Lexed keeps.
 struct Token {
     enum class Kind { Word, Name, Text, Number, Date, Symbol, End };
     Kind kind = Kind::End;
-    QString text; ///< word, name, text value, normalised number, ISO date, or the symbol
-    int literal
-        = -1; ///< its place among the values that are bound, -1 for a value that stays in the statement
+    QStringView text; ///< word, name, text value, normalised number, ISO date, or the symbol
+    int literal = -1; ///< its place among the values that are bound, -1 for one that stays in the statement
 
-    bool isWord(QStringView word) const
+    bool isWord(QStringView word) const { return kind == Kind::Word && sameName(text, word); }
+    bool isSymbol(char16_t symbol) const
     {
-        return kind == Kind::Word && text.size() == word.size()
-            && text.compare(word, Qt::CaseInsensitive) == 0;
+        return kind == Kind::Symbol && text.size() == 1 && text.front() == symbol;
     }
-    bool isSymbol(QStringView symbol) const { return kind == Kind::Symbol && text == symbol; }
 };
 
 /// A value of the statement that is bound, not written, so that statements that differ in it share a
@@ -34,8 +36,8 @@ struct Literal {
 struct Lexed {
     std::vector<Token> tokens; ///< ends with one End
     std::vector<Literal> literals;
-    QString
-        shape; ///< the statement with a mark in the place of each bound value: what translations are kept by
+    QStringList numbers; ///< the texts of normalised numbers, which stand in no statement
+    QString shape; ///< the statement with a mark for each bound value: what translations are kept by
     QString error; ///< empty when all is well
 };
 

@@ -18,11 +18,10 @@ constexpr std::array<QStringView, 9> kNeverAliases{
     u"where", u"union", u"having", u"on", u"inner", u"left", u"right", u"join", u"set"};
 constexpr std::array<QStringView, 3> kHiddenKeys{u"rowid", u"oid", u"_rowid_"};
 
-template <class Words> bool isOneOf(const QString& word, const Words& words)
+template <class Words> bool isOneOf(QStringView word, const Words& words)
 {
-    return std::any_of(words.begin(), words.end(), [&](QStringView other) {
-        return word.size() == other.size() && word.compare(other, Qt::CaseInsensitive) == 0;
-    });
+    return std::any_of(
+        words.begin(), words.end(), [word](QStringView other) { return sameName(word, other); });
 }
 
 /// Stops the parse; caught in this file only. The grammar would drown in error checks without it.
@@ -50,7 +49,7 @@ public:
             result = drop();
         else
             result.select = select();
-        takeSymbol(u";");
+        takeSymbol(u';');
         expectEnd();
         return result;
     }
@@ -89,12 +88,12 @@ private:
         do {
             Assignment assignment;
             assignment.column = name();
-            if (takeSymbol(u"."))
+            if (takeSymbol(u'.'))
                 assignment.column = name();
-            expectSymbol(u"=");
+            expectSymbol(u'=');
             assignment.value = expression();
             result.assignments.push_back(std::move(assignment));
-        } while (takeSymbol(u","));
+        } while (takeSymbol(u','));
         result.where = whereClause();
         return result;
     }
@@ -103,7 +102,7 @@ private:
     {
         Statement result;
         result.kind = Statement::Kind::Delete;
-        takeSymbol(u"*");
+        takeSymbol(u'*');
         expectWord(u"from");
         result.table.name = name();
         result.where = whereClause();
@@ -116,18 +115,18 @@ private:
         result.kind = Statement::Kind::Insert;
         expectWord(u"into");
         result.table.name = name();
-        if (takeSymbol(u"(")) {
+        if (takeSymbol(u'(')) {
             do
                 result.columns.push_back(name());
-            while (takeSymbol(u","));
-            expectSymbol(u")");
+            while (takeSymbol(u','));
+            expectSymbol(u')');
         }
         expectWord(u"values");
-        expectSymbol(u"(");
+        expectSymbol(u'(');
         do
             result.values.push_back(expression());
-        while (takeSymbol(u","));
-        expectSymbol(u")");
+        while (takeSymbol(u','));
+        expectSymbol(u')');
         if (!result.columns.empty() && result.columns.size() != result.values.size())
             throw SyntaxError{u"columns and values differ in number"_s};
         return result;
@@ -160,9 +159,9 @@ private:
     SelectArm arm(Select& whole)
     {
         const Level level(*this);
-        if (takeSymbol(u"(")) {
+        if (takeSymbol(u'(')) {
             SelectArm result = arm(whole);
-            expectSymbol(u")");
+            expectSymbol(u')');
             result.inBrackets = true;
             if (isOrderBy())
                 result.orderBy = orderBy();
@@ -175,20 +174,20 @@ private:
             takeWord(u"all");
         do
             result.items.push_back(selectItem());
-        while (takeSymbol(u","));
+        while (takeSymbol(u','));
         if (takeWord(u"into"))
             into(whole);
         if (takeWord(u"from")) {
             do
                 result.tables.push_back(tableName());
-            while (takeSymbol(u","));
+            while (takeSymbol(u','));
         }
         result.where = whereClause();
         if (isPair(u"group", u"by")) {
             m_at += 2;
             do
                 result.groupBy.push_back(expression());
-            while (takeSymbol(u","));
+            while (takeSymbol(u','));
         }
         if (takeWord(u"having"))
             result.having = expression();
@@ -200,7 +199,7 @@ private:
     void into(Select& whole)
     {
         whole.into = name();
-        if (takeSymbol(u".")) {
+        if (takeSymbol(u'.')) {
             whole.intoOtherFile = true;
             whole.into = name();
         }
@@ -209,11 +208,11 @@ private:
     SelectItem selectItem()
     {
         SelectItem item;
-        if (takeSymbol(u"*")) {
+        if (takeSymbol(u'*')) {
             item.star = true;
             return item;
         }
-        if (isName(peek()) && peek(1).isSymbol(u".") && peek(2).isSymbol(u"*")) {
+        if (isName(peek()) && peek(1).isSymbol(u'.') && peek(2).isSymbol(u'*')) {
             item.star = true;
             item.starTable = peek().text;
             m_at += 3;
@@ -257,7 +256,7 @@ private:
             if (!term.descending)
                 takeWord(u"asc");
             terms.push_back(std::move(term));
-        } while (takeSymbol(u","));
+        } while (takeSymbol(u','));
         return terms;
     }
 
@@ -300,7 +299,7 @@ private:
         ExpressionPtr left = joined();
         for (;;) {
             if (peek().kind == Token::Kind::Symbol && isOneOf(peek().text, operators)) {
-                const QString op = take().text;
+                const QStringView op = take().text;
                 left = binary(Expression::Kind::Compare, op, std::move(left), joined());
                 continue;
             }
@@ -338,7 +337,7 @@ private:
 
     ExpressionPtr in(ExpressionPtr value)
     {
-        expectSymbol(u"(");
+        expectSymbol(u'(');
         auto result = make(Expression::Kind::In);
         adopt(*result, std::move(value));
         if (peek().isWord(u"select")) {
@@ -347,33 +346,37 @@ private:
         } else {
             do
                 adopt(*result, expression());
-            while (takeSymbol(u","));
+            while (takeSymbol(u','));
         }
-        expectSymbol(u")");
+        expectSymbol(u')');
         return result;
     }
 
-    ExpressionPtr joined()
+    /// How tightly an operator between two values binds; 0 for what is none.
+    static int tightness(const Token& token)
     {
-        return leftToRight<1>({u"&"}, [this] {
-            return leftToRight<2>({u"+", u"-"}, [this] {
-                return leftToRight<1>({u"mod"}, [this] {
-                    return leftToRight<1>({u"\\"}, [this] {
-                        return leftToRight<2>({u"*", u"/"}, [this] { return signedPower(); });
-                    });
-                });
-            });
-        });
+        if (token.isWord(u"mod"))
+            return 3;
+        if (token.kind != Token::Kind::Symbol || token.text.size() != 1)
+            return 0;
+        switch (token.text.front().unicode()) {
+        case u'&': return 1;
+        case u'+':
+        case u'-': return 2;
+        case u'\\': return 4;
+        case u'*':
+        case u'/': return 5;
+        default: return 0;
+        }
     }
 
-    template <size_t count, class Next>
-    ExpressionPtr leftToRight(std::array<QStringView, count> operators, Next next)
+    ExpressionPtr joined(int loosest = 1)
     {
-        ExpressionPtr left = next();
-        while ((peek().kind == Token::Kind::Symbol || peek().isWord(u"mod"))
-            && isOneOf(peek().text, operators)) {
-            const QString op = take().text.toLower();
-            left = binary(Expression::Kind::Arithmetic, op, std::move(left), next());
+        ExpressionPtr left = signedPower();
+        for (int now = tightness(peek()); now >= loosest; now = tightness(peek())) {
+            const QStringView op = now == 3 ? QStringView(u"mod") : peek().text;
+            ++m_at;
+            left = binary(Expression::Kind::Arithmetic, op, std::move(left), joined(now + 1));
         }
         return left;
     }
@@ -381,16 +384,16 @@ private:
     ExpressionPtr signedPower()
     {
         const Level level(*this);
-        if (takeSymbol(u"+"))
+        if (takeSymbol(u'+'))
             return signedPower();
-        if (takeSymbol(u"-")) {
+        if (takeSymbol(u'-')) {
             auto result = make(Expression::Kind::Negative);
             adopt(*result, signedPower());
             return result;
         }
         ExpressionPtr left = operand();
-        while (takeSymbol(u"^"))
-            left = binary(Expression::Kind::Arithmetic, u"^"_s, std::move(left), operand());
+        while (takeSymbol(u'^'))
+            left = binary(Expression::Kind::Arithmetic, u"^", std::move(left), operand());
         return left;
     }
 
@@ -413,21 +416,21 @@ private:
             ++m_at;
             return make(kind);
         }
-        if (token.isWord(u"exists") && peek(1).isSymbol(u"(")) {
+        if (token.isWord(u"exists") && peek(1).isSymbol(u'(')) {
             m_at += 2;
             auto result = make(Expression::Kind::Exists);
             result->select = std::make_unique<Select>(select());
-            expectSymbol(u")");
+            expectSymbol(u')');
             return result;
         }
-        if (token.kind == Token::Kind::Word && peek(1).isSymbol(u"("))
+        if (token.kind == Token::Kind::Word && peek(1).isSymbol(u'('))
             return call();
         if (token.kind == Token::Kind::Word
             && (isOneOf(token.text, kNeverNames) || isOrderBy() || isPair(u"group", u"by")))
-            throw SyntaxError{u"an operand is missing before "_s + token.text};
+            throw SyntaxError{u"an operand is missing before "_s + token.text.toString()};
         auto column = make(Expression::Kind::Column);
         column->name = name();
-        if (takeSymbol(u".")) {
+        if (takeSymbol(u'.')) {
             column->table = column->name;
             column->name = name();
         }
@@ -448,7 +451,7 @@ private:
 
     ExpressionPtr inBrackets()
     {
-        expectSymbol(u"(");
+        expectSymbol(u'(');
         ExpressionPtr result;
         if (peek().isWord(u"select")) {
             result = make(Expression::Kind::Subselect);
@@ -456,23 +459,23 @@ private:
         } else {
             result = expression();
         }
-        expectSymbol(u")");
+        expectSymbol(u')');
         return result;
     }
 
     ExpressionPtr call()
     {
         auto result = make(Expression::Kind::Call);
-        result->name = take().text.toLower();
-        expectSymbol(u"(");
-        if (result->name == u"count" && takeSymbol(u"*"))
+        result->name = take().text;
+        expectSymbol(u'(');
+        if (sameName(result->name, u"count") && takeSymbol(u'*'))
             result->kind = Expression::Kind::CountAll;
-        else if (!peek().isSymbol(u")")) {
+        else if (!peek().isSymbol(u')')) {
             do
                 adopt(*result, expression());
-            while (takeSymbol(u","));
+            while (takeSymbol(u','));
         }
-        expectSymbol(u")");
+        expectSymbol(u')');
         return result;
     }
 
@@ -494,7 +497,7 @@ private:
     }
 
     static ExpressionPtr binary(
-        Expression::Kind kind, const QString& op, ExpressionPtr left, ExpressionPtr right)
+        Expression::Kind kind, QStringView op, ExpressionPtr left, ExpressionPtr right)
     {
         auto result = make(kind);
         result->op = op;
@@ -525,31 +528,34 @@ private:
         return token.kind == Token::Kind::Name || token.kind == Token::Kind::Word;
     }
     bool takeWord(QStringView word) { return peek().isWord(word) && ++m_at; }
-    bool takeSymbol(QStringView symbol) { return peek().isSymbol(symbol) && ++m_at; }
+    bool takeSymbol(char16_t symbol) { return peek().isSymbol(symbol) && ++m_at; }
     void expectWord(QStringView word)
     {
         if (!takeWord(word))
             throw SyntaxError{word.toString() + u" is missing before "_s + shown()};
     }
-    void expectSymbol(QStringView symbol)
+    void expectSymbol(char16_t symbol)
     {
         if (!takeSymbol(symbol))
-            throw SyntaxError{symbol.toString() + u" is missing before "_s + shown()};
+            throw SyntaxError{QChar(symbol) + u" is missing before "_s + shown()};
     }
     void expectEnd()
     {
         if (peek().kind != Token::Kind::End)
             throw SyntaxError{u"something stands behind the statement: "_s + shown()};
     }
-    QString shown() const { return peek().kind == Token::Kind::End ? u"the end"_s : peek().text.left(40); }
+    QString shown() const
+    {
+        return peek().kind == Token::Kind::End ? u"the end"_s : peek().text.left(40).toString();
+    }
 
     // Every table has a hidden key in the file; the dialect does not know it.
-    QString name()
+    QStringView name()
     {
         if (!isName(peek()))
             throw SyntaxError{u"a name is missing before "_s + shown()};
         if (isOneOf(peek().text, kHiddenKeys))
-            throw SyntaxError{u"no such name: "_s + peek().text};
+            throw SyntaxError{u"no such name: "_s + peek().text.toString()};
         return take().text;
     }
 

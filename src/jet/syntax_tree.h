@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringView>
 
 #include <memory>
 #include <vector>
@@ -8,6 +8,9 @@
 namespace jet {
 
 struct Select;
+
+/// The tree of one statement. Its names are views into the statement and the tokens, so it lives no longer
+/// than they.
 
 /// An expression. `and` and `or` hold all their terms in one node, so that long chains stay flat.
 struct Expression {
@@ -39,9 +42,9 @@ struct Expression {
     int depth = 1;
     int literal = -1;
     int literalKind = 0;
-    QString op;
-    QString table;
-    QString name; ///< column, function (lower case), or the text of a number
+    QStringView op;
+    QStringView table;
+    QStringView name; ///< column, function, or the text of a number or value
     std::vector<std::unique_ptr<Expression>> parts;
     std::unique_ptr<Select> select;
 };
@@ -50,15 +53,15 @@ using ExpressionPtr = std::unique_ptr<Expression>;
 
 struct SelectItem {
     bool star = false;
-    QString starTable; ///< of t.*, empty for a bare star
+    QStringView starTable; ///< of t.*, empty for a bare star
     ExpressionPtr expression;
-    QString alias;
+    QStringView alias;
 };
 
 struct TableName {
-    QString name;
-    QString alias;
-    const QString& shownAs() const { return alias.isEmpty() ? name : alias; }
+    QStringView name;
+    QStringView alias;
+    QStringView shownAs() const { return alias.isEmpty() ? name : alias; }
 };
 
 struct OrderTerm {
@@ -80,12 +83,12 @@ struct SelectArm {
 
 struct Select {
     std::vector<SelectArm> arms; ///< more than one: a union
-    QString into; ///< the table that select .. into makes
+    QStringView into; ///< the table that select .. into makes
     bool intoOtherFile = false;
 };
 
 struct Assignment {
-    QString column;
+    QStringView column;
     ExpressionPtr value;
 };
 
@@ -95,7 +98,7 @@ struct Statement {
     TableName table;
     Select select;
     std::vector<Assignment> assignments;
-    std::vector<QString> columns;
+    std::vector<QStringView> columns;
     std::vector<ExpressionPtr> values;
     ExpressionPtr where;
 };

@@ -11,9 +11,20 @@
 
 namespace jet {
 
-struct CatalogColumn {
+/// A column of a table. Statements name dozens of the 126 columns of a contact, so names are told apart by a
+/// hash of their letters before they are compared.
+class CatalogColumn {
+public:
+    CatalogColumn(QString columnName, ColumnType columnType);
+
     QString name;
-    ColumnType type = ColumnType::Unknown;
+    ColumnType type;
+
+    bool isCalled(QStringView other, uint otherHash) const;
+    static uint hashOf(QStringView text);
+
+private:
+    uint m_hash;
 };
 
 struct CatalogTable {

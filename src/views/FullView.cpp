@@ -100,6 +100,13 @@ void FullView::layOut()
 {
     auto* bar = m_tools->makeToolBar(this);
     bar->setObjectName(u"SSActiveToolBars1"_s);
+    lblCounter->setObjectName(u"lblCounter"_s);
+    lblCounter->setAccessibleName(tr("Position in the list"));
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(space);
+    for (QWidget* step : std::initializer_list<QWidget*>{ssprevious, lblCounter, ssnext})
+        bar->addWidget(step);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     m_browser = layOutBrowser();
@@ -149,8 +156,6 @@ QWidget* FullView::layOutBrowser()
 
 QWidget* FullView::layOutRecord()
 {
-    lblCounter->setObjectName(u"lblCounter"_s);
-    lblCounter->setAccessibleName(tr("Position in the list"));
     TabsEdit = new QTabWidget;
     TabsEdit->setObjectName(u"TabsEdit"_s);
     auto* pages = new FullViewPages;
@@ -170,17 +175,9 @@ QWidget* FullView::layOutRecord()
     m_record->addWidget(nothing);
     m_record->addWidget(record);
 
-    auto* steps = new QHBoxLayout;
-    steps->setSpacing(4);
-    steps->addStretch(1);
-    steps->addWidget(ssprevious);
-    steps->addWidget(lblCounter);
-    steps->addWidget(ssnext);
     auto* side = new QWidget;
     auto* layout = new QVBoxLayout(side);
-    layout->setContentsMargins(4, 8, 8, 8);
-    layout->setSpacing(0);
-    layout->addLayout(steps);
+    layout->setContentsMargins(4, 4, 8, 8);
     layout->addWidget(m_record, 1);
     return side;
 }

@@ -86,15 +86,11 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"dtcmbreligion"_s, tr("Religion"))
         .readOnly(u"CmbEducation"_s, tr("Education"))
         .readOnly(u"txthobby"_s, tr("Hobbies"));
-    form.group(tr("Classes"))
-        .readOnly(u"DtcmbCate"_s, tr("Category"))
-        .beside()
-        .readOnly(u"DtcmbSubCate"_s, {})
-        .readOnly(u"cmbpriority"_s, tr("Priority"))
-        .readOnly(u"txtproduct"_s, tr("Product"))
-        .readOnly(u"Dtcmbstatus"_s, tr("Status"))
-        .readOnly(u"dtcmbregion"_s, tr("Region"))
-        .readOnly(u"dtcmbrelation"_s, tr("Relation"));
+    form.group(tr("E-mail and web"))
+        .readOnly(u"txtemail1"_s, tr("E-mail"))
+        .readOnly(u"txtemail2"_s, {})
+        .readOnly(u"txtSMS"_s, tr("SMS"))
+        .readOnly(u"txtweb"_s, tr("Web"));
     form.nextColumn()
         .group(tr("Home"))
         .readOnly(u"txtadd1"_s, tr("Address"))
@@ -111,17 +107,20 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"txtMobile"_s, tr("Mobile"))
         .readOnly(u"txtspmobile"_s, tr("Spouse's mobile"));
     form.nextColumn()
-        .group(tr("E-mail and web"))
-        .readOnly(u"txtemail1"_s, tr("E-mail"))
-        .readOnly(u"txtemail2"_s, {})
-        .readOnly(u"txtSMS"_s, tr("SMS"))
-        .readOnly(u"txtweb"_s, tr("Web"));
-    form.group(tr("Own fields"))
+        .group(tr("Classes"))
+        .readOnly(u"DtcmbCate"_s, tr("Category"))
+        .beside()
+        .readOnly(u"DtcmbSubCate"_s, {})
+        .readOnly(u"cmbpriority"_s, tr("Priority"))
+        .readOnly(u"txtproduct"_s, tr("Product"))
+        .readOnly(u"Dtcmbstatus"_s, tr("Status"))
+        .readOnly(u"dtcmbregion"_s, tr("Region"))
+        .readOnly(u"dtcmbrelation"_s, tr("Relation"));
+    form.group(tr("Own fields and note"))
         .readOnly(u"cmbuser1"_s, tr("User 1"))
         .readOnly(u"cmbuser2"_s, tr("User 2"))
         .readOnly(u"cmbuser3"_s, tr("User 3"));
-    form.group(tr("Note")).readOnly(u"txtMemo"_s, {}, 4);
-    form.last()->setAccessibleName(tr("Note"));
+    form.readOnly(u"txtMemo"_s, tr("Note"), 4);
 }
 
 void frmDetailView::layOutFamily(QWidget* page)
@@ -194,12 +193,11 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"txtwph2"_s, {})
         .readOnly(u"txtwph3"_s, {});
     form.nextColumn()
-        .group(tr("E-mail and web"))
+        .group(tr("E-mail, web and note"))
         .readOnly(u"txtbemail1"_s, tr("E-mail"))
         .readOnly(u"txtbemail2"_s, {})
         .readOnly(u"txtbweb"_s, tr("Web"));
-    form.group(tr("Business note")).readOnly(u"txtbnote"_s, {}, 4);
-    form.last()->setAccessibleName(tr("Business note"));
+    form.readOnly(u"txtbnote"_s, tr("Note"), 4);
 }
 
 bool frmDetailView::showContact(qint64 id)

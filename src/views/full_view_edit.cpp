@@ -77,11 +77,18 @@ FullViewEdit::FullViewEdit(core::Context& context, QWidget* parent)
     layOutAddresses(addPage(tabs, tr("Addresses"), u"home"));
     layOutNumbers(addPage(tabs, tr("Telephone and e-mail"), u"phone"));
     layOutFamily(addPage(tabs, tr("Family and notes"), u"family"));
-    FormKit form(this);
-    form.wide(u"TabsEditPages"_s, tr("Fields of the contact"), tabs);
-    form.buttonRow()
+    tabs->setObjectName(u"TabsEditPages"_s);
+    auto* commands = new QWidget;
+    FormKit(commands)
+        .buttonRow()
         .caption(u"LblESaved"_s)
         .button(u"CmdSave"_s, tr("&Save"), u"save", tr("Save the changes to this contact"));
+    commands->layout()->setContentsMargins(12, 0, 12, 8);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(tabs, 1);
+    layout->addWidget(commands);
     m_note = child<QLabel>(this, u"LblESaved"_s);
     connect(
         child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this, &FullViewEdit::saveRequested);
@@ -120,13 +127,6 @@ void FullViewEdit::layOutPerson(QWidget* page)
         .combo(u"CmbEReligion"_s, tr("Religion"), u"Religion"_s)
         .combo(u"CmbEEducation"_s, tr("E&ducation"), u"education"_s)
         .combo(u"CmbEHobbies"_s, tr("&Hobbies"), u"Hobbies"_s);
-    form.group(tr("Work"))
-        .line(u"TxtECompany"_s, tr("Co&mpany"), u"Company"_s)
-        .combo(u"CmbEJobTitle"_s, tr("&Job title"), u"Job_Title"_s)
-        .line(u"TxtEAltTitle"_s, tr("&Other contact"), u"AltTitle"_s)
-        .hint(tr("Title of the other contact"))
-        .beside(3)
-        .line(u"TxtEAltContact"_s, {}, u"altcontact"_s);
     form.nextColumn()
         .group(tr("Classes"))
         .combo(u"CmbECategory"_s, tr("&Category"), u"category1"_s)
@@ -136,6 +136,14 @@ void FullViewEdit::layOutPerson(QWidget* page)
         .combo(u"CmbEStatus"_s, tr("S&tatus"), u"Status"_s)
         .combo(u"CmbERegion"_s, tr("R&egion"), u"region"_s)
         .combo(u"CmbERelation"_s, tr("Rel&ation"), u"Relation"_s);
+    form.nextColumn()
+        .group(tr("Work"))
+        .line(u"TxtECompany"_s, tr("Co&mpany"), u"Company"_s)
+        .combo(u"CmbEJobTitle"_s, tr("&Job title"), u"Job_Title"_s)
+        .line(u"TxtEAltTitle"_s, tr("&Other contact"), u"AltTitle"_s)
+        .hint(tr("Title of the other contact"))
+        .beside(3)
+        .line(u"TxtEAltContact"_s, {}, u"altcontact"_s);
     form.group(tr("Own fields"))
         .combo(u"CmbEUser1"_s, tr("User &1"), u"User1"_s)
         .combo(u"CmbEUser2"_s, tr("User &2"), u"User2"_s)
@@ -221,8 +229,7 @@ void FullViewEdit::layOutFamily(QWidget* page)
     form.group(tr("Associates"))
         .line(u"TxtEAsso1"_s, tr("&First"), u"Asso1"_s)
         .line(u"TxtEAsso2"_s, tr("Sec&ond"), u"asso2"_s);
-    form.nextColumn().group(tr("Business note")).memo(u"TxtEBNote"_s, {}, u"b_note"_s, 8);
-    form.last()->setAccessibleName(tr("Business note"));
+    form.nextColumn().group(tr("Business")).memo(u"TxtEBNote"_s, tr("&Note"), u"b_note"_s, 8);
 }
 
 void FullViewEdit::connectLists()

@@ -58,7 +58,7 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     , m_associates(new QLabel(tr("Associates:")))
 {
     ix1->setObjectName(u"ix1"_s);
-    ix1->setFixedSize(84, 84);
+    ix1->setFixedSize(76, 76);
     ix1->setAccessibleName(tr("Picture"));
     SSCommand8->setObjectName(u"SSCommand8"_s);
     SSCommand8->setFlat(true);
@@ -75,7 +75,6 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     lblid->setToolTip(tr("Number of the contact"));
     m_facts->setTextFormat(Qt::PlainText);
     m_facts->setContentsMargins(6, 0, 0, 0);
-    m_facts->setForegroundRole(QPalette::PlaceholderText);
     m_facts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_associates->setContentsMargins(6, 0, 0, 0);
     m_associates->hide();

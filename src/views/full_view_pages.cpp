@@ -126,7 +126,7 @@ void FullViewPages::layOutFamily()
         .readOnly(u"dtpKid1"_s, tr("Birthday, child 1"))
         .readOnly(u"dtpKid2"_s, tr("Birthday, child 2"))
         .readOnly(u"dtpKid3"_s, tr("Birthday, child 3"));
-    form.nextColumn().group(tr("Business note")).readOnly(u"txtbnote"_s, {}, 8);
+    form.nextColumn().group(tr("Business")).readOnly(u"txtbnote"_s, tr("Note"), 8);
 }
 
 } // namespace views

@@ -19,7 +19,10 @@ bool RecordingFrame::perform(const core::Action& action)
     return able;
 }
 
-bool RecordingFrame::canPerform(const core::Action&) const { return able; }
+bool RecordingFrame::canPerform(const core::Action&) const
+{
+    return able;
+}
 
 bool TargetScreen::showContact(qint64 id)
 {
@@ -38,9 +41,15 @@ ScreenFixture::ScreenFixture(TestBook::Rows rows)
     screens.setContext(context);
 }
 
-ScreenFixture::~ScreenFixture() { screens.unloadAll(); }
+ScreenFixture::~ScreenFixture()
+{
+    screens.unloadAll();
+}
 
-void ScreenFixture::addTarget(const QString& form) { screens.add<TargetScreen>(form); }
+void ScreenFixture::addTarget(const QString& form)
+{
+    screens.add<TargetScreen>(form);
+}
 
 TargetScreen* ScreenFixture::target(const QString& form)
 {

@@ -62,8 +62,8 @@ public:
     bool knowsContacts = true; ///< the answer of showContact()
 };
 
-/// Everything a screen needs, with a book of its own and nothing of this computer behind it. Both databases are
-/// the one book. verify() at the end of each test names boxes and failures that came unasked.
+/// Everything a screen needs, with a book of its own and nothing of this computer behind it. Both databases
+/// are the one book. verify() at the end of each test names boxes and failures that came unasked.
 class ScreenFixture {
 public:
     explicit ScreenFixture(TestBook::Rows rows = TestBook::Rows::None);

@@ -125,7 +125,8 @@ void CategoryTreeTest::leafIsChosenByClickAndByKey()
     QSignalSpy chosen(m_tree.get(), &CategoryTree::contactChosen);
     QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualItemRect(sales).center());
     QCOMPARE(chosen.size(), 0);
-    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualItemRect(sales->child(1)).center());
+    QTest::mouseClick(
+        m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualItemRect(sales->child(1)).center());
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(chosen.takeFirst().value(0).toLongLong(), 4);
     m_tree->setCurrentItem(sales->child(0));

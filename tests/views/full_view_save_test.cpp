@@ -120,20 +120,19 @@ void FullViewSaveTest::stored_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QStringList>("changes");
     const QString homeWebGone = u"h_web: "_s;
-    QTest::newRow("category trimmed") << u"CmbECategory"_s << u"  Club "_s
-                                      << QStringList{homeWebGone, u"category1: Club"_s};
-    QTest::newRow("blank subcategory") << u"CmbESubCategory"_s << u"  "_s
-                                       << QStringList{homeWebGone, u"category2: Undefined"_s};
+    QTest::newRow("category trimmed")
+        << u"CmbECategory"_s << u"  Club "_s << QStringList{homeWebGone, u"category1: Club"_s};
+    QTest::newRow("blank subcategory")
+        << u"CmbESubCategory"_s << u"  "_s << QStringList{homeWebGone, u"category2: Undefined"_s};
     QTest::newRow("name follows the first name, untrimmed")
-        << u"CmbEFirst"_s << u" Ada"_s
-        << QStringList{u"Name:  Ada Last"_s, u"First:  Ada"_s, homeWebGone};
+        << u"CmbEFirst"_s << u" Ada"_s << QStringList{u"Name:  Ada Last"_s, u"First:  Ada"_s, homeWebGone};
     QTest::newRow("kid trimmed") << u"TxtEKid2"_s << u" Tim "_s << QStringList{u"kid2: Tim"_s, homeWebGone};
-    QTest::newRow("other texts as typed") << u"TxtECompany"_s << u" O'Neill & Co "_s
-                                          << QStringList{u"Company:  O'Neill & Co "_s, homeWebGone};
-    QTest::newRow("blank status stays blank") << u"CmbEStatus"_s << QString()
-                                              << QStringList{homeWebGone, u"Status: "_s};
-    QTest::newRow("a home web that was typed") << u"TxtEHWeb"_s << u"new.org"_s
-                                               << QStringList{u"h_web: new.org"_s};
+    QTest::newRow("other texts as typed")
+        << u"TxtECompany"_s << u" O'Neill & Co "_s << QStringList{u"Company:  O'Neill & Co "_s, homeWebGone};
+    QTest::newRow("blank status stays blank")
+        << u"CmbEStatus"_s << QString() << QStringList{homeWebGone, u"Status: "_s};
+    QTest::newRow("a home web that was typed")
+        << u"TxtEHWeb"_s << u"new.org"_s << QStringList{u"h_web: new.org"_s};
 }
 
 void FullViewSaveTest::stored()

@@ -36,7 +36,8 @@ void FullViewSqlTest::texts_data()
         << u"Select id,name from cnt_main where category2='Chess' and name is not null  order by name"_s;
     QTest::newRow("keyword, each field in order")
         << keywordSql(u"k"_s)
-        << u"select id,name from cnt_main  where  first like '*k*' or  last like '*k*' or  company like '*k*' or  "
+        << u"select id,name from cnt_main  where  first like '*k*' or  last like '*k*' or  company like "
+           u"'*k*' or  "
            "category1 like '*k*' or  category2 like '*k*' or  h_city like '*k*' or  w_addtype like '*k*' or  "
            "fam_note like '*k*' or  b_note like '*k*' or  education like '*k*' or  region like '*k*' or  "
            "hobbies like '*k*' or  altcontact like '*k*'"_s;

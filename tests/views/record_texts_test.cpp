@@ -23,11 +23,16 @@ private Q_SLOTS:
 namespace {
 
 constexpr QStringView kPerson
-    = u"insert into cnt_main (Name, First, Mid, Last, Maiden, Spouse, category1, category2, h_add1, h_add2, h_city, h_pin, "
-      "h_state, h_country, h_std, H_Ph1, h_ph3, Mobile, W_std, w_Ph1, w_Ph2, SP_Mobile, B_std, B_ph3, fax, H_email1, "
-      "h_email2, b_email2, M_BD, Sp_BD, Kid1_BD, W_AddType, B_Add_Type, W_web, B_Web, memo1, [Memo], Asso1) values "
-      "('Shown & Stored', 'Ada', 'M', 'Long', 'Short', 'Bo', 'Friends', 'Chess', '1 Way', 'Hill', 'Pune', '411', 'MH', "
-      "'India', '020', '11', '13', '98', '022', '21', '22', '99', '080', '33', '44', 'a@x', 'b@x', 'd@y', #05-Mar-1980#, "
+    = u"insert into cnt_main (Name, First, Mid, Last, Maiden, Spouse, category1, category2, h_add1, h_add2, "
+      u"h_city, h_pin, "
+      "h_state, h_country, h_std, H_Ph1, h_ph3, Mobile, W_std, w_Ph1, w_Ph2, SP_Mobile, B_std, B_ph3, fax, "
+      "H_email1, "
+      "h_email2, b_email2, M_BD, Sp_BD, Kid1_BD, W_AddType, B_Add_Type, W_web, B_Web, memo1, [Memo], Asso1) "
+      "values "
+      "('Shown & Stored', 'Ada', 'M', 'Long', 'Short', 'Bo', 'Friends', 'Chess', '1 Way', 'Hill', 'Pune', "
+      "'411', 'MH', "
+      "'India', '020', '11', '13', '98', '022', '21', '22', '99', '080', '33', '44', 'a@x', 'b@x', 'd@y', "
+      "#05-Mar-1980#, "
       "#29-Feb-1984#, #31-Dec-2024#, 'Office', 'Shop', 'w.org', 'b.org', 'added', 'edited', 'Cy Go')";
 
 QString textFor(const QList<ShownText>& texts, const QString& control)
@@ -52,12 +57,14 @@ void RecordTextsTest::composed_data()
     QTest::addColumn<bool>("national");
     QTest::addColumn<QString>("control");
     QTest::addColumn<QString>("text");
-    const auto full = [](const char* name, const QString& control, const QString& text, bool national = true) {
-        QTest::newRow(name) << false << national << control << text;
-    };
-    const auto detail = [](const char* name, const QString& control, const QString& text, bool national = true) {
-        QTest::newRow(name) << true << national << control << text;
-    };
+    const auto full
+        = [](const char* name, const QString& control, const QString& text, bool national = true) {
+              QTest::newRow(name) << false << national << control << text;
+          };
+    const auto detail
+        = [](const char* name, const QString& control, const QString& text, bool national = true) {
+              QTest::newRow(name) << true << national << control << text;
+          };
     full("number", u"lblid"_s, u"1"_s);
     full("stored name as caption", u"SSCommand8"_s, u"Shown & Stored"_s);
     full("three names", u"txtfirst"_s, u"Ada M Long"_s);

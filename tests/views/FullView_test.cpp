@@ -1,0 +1,338 @@
+#include "core/sound_files.h"
+#include "support/screen_fixture.h"
+#include "views/FullView.h"
+#include "widgets/fields.h"
+#include "widgets/record_list.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+using namespace views;
+using widgets::child;
+
+/// The full view as a person uses it.
+class FullViewTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void opensOnAnEmptyBook();
+    void opensWithNothingShown();
+    void opensWithAContact();
+    void opensOnTheFirstOfTwoWithOneName();
+    void stepsStopAtTheEnds();
+    void treeAndListSwap();
+    void treeLeafShowsTheContact();
+    void associateIsALink();
+    void associateWithAnApostropheLeadsNowhere();
+    void keywordSearchAndBack();
+    void filterIsTaken();
+    void filterButtonNamesTheCaller();
+    void editPageHidesTheBrowser();
+    void savesWhatWasTyped();
+    void stepWhileEditingLoadsTheNext();
+    void namesAreEditedInTheList();
+    void seesWhatAnotherScreenSaved();
+    void pictureOpensOutside();
+
+private:
+    void add(const QString& columns, const QString& values);
+    FullView* open();
+    QString text(const QString& control) const { return widgets::textOf(child<QWidget>(m_view, control)); }
+    void click(const QString& button)
+    {
+        QTest::mouseClick(child<QAbstractButton>(m_view, button), Qt::LeftButton);
+    }
+    widgets::RecordList* list() const { return child<widgets::RecordList>(m_view, u"DBList1"_s); }
+    QStringList listed() const;
+    bool shows(const QString& control) const { return child<QWidget>(m_view, control)->isVisible(); }
+
+    std::unique_ptr<support::ScreenFixture> m_fixture;
+    FullView* m_view = nullptr;
+};
+
+void FullViewTest::init()
+{
+    m_fixture = std::make_unique<support::ScreenFixture>();
+    m_fixture->shared.NationalMode = true;
+    add(u"Name, First, Last, category1, category2, Asso1, h_web, M_BD, Company"_s,
+        u"'Cy Young', 'Cy', 'Young', 'Friends', 'Chess', 'Ann Lee', 'cy.org', #05-Mar-1980#, 'Acme'"_s);
+    add(u"Name, First, Last, category1, category2, h_city, PhotLoc, asso2"_s,
+        u"'Ann Lee', 'Ann', 'Lee', 'Work', 'Sales', 'Pune', 'C:\\Photos\\ann.jpg', 'Bob & Son'"_s);
+    add(u"Name, First, category1, category2"_s, u"'Bob & Son', 'Bob', 'Work', 'Sales'"_s);
+}
+
+void FullViewTest::cleanup()
+{
+    QCOMPARE(m_fixture->verify(), QString());
+}
+
+void FullViewTest::add(const QString& columns, const QString& values)
+{
+    m_fixture->execute(u"insert into cnt_main ("_s + columns + u") values ("_s + values + u')');
+}
+
+FullView* FullViewTest::open()
+{
+    m_view = m_fixture->open<FullView>(u"FullView"_s);
+    return m_view;
+}
+
+QStringList FullViewTest::listed() const
+{
+    QStringList names;
+    for (int row = 0; row < list()->rowCount(); ++row)
+        names << list()->textAt(row, u"Name"_s);
+    return names;
+}
+
+void FullViewTest::opensOnAnEmptyBook()
+{
+    m_fixture->execute(u"delete * from cnt_main"_s);
+    open();
+    QCOMPARE(text(u"lblCounter"_s), QString());
+    click(u"ssnext"_s);
+    click(u"ssprevious"_s);
+    click(u"CmdTree"_s);
+    click(u"CmdRefresh"_s);
+    QCOMPARE(text(u"lblCounter"_s), QString());
+    QCOMPARE(text(u"SSCommand8"_s), QString());
+    QCOMPARE(child<QTreeWidget>(m_view, u"tvwdb"_s)->topLevelItem(0)->childCount(), 0);
+}
+
+void FullViewTest::opensWithNothingShown()
+{
+    open();
+    QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Bob & Son"_s, u"Cy Young"_s}));
+    QVERIFY(!m_view->showContact(0));
+    QVERIFY(!m_view->showContact(99));
+    QCOMPARE(text(u"lblid"_s), QString());
+    QVERIFY(!shows(u"TabsEdit"_s));
+    QCOMPARE(m_fixture->frame.titles, QStringList{u"Contacts Full View"_s});
+    QCOMPARE(m_fixture->frame.dates, QStringList{u"15 Mar-2024"_s});
+}
+
+void FullViewTest::opensWithAContact()
+{
+    m_fixture->shared.NationalMode = false;
+    QVERIFY(open()->showContact(1));
+    QCOMPARE(text(u"lblid"_s), u"1"_s);
+    QCOMPARE(text(u"SSCommand8"_s), u"Cy Young"_s);
+    QCOMPARE(text(u"txtfirst"_s), u"Cy  Young"_s);
+    QCOMPARE(text(u"dtpBirtday"_s), u"Mar-05-80"_s);
+    QCOMPARE(list()->currentKey(), 1);
+    QCOMPARE(text(u"lblCounter"_s), u"3 of 3"_s);
+    QCOMPARE(m_fixture->shared.selectedContactId, 1);
+    QCOMPARE(m_fixture->frame.dates, QStringList{u"Mar 15-2024"_s});
+    click(u"CmdTree"_s);
+    const QTreeWidgetItem* leaf = child<QTreeWidget>(m_view, u"tvwdb"_s)->currentItem();
+    QVERIFY(leaf);
+    QCOMPARE(leaf->text(0), u"Cy Young"_s);
+}
+
+// Kept: the list is searched for the name.
+void FullViewTest::opensOnTheFirstOfTwoWithOneName()
+{
+    add(u"Name, First, Company"_s, u"'Ann Lee', 'Ann', 'Second'"_s);
+    QVERIFY(open()->showContact(4));
+    QCOMPARE(list()->rowCount(), 4);
+    QCOMPARE(list()->currentRow(), 0);
+    QCOMPARE(text(u"lblid"_s), u"2"_s);
+    click(u"ssnext"_s);
+    QCOMPARE(text(u"txtcompany"_s), u"Second"_s);
+}
+
+void FullViewTest::stepsStopAtTheEnds()
+{
+    open();
+    list()->setCurrentRow(0);
+    click(u"ssprevious"_s);
+    QCOMPARE(text(u"SSCommand8"_s), u"Ann Lee"_s);
+    for (const QString& counter : {u"2 of 3"_s, u"3 of 3"_s, u"3 of 3"_s}) {
+        click(u"ssnext"_s);
+        QCOMPARE(text(u"lblCounter"_s), counter);
+    }
+    QCOMPARE(text(u"SSCommand8"_s), u"Cy Young"_s);
+    QCOMPARE(m_fixture->boxes.shown, QStringList());
+}
+
+void FullViewTest::treeAndListSwap()
+{
+    open();
+    QVERIFY(!child<QWidget>(m_view, u"CmdList"_s)->isEnabled());
+    click(u"CmdTree"_s);
+    QVERIFY(shows(u"tvwdb"_s) && !shows(u"DBList1"_s));
+    QVERIFY(!child<QWidget>(m_view, u"CmdTree"_s)->isEnabled());
+    click(u"CmdList"_s);
+    QVERIFY(!shows(u"tvwdb"_s) && shows(u"DBList1"_s));
+    QVERIFY(!child<QWidget>(m_view, u"CmdList"_s)->isEnabled());
+    QVERIFY(child<QWidget>(m_view, u"CmdTree"_s)->isEnabled());
+}
+
+void FullViewTest::treeLeafShowsTheContact()
+{
+    open();
+    click(u"CmdTree"_s);
+    auto* tree = child<QTreeWidget>(m_view, u"tvwdb"_s);
+    QTreeWidgetItem* work = tree->topLevelItem(0)->child(1);
+    work->setExpanded(true);
+    work->child(0)->setExpanded(true);
+    QTreeWidgetItem* bob = work->child(0)->child(1);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(bob).center());
+    QCOMPARE(text(u"SSCommand8"_s), u"Bob & Son"_s);
+    QCOMPARE(text(u"lblid"_s), u"3"_s);
+    QCOMPARE(m_fixture->shared.selectedContactId, 3);
+    QCOMPARE(list()->currentKey(), 3);
+}
+
+void FullViewTest::associateIsALink()
+{
+    open()->showContact(1);
+    QVERIFY(shows(u"LblAsso1"_s) && !shows(u"LblAsso2"_s));
+    click(u"LblAsso1"_s);
+    QCOMPARE(text(u"SSCommand8"_s), u"Ann Lee"_s);
+    QCOMPARE(list()->currentKey(), 2);
+    click(u"LblAsso2"_s); // with "&" in the name
+    QCOMPARE(text(u"SSCommand8"_s), u"Bob & Son"_s);
+    QVERIFY(!shows(u"LblAsso1"_s) && !shows(u"LblAsso2"_s));
+}
+
+void FullViewTest::associateWithAnApostropheLeadsNowhere()
+{
+    jet::Recordset row = m_fixture->book.data().openRecordset(u"select * from cnt_main where id=1");
+    row.edit();
+    row.set(u"Asso1", u"O'Brien"_s);
+    QVERIFY(row.update());
+    open()->showContact(1);
+    m_fixture->book.expectFailure(u"O'Brien"_s);
+    click(u"LblAsso1"_s);
+    QCOMPARE(text(u"lblid"_s), u"1"_s);
+}
+
+void FullViewTest::keywordSearchAndBack()
+{
+    open()->showContact(1);
+    QVERIFY(!shows(u"frmkeyword"_s));
+    child<QAction>(m_view, u"Search"_s)->trigger();
+    QVERIFY(shows(u"frmkeyword"_s));
+    QTest::keyClicks(child<QLineEdit>(m_view, u"txtkeyword"_s), u"pu'ne"_s);
+    click(u"CmdSearch"_s);
+    QVERIFY(!shows(u"frmkeyword"_s));
+    QCOMPARE(listed(), QStringList{u"Ann Lee"_s});
+    QCOMPARE(text(u"lblCounter"_s), u"1 of 1"_s);
+    QCOMPARE(text(u"SSCommand8"_s), u"Ann Lee"_s);
+    click(u"CmdRefresh"_s);
+    QCOMPARE(text(u"lblCounter"_s), u"1 of 3"_s);
+    QCOMPARE(list()->currentKey(), 2);
+}
+
+void FullViewTest::filterIsTaken()
+{
+    open();
+    m_view->applyFilter(u" Where category1='Work'"_s);
+    QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Bob & Son"_s}));
+    m_view->applyFilter(u" Where category1='None'"_s);
+    QCOMPARE(listed(), QStringList());
+    QCOMPARE(text(u"lblCounter"_s), QString());
+    click(u"ssnext"_s);
+    // A contact that the filter hides brings the whole list back.
+    QVERIFY(m_view->showContact(1));
+    QCOMPARE(text(u"lblCounter"_s), u"3 of 3"_s);
+}
+
+void FullViewTest::filterButtonNamesTheCaller()
+{
+    open();
+    click(u"CmdView"_s);
+    QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
+    auto* menu = child<QMenu>(m_view, u"FilterMenu"_s);
+    QVERIFY(menu->isVisible());
+    menu->close();
+}
+
+void FullViewTest::editPageHidesTheBrowser()
+{
+    open()->showContact(1);
+    auto* pages = child<QTabWidget>(m_view, u"TabsEdit"_s);
+    pages->setCurrentIndex(1);
+    for (const QString& name : {u"DBList1"_s, u"CmdTree"_s, u"CmdList"_s, u"CmdView"_s, u"CmdRefresh"_s})
+        QVERIFY2(!shows(name), qPrintable(name));
+    QCOMPARE(text(u"CmbEFirst"_s), u"Cy"_s);
+    QCOMPARE(text(u"TxtEHWeb"_s), QString());
+    pages->setCurrentIndex(0);
+    QVERIFY(shows(u"DBList1"_s) && shows(u"CmdRefresh"_s));
+}
+
+void FullViewTest::savesWhatWasTyped()
+{
+    open()->showContact(1);
+    child<QTabWidget>(m_view, u"TabsEdit"_s)->setCurrentIndex(1);
+    auto* first = child<QComboBox>(m_view, u"CmbEFirst"_s);
+    first->lineEdit()->selectAll();
+    QTest::keyClicks(first, u"Abe"_s);
+    click(u"CmdSave"_s);
+    QCOMPARE(m_fixture->book.rows(u"select Name, First, M_BD, h_web, Status from cnt_main where id=1"_s),
+        QStringList{u"Abe Young|Abe|1980-03-05||"_s});
+    QCOMPARE(m_fixture->sounds.played.last(), core::sounds::Save.toString());
+    QCOMPARE(text(u"SSCommand8"_s), u"Abe Young"_s);
+    QCOMPARE(text(u"lblCounter"_s), u"1 of 3"_s);
+    QCOMPARE(listed().first(), u"Abe Young"_s);
+}
+
+// Else the next save would write one contact's fields over another.
+void FullViewTest::stepWhileEditingLoadsTheNext()
+{
+    open()->showContact(2);
+    child<QTabWidget>(m_view, u"TabsEdit"_s)->setCurrentIndex(1);
+    click(u"ssnext"_s);
+    QCOMPARE(text(u"CmbEFirst"_s), u"Bob"_s);
+    click(u"CmdSave"_s);
+    QCOMPARE(m_fixture->book.firstText(u"select First from cnt_main where id=2"_s), u"Ann"_s);
+}
+
+void FullViewTest::namesAreEditedInTheList()
+{
+    open()->showContact(3);
+    QTest::keyClick(list(), Qt::Key_F2);
+    QVERIFY(!shows(u"DBList1Editor"_s));
+    child<QAction>(m_view, u"Edit"_s)->trigger();
+    QTest::keyClick(list(), Qt::Key_F2);
+    QVERIFY(shows(u"DBList1Editor"_s));
+    QTest::keyClicks(child<QLineEdit>(m_view, u"DBList1Editor"_s), u"Zed"_s);
+    QTest::keyClick(child<QLineEdit>(m_view, u"DBList1Editor"_s), Qt::Key_Return);
+    QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Cy Young"_s, u"Zed"_s}));
+    QCOMPARE(text(u"SSCommand8"_s), u"Zed"_s);
+    QCOMPARE(text(u"lblCounter"_s), u"3 of 3"_s);
+}
+
+void FullViewTest::seesWhatAnotherScreenSaved()
+{
+    open()->showContact(1);
+    m_view->hide();
+    m_fixture->execute(u"update cnt_main set Company='New', Name='Aa' where id=1"_s);
+    add(u"Name"_s, u"'Dot'"_s);
+    m_view->show();
+    QCOMPARE(listed(), (QStringList{u"Aa"_s, u"Ann Lee"_s, u"Bob & Son"_s, u"Dot"_s}));
+    QCOMPARE(list()->currentKey(), 1);
+    QCOMPARE(text(u"txtcompany"_s), u"New"_s);
+    m_view->hide();
+    m_fixture->execute(u"delete * from cnt_main where id=1"_s);
+    m_view->show();
+    QCOMPARE(text(u"lblid"_s), QString());
+    QCOMPARE(text(u"lblCounter"_s), QString());
+}
+
+void FullViewTest::pictureOpensOutside()
+{
+    open()->showContact(1);
+    QTest::mouseClick(child<QWidget>(m_view, u"ix1"_s), Qt::LeftButton);
+    QCOMPARE(m_fixture->shell.openedFiles, QStringList());
+    m_view->showContact(2);
+    QTest::mouseClick(child<QWidget>(m_view, u"ix1"_s), Qt::LeftButton);
+    QCOMPARE(m_fixture->shell.openedFiles, QStringList{u"C:\\Photos\\ann.jpg"_s});
+}
+
+QTEST_MAIN(FullViewTest)
+#include "FullView_test.moc"

@@ -1,0 +1,234 @@
+#include "support/screen_fixture.h"
+#include "views/contact_tools.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+using namespace views;
+
+/// Each tool of the full view hands the contact to its screen, or says that there is none.
+class ContactToolsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void toolWithoutItsScreenIsDisabled();
+    void handsOver_data();
+    void handsOver();
+    void nothingSelected_data();
+    void nothingSelected();
+    void firstOfTwoWithOneName();
+    void apostropheMeansNotSelected();
+    void mailGoesToTheContact();
+    void noShortMessageWithoutANumber();
+    void detailViewOpensThePageOfTheSelector();
+    void editDetailsGoesByTheRow();
+    void editDetailsOfAContactThatIsGone();
+    void filtersComeBackToTheCaller_data();
+    void filtersComeBackToTheCaller();
+    void printRecordLeavesTheRequest_data();
+    void printRecordLeavesTheRequest();
+
+private:
+    ContactTools& tools();
+    void trigger(const QString& id) { tools().action(id)->trigger(); }
+
+    std::unique_ptr<support::ScreenFixture> m_fixture;
+    std::unique_ptr<QWidget> m_screen;
+    QString m_name;
+    qint64 m_listed = 0;
+};
+
+void ContactToolsTest::init()
+{
+    m_screen.reset();
+    m_fixture = std::make_unique<support::ScreenFixture>();
+    m_fixture->execute(u"insert into cnt_main (Name, Sms) values ('Ann', '98')"_s);
+    m_fixture->execute(u"insert into cnt_main (Name) values ('Bob')"_s);
+    m_fixture->execute(u"insert into cnt_main (Name) values ('Ann')"_s);
+    m_fixture->execute(u"insert into ov_setup ([key]) values ('')"_s);
+    m_name = u"Bob"_s;
+    m_listed = 2;
+}
+
+void ContactToolsTest::cleanup()
+{
+    QCOMPARE(m_fixture->verify(), QString());
+}
+
+/// Made at the first use, when the targets of the test are known.
+ContactTools& ContactToolsTest::tools()
+{
+    if (!m_screen) {
+        m_screen = std::make_unique<QWidget>();
+        new ContactTools(m_fixture->context,
+            {.callerForm = u"FullView"_s,
+                .shownName = [this] { return m_name; },
+                .listedId = [this] { return m_listed; }},
+            m_screen.get());
+    }
+    return *m_screen->findChild<ContactTools*>();
+}
+
+void ContactToolsTest::toolWithoutItsScreenIsDisabled()
+{
+    m_fixture->addTarget(u"FrmDialer"_s);
+    for (const QString& id : {u"Call"_s, u"Search"_s, u"Edit"_s, u"PrintRecord"_s})
+        QVERIFY2(tools().action(id)->isEnabled(), qPrintable(id));
+    for (const QString& id : {u"Letter"_s, u"SaveasVCF"_s, u"SavetoDesktop"_s, u"SaveToDesktopAll"_s,
+             u"PrintSingle"_s, u"CommonFilter"_s, u"PrintLabel"_s}) {
+        QVERIFY2(!tools().action(id)->isEnabled(), qPrintable(id));
+        QVERIFY(tools().action(id)->toolTip().contains(u"Not available yet"_s));
+    }
+}
+
+void ContactToolsTest::handsOver_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("form");
+    QTest::newRow("brief view") << u"BriefView"_s << u"FrmContacts"_s;
+    QTest::newRow("linked records") << u"ViewLinkedItem"_s << u"frmCntViewer"_s;
+    QTest::newRow("dialer") << u"Call"_s << u"FrmDialer"_s;
+    QTest::newRow("letter") << u"Letter"_s << u"FrmLetter"_s;
+    QTest::newRow("full form") << u"EditDetails"_s << u"FormMain"_s;
+}
+
+void ContactToolsTest::handsOver()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, form);
+    m_fixture->addTarget(form);
+    trigger(id);
+    QCOMPARE(m_fixture->target(form)->contacts, QList<qint64>{2});
+    QCOMPARE(m_fixture->frame.placed, QStringList{form});
+}
+
+void ContactToolsTest::nothingSelected_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("form");
+    handsOver_data();
+    QTest::newRow("mail") << u"Email2"_s << u"FormEmail"_s;
+    QTest::newRow("short message") << u"SMS"_s << u"frmSms"_s;
+    QTest::newRow("selector") << u"DetailView"_s << u"frmSelector"_s;
+}
+
+void ContactToolsTest::nothingSelected()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, form);
+    m_name.clear();
+    m_listed = 0;
+    m_fixture->addTarget(form);
+    m_fixture->boxes.expect(u"Record not selected"_s);
+    trigger(id);
+    QCOMPARE(m_fixture->boxes.shown, QStringList{u"information: Record not selected"_s});
+    QCOMPARE(m_fixture->frame.placed, QStringList());
+    QVERIFY(!m_fixture->shared.EditRequested);
+}
+
+void ContactToolsTest::firstOfTwoWithOneName()
+{
+    m_name = u"Ann"_s;
+    m_fixture->addTarget(u"FrmDialer"_s);
+    trigger(u"Call"_s);
+    QCOMPARE(m_fixture->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
+    QCOMPARE(m_fixture->shared.selectedContactId, 1);
+}
+
+void ContactToolsTest::apostropheMeansNotSelected()
+{
+    m_name = u"O'Brien"_s;
+    m_fixture->addTarget(u"FrmLetter"_s);
+    m_fixture->book.expectFailure(u"O'Brien"_s);
+    m_fixture->boxes.expect(u"Record not selected"_s);
+    trigger(u"Letter"_s);
+}
+
+void ContactToolsTest::mailGoesToTheContact()
+{
+    m_fixture->addTarget(u"FormEmail"_s);
+    trigger(u"Email2"_s);
+    QCOMPARE(m_fixture->target(u"FormEmail"_s)->recipients, QList<qint64>{2});
+    QCOMPARE(m_fixture->frame.placed, QStringList{u"FormEmail"_s});
+}
+
+void ContactToolsTest::noShortMessageWithoutANumber()
+{
+    m_fixture->addTarget(u"frmSms"_s);
+    trigger(u"SMS"_s);
+    QCOMPARE(m_fixture->frame.placed, QStringList());
+    m_name = u"Ann"_s;
+    trigger(u"SMS"_s);
+    QCOMPARE(m_fixture->target(u"frmSms"_s)->contacts, QList<qint64>{1});
+}
+
+void ContactToolsTest::detailViewOpensThePageOfTheSelector()
+{
+    m_fixture->addTarget(u"frmSelector"_s);
+    trigger(u"DetailView"_s);
+    QCOMPARE(m_fixture->shared.selectedContactId, 2);
+    QCOMPARE(m_fixture->target(u"frmSelector"_s)->pages, QStringList{u"Detail"_s});
+}
+
+void ContactToolsTest::editDetailsGoesByTheRow()
+{
+    m_name = u"Ann"_s;
+    m_listed = 3;
+    m_fixture->addTarget(u"FormMain"_s);
+    trigger(u"EditDetails"_s);
+    QCOMPARE(m_fixture->target(u"FormMain"_s)->contacts, QList<qint64>{3});
+    QVERIFY(m_fixture->shared.EditRequested);
+}
+
+void ContactToolsTest::editDetailsOfAContactThatIsGone()
+{
+    m_fixture->addTarget(u"FormMain"_s);
+    dynamic_cast<support::TargetScreen*>(m_fixture->screens.load(u"FormMain"))->knowsContacts = false;
+    m_fixture->boxes.expect(u"Error"_s);
+    trigger(u"EditDetails"_s);
+    QVERIFY(!m_fixture->shared.EditRequested);
+}
+
+void ContactToolsTest::filtersComeBackToTheCaller_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("form");
+    QTest::newRow("filter") << u"CommonFilter"_s << u"frmFilter"_s;
+    QTest::newRow("tabs") << u"TabFilter"_s << u"frmTabFilter"_s;
+}
+
+void ContactToolsTest::filtersComeBackToTheCaller()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, form);
+    m_fixture->addTarget(form);
+    trigger(id);
+    QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
+    QCOMPARE(m_fixture->frame.placed, QStringList{form});
+}
+
+void ContactToolsTest::printRecordLeavesTheRequest_data()
+{
+    QTest::addColumn<bool>("installed");
+    QTest::newRow("sibling is there") << true;
+    QTest::newRow("sibling is missing") << false;
+}
+
+void ContactToolsTest::printRecordLeavesTheRequest()
+{
+    QFETCH(bool, installed);
+    if (installed)
+        m_fixture->shell.siblings << u"Orvane Link & Sync.exe"_s;
+    m_fixture->addTarget(u"FrmProjectMsg"_s);
+    trigger(u"PrintRecord"_s);
+    QCOMPARE(m_fixture->book.rows(u"select [key], rptMod, rptSubMod from ov_setup"_s),
+        QStringList{u"report|Contacts|Address Book- Full"_s});
+    QCOMPARE(m_fixture->shell.ends, installed ? 1 : 0);
+    QCOMPARE(m_fixture->frame.placed, installed ? QStringList() : QStringList{u"FrmProjectMsg modally"_s});
+}
+
+QTEST_MAIN(ContactToolsTest)
+#include "contact_tools_test.moc"
