@@ -258,12 +258,21 @@ void FormMain::load()
     setListSources(this, context());
     m_assist->selectScope(CityScope::All);
     if (shared().ContMerge)
-        control(u"DtcmbSubCate"_s)->hide();
+        hideSubcategory();
     context().frame.setTitle(caption(m_variant.title));
     context().frame.showDate(
         widgets::formatDate(context().services.clock.today(), core::datePattern(shared().NationalMode)));
     turnPage(true);
     go(Mode::Idle);
+}
+
+void FormMain::hideSubcategory()
+{
+    QWidget* list = control(u"DtcmbSubCate"_s);
+    list->hide();
+    for (QLabel* label : findChildren<QLabel*>())
+        if (label->buddy() == list)
+            label->hide();
 }
 
 void FormMain::showUserLabels()
@@ -333,8 +342,11 @@ bool FormMain::showContact(qint64 id)
         if (!Adodc1.findFirst(u"id=%1"_s.arg(id)))
             return false;
     }
-    if (!mayClose())
+    if (!mayClose()) {
+        // What is being entered stays, and is saved as what it is.
+        shared().EditRequested = false;
         return true;
+    }
     if (!showRecord(QString::number(id)))
         return false;
     go(Mode::Editing);

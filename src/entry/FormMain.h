@@ -50,6 +50,7 @@ private:
     void cancel();
     void clearForm();
     void showUserLabels();
+    void hideSubcategory();
     bool showRecord(const QString& id);
     void showNameLabel();
     void toggleAssist();

@@ -219,7 +219,8 @@ void FullView::connectControls()
     });
     connect(m_tools, &ContactTools::searchWanted, frmkeyword, &KeywordPanel::open);
     connect(m_tools, &ContactTools::listEditingWanted, m_listEditing, &ListEditing::setEditable);
-    connect(m_listEditing, &ListEditing::nameEdited, this, &FullView::storeName);
+    // Later, since a step to another row ends the editing, and the list is read anew.
+    connect(m_listEditing, &ListEditing::nameEdited, this, &FullView::storeName, Qt::QueuedConnection);
     connect(ssnext, &QToolButton::clicked, this, [this] { moveBy(1); });
     connect(ssprevious, &QToolButton::clicked, this, [this] { moveBy(-1); });
     connect(CmdList, &QToolButton::clicked, this, &FullView::showList);
@@ -290,6 +291,8 @@ void FullView::openList(const QString& sql)
 {
     Data4 = sql;
     DBList1->fill(context().data.openRecordset(sql));
+    // Said outright that no row is current, else the list takes its first row when it gets the focus.
+    DBList1->setCurrentRow(-1);
     showCounter();
 }
 

@@ -56,6 +56,7 @@ QWidget* frmDetailView::layOutHead()
     picture->setObjectName(u"Photo"_s);
     picture->setAccessibleName(tr("Picture"));
     picture->setFixedSize(72, 72);
+    picture->setFocusPolicy(Qt::NoFocus);
     auto* name = new QLabel;
     name->setObjectName(u"lblname"_s);
     name->setTextFormat(Qt::PlainText);

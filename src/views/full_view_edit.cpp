@@ -11,6 +11,7 @@
 #include "widgets/theme.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -63,6 +64,14 @@ const QStringList& priorities()
 {
     static const QStringList digits{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
     return digits;
+}
+
+/// Typing is bounded by the column, but a longer text that the book already holds must not be cut.
+void setLimit(QWidget* control, qsizetype characters)
+{
+    auto* combo = qobject_cast<QComboBox*>(control);
+    if (auto* edit = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(control))
+        edit->setMaxLength(int(characters));
 }
 
 } // namespace
@@ -255,8 +264,13 @@ void FullViewEdit::loadContact(qint64 id)
     const jet::Recordset row = m_context.data.openRecordset(contactByIdSql(id));
     m_id = row.hasRow() ? id : 0;
     m_note->clear();
-    for (const EditSource& source : editTexts())
-        widgets::setTextOf(child<QWidget>(this, source.control.toString()), row.textOrEmpty(source.column));
+    for (const EditSource& source : editTexts()) {
+        auto* control = child<QWidget>(this, source.control.toString());
+        const QString text = row.textOrEmpty(source.column);
+        const qsizetype size = m_context.schema.textSize(u"cnt_main", source.column);
+        setLimit(control, std::max(size, text.size()));
+        widgets::setTextOf(control, text);
+    }
     widgets::clear(child<QWidget>(this, u"TxtEHWeb"_s));
     for (const EditSource& source : editDates()) {
         const QDate date = row.date(source.column);

@@ -67,7 +67,8 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     // The font as a style sheet, since the frame's own sheet would win over one that is set.
     SSCommand8->setStyleSheet(
         u"QPushButton { font-size: 17pt; font-weight: 600; text-align: left; border: 1px solid transparent;"
-        " border-radius: 5px; padding: 1px 4px; } QPushButton:hover, QPushButton:focus { border-color: palette(mid); }"_s);
+        " border-radius: 5px; padding: 1px 4px; }"
+        "QPushButton:hover, QPushButton:focus { border-color: palette(mid); }"_s);
     SSCommand8->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     SSCommand8->setContextMenuPolicy(Qt::CustomContextMenu);
     lblid->setObjectName(u"lblid"_s);

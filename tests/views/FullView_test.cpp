@@ -32,7 +32,9 @@ private Q_SLOTS:
     void filterButtonNamesTheCaller();
     void editPageHidesTheBrowser();
     void savesWhatWasTyped();
+    void savingUntouchedFieldsClearsTheHomeWebOnly();
     void stepWhileEditingLoadsTheNext();
+    void stepWhileANameIsEditedKeepsBoth();
     void namesAreEditedInTheList();
     void seesWhatAnotherScreenSaved();
     void pictureOpensOutside();
@@ -108,6 +110,10 @@ void FullViewTest::opensWithNothingShown()
     QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Bob & Son"_s, u"Cy Young"_s}));
     QVERIFY(!m_view->showContact(0));
     QVERIFY(!m_view->showContact(99));
+    m_view->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_view));
+    m_view->setFocus();
+    QVERIFY(list()->hasFocus());
     QCOMPARE(text(u"lblid"_s), QString());
     QVERIFY(!shows(u"TabsEdit"_s));
     QCOMPARE(m_fixture->frame.titles, QStringList{u"Contacts Full View"_s});
@@ -281,6 +287,43 @@ void FullViewTest::savesWhatWasTyped()
     QCOMPARE(listed().first(), u"Abe Young"_s);
 }
 
+// Also what is longer than a person could type, a note of two lines, and values that no list has.
+void FullViewTest::savingUntouchedFieldsClearsTheHomeWebOnly()
+{
+    jet::Recordset contact = m_fixture->book.data().openRecordset(u"select * from cnt_main where id=1");
+    contact.edit();
+    const QStringList columns = contact.columns();
+    for (int i = 0; i < columns.size(); ++i) {
+        if (contact.columnType(i) == jet::ColumnType::Date)
+            contact.set(columns[i], QDate(1875, 1, 1).addDays(i));
+        else if (contact.columnType(i) == jet::ColumnType::Text)
+            contact.set(columns[i], QString(columns[i] + u" \"o'€\" "_s).repeated(30));
+        else if (contact.columnType(i) == jet::ColumnType::Memo)
+            contact.set(columns[i], u"one\r\ntwo"_s);
+    }
+    for (const QString& trimmed : {u"category1"_s, u"category2"_s, u"kid1"_s, u"kid2"_s, u"kid3"_s})
+        contact.set(trimmed, trimmed);
+    contact.set(u"First", u"Cy"_s);
+    contact.set(u"Last", u"Young"_s);
+    contact.set(u"Name", u"Cy Young"_s);
+    contact.set(u"PhotLoc", QString());
+    QVERIFY(contact.update());
+    const QStringList before
+        = m_fixture->book.rows(u"select * from cnt_main where id=1"_s).value(0).split(u'|');
+
+    open()->showContact(1);
+    child<QTabWidget>(m_view, u"TabsEdit"_s)->setCurrentIndex(1);
+    click(u"CmdSave"_s);
+    const QStringList after
+        = m_fixture->book.rows(u"select * from cnt_main where id=1"_s).value(0).split(u'|');
+    QStringList changed;
+    for (int i = 0; i < columns.size(); ++i) {
+        if (before[i] != after[i])
+            changed << columns[i] + u": "_s + after[i];
+    }
+    QCOMPARE(changed, QStringList{u"h_web: "_s});
+}
+
 // Else the next save would write one contact's fields over another.
 void FullViewTest::stepWhileEditingLoadsTheNext()
 {
@@ -302,9 +345,22 @@ void FullViewTest::namesAreEditedInTheList()
     QVERIFY(shows(u"DBList1Editor"_s));
     QTest::keyClicks(child<QLineEdit>(m_view, u"DBList1Editor"_s), u"Zed"_s);
     QTest::keyClick(child<QLineEdit>(m_view, u"DBList1Editor"_s), Qt::Key_Return);
-    QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Cy Young"_s, u"Zed"_s}));
+    QTRY_COMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Cy Young"_s, u"Zed"_s}));
     QCOMPARE(text(u"SSCommand8"_s), u"Zed"_s);
     QCOMPARE(text(u"lblCounter"_s), u"3 of 3"_s);
+}
+
+void FullViewTest::stepWhileANameIsEditedKeepsBoth()
+{
+    open()->showContact(2);
+    child<QAction>(m_view, u"Edit"_s)->trigger();
+    QTest::keyClick(list(), Qt::Key_F2);
+    QTest::keyClicks(child<QLineEdit>(m_view, u"DBList1Editor"_s), u"Zed"_s);
+    click(u"ssnext"_s);
+    QTRY_COMPARE(listed(), (QStringList{u"Bob & Son"_s, u"Cy Young"_s, u"Zed"_s}));
+    QCOMPARE(text(u"SSCommand8"_s), u"Bob & Son"_s);
+    QCOMPARE(list()->currentKey(), 3);
+    QCOMPARE(text(u"lblCounter"_s), u"1 of 3"_s);
 }
 
 void FullViewTest::seesWhatAnotherScreenSaved()

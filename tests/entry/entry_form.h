@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include "core/frame.h"
+#include "entry/FormMain.h"
+#include "entry/register_entry.h"
+#include "support/screen_fixture.h"
+#include "widgets/fields.h"
+
+/// The detailed entry form on a book of its own, worked by the names of its controls.
+class EntryForm : public support::ScreenFixture {
+public:
+    void start()
+    {
+        entry::registerEntry(screens);
+        m_form = dynamic_cast<entry::FormMain*>(screens.load(u"FormMain"));
+        screens.show(u"FormMain");
+        // Only the active window has a focus to give and to take.
+        m_form->activateWindow();
+        if (!QTest::qWaitForWindowActive(m_form))
+            qFatal("the form does not become active");
+    }
+
+    entry::FormMain* form() const { return m_form; }
+    template <class T> T* child(const QString& name) const { return widgets::child<T>(m_form, name); }
+    QString text(const QString& name) const { return widgets::textOf(child<QWidget>(name)); }
+    void set(const QString& name, const QString& text) { widgets::setTextOf(child<QWidget>(name), text); }
+    void click(const QString& name) { child<QAbstractButton>(name)->click(); }
+    bool shows(const QString& name) const { return child<QWidget>(name)->isVisibleTo(m_form); }
+
+    /// Types into a field as a person does who comes to it and leaves it by Tab.
+    void type(const QString& name, const QString& typed)
+    {
+        showPageOf(name);
+        auto* field = child<QWidget>(name);
+        field->setFocus();
+        auto* combo = qobject_cast<QComboBox*>(field);
+        QWidget* line = combo ? combo->lineEdit() : field;
+        QMetaObject::invokeMethod(line, "selectAll");
+        QTest::keyClicks(line, typed);
+        if (combo)
+            combo->completer()->popup()->hide();
+        QTest::keyClick(line, Qt::Key_Tab);
+    }
+    void showPageOf(const QString& name)
+    {
+        auto* pages = child<QTabWidget>(QStringLiteral("sstab1"));
+        for (int page = 0; page < pages->count(); ++page) {
+            if (pages->widget(page)->isAncestorOf(child<QWidget>(name)))
+                pages->setCurrentIndex(page);
+        }
+    }
+
+    void addContact(const QString& columns, const QString& values)
+    {
+        execute(QStringLiteral("insert into cnt_main (") + columns + QStringLiteral(") values (") + values
+            + u')');
+    }
+    int contacts() { return int(book.rows(QStringLiteral("select id from cnt_main")).size()); }
+
+private:
+    entry::FormMain* m_form = nullptr;
+};

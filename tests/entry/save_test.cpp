@@ -1,0 +1,636 @@
+#include "entry_form.h"
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+using platform::Answer;
+
+namespace {
+
+/// What is put into each control for a new contact, and, with another ending, for a changed one.
+constexpr QStringView kTexts[] = {u"Cmbtitle", u"CmbSex", u"dtcmbfname", u"dtcmblname", u"txtadd1",
+    u"txtadd2", u"dtcmbcity", u"dtcmbcountry", u"dtcmbstate", u"dtcmbpin", u"dtcspouse", u"dtckid1",
+    u"dtckid2", u"dtckid3", u"DtcmbCate", u"DtcmbSubCate", u"txtstd", u"txtph1", u"txtph2", u"txtph3",
+    u"txtMobile", u"txtspmobile", u"txtweb", u"txtemail1", u"cboemail1", u"txtemail2", u"txtSMS",
+    u"Dtcmbbproduct", u"txtbadd1", u"txtbadd2", u"dtcmbbcity", u"dtcmbbcountry", u"dtcmbbstate", u"dtcmbbpin",
+    u"txtbstd", u"txtbph1", u"txtbph2", u"txtbph3", u"txtbemail1", u"txtbemail2", u"txtbweb", u"txtbnote",
+    u"dtcmbjob", u"txtbaddty", u"txtwadd1", u"txtwadd2", u"dtcmbwcity", u"dtcmbwcountry", u"dtcmbwstate",
+    u"dtcmbwpin", u"txtwph1", u"txtwph2", u"txtwph3", u"txtwstd", u"dtcmbbadtyp", u"txtfax", u"Dtcmbstatus",
+    u"dtcmbmid", u"dtcmbnick", u"dtcmbrelation", u"dtcmbreligion", u"CmbEducation", u"dtcmbregion",
+    u"txthobby", u"dtcmbasso1", u"dtcmbasso2", u"txtMemo", u"dtcmbmaiden", u"txtaltcontact", u"dtcmbalttitle",
+    u"cmbuser1", u"cmbuser2", u"cmbuser3", u"txtcmpny"};
+
+/// The fields that have a column of their own, by that column.
+struct Field {
+    QStringView column;
+    QStringView control;
+};
+constexpr Field kFields[] = {{u"Title", u"Cmbtitle"}, {u"category1", u"DtcmbCate"},
+    {u"category2", u"DtcmbSubCate"}, {u"h_city", u"dtcmbcity"}, {u"sex", u"CmbSex"},
+    {u"First", u"dtcmbfname"}, {u"Last", u"dtcmblname"}, {u"h_add1", u"txtadd1"}, {u"h_add2", u"txtadd2"},
+    {u"h_state", u"dtcmbstate"}, {u"h_country", u"dtcmbcountry"}, {u"h_pin", u"dtcmbpin"},
+    {u"Spouse", u"dtcspouse"}, {u"kid1", u"dtckid1"}, {u"kid2", u"dtckid2"}, {u"kid3", u"dtckid3"},
+    {u"h_std", u"txtstd"}, {u"H_Ph1", u"txtph1"}, {u"h_ph2", u"txtph2"}, {u"h_ph3", u"txtph3"},
+    {u"Mobile", u"txtMobile"}, {u"SP_Mobile", u"txtspmobile"}, {u"h_web", u"txtweb"},
+    {u"h_email2", u"txtemail2"}, {u"Sms", u"txtSMS"}, {u"b_add1", u"txtbadd1"},
+    {u"Product", u"Dtcmbbproduct"}, {u"b_add2", u"txtbadd2"}, {u"b_city", u"dtcmbbcity"},
+    {u"b_state", u"dtcmbbstate"}, {u"b_country", u"dtcmbbcountry"}, {u"b_pin", u"dtcmbbpin"},
+    {u"B_std", u"txtbstd"}, {u"B_Ph1", u"txtbph1"}, {u"B_Ph2", u"txtbph2"}, {u"B_ph3", u"txtbph3"},
+    {u"b_email1", u"txtbemail1"}, {u"b_email2", u"txtbemail2"}, {u"B_Web", u"txtbweb"},
+    {u"b_note", u"txtbnote"}, {u"Job_Title", u"dtcmbjob"}, {u"Company", u"txtcmpny"},
+    {u"B_Add_Type", u"txtbaddty"}, {u"w_add1", u"txtwadd1"}, {u"w_add2", u"txtwadd2"},
+    {u"w_city", u"dtcmbwcity"}, {u"w_country", u"dtcmbwcountry"}, {u"w_pin", u"dtcmbwpin"},
+    {u"w_Ph1", u"txtwph1"}, {u"w_Ph2", u"txtwph2"}, {u"w_ph3", u"txtwph3"}, {u"W_std", u"txtwstd"},
+    {u"W_AddType", u"dtcmbbadtyp"}, {u"fax", u"txtfax"}, {u"Status", u"Dtcmbstatus"}, {u"Mid", u"dtcmbmid"},
+    {u"nick", u"dtcmbnick"}, {u"Relation", u"dtcmbrelation"}, {u"Religion", u"dtcmbreligion"},
+    {u"education", u"CmbEducation"}, {u"region", u"dtcmbregion"}, {u"Hobbies", u"txthobby"},
+    {u"Asso1", u"dtcmbasso1"}, {u"asso2", u"dtcmbasso2"}, {u"Maiden", u"dtcmbmaiden"},
+    {u"altcontact", u"txtaltcontact"}, {u"AltTitle", u"dtcmbalttitle"}, {u"User1", u"cmbuser1"},
+    {u"User2", u"cmbuser2"}, {u"User3", u"cmbuser3"}};
+
+/// Dates by column and control: each on a day of its own.
+constexpr Field kDates[] = {{u"M_BD", u"DateBday"}, {u"Anniv", u"DateAnn"}, {u"Sp_BD", u"DateSpouse"},
+    {u"Kid1_BD", u"Datekid1"}, {u"Kid2_BD", u"datekid2"}, {u"Kid3_BD", u"datekid3"}};
+
+QString valueFor(qsizetype field, QChar ending)
+{
+    return u"v%1"_s.arg(field) + ending;
+}
+QDate dateFor(int field, int year)
+{
+    return {year, field + 1, 10 + field};
+}
+
+/// While it lives no file can grow, as on a full disk.
+class FullDisk {
+public:
+    FullDisk()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit none{4096, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+/// Saving a contact from the detailed form: what is written, column by column, what is refused, and what goes
+/// with it.
+class SaveTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void addWritesTheWholeRow();
+    void editWritesTheWholeRow();
+    void blanksOfANewContact();
+    void mergedCategory();
+    void refusals_data();
+    void refusals();
+    void editTakesTwoViewsOnly_data();
+    void editTakesTwoViewsOnly();
+    void nameCanEndBlank();
+    void sideEffects_data();
+    void sideEffects();
+    void buttonsOfEachMode();
+    void clearedFormHasTheDefaults();
+    void cancelForgets();
+    void editListLoadsAContact();
+    void editRequestedByAnotherScreen();
+    void refusedDiscardKeepsTheNewContact();
+    void blankRowsGoAtLoad();
+    void hostileTexts_data();
+    void hostileTexts();
+    void wrongDateStaysInTheBox();
+    void failingSaveKeepsTheForm();
+
+private:
+    void fillAll(QChar ending, int year);
+    QMap<QString, QString> row(const QString& id);
+    /// All columns of a contact as the form writes them when it is filled by fillAll().
+    QMap<QString, QString> written(QChar ending, int year);
+    void fillName(const QString& first, const QString& last, const QString& company, const QString& view);
+
+    std::unique_ptr<EntryForm> m_fixture;
+};
+
+void SaveTest::init()
+{
+    m_fixture = std::make_unique<EntryForm>();
+}
+
+void SaveTest::cleanup()
+{
+    QCOMPARE(m_fixture->verify(), QString());
+    m_fixture.reset();
+}
+
+void SaveTest::fillAll(QChar ending, int year)
+{
+    EntryForm& f = *m_fixture;
+    for (qsizetype i = 0; i < qsizetype(std::size(kTexts)); ++i)
+        f.set(kTexts[i].toString(), valueFor(i, ending));
+    for (int i = 0; i < int(std::size(kDates)); ++i)
+        f.set(kDates[i].control.toString(), dateFor(i, year).toString(Qt::ISODate));
+    f.set(u"cmbnview"_s, u"Last,First"_s);
+    f.set(u"cmbpriority"_s, ending == u'a' ? u"4"_s : u"5"_s);
+    f.set(u"txtbxtn"_s, QString(u"1"_s + ending));
+    f.set(u"txtwxtn"_s, QString(u"2"_s + ending));
+}
+
+QMap<QString, QString> SaveTest::written(QChar ending, int year)
+{
+    const auto typed = [ending](QStringView control) {
+        return valueFor(
+            std::find(std::begin(kTexts), std::end(kTexts), control) - std::begin(kTexts), ending);
+    };
+    QMap<QString, QString> row;
+    for (const jet::SchemaTable& table : m_fixture->schema.tables) {
+        if (table.name != u"cnt_main")
+            continue;
+        for (const jet::SchemaColumn& column : table.columns)
+            row[column.name.toLower()] = column.type == jet::ColumnType::YesNo ? u"false"_s : u"null"_s;
+    }
+    row.remove(u"id"_s);
+    row[u"gen_id"_s] = u"0"_s;
+    for (const Field& field : kFields)
+        row[field.column.toString().toLower()] = typed(field.control);
+    for (int i = 0; i < int(std::size(kDates)); ++i)
+        row[kDates[i].column.toString().toLower()] = dateFor(i, year).toString(Qt::ISODate);
+    row[u"name"_s] = typed(u"dtcmblname") + u' ' + typed(u"dtcmbfname");
+    row[u"nview"_s] = u"Last,First"_s;
+    row[u"priority"_s] = ending == u'a' ? u"4"_s : u"5"_s;
+    row[u"h_email1"_s] = typed(u"txtemail1") + u'@' + typed(u"cboemail1");
+    row[u"b_tel_xtn"_s] = QString(u"1"_s + ending);
+    row[u"w_tel_xtn"_s] = QString(u"2"_s + ending);
+    return row;
+}
+
+QMap<QString, QString> SaveTest::row(const QString& id)
+{
+    QMap<QString, QString> result;
+    const auto rows = m_fixture->context.data.openRecordset(u"select * from cnt_main where id="_s + id);
+    const QStringList columns = rows.columns();
+    for (int i = 0; i < columns.size(); ++i) {
+        const QVariant value = rows.value(i);
+        const bool isDate = value.typeId() == QMetaType::QDate;
+        result[columns[i].toLower()] = !value.isValid() ? u"null"_s
+            : isDate                                    ? value.toDate().toString(Qt::ISODate)
+                                                        : value.toString();
+    }
+    result.remove(u"id"_s);
+    return result;
+}
+
+void SaveTest::fillName(
+    const QString& first, const QString& last, const QString& company, const QString& view)
+{
+    m_fixture->set(u"dtcmbfname"_s, first);
+    m_fixture->set(u"dtcmblname"_s, last);
+    m_fixture->set(u"txtcmpny"_s, company);
+    m_fixture->set(u"cmbnview"_s, view);
+}
+
+void SaveTest::addWritesTheWholeRow()
+{
+    m_fixture->start();
+    m_fixture->click(u"SSCommand3"_s);
+    fillAll(u'a', 1990);
+    m_fixture->click(u"Command1"_s);
+    auto expected = written(u'a', 1990);
+    expected[u"memo1"_s]
+        = valueFor(std::find(std::begin(kTexts), std::end(kTexts), u"txtMemo") - std::begin(kTexts), u'a');
+    expected[u"dateenter"_s] = expected[u"datemodi"_s] = u"2024-03-15"_s;
+    expected[u"photloc"_s] = u""_s;
+    // w_State stays null: a new contact has no Work 2 state.
+    QCOMPARE(row(u"1"_s), expected);
+    QCOMPARE(m_fixture->shared.TableName, u"Contact-AddData"_s);
+    QCOMPARE(m_fixture->frame.positions.constLast(), u"1 of 1"_s);
+}
+
+void SaveTest::editWritesTheWholeRow()
+{
+    m_fixture->start();
+    m_fixture->click(u"SSCommand3"_s);
+    fillAll(u'a', 1990);
+    m_fixture->click(u"Command1"_s);
+    const auto before = row(u"1"_s);
+    m_fixture->clock.set(QDateTime(QDate(2025, 1, 2), QTime(9, 0)));
+    QVERIFY(m_fixture->form()->showContact(1));
+    fillAll(u'b', 1991);
+    m_fixture->click(u"Command1"_s);
+    auto expected = written(u'b', 1991);
+    const auto typed = [](QStringView control) {
+        return valueFor(std::find(std::begin(kTexts), std::end(kTexts), control) - std::begin(kTexts), u'b');
+    };
+    expected[u"fax"_s] = before[u"fax"_s]; // a change does not write it
+    expected[u"memo1"_s] = before[u"memo1"_s]; // the changed note goes to the other column
+    expected[u"memo"_s] = typed(u"txtMemo");
+    expected[u"w_state"_s] = typed(u"dtcmbwstate");
+    expected[u"dateenter"_s] = u"2024-03-15"_s;
+    expected[u"datemodi"_s] = u"2025-01-02"_s;
+    expected[u"photloc"_s] = u""_s;
+    QCOMPARE(row(u"1"_s), expected);
+    QCOMPARE(m_fixture->contacts(), 1);
+    QVERIFY(m_fixture->form()->showContact(1));
+    QCOMPARE(m_fixture->text(u"txtMemo"_s), before[u"memo1"_s]);
+}
+
+void SaveTest::blanksOfANewContact()
+{
+    m_fixture->start();
+    m_fixture->click(u"SSCommand3"_s);
+    m_fixture->set(u"cmbpriority"_s, u"  "_s);
+    m_fixture->set(u"txtadd1"_s, u"  12 High St "_s);
+    m_fixture->set(u"txtweb"_s, u" a.example "_s);
+    fillName(u" Asha "_s, {}, {}, u"First,Last"_s);
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(m_fixture->book.rows(
+                 u"select name,first,title,category1,category2,priority,product,status,region,h_email1,"
+                 "h_add1,h_web,m_bd,anniv from cnt_main"_s),
+        QStringList{
+            u"Asha |Asha|Mr.|Undefined|Undefined|2|Undefined|Undefined|Undefined|@|12 High St| a.example |null|null"_s});
+}
+
+void SaveTest::mergedCategory()
+{
+    m_fixture->shared.ContMerge = true;
+    m_fixture->start();
+    QVERIFY(!m_fixture->shows(u"DtcmbSubCate"_s));
+    m_fixture->click(u"SSCommand3"_s);
+    fillName(u"Asha"_s, {}, {}, u"First,Last"_s);
+    m_fixture->set(u"DtcmbCate"_s, u"A - B"_s);
+    m_fixture->click(u"Command1"_s);
+    QVERIFY(m_fixture->form()->showContact(1));
+    QCOMPARE(m_fixture->text(u"DtcmbCate"_s), u"A-B"_s);
+    m_fixture->set(u"DtcmbCate"_s, u"C"_s);
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(
+        m_fixture->book.rows(u"select category1,category2 from cnt_main"_s), QStringList{u"C|Undefined"_s});
+}
+
+void SaveTest::refusals_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("company");
+    QTest::addColumn<QString>("view");
+    QTest::addColumn<QString>("box");
+    const QString blank
+        = u"information: First, Last and Company are blank. At least one of these should not be blank."_s;
+    const QString view = u"warning: Not a Valid Name View"_s;
+    QTest::newRow("all blank, before the view is looked at") << u""_s << u""_s << u"nonsense"_s << blank;
+    QTest::newRow("the view, before trimmed blanks") << u" "_s << u""_s << u"nonsense"_s << view;
+    QTest::newRow("no view") << u"Asha"_s << u""_s << u""_s << view;
+    QTest::newRow("a view typed in another case") << u"Asha"_s << u""_s << u"first,last"_s << view;
+    QTest::newRow("only blanks") << u" "_s << u" "_s << u"Company"_s
+                                 << u"warning: Either Name or Company should be entered"_s;
+}
+
+void SaveTest::refusals()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, company);
+    QFETCH(QString, view);
+    QFETCH(QString, box);
+    m_fixture->start();
+    m_fixture->click(u"SSCommand3"_s);
+    m_fixture->set(u"txtadd1"_s, u"kept"_s);
+    fillName(first, {}, company, view);
+    m_fixture->boxes.expect(box.section(u": "_s, 1));
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(m_fixture->boxes.shown, QStringList{box});
+    QCOMPARE(m_fixture->boxes.titles, QStringList{u"Orvane Contacts"_s});
+    QCOMPARE(m_fixture->contacts(), 0);
+    QCOMPARE(m_fixture->text(u"txtadd1"_s), u"kept"_s);
+    QVERIFY(m_fixture->shows(u"Command1"_s));
+}
+
+void SaveTest::editTakesTwoViewsOnly_data()
+{
+    QTest::addColumn<bool>("taken");
+    QTest::newRow("First,Last") << true;
+    QTest::newRow("Last,First") << true;
+    QTest::newRow("Company") << false;
+    QTest::newRow("First,Last (Company)") << false;
+    QTest::newRow("Last,First (Company)") << false;
+    QTest::newRow("Company (Last,First)") << false;
+}
+
+void SaveTest::editTakesTwoViewsOnly()
+{
+    QFETCH(bool, taken);
+    m_fixture->addContact(u"name,first,company,nview"_s, u"'Tea Asha','Asha','Tea','Company (Last,First)'"_s);
+    m_fixture->start();
+    QVERIFY(m_fixture->form()->showContact(1));
+    m_fixture->set(u"dtcmbfname"_s, u"Bina"_s);
+    m_fixture->set(u"cmbnview"_s, QString::fromLatin1(QTest::currentDataTag()));
+    if (!taken)
+        m_fixture->boxes.expect(u"Not a Valid Name View"_s);
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(m_fixture->book.firstText(u"select first from cnt_main"_s), taken ? u"Bina"_s : u"Asha"_s);
+}
+
+void SaveTest::nameCanEndBlank()
+{
+    m_fixture->start();
+    m_fixture->click(u"SSCommand3"_s);
+    fillName(u"Asha"_s, {}, {}, u"Company"_s);
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(m_fixture->book.rows(u"select name,first from cnt_main"_s), QStringList{u"|Asha"_s});
+    m_fixture->form()->load();
+    QCOMPARE(m_fixture->contacts(), 1);
+}
+
+void SaveTest::sideEffects_data()
+{
+    QTest::addColumn<bool>("mail");
+    QTest::addColumn<bool>("favourites");
+    QTest::addColumn<bool>("editing");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<int>("scheduled");
+    QTest::addColumn<QStringList>("shortcuts");
+    QTest::newRow("neither") << false << false << false << QStringList{} << 0 << QStringList{};
+    QTest::newRow("mail on add makes the scheduler rows too")
+        << true << false << false << QStringList{u"add 8OV"_s} << 6 << QStringList{};
+    QTest::newRow("favourites on add")
+        << false << true << false << QStringList{} << 0 << QStringList{u"Asha Rao  H"_s, u"Asha Rao  W"_s};
+    QTest::newRow("mail on edit makes no scheduler rows")
+        << true << false << true << QStringList{u"update 7OV"_s} << 0 << QStringList{};
+    QTest::newRow("favourites on edit")
+        << false << true << true << QStringList{} << 0 << QStringList{u"Asha Rao   H"_s, u"Asha Rao   W"_s};
+}
+
+void SaveTest::sideEffects()
+{
+    QFETCH(bool, mail);
+    QFETCH(bool, favourites);
+    QFETCH(bool, editing);
+    EntryForm& f = *m_fixture;
+    const auto word = [](bool yes) { return yes ? u"true"_s : u"false"_s; };
+    f.execute(
+        u"insert into cntb_setup (UpdOutllook,AddFav) values (%1,%2)"_s.arg(word(mail), word(favourites)));
+    f.addContact(u"id,name,first"_s, u"7,'Old','Old'"_s);
+    f.mailContacts.contacts.resize(1);
+    f.mailContacts.contacts[0].key = u"7OV"_s;
+    f.start();
+    if (editing)
+        QVERIFY(f.form()->showContact(7));
+    else
+        f.click(u"SSCommand3"_s);
+    fillName(u"Asha"_s, u"Rao"_s, u"Tea"_s, u"First,Last"_s);
+    f.set(u"txtweb"_s, u"home.example"_s);
+    f.set(u"txtbweb"_s, u"work.example"_s);
+    f.set(u"txtemail1"_s, u"asha"_s);
+    f.set(u"cboemail1"_s, u"mail.example"_s);
+    f.set(u"DateBday"_s, u"1990-02-01"_s);
+    f.set(u"DateAnn"_s, u"2010-02-01"_s);
+    f.click(u"Command1"_s);
+
+    QTEST(f.mailContacts.calls, "calls");
+    if (mail) {
+        const platform::MailContact& item = f.mailContacts.contacts.back();
+        QCOMPARE(item.fullName, u"Asha Rao"_s);
+        QCOMPARE(item.email1, u"asha@mail.example"_s);
+        QCOMPARE(item.birthday, QDate(1990, 2, 1));
+    }
+    QTEST(int(f.book.rows(u"select * from ovs_schedular"_s).size()), "scheduled");
+    QStringList names;
+    for (const auto& [name, address] : f.favourites.added)
+        names << name;
+    QTEST(names, "shortcuts");
+    if (favourites)
+        QCOMPARE(f.favourites.added[1].second, u"work.example"_s);
+}
+
+void SaveTest::buttonsOfEachMode()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first"_s, u"'Asha','Asha'"_s);
+    f.start();
+    const auto shown = [&f] {
+        QStringList names;
+        for (const auto& name : {u"Command1"_s, u"CmdCancel"_s, u"CmdSave"_s, u"SSCommand3"_s,
+                 u"SSCommand10"_s, u"grdEditList"_s}) {
+            if (f.shows(name))
+                names << name;
+        }
+        return names.join(u' ');
+    };
+    QCOMPARE(shown(), u"SSCommand3 SSCommand10"_s);
+    QCOMPARE(f.text(u"Label10"_s), QString());
+    QCOMPARE(f.frame.titles.constLast(), u"Contacts Detailed Add/Edit"_s);
+    QCOMPARE(f.frame.dates.constLast(), u"Mar 15-2024"_s);
+    f.click(u"SSCommand3"_s);
+    QCOMPARE(shown(), u"Command1 CmdCancel CmdSave"_s);
+    QCOMPARE(f.text(u"Label10"_s), u"Add Mode"_s);
+    f.click(u"CmdCancel"_s);
+    QCOMPARE(shown(), u"SSCommand3 SSCommand10"_s);
+    f.click(u"SSCommand10"_s);
+    QCOMPARE(shown(), u"Command1 CmdCancel CmdSave grdEditList"_s);
+    QCOMPARE(f.text(u"Label10"_s), u"Edit Mode"_s);
+    QVERIFY(!f.child<QWidget>(u"Command1"_s)->isEnabled());
+    QVERIFY(f.form()->showContact(1));
+    f.set(u"cmbnview"_s, u"First,Last"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(shown(), u"SSCommand3 SSCommand10"_s);
+    const QString folder = u"\\UserFiles\\Misc\\sound\\"_s;
+    QCOMPARE(f.sounds.played,
+        (QStringList{
+            folder + u"Add.wav"_s, folder + u"Cancel.wav"_s, folder + u"Del.wav"_s, folder + u"save.wav"_s}));
+    f.screens.unloadAll();
+    QCOMPARE(f.frame.clearings, 1);
+}
+
+void SaveTest::clearedFormHasTheDefaults()
+{
+    EntryForm& f = *m_fixture;
+    f.execute(u"insert into cntb_setup (categ1,categ2,Priority,cmpnysuffix,lbluse1,lbluse2) "
+              "values ('Friends','School','3','Ltd','Blood & group','')"_s);
+    f.start();
+    f.click(u"SSCommand3"_s);
+    const auto defaults = [&f] {
+        QStringList texts;
+        for (const auto& name : {u"Cmbtitle"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"cmbpriority"_s,
+                 u"txtcmpnySuffix"_s, u"txtcmpny"_s, u"cmbnview"_s, u"dtcmbfname"_s, u"txtMemo"_s,
+                 u"DateBday"_s, u"lblname"_s, u"lblid"_s})
+            texts << f.text(name);
+        return texts.join(u'|');
+    };
+    const QString expected = u"Mr.|Friends|School|3|Ltd|||||||"_s;
+    QCOMPARE(defaults(), expected);
+    QCOMPARE(f.text(u"lbluser1"_s), u"Blood & group"_s);
+    QCOMPARE(f.text(u"lbluser2"_s), u"User 2"_s);
+    fillAll(u'a', 1990);
+    f.click(u"CmdCancel"_s);
+    QCOMPARE(defaults(), expected);
+    f.shared.ContMerge = true;
+    f.click(u"SSCommand3"_s);
+    QCOMPARE(f.text(u"DtcmbCate"_s), u"Friends-School"_s);
+}
+
+void SaveTest::cancelForgets()
+{
+    EntryForm& f = *m_fixture;
+    f.start();
+    f.click(u"SSCommand3"_s);
+    f.click(u"ssassist"_s);
+    QCOMPARE(f.text(u"ssassist"_s), u"Assist Off"_s);
+    QVERIFY(f.shows(u"assistPanel"_s));
+    f.set(u"dtcmbfname"_s, u"Asha"_s);
+    f.boxes.expect(u"What you entered was not saved. Do you want to discard it?"_s, Answer::No);
+    QVERIFY(!f.form()->mayClose());
+    f.shared.EditRequested = true;
+    f.click(u"CmdCancel"_s);
+    QVERIFY(!f.shared.EditRequested);
+    QCOMPARE(f.text(u"ssassist"_s), u"Assist"_s);
+    QVERIFY(!f.shows(u"assistPanel"_s));
+    QVERIFY(f.form()->mayClose());
+    QCOMPARE(f.contacts(), 0);
+}
+
+void SaveTest::editListLoadsAContact()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first,h_email1,m_bd,photloc,category1,category2,w_state,dateenter"_s,
+        u"'Zoe','Zoe','zoe@x@y',#01-Feb-1890#,'C:\\gone.png','A','B','Goa',#01-Jan-2020#"_s);
+    f.addContact(u"name,first"_s, u"'Asha','Asha'"_s);
+    f.start();
+    f.click(u"SSCommand10"_s);
+    auto* list = f.child<QTableView>(u"grdEditList"_s);
+    QCOMPARE(list->model()->rowCount(), 2);
+    list->setCurrentIndex(list->model()->index(1, 1));
+    QTest::keyClick(list, Qt::Key_Return);
+    QStringList texts;
+    for (const auto& name : {u"lblid"_s, u"dtcmbfname"_s, u"txtemail1"_s, u"cboemail1"_s, u"DateBday"_s,
+             u"lblPhoto"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"dtcmbwstate"_s})
+        texts << f.text(name);
+    QCOMPARE(texts.join(u'|'), u"1|Zoe|zoe|x@y|Feb 01-1890|C:\\gone.png|A|B|Goa"_s);
+    f.set(u"cmbnview"_s, u"First,Last"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select h_email1,m_bd,photloc,dateenter from cnt_main where id=1"_s),
+        QStringList{u"zoe@x@y|1890-02-01|C:\\gone.png|2020-01-01"_s});
+    QCOMPARE(f.text(u"lblid"_s), QString());
+}
+
+void SaveTest::editRequestedByAnotherScreen()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first,nview"_s, u"'Asha','Asha','First,Last'"_s);
+    f.start();
+    QVERIFY(!f.form()->showContact(99));
+    f.shared.EditRequested = true;
+    QVERIFY(f.form()->showContact(1));
+    QCOMPARE(f.text(u"Label10"_s), u"Edit Mode"_s);
+    QVERIFY(!f.shows(u"grdEditList"_s));
+    QCOMPARE(f.frame.positions.constLast(), u"1 of 1"_s);
+    f.set(u"dtcmbfname"_s, u"Bina"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select name from cnt_main"_s), QStringList{u"Bina "_s});
+    QVERIFY(!f.shared.EditRequested);
+    // A contact that came in since the form was opened is found as well.
+    f.addContact(u"id,name,first"_s, u"40,'Late','Late'"_s);
+    QVERIFY(f.form()->showContact(40));
+}
+
+void SaveTest::refusedDiscardKeepsTheNewContact()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first"_s, u"'Asha','Asha'"_s);
+    f.start();
+    f.click(u"SSCommand3"_s);
+    fillName(u"Bina"_s, {}, {}, u"First,Last"_s);
+    f.shared.EditRequested = true;
+    f.boxes.expect(u"What you entered was not saved. Do you want to discard it?"_s, Answer::No);
+    f.form()->showContact(1);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select name from cnt_main order by id"_s), (QStringList{u"Asha"_s, u"Bina "_s}));
+}
+
+void SaveTest::blankRowsGoAtLoad()
+{
+    m_fixture->addContact(u"name,first,last,company,h_city"_s, u"' ','','  ','','Pune'"_s);
+    m_fixture->addContact(u"name,first,last,company"_s, u"'','','','Tea'"_s);
+    m_fixture->addContact(u"first,last"_s, u"'',''"_s); // null is not a blank text here
+    m_fixture->start();
+    QCOMPARE(m_fixture->book.rows(u"select id,company from cnt_main order by id"_s),
+        (QStringList{u"2|Tea"_s, u"3|null"_s}));
+}
+
+void SaveTest::hostileTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("apostrophe") << u"D'Souza"_s;
+    QTest::newRow("emoji") << u"Zo\U0001F600e"_s;
+    QTest::newRow("quotes and marks") << u"a\"b;--#|%*[x]"_s;
+    QTest::newRow("right to left") << u"\u0639\u0644\u064A"_s;
+    QTest::newRow("10,000 characters") << QString(10000, u'x');
+}
+
+void SaveTest::hostileTexts()
+{
+    QFETCH(QString, text);
+    EntryForm& f = *m_fixture;
+    f.execute(u"insert into cntb_setup (UpdOutllook,AddFav) values (true,true)"_s);
+    f.start();
+    f.click(u"SSCommand3"_s);
+    fillName(u"Asha"_s, text, {}, u"First,Last"_s);
+    f.set(u"txtMemo"_s, text);
+    f.set(u"DtcmbCate"_s, text);
+    f.set(u"dtcmbcountry"_s, text);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.contacts(), 1);
+    QCOMPARE(f.book.firstText(u"select memo1 from cnt_main"_s), text);
+    const QString last = f.book.firstText(u"select last from cnt_main"_s);
+    QVERIFY(!last.isEmpty() && text.startsWith(last) && (text.size() > 255 || last == text));
+    QVERIFY(f.form()->showContact(1));
+    f.set(u"dtcmbmaiden"_s, text.left(40));
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.firstText(u"select maiden from cnt_main"_s), text.left(40));
+}
+
+void SaveTest::wrongDateStaysInTheBox()
+{
+    EntryForm& f = *m_fixture;
+    f.start();
+    f.click(u"SSCommand3"_s);
+    f.type(u"DateBday"_s, u"31 Feb 1990"_s);
+    f.type(u"DateAnn"_s, u"2/1/1990"_s);
+    QCOMPARE(f.text(u"DateBday"_s), u"31 Feb 1990"_s);
+    QCOMPARE(f.text(u"DateAnn"_s), u"Feb 01-1990"_s);
+    fillName(u"Asha"_s, {}, {}, u"First,Last"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select m_bd,anniv from cnt_main"_s), QStringList{u"null|1990-02-01"_s});
+}
+
+void SaveTest::failingSaveKeepsTheForm()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first,nview"_s, u"'Asha','Asha','First,Last'"_s);
+    f.start();
+    f.click(u"SSCommand3"_s);
+    fillName(u"Bina"_s, {}, {}, u"First,Last"_s);
+    f.set(u"txtMemo"_s, QString(200000, u'n'));
+    {
+        const FullDisk full;
+        f.book.expectFailure(u"cnt_main"_s);
+        f.click(u"Command1"_s);
+    }
+    QCOMPARE(f.book.unexpected(), QString());
+    QCOMPARE(f.text(u"dtcmbfname"_s), u"Bina"_s);
+    QVERIFY(f.shows(u"Command1"_s));
+    QVERIFY(!f.shows(u"ProgressBar1"_s));
+    QCOMPARE(f.sounds.played.size(), 1);
+    QCOMPARE(f.book.rows(u"select name from cnt_main"_s), QStringList{u"Asha"_s});
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select name from cnt_main order by id"_s), (QStringList{u"Asha"_s, u"Bina "_s}));
+}
+
+QTEST_MAIN(SaveTest)
+#include "save_test.moc"
