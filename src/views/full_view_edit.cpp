@@ -151,7 +151,7 @@ void FullViewEdit::layOutPerson(QWidget* page)
         .combo(u"CmbEJobTitle"_s, tr("&Job title"), u"Job_Title"_s)
         .line(u"TxtEAltTitle"_s, tr("&Other contact"), u"AltTitle"_s)
         .hint(tr("Title of the other contact"))
-        .beside(3)
+        .beside()
         .line(u"TxtEAltContact"_s, {}, u"altcontact"_s);
     form.group(tr("Own fields"))
         .combo(u"CmbEUser1"_s, tr("User &1"), u"User1"_s)

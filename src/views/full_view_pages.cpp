@@ -41,7 +41,7 @@ void FullViewPages::layOutDetails()
         .readOnly(u"txtJobTitle"_s, tr("Job title"))
         .readOnly(u"txtAltTitle"_s, tr("Other contact"))
         .hint(tr("Title of the other contact"))
-        .beside(3)
+        .beside()
         .readOnly(u"txtaltcontact"_s, {});
     form.nextColumn()
         .group(tr("Classes"))

@@ -95,6 +95,11 @@ void CategoryTreeTest::branchIsReadWhenItIsOpened()
     // A person who came meanwhile is there, so the branch was not read before.
     QVERIFY(m_book->data().execute(u"update cnt_main set category2='Chess' where Name='Cy'").ok);
     QCOMPARE(texts(branch({u"Friends"_s, u"Chess"_s})), (QStringList{u"Ann"_s, u"Bob"_s, u"Cy"_s}));
+    // Once only, however often it is opened and walked.
+    branch({u"Friends"_s})->setExpanded(false);
+    m_tree->reveal(u"Friends"_s, u"Chess"_s, u"Cy"_s);
+    QCOMPARE(texts(branch({u"Friends"_s})), QStringList{u"Chess"_s});
+    QCOMPARE(m_tree->topLevelItem(0)->childCount(), 3);
 }
 
 // Kept: the leaves are not asked for their category.

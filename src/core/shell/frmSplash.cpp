@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,6 +146,7 @@ void frmSplash::paintEvent(QPaintEvent*)
     painter.setBrush(QColor(255, 255, 255, 18));
     painter.drawEllipse(QPoint(width() - 60, 40), 150, 150);
     painter.drawEllipse(QPoint(width() - 10, 180), 110, 110);
+    QIcon(u":/icons/app.svg"_s).paint(&painter, QRect(28, 28, 56, 56));
 }
 
 void frmSplash::logIn()
