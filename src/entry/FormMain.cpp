@@ -190,10 +190,7 @@ void FormMain::wire()
     onClick(u"SSCommand10"_s, &FormMain::startEditing);
     onClick(u"SSCommand6"_s, [this] { turnPage(true); });
     onClick(u"SSCommand7"_s, [this] { turnPage(false); });
-    onClick(u"SSCommand8"_s, [this] {
-        context().screens.show(u"FrmOthers", core::Shown::Modally);
-        refillLists(this);
-    });
+    onClick(u"SSCommand8"_s, [this] { context().screens.show(u"FrmOthers", core::Shown::Modally); });
     onClick(u"SSCommand9"_s, &FormMain::selectPhoto);
     onClick(u"CmdPhto"_s, &FormMain::selectPhoto);
     onClick(u"cmdNoPhoto"_s, [this] { setText(u"Photo"_s, {}); });
@@ -298,6 +295,10 @@ void FormMain::go(Mode mode)
         control(name)->setVisible(idle);
     setText(u"Label10"_s, idle ? QString() : mode == Mode::Adding ? tr("Add Mode") : tr("Edit Mode"));
     grdEditList->setVisible(mode == Mode::Editing);
+    // What is typed outside a mode could not be saved, and the next mode begins with a blank form.
+    for (int page = 0; page < sstab1->count(); ++page)
+        sstab1->widget(page)->setEnabled(!idle);
+    showNameLabel();
     // Without a record there is nothing that a change could be written to.
     control(u"Command1"_s)->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
     m_untouched = values().texts;
@@ -413,7 +414,8 @@ void FormMain::showNameLabel()
 {
     const FormValues now = values();
     const auto view = core::nameViewOf(now.text(u"cmbnview"));
-    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : QString());
+    const QString idleHint = tr("Choose Add for a new contact, or Edit to change one");
+    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : m_mode == Mode::Idle ? idleHint : QString());
 }
 
 void FormMain::toggleAssist()
@@ -456,6 +458,14 @@ FormValues FormMain::values() const
     }
     result.texts.insert(u"Photo"_s, m_photoPath);
     return result;
+}
+
+// Coming back from the set-up, where a list may have changed.
+bool FormMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        refillLists(this);
+    return Screen::event(event);
 }
 
 bool FormMain::isTouched() const { return m_mode != Mode::Idle && values().texts != m_untouched; }

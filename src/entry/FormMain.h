@@ -31,6 +31,9 @@ public:
     /// Goes to the edit mode with this contact.
     bool showContact(qint64 id) override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     enum class Mode { Idle, Adding, Editing };
 

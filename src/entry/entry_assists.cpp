@@ -292,12 +292,10 @@ bool EntryAssists::autotextKey(QWidget* field, int key, const QString& typed)
             completeWord(*pick);
         return true;
     }
-    if (key == Qt::Key_Period && isNote) {
-        lookUpCommonWords();
-        return !m_typedWord.word().isEmpty();
-    }
     for (const QChar letter : typed)
         m_typedWord.type(letter);
+    if (isNote && !typed.isEmpty())
+        lookUpCommonWords();
     return false;
 }
 
@@ -307,7 +305,7 @@ void EntryAssists::lookUpCommonWords()
     if (!words)
         return;
     words->fill(m_context.data.openRecordset(commonWordsSql(m_typedWord.word())));
-    words->show();
+    words->setVisible(words->rowCount() > 0);
 }
 
 void EntryAssists::completeWord(const QString& word)

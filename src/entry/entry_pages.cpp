@@ -221,7 +221,7 @@ QWidget* personalPage(const SizeOf& sizeOf)
     kit.widget(u"txtlbl"_s, {}, rename);
     kit.group(tr("Note"))
         .memo(u"txtMemo"_s, tr("N&ote"), u"memo1"_s, 5)
-        .hint(tr("Press (.) for Autotext"))
+        .hint(tr("Words that you use often appear below while you type; a click completes the word"))
         .wide(u"FG1"_s, tr("Common words"), words)
         .stretch();
     rename->hide();

@@ -329,7 +329,10 @@ void AssistsTest::keyPad()
     f.click(u"ssassist"_s);
     f.click(u"Command9_1"_s); // no phone field had the focus yet
     for (const auto& field : {u"txtph1"_s, u"txtwxtn"_s, u"txtspmobile"_s}) {
-        f.type(field, u"5"_s);
+        f.showPageOf(field);
+        f.child<QWidget>(field)->setFocus();
+        QTest::keyClicks(f.child<QWidget>(field), u"5"_s);
+        f.showPageOf(u"Cmbtitle"_s);
         f.child<QWidget>(u"Cmbtitle"_s)->setFocus();
         for (const auto& key : {u"Command9_7"_s, u"Command9_10"_s, u"Command9_11"_s})
             f.click(key);
@@ -381,6 +384,7 @@ void AssistsTest::commonWordsOfANote()
     QTest::keyClicks(note, u"the GAR"_s);
     QTest::keyClick(note, u'.', Qt::NoModifier);
     QCOMPARE(words->rowCount(), 1);
+    QCOMPARE(note->toPlainText(), u"the GAR"_s);
     Q_EMIT words->chosen(0);
     QCOMPARE(note->toPlainText(), u"the gardener"_s);
     QTest::keyClick(note, Qt::Key_Space);
@@ -392,6 +396,7 @@ void AssistsTest::userLabels()
 {
     EntryForm& f = *m_fixture;
     f.start();
+    f.showPageOf(u"txtlbl"_s);
     for (const QString& typed : {u"Blood's group"_s, u"  "_s}) {
         f.click(u"lbluser2"_s);
         QVERIFY(f.shows(u"txtlbl"_s));

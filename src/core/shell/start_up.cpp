@@ -52,7 +52,11 @@ void StartUp::begin(bool inHomeCountry)
     m_files.openInfo(m_context.info);
 
     m_splash = new frmSplash(m_context);
-    connect(m_splash, &frmSplash::activated, this, [this] { delete m_wait; });
+    // Not at once: the window system is still telling the windows who is active.
+    connect(m_splash, &frmSplash::activated, this, [this] {
+        if (m_wait)
+            m_wait->deleteLater();
+    });
     connect(m_splash, &frmSplash::mainShellWanted, this, &StartUp::showMainShell);
     connect(m_splash, &frmSplash::emailShellWanted, this, &StartUp::showEmailShell);
     connect(m_splash, &frmSplash::bookUnreadable, this, &StartUp::bookFailed);
@@ -105,7 +109,8 @@ void StartUp::showEmailShell()
 
 void StartUp::unloadSplash()
 {
-    delete m_wait;
+    if (m_wait)
+        m_wait->deleteLater();
     if (m_splash)
         m_splash->deleteLater();
 }
