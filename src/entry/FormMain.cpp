@@ -41,10 +41,15 @@ namespace entry {
 
 namespace {
 
-QString caption(const char* text) { return QCoreApplication::translate("entry", text); }
+QString caption(const char* text)
+{
+    return QCoreApplication::translate("entry", text);
+}
 
-/// Which column each field shows when a record is put on the form; the fields not listed show theirs as it is.
-constexpr QStringView kNotFromColumn[] = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
+/// Which column each field shows when a record is put on the form; the fields not listed show theirs as it
+/// is.
+constexpr QStringView kNotFromColumn[]
+    = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
 
 } // namespace
 
@@ -146,6 +151,10 @@ QWidget* FormMain::headRow()
     QFont large = name->font();
     large.setPointSizeF(large.pointSizeF() * 1.3);
     name->setFont(large);
+    auto* hint = new QLabel(tr("Choose Add for a new contact, or Edit to change one"));
+    hint->setObjectName(u"lblhint"_s);
+    hint->setFont(large);
+    hint->setForegroundRole(QPalette::PlaceholderText);
     auto* progress = new QProgressBar;
     progress->setObjectName(u"ProgressBar1"_s);
     progress->setFixedSize(120, 8);
@@ -153,7 +162,7 @@ QWidget* FormMain::headRow()
     progress->hide();
     row->addWidget(mode);
     row->addWidget(id);
-    row->addSpacing(12);
+    row->addWidget(hint);
     row->addWidget(name, 1);
     row->addWidget(progress);
     return head;
@@ -168,7 +177,8 @@ QWidget* FormMain::buttonRow()
         .button(u"SSCommand10"_s, tr("&Edit"), u"person-edit", tr("Choose a contact and change it"))
         .button(u"SSCommand6"_s, tr("Go to Simple"), u"previous", tr("Back to the first page"))
         .button(u"SSCommand7"_s, tr("Go to Detailed"), u"next", tr("On to the personal page"))
-        .button(u"ssassist"_s, tr("Assist"), u"info", tr("Known cities, names and companies to pick from, and a key pad"))
+        .button(u"ssassist"_s, tr("Assist"), u"info",
+            tr("Known cities, names and companies to pick from, and a key pad"))
         .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
         .stretch()
         .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save the contact as a card"))
@@ -201,16 +211,19 @@ void FormMain::wire()
     widgets::child<QPushButton>(this, u"CmdSave"_s)->setEnabled(context().screens.has(u"FrmAddSave"));
 
     for (const QString& name : {u"cmbnview"_s, u"Cmbtitle"_s, u"dtcmbfname"_s, u"dtcmblname"_s})
-        connect(widgets::child<QComboBox>(this, name), &QComboBox::currentTextChanged, this, &FormMain::showNameLabel);
-    connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this, &FormMain::showNameLabel);
+        connect(widgets::child<QComboBox>(this, name), &QComboBox::currentTextChanged, this,
+            &FormMain::showNameLabel);
+    connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this,
+        &FormMain::showNameLabel);
 
     const auto chooseRow = [this](int row) { showRecord(grdEditList->textAt(row, u"ID"_s)); };
     connect(grdEditList, &widgets::HeadingGrid::chosen, this, chooseRow);
     connect(grdEditList, &QAbstractItemView::clicked, this,
         [chooseRow](const QModelIndex& index) { chooseRow(index.row()); });
 
-    connect(m_assist, &AssistPanel::picked, m_assists,
-        [this](AssistPanel::Tab tab, const QString& value) { m_assists->takePick(tab, value, m_assist->country()); });
+    connect(m_assist, &AssistPanel::picked, m_assists, [this](AssistPanel::Tab tab, const QString& value) {
+        m_assists->takePick(tab, value, m_assist->country());
+    });
     connect(m_assist, &AssistPanel::scopeChosen, m_assists, &EntryAssists::takeScope);
     connect(m_assist, &AssistPanel::keyPressed, m_assists, &EntryAssists::pressKey);
     wireUserFields();
@@ -228,7 +241,8 @@ void FormMain::wireUserFields()
             connect(widgets::child<QComboBox>(this, u"cmbuser"_s + place), &QComboBox::textActivated, this,
                 [this, number](const QString& value) { keepUserValue(number, value); });
     }
-    connect(widgets::child<QLineEdit>(this, u"txtlbl"_s), &QLineEdit::returnPressed, this, &FormMain::keepUserLabel);
+    connect(widgets::child<QLineEdit>(this, u"txtlbl"_s), &QLineEdit::returnPressed, this,
+        &FormMain::keepUserLabel);
 }
 
 // ---- load and modes
@@ -298,9 +312,10 @@ void FormMain::go(Mode mode)
     // What is typed outside a mode could not be saved, and the next mode begins with a blank form.
     for (int page = 0; page < sstab1->count(); ++page)
         sstab1->widget(page)->setEnabled(!idle);
-    showNameLabel();
+    control(u"lblhint"_s)->setVisible(idle);
     // Without a record there is nothing that a change could be written to.
-    control(u"Command1"_s)->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
+    control(u"Command1"_s)
+        ->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
     m_untouched = values().texts;
 }
 
@@ -315,8 +330,8 @@ void FormMain::startAdding()
 
 void FormMain::startEditing()
 {
-    grdEditList->fill(
-        u"|Name                    ", context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s));
+    grdEditList->fill(u"|Name                    ",
+        context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s));
     clearForm();
     go(Mode::Editing);
     // Kept: the start of an edit sounds like a deletion.
@@ -385,7 +400,8 @@ bool FormMain::showRecord(const QString& id)
     clearForm();
     m_assists->setQuiet(true);
     for (const widgets::Control& field : m_fields) {
-        if (field.column.isEmpty() || std::ranges::find(kNotFromColumn, field.name) != std::end(kNotFromColumn))
+        if (field.column.isEmpty()
+            || std::ranges::find(kNotFromColumn, field.name) != std::end(kNotFromColumn))
             continue;
         if (auto* box = qobject_cast<widgets::DateBox*>(field.widget)) {
             const QDate date = row.date(field.column);
@@ -414,8 +430,7 @@ void FormMain::showNameLabel()
 {
     const FormValues now = values();
     const auto view = core::nameViewOf(now.text(u"cmbnview"));
-    const QString idleHint = tr("Choose Add for a new contact, or Edit to change one");
-    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : m_mode == Mode::Idle ? idleHint : QString());
+    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : QString());
 }
 
 void FormMain::toggleAssist()
@@ -434,7 +449,10 @@ void FormMain::turnPage(bool simple)
 
 // ---- reading the form
 
-QWidget* FormMain::control(const QString& name) const { return findChild<QWidget*>(name); }
+QWidget* FormMain::control(const QString& name) const
+{
+    return findChild<QWidget*>(name);
+}
 
 void FormMain::setText(const QString& name, const QString& text)
 {
@@ -468,7 +486,10 @@ bool FormMain::event(QEvent* event)
     return Screen::event(event);
 }
 
-bool FormMain::isTouched() const { return m_mode != Mode::Idle && values().texts != m_untouched; }
+bool FormMain::isTouched() const
+{
+    return m_mode != Mode::Idle && values().texts != m_untouched;
+}
 
 bool FormMain::mayClose()
 {
@@ -554,7 +575,8 @@ void FormMain::addSideEffects(const FormValues& values, const QString& name)
             values.trimmed(u"dtcspouse"),
             {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
             values.date(u"DateBday"), values.date(u"DateSpouse"),
-            {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")}, values.date(u"DateAnn")};
+            {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")},
+            values.date(u"DateAnn")};
         core::addSchedulerRows(
             context().data, core::schedulerRows(dates, context().services.clock.today().year()));
     }
@@ -573,7 +595,8 @@ void FormMain::editSideEffects(const FormValues& values, const QString& name)
         addFavourites(values, name, m_variant.homeSuffixOnEdit, m_variant.workSuffixOnEdit);
 }
 
-void FormMain::addFavourites(const FormValues& values, const QString& name, QStringView home, QStringView work)
+void FormMain::addFavourites(
+    const FormValues& values, const QString& name, QStringView home, QStringView work)
 {
     platform::Favourites& favourites = context().services.favourites;
     favourites.AddFavourite(values.text(u"txtweb"), name, home);
@@ -602,8 +625,8 @@ void FormMain::saveAs()
 
 void FormMain::selectPhoto()
 {
-    const auto chosen = context().services.boxes.openFile(
-        tr("Select Picture"), tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
+    const auto chosen = context().services.boxes.openFile(tr("Select Picture"),
+        tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
     if (!chosen)
         return;
     if (widgets::readPicture(*chosen, {64, 64}).isNull()) {
@@ -643,8 +666,8 @@ void FormMain::keepUserValue(int number, const QString& value)
     if (value.trimmed().isEmpty())
         return;
     const QString column = u"user%1"_s.arg(number);
-    jet::Recordset known
-        = context().data.openRecordset(u"select * from CNTB_OTHER where "_s + column + u"='"_s + value + u"'"_s);
+    jet::Recordset known = context().data.openRecordset(
+        u"select * from CNTB_OTHER where "_s + column + u"='"_s + value + u"'"_s);
     if (!known.isValid() || !known.isEmpty())
         return;
     known.addNew();

@@ -20,7 +20,8 @@ bool isHomeCountry(const QString& country, bool nationalMode)
 
 } // namespace
 
-std::optional<CityFacts> lookUpCity(jet::Database& info, const QString& city, const QString& country, bool nationalMode)
+std::optional<CityFacts> lookUpCity(
+    jet::Database& info, const QString& city, const QString& country, bool nationalMode)
 {
     const bool home = isHomeCountry(country, nationalMode);
     const QString table = home ? u"wia_india"_s : u"wia_city"_s;

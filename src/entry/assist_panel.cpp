@@ -64,7 +64,8 @@ AssistPanel::AssistPanel(jet::Database& info, const core::SharedState& shared, Q
         Q_EMIT picked(Tab(SSActiveTabs1->currentIndex()), CboFilter->textAt(row, u"Name"_s));
     };
     connect(CboFilter, &widgets::HeadingGrid::chosen, this, pick);
-    connect(CboFilter, &QAbstractItemView::clicked, this, [pick](const QModelIndex& index) { pick(index.row()); });
+    connect(CboFilter, &QAbstractItemView::clicked, this,
+        [pick](const QModelIndex& index) { pick(index.row()); });
     connect(m_keys, &widgets::KeyPad::keyPressed, this, &AssistPanel::keyPressed);
 }
 
@@ -111,7 +112,10 @@ void AssistPanel::selectScope(CityScope scope)
         fillScope();
 }
 
-QString AssistPanel::country() const { return cboCountry->currentText(); }
+QString AssistPanel::country() const
+{
+    return cboCountry->currentText();
+}
 
 void AssistPanel::showEvent(QShowEvent* event)
 {
@@ -148,7 +152,8 @@ void AssistPanel::fillValues()
     QString sql;
     switch (tab) {
     case Tab::City:
-        sql = cityListSql({cboCountry->currentText(), cboState->currentText(), chkType->isChecked(), national});
+        sql = cityListSql(
+            {cboCountry->currentText(), cboState->currentText(), chkType->isChecked(), national});
         break;
     case Tab::First: sql = firstNamesSql(national); break;
     case Tab::Last: sql = lastNamesSql(national); break;

@@ -9,7 +9,10 @@ namespace entry {
 namespace {
 
 /// All is the first choice of each list.
-QStringList withAll(const QStringList& values) { return QStringList(u"All"_s) + values; }
+QStringList withAll(const QStringList& values)
+{
+    return QStringList(u"All"_s) + values;
+}
 
 } // namespace
 
@@ -67,14 +70,16 @@ QString cityListSql(const CityChoice& choice)
 
 QString firstNamesSql(bool nationalMode)
 {
-    return nationalMode ? u"SELECT DISTINCT first FROM [wia_cntnames] WHERE first IS NOT NULL"_s
-                        : u"SELECT DISTINCT first from [wia_cntnames] WHERE national='C' AND first IS NOT NULL"_s;
+    return nationalMode
+        ? u"SELECT DISTINCT first FROM [wia_cntnames] WHERE first IS NOT NULL"_s
+        : u"SELECT DISTINCT first from [wia_cntnames] WHERE national='C' AND first IS NOT NULL"_s;
 }
 
 QString lastNamesSql(bool nationalMode)
 {
-    return nationalMode ? u"SELECT DISTINCT last FROM [wia_cntnames] WHERE last IS NOT NULL"_s
-                        : u"SELECT DISTINCT last from [wia_cntnames] WHERE national='C' AND last IS NOT NULL"_s;
+    return nationalMode
+        ? u"SELECT DISTINCT last FROM [wia_cntnames] WHERE last IS NOT NULL"_s
+        : u"SELECT DISTINCT last from [wia_cntnames] WHERE national='C' AND last IS NOT NULL"_s;
 }
 
 QString companiesSql(bool nationalMode)

@@ -202,13 +202,20 @@ QVariant dateValue(const std::optional<QDate>& date, bool inWords)
 
 } // namespace
 
-std::span<const ColumnRow> detailedAddColumns() { return kDetailedAdd; }
-std::span<const ColumnRow> detailedEditColumns() { return kDetailedEdit; }
+std::span<const ColumnRow> detailedAddColumns()
+{
+    return kDetailedAdd;
+}
+std::span<const ColumnRow> detailedEditColumns()
+{
+    return kDetailedEdit;
+}
 
 QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptions& options)
 {
     const auto category = [&] {
-        return core::storedCategory(values.text(u"DtcmbCate"), values.text(u"DtcmbSubCate"), options.mergedCategory);
+        return core::storedCategory(
+            values.text(u"DtcmbCate"), values.text(u"DtcmbSubCate"), options.mergedCategory);
     };
     switch (row.rule) {
     case Rule::Trimmed: return values.trimmed(row.control);
@@ -231,8 +238,8 @@ QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptio
     return {};
 }
 
-void assign(
-    jet::Recordset& rows, std::span<const ColumnRow> columns, const FormValues& values, const SaveOptions& options)
+void assign(jet::Recordset& rows, std::span<const ColumnRow> columns, const FormValues& values,
+    const SaveOptions& options)
 {
     for (const ColumnRow& row : columns)
         rows.set(row.column, valueOf(row, values, options));

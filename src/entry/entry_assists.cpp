@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <QTextBlock>
 
 using namespace Qt::StringLiterals;
 
@@ -21,10 +22,11 @@ namespace entry {
 
 namespace {
 
-constexpr QStringView kPhoneFields[] = {u"txtstd", u"txtph1", u"txtph2", u"txtph3", u"txtMobile", u"txtspmobile",
-    u"txtwstd", u"txtwph1", u"txtwph2", u"txtwph3", u"txtwxtn", u"txtfax", u"txtbstd", u"txtbph1", u"txtbph2",
-    u"txtbph3", u"txtbxtn"};
-constexpr QStringView kAddressFields[] = {u"txtadd1", u"txtadd2", u"txtbadd1", u"txtbadd2", u"txtwadd1", u"txtwadd2"};
+constexpr QStringView kPhoneFields[] = {u"txtstd", u"txtph1", u"txtph2", u"txtph3", u"txtMobile",
+    u"txtspmobile", u"txtwstd", u"txtwph1", u"txtwph2", u"txtwph3", u"txtwxtn", u"txtfax", u"txtbstd",
+    u"txtbph1", u"txtbph2", u"txtbph3", u"txtbxtn"};
+constexpr QStringView kAddressFields[]
+    = {u"txtadd1", u"txtadd2", u"txtbadd1", u"txtbadd2", u"txtwadd1", u"txtwadd2"};
 constexpr QStringView kCityFields[] = {u"dtcmbcity", u"dtcmbcity1", u"dtcmbbcity", u"dtcmbwcity"};
 
 bool isOneOf(const QString& name, std::span<const QStringView> names)
@@ -82,7 +84,8 @@ EntryAssists::EntryAssists(QWidget* form, QTabWidget* pages, core::Context& cont
     auto* spouse = m_form->findChild<widgets::FilledCombo*>(u"dtcspouse"_s);
     if (spouse)
         spouse->setSource([this] {
-            return core::firstColumn(m_context.info, spouseNamesSql(text(u"CmbSex"), m_context.shared.NationalMode));
+            return core::firstColumn(
+                m_context.info, spouseNamesSql(text(u"CmbSex"), m_context.shared.NationalMode));
         });
     onText(u"CmbSex", [spouse] {
         if (spouse)
@@ -94,7 +97,8 @@ EntryAssists::EntryAssists(QWidget* form, QTabWidget* pages, core::Context& cont
     if (auto* words = m_form->findChild<widgets::HeadingGrid*>(u"FG1"_s)) {
         const auto take = [this, words](int row) { completeWord(words->textAt(row, u"word"_s)); };
         connect(words, &widgets::HeadingGrid::chosen, this, take);
-        connect(words, &QAbstractItemView::clicked, this, [take](const QModelIndex& index) { take(index.row()); });
+        connect(words, &QAbstractItemView::clicked, this,
+            [take](const QModelIndex& index) { take(index.row()); });
     }
 }
 
@@ -314,7 +318,12 @@ void EntryAssists::completeWord(const QString& word)
         return;
     if (auto* note = qobject_cast<QPlainTextEdit*>(m_wordField)) {
         QTextCursor cursor = note->textCursor();
-        cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, int(m_typedWord.word().size()));
+        // The word as it stands there: a point behind it and letters taken back are not part of the typed
+        // word.
+        const QString before
+            = m_typedWord.word().isEmpty() ? QString() : cursor.block().text().left(cursor.positionInBlock());
+        const auto length = before.size() - (before.lastIndexOf(u' ') + 1);
+        cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, int(length));
         cursor.insertText(word);
         note->setTextCursor(cursor);
     } else if (auto* line = qobject_cast<QLineEdit*>(m_wordField)) {

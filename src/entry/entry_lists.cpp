@@ -53,7 +53,10 @@ struct StateRow {
 constexpr StateRow kStates[] = {
     {u"dtcmbstate", u"dtcmbcountry"}, {u"dtcmbbstate", u"dtcmbbcountry"}, {u"dtcmbwstate", u"dtcmbwcountry"}};
 
-FilledCombo* comboOf(QWidget* form, QStringView name) { return form->findChild<FilledCombo*>(name.toString()); }
+FilledCombo* comboOf(QWidget* form, QStringView name)
+{
+    return form->findChild<FilledCombo*>(name.toString());
+}
 
 QString statesSql(const QString& country)
 {
@@ -81,13 +84,15 @@ void setListSources(QWidget* form, core::Context& context)
             continue;
         combo->setSource([all, country] {
             const QString name = country->currentText();
-            return name.isEmpty() || name.contains(u'\'') ? QStringList() : core::firstColumn(all->info, statesSql(name));
+            return name.isEmpty() || name.contains(u'\'') ? QStringList()
+                                                          : core::firstColumn(all->info, statesSql(name));
         });
         QObject::connect(country, &QComboBox::currentTextChanged, combo, [combo] { combo->refill(); });
     }
     for (const QStringView name : {QStringView(u"dtcmbasso1"), QStringView(u"dtcmbasso2")}) {
         if (FilledCombo* combo = comboOf(form, name))
-            combo->setSource([all] { return core::firstColumn(all->data, u"select name from CNT_MAIN order by name"_s); });
+            combo->setSource(
+                [all] { return core::firstColumn(all->data, u"select name from CNT_MAIN order by name"_s); });
     }
     if (FilledCombo* category = comboOf(form, u"DtcmbCate"))
         category->setSource([all] {

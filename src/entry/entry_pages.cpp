@@ -16,7 +16,10 @@ namespace entry {
 
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("entry", text); }
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("entry", text);
+}
 
 /// On a small screen a page scrolls; it is never squeezed.
 QWidget* scrolling(QWidget* page)
@@ -239,9 +242,12 @@ QWidget* picturePage()
         .wide(u"Photo"_s, tr("Picture of the contact"), picture)
         .caption(u"lblPhoto"_s)
         .buttonRow()
-        .button(u"SSCommand9"_s, tr("Select P&icture"), u"picture", tr("Choose one of the pictures of your photo folder"))
-        .button(u"CmdPhto"_s, tr("Select Picture from fol&der"), u"folder", tr("Choose a picture anywhere on this computer"))
-        .button(u"cmdNoPhoto"_s, tr("Remo&ve"), u"delete", tr("The contact has no picture any more; the file stays"))
+        .button(u"SSCommand9"_s, tr("Select P&icture"), u"picture",
+            tr("Choose one of the pictures of your photo folder"))
+        .button(u"CmdPhto"_s, tr("Select Picture from fol&der"), u"folder",
+            tr("Choose a picture anywhere on this computer"))
+        .button(u"cmdNoPhoto"_s, tr("Remo&ve"), u"delete",
+            tr("The contact has no picture any more; the file stays"))
         .stretch();
     return scrolling(page);
 }

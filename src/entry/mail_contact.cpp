@@ -23,7 +23,10 @@ platform::MailAddress address(const FormValues& values, const std::array<QString
 
 } // namespace
 
-QString mailKeyOf(qint64 id) { return QString::number(id) + u"OV"_s; }
+QString mailKeyOf(qint64 id)
+{
+    return QString::number(id) + u"OV"_s;
+}
 
 platform::MailContact mailContactOf(const FormValues& values, const QString& name, qint64 id)
 {
@@ -38,12 +41,12 @@ platform::MailContact mailContactOf(const FormValues& values, const QString& nam
     item.company = values.trimmed(u"txtcmpny");
     item.fileAs = core::nameViewOf(values.text(u"cmbnview")) == core::NameView::Company ? item.company : name;
     item.jobTitle = values.trimmed(u"dtcmbjob");
-    item.home = address(values,
-        {u"txtadd1", u"txtadd2", u"dtcmbcity", u"dtcmbstate", u"dtcmbpin", u"dtcmbcountry"});
-    item.work = address(values,
-        {u"txtbadd1", u"txtbadd2", u"dtcmbbcity", u"dtcmbbstate", u"dtcmbbpin", u"dtcmbbcountry"});
-    item.other = address(values,
-        {u"txtwadd1", u"txtwadd2", u"dtcmbwcity", u"dtcmbwstate", u"dtcmbwpin", u"dtcmbwcountry"});
+    item.home = address(
+        values, {u"txtadd1", u"txtadd2", u"dtcmbcity", u"dtcmbstate", u"dtcmbpin", u"dtcmbcountry"});
+    item.work = address(
+        values, {u"txtbadd1", u"txtbadd2", u"dtcmbbcity", u"dtcmbbstate", u"dtcmbbpin", u"dtcmbbcountry"});
+    item.other = address(
+        values, {u"txtwadd1", u"txtwadd2", u"dtcmbwcity", u"dtcmbwstate", u"dtcmbwpin", u"dtcmbwcountry"});
     item.homePhone1 = values.trimmed(u"txtph1");
     item.homePhone2 = values.trimmed(u"txtph2");
     item.homePhone3 = values.trimmed(u"txtph3");

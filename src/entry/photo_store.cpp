@@ -42,7 +42,8 @@ QString storePhoto(const platform::Drive& drive, const QString& chosen, const QS
         return linked;
     const QString name = freeName(folder, QFileInfo(chosen));
     const QString target = QDir(folder).filePath(name);
-    const bool done = !name.isEmpty() && (mode == u"Move" ? QFile::rename(chosen, target) : QFile::copy(chosen, target));
+    const bool done
+        = !name.isEmpty() && (mode == u"Move" ? QFile::rename(chosen, target) : QFile::copy(chosen, target));
     return done ? kFolder.toString() + u'\\' + name : linked;
 }
 

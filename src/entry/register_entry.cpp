@@ -9,9 +9,8 @@ namespace entry {
 
 void registerEntry(core::Screens& screens)
 {
-    screens.add(u"FormMain"_s, [](core::Context& context) -> core::Screen* {
-        return new FormMain(context, detailedForm());
-    });
+    screens.add(u"FormMain"_s,
+        [](core::Context& context) -> core::Screen* { return new FormMain(context, detailedForm()); });
 }
 
 } // namespace entry

@@ -4,7 +4,8 @@ namespace entry {
 
 core::NameParts namePartsOf(const FormValues& values)
 {
-    return {values.text(u"Cmbtitle"), values.text(u"dtcmbfname"), values.text(u"dtcmblname"), values.text(u"txtcmpny")};
+    return {values.text(u"Cmbtitle"), values.text(u"dtcmbfname"), values.text(u"dtcmblname"),
+        values.text(u"txtcmpny")};
 }
 
 std::optional<Refusal> refusalOfSave(const FormValues& values)
@@ -14,7 +15,8 @@ std::optional<Refusal> refusalOfSave(const FormValues& values)
         return Refusal::AllBlank;
     if (!core::nameViewOf(values.text(u"cmbnview")))
         return Refusal::NoNameView;
-    if (parts.first.trimmed().isEmpty() && parts.last.trimmed().isEmpty() && parts.company.trimmed().isEmpty())
+    if (parts.first.trimmed().isEmpty() && parts.last.trimmed().isEmpty()
+        && parts.company.trimmed().isEmpty())
         return Refusal::NeitherNameNorCompany;
     return {};
 }
@@ -26,7 +28,8 @@ std::optional<Refusal> refusalOfEdit(const FormValues& values)
     if (view != core::NameView::FirstLast && view != core::NameView::LastFirst)
         return Refusal::NoNameView;
     const core::NameParts parts = namePartsOf(values);
-    if (parts.first.trimmed().isEmpty() && parts.last.trimmed().isEmpty() && parts.company.trimmed().isEmpty())
+    if (parts.first.trimmed().isEmpty() && parts.last.trimmed().isEmpty()
+        && parts.company.trimmed().isEmpty())
         return Refusal::NeitherNameNorCompany;
     return {};
 }

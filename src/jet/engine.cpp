@@ -85,7 +85,9 @@ void Engine::close()
     m_kept.clear();
     if (!m_connection)
         return;
-    // Statements of recordsets that are still held go with them; the file engine waits for the last one.
+    *m_isOpen = false;
+    while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
+        sqlite3_finalize(left);
     sqlite3_close_v2(m_connection);
     m_connection = nullptr;
 }
@@ -198,7 +200,7 @@ std::shared_ptr<Plan> Engine::plan(const Lexed& lexed, Way way, QString* error)
     auto translation = translate(*statement, catalog(), way, error);
     if (!translation)
         return {};
-    auto result = std::make_shared<Plan>();
+    auto result = std::make_shared<Plan>(m_isOpen);
     result->translation = std::move(*translation);
     result->generation = m_generation;
     if (lexed.shape.size() <= kLongestKeptText)
@@ -261,7 +263,7 @@ Prepared Engine::prepareKept(const QString& sql)
     }
     auto& pool = m_kept[sql];
     if (!pool)
-        pool = std::make_shared<Prepared::Pool>();
+        pool = std::make_shared<Prepared::Pool>(m_isOpen);
     return prepare(sql, pool, true);
 }
 

@@ -16,16 +16,25 @@ namespace jet {
 /// A statement of the file engine, given back to its pool at the end of its use.
 class Prepared {
 public:
-    /// Statements that wait to run again; they end with it, also when the file was closed before.
+    /// Statements that wait to run again. They end with the pool, or before with the file: closing a file
+    /// ends all its statements, also those of recordsets that live on, since nothing of it may stay open.
     class Pool : public std::vector<sqlite3_stmt*> {
     public:
-        Pool() = default;
+        explicit Pool(std::shared_ptr<const bool> fileIsOpen)
+            : m_fileIsOpen(std::move(fileIsOpen))
+        {
+        }
         ~Pool()
         {
-            for (sqlite3_stmt* waiting : *this)
-                sqlite3_finalize(waiting);
+            for (sqlite3_stmt* waiting : *this) {
+                if (*m_fileIsOpen)
+                    sqlite3_finalize(waiting);
+            }
         }
         Q_DISABLE_COPY_MOVE(Pool)
+
+    private:
+        std::shared_ptr<const bool> m_fileIsOpen;
     };
     Prepared() = default;
     Prepared(sqlite3_stmt* statement, std::shared_ptr<Pool> pool)
@@ -51,9 +60,15 @@ private:
 
 /// A translation with the prepared statements that are waiting to run it again.
 struct Plan {
+    explicit Plan(const std::shared_ptr<const bool>& fileIsOpen)
+        : mainPool(std::make_shared<Prepared::Pool>(fileIsOpen))
+        , rowPool(std::make_shared<Prepared::Pool>(fileIsOpen))
+    {
+    }
+
     Translation translation;
-    std::shared_ptr<Prepared::Pool> mainPool = std::make_shared<Prepared::Pool>();
-    std::shared_ptr<Prepared::Pool> rowPool = std::make_shared<Prepared::Pool>();
+    std::shared_ptr<Prepared::Pool> mainPool;
+    std::shared_ptr<Prepared::Pool> rowPool;
     int generation = 0;
 };
 
@@ -106,6 +121,7 @@ private:
     bool connect(const QString& path, const char* mode);
 
     sqlite3* m_connection = nullptr;
+    std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true); ///< shared with the pools of statements
     QString m_path;
     bool m_readOnly = false;
     int m_generation = 0;

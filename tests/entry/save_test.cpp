@@ -457,13 +457,13 @@ void SaveTest::clearedFormHasTheDefaults()
     f.click(u"SSCommand3"_s);
     const auto defaults = [&f] {
         QStringList texts;
-        for (const auto& name : {u"Cmbtitle"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"cmbpriority"_s,
-                 u"txtcmpnySuffix"_s, u"txtcmpny"_s, u"cmbnview"_s, u"dtcmbfname"_s, u"txtMemo"_s,
-                 u"DateBday"_s, u"lblname"_s, u"lblid"_s})
+        for (const auto& name :
+            {u"Cmbtitle"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"cmbpriority"_s, u"txtcmpnySuffix"_s,
+                u"txtcmpny"_s, u"cmbnview"_s, u"dtcmbfname"_s, u"txtMemo"_s, u"DateBday"_s, u"lblid"_s})
             texts << f.text(name);
         return texts.join(u'|');
     };
-    const QString expected = u"Mr.|Friends|School|3|Ltd|||||||"_s;
+    const QString expected = u"Mr.|Friends|School|3|Ltd||||||"_s;
     QCOMPARE(defaults(), expected);
     QCOMPARE(f.text(u"lbluser1"_s), u"Blood & group"_s);
     QCOMPARE(f.text(u"lbluser2"_s), u"User 2"_s);

@@ -17,7 +17,10 @@ namespace {
 constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
 constexpr QStringView kHelpFile = u"\\UserFiles\\Help\\OrvaneHelp.chm";
 
-QString fileOf(QStringView program) { return u'\\' + program.toString(); }
+QString fileOf(QStringView program)
+{
+    return u'\\' + program.toString();
+}
 
 /// The screen that an action needs; empty for an action that needs none.
 struct ScreenNeeded {
@@ -76,15 +79,22 @@ bool ActionPerformer::run(const core::OpenLaunchPad& open)
     return openScreen(u"FrmLaunchDisk", open.mode);
 }
 
-bool ActionPerformer::run(const core::EditColumns& edit) { return openScreen(u"FormUserEdit", edit.columnSet); }
+bool ActionPerformer::run(const core::EditColumns& edit)
+{
+    return openScreen(u"FormUserEdit", edit.columnSet);
+}
 
-bool ActionPerformer::run(const core::ListReport& report) { return openScreen(u"FrmAddFullRptView", report.page); }
+bool ActionPerformer::run(const core::ListReport& report)
+{
+    return openScreen(u"FrmAddFullRptView", report.page);
+}
 
 bool ActionPerformer::run(const core::LaunchLinkAndSync& launch)
 {
     if (launch.ask == core::Ask::Yes) {
         const auto answer = m_context.services.boxes.ask(
-            tr("Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "), m_context.shared.AppTitle);
+            tr("Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "),
+            m_context.shared.AppTitle);
         if (answer == platform::Answer::No)
             return false;
     }
@@ -121,7 +131,10 @@ bool ActionPerformer::startProgram(QStringView program, core::WhenMissing whenMi
     return false;
 }
 
-bool ActionPerformer::run(const core::TextReport&) { return false; }
+bool ActionPerformer::run(const core::TextReport&)
+{
+    return false;
+}
 
 bool ActionPerformer::run(const core::OpenFile& open)
 {
@@ -138,8 +151,7 @@ bool ActionPerformer::run(const core::OpenHelpFile&)
 
 bool ActionPerformer::run(const core::ShowLinkedRecords&)
 {
-    m_context.frame.setTitle(u"Contacts Link Viewer"_s);
-    return openScreen(u"frmCntViewer", {});
+    return run(core::OpenScreen{.form = u"frmCntViewer", .title = u"Contacts Link Viewer"});
 }
 
 bool ActionPerformer::run(const core::EndProgram&)

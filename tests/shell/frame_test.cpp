@@ -1,0 +1,611 @@
+#include <QtTest>
+#include <QtWidgets>
+
+#include "core/shell/action_performer.h"
+#include "core/shell/frame_settings.h"
+#include "core/shell/frmSplash.h"
+#include "core/shell/launch_pages.h"
+#include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
+#include "core/store/book_schema.h"
+#include "entry/register_entry.h"
+#include "support/screen_fixture.h"
+#include "views/register_views.h"
+#include "widgets/fields.h"
+
+using namespace Qt::StringLiterals;
+using core::Action;
+using platform::Answer;
+using support::ScreenFixture;
+using support::TargetScreen;
+using support::TestBook;
+
+namespace {
+
+/// A screen that may refuse to close, and that looks at the deferred key when it is loaded.
+class StubbornScreen final : public core::Screen {
+public:
+    using Screen::Screen;
+    void load() override
+    {
+        setWindowTitle(u"Stubborn"_s);
+        keyAtLoad = context().data.openRecordset(u"select [key] from ov_setup"_s).textAt(0);
+    }
+    bool mayClose() override { return mayGo; }
+    QString keyAtLoad = u"not loaded"_s;
+    bool mayGo = true;
+};
+
+/// The frame itself, on the recording services of a screen fixture.
+class FrameFixture : public ScreenFixture {
+public:
+    explicit FrameFixture(TestBook::Rows rows = TestBook::Rows::None)
+        : ScreenFixture(rows)
+        , all{book.data(), book.data(), schema, shared, registry, window, context.services}
+    {
+        registry.setContext(all);
+        shell::registerShell(registry);
+    }
+    ~FrameFixture() { registry.unloadAll(); }
+    void start()
+    {
+        window.build(all);
+        window.loadFrame();
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the frame does not become active");
+    }
+    void comeBack()
+    {
+        QEvent activate(QEvent::WindowActivate);
+        QApplication::sendEvent(&window, &activate);
+    }
+    QAction* tool(const QString& id) { return window.findChild<QAction*>(id); }
+    QTabWidget* tabs() { return window.findChild<QTabWidget*>(u"ScreenTabs"_s); }
+    QString pane(const QString& name) { return window.findChild<QLabel*>(name)->text(); }
+
+    core::Screens registry;
+    shell::MDIForm1 window;
+    core::Context all;
+};
+
+} // namespace
+
+/// The frame: what its commands do, what it shows of them, and how it holds the screens.
+class FrameTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void actions_data();
+    void actions();
+    void actionSignals_data();
+    void actionSignals();
+    void loadSetsTheState();
+    void businessEdition_data();
+    void businessEdition();
+    void cityTools_data();
+    void cityTools();
+    void dueMails_data();
+    void dueMails();
+    void toolsOfAbsentScreens();
+    void tabsAndClosing();
+    void deferredKeys_data();
+    void deferredKeys();
+    void modalScreen();
+    void launchPages_data();
+    void launchPages();
+    void launchPadStarts();
+    void everyCommand_data();
+    void everyCommand();
+    void splashTicks_data();
+    void splashTicks();
+    void splashPassword();
+};
+
+void FrameTest::actions_data()
+{
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<QStringList>("siblings");
+    QTest::addColumn<QString>("box"); // "yes" or "no" answers the question before Link & Sync
+    QTest::addColumn<QString>(
+        "outcome"); // result; screens; titles; programs started; ends; key/module/report
+    const QString linkAndSync = u"Orvane Link & Sync.exe"_s;
+    const QString personal = u"Orvane PersonalRecords.exe"_s;
+    const QString pages = u"FrmProjectMsg modally"_s;
+    const auto row
+        = [](const char* tag, const Action& action, const QStringList& siblings, const QString& box,
+              const QString& outcome) { QTest::newRow(tag) << action << siblings << box << outcome; };
+    row("screen", core::OpenScreen{u"FullView"}, {}, {}, u"1;FullView;;;0;//"_s);
+    row("screen with page and title",
+        core::OpenScreen{.form = u"FullView", .page = u"Full", .title = u"A title"}, {}, {},
+        u"1;FullView on Full;A title;;0;//"_s);
+    row("modal screen", core::OpenScreen{.form = u"FullView", .shown = core::Shown::Modally}, {}, {},
+        u"1;FullView modally;;;0;//"_s);
+    row("absent screen changes no title", core::OpenScreen{.form = u"FormX", .title = u"A title"}, {}, {},
+        u"0;;;;0;//"_s);
+    row("links, absent", core::ShowLinkedRecords{}, {}, {}, u"0;;;;0;//"_s);
+    row("columns", core::EditColumns{u"Priority"}, {}, {}, u"1;FormUserEdit on Priority;;;0;//"_s);
+    row("list report", core::ListReport{u"Pname"}, {}, {}, u"0;;;;0;//"_s);
+    row("link and sync there", core::LaunchLinkAndSync{}, {linkAndSync}, {},
+        u"1;;;"_s + linkAndSync + u";1;//"_s);
+    row("link and sync absent", core::LaunchLinkAndSync{}, {}, {}, u"0;"_s + pages + u";;;0;//"_s);
+    row("asked, yes", core::LaunchLinkAndSync{core::Ask::Yes}, {linkAndSync}, u"yes"_s,
+        u"1;;;"_s + linkAndSync + u";1;//"_s);
+    row("asked, no", core::LaunchLinkAndSync{core::Ask::Yes}, {linkAndSync}, u"no"_s, u"0;;;;0;//"_s);
+    row("sibling with a key",
+        core::StartSibling{.program = u"Orvane PersonalRecords.exe", .key = u"userdefined1"}, {personal}, {},
+        u"1;;;"_s + personal + u";1;userdefined1//"_s);
+    row("sibling absent leaves no key",
+        core::StartSibling{.program = u"Orvane PersonalRecords.exe", .key = u"userdefined1"}, {}, {},
+        u"0;"_s + pages + u";;;0;//"_s);
+    row("scheduler absent does nothing",
+        core::StartSibling{.program = u"Orvane Scheduler.exe", .whenMissing = core::WhenMissing::Nothing}, {},
+        {}, u"0;;;;0;//"_s);
+    row("report", core::RequestReport{u"Address Book-Short"}, {linkAndSync}, {},
+        u"1;;;"_s + linkAndSync + u";1;report/Contacts/Address Book-Short"_s);
+    row("end", core::EndProgram{}, {}, {}, u"1;;;;1;//"_s);
+    row("inert", core::Inert{}, {}, {}, u"1;;;;0;//"_s);
+}
+
+void FrameTest::actions()
+{
+    QFETCH(Action, action);
+    QFETCH(QStringList, siblings);
+    QFETCH(QString, box);
+    ScreenFixture f;
+    f.execute(u"insert into ov_setup ([key]) values ('')"_s);
+    shell::registerShell(f.screens);
+    f.addTarget(u"FullView"_s);
+    f.addTarget(u"FormUserEdit"_s);
+    f.shell.siblings = siblings;
+    if (!box.isEmpty())
+        f.boxes.expect(u"Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "_s,
+            box == u"yes" ? Answer::Yes : Answer::No);
+    shell::ActionPerformer performer(f.context);
+    const bool done = performer.perform(action);
+    QString screens = f.frame.placed.join(u',');
+    for (const auto& form : {u"FullView"_s, u"FormUserEdit"_s}) {
+        if (f.target(form) && !f.target(form)->pages.isEmpty())
+            screens += u" on "_s + f.target(form)->pages.join(u',');
+    }
+    const auto setup = f.book.rows(u"select [key],rptMod,rptSubMod from ov_setup"_s).constFirst();
+    QTEST(QStringList(
+              {QString::number(done), screens, f.frame.titles.join(u','), f.shell.startedSiblings.join(u','),
+                  QString::number(f.shell.ends), QString(setup).remove(u"null"_s).replace(u'|', u'/')})
+              .join(u';'),
+        "outcome");
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::actionSignals_data()
+{
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<QString>("heard");
+    QTest::newRow("drop-down") << Action(core::DropDown{u"Data"}) << u"drop Data"_s;
+    QTest::newRow("close") << Action(core::CloseFrame{}) << u"close"_s;
+    QTest::newRow("restore") << Action(core::Restore{}) << u"restore"_s;
+    QTest::newRow("list bar") << Action(core::HideListBar{}) << u"hide"_s;
+    QTest::newRow("an absent screen without the list bar")
+        << Action(core::OpenScreen{.form = u"FormX", .listBar = core::ListBar::Hidden}) << u"hide"_s;
+    QTest::newRow("help") << Action(core::OpenHelpFile{}) << u"help \\UserFiles\\Help\\OrvaneHelp.chm"_s;
+    QTest::newRow("file") << Action(core::OpenFile{u"\\UserFiles\\a.htm"}) << u"file \\UserFiles\\a.htm"_s;
+    QTest::newRow("letters") << Action(core::OpenScreen{.form = u"FormX", .letterKind = u"Business"})
+                             << u"kind Business"_s;
+    QTest::newRow("launch pad") << Action(core::OpenLaunchPad{u"From Edit"}) << u"pad From Edit"_s;
+}
+
+void FrameTest::actionSignals()
+{
+    QFETCH(Action, action);
+    ScreenFixture f;
+    QVERIFY(QDir(f.book.folder()).mkpath(u"UserFiles"_s));
+    QFile file(f.book.folder() + u"/UserFiles/a.htm"_s);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    shell::ActionPerformer performer(f.context);
+    QStringList heard;
+    connect(&performer, &shell::ActionPerformer::dropDownWanted, this,
+        [&](const QString& page) { heard << u"drop "_s + page; });
+    connect(&performer, &shell::ActionPerformer::closeWanted, this, [&] { heard << u"close"_s; });
+    connect(&performer, &shell::ActionPerformer::restoreWanted, this, [&] { heard << u"restore"_s; });
+    connect(&performer, &shell::ActionPerformer::listBarHidden, this, [&] { heard << u"hide"_s; });
+    performer.perform(action);
+    for (const QString& path : f.help.opened)
+        heard << u"help "_s + path;
+    for (const QString& path : f.shell.openedFiles)
+        heard << u"file "_s + path;
+    if (!f.shared.LetterKind.isEmpty())
+        heard << u"kind "_s + f.shared.LetterKind;
+    if (!f.shared.LaunchMode.isEmpty())
+        heard << u"pad "_s + f.shared.LaunchMode;
+    QTEST(heard.join(u','), "heard");
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::loadSetsTheState()
+{
+    FrameFixture f;
+    f.execute(u"insert into ov_setup (national) values (true)"_s);
+    f.shared.AppTitle.clear();
+    f.start();
+    QCOMPARE(f.shared.AppTitle, u"Orvane Contacts"_s);
+    QCOMPARE(f.shared.ModuleName, u"Contacts"_s);
+    QCOMPARE(f.shared.DocumentsPath, u"C:\\Documents"_s);
+    QCOMPARE(f.pane(u"DatePane"_s), u"15 Mar-2024"_s);
+    QVERIFY(f.drive.exists(u"C:\\OVUserFiles\\Exported Files\\Emails"));
+    f.window.setTitle(u"Contacts Full View"_s);
+    f.window.showPosition(u"3 of 120"_s);
+    QCOMPARE(f.window.windowTitle(), u"Contacts Full View - Orvane Contacts"_s);
+    QCOMPARE(f.pane(u"PositionPane"_s), u"3 of 120"_s);
+    f.window.clearStatus();
+    QCOMPARE(f.pane(u"PositionPane"_s) + f.pane(u"DatePane"_s), QString());
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::businessEdition_data()
+{
+    QTest::addColumn<bool>("business");
+    QTest::newRow("business") << true;
+    QTest::newRow("personal") << false;
+}
+
+void FrameTest::businessEdition()
+{
+    QFETCH(bool, business);
+    FrameFixture f;
+    f.execute(u"insert into ov_setup (national,Business) values (true,%1)"_s.arg(
+        business ? u"true"_s : u"false"_s));
+    f.start();
+    QStringList hidden;
+    for (const core::Command& command : core::toolCommands()) {
+        if (!f.tool(command.id.toString())->isVisible())
+            hidden << command.id.toString();
+    }
+    hidden.sort(Qt::CaseInsensitive);
+    QCOMPARE(hidden.join(u' '),
+        business ? u"Ann AnnivOther BAV BirthdayList Btask FamilyTree ID_Anniv ID_Bday ID_FamilyTree "
+                   u"ID_Zodiac Linked "
+                   "PersonalView PhoneDialer ZAV"_s
+                 : QString());
+    // The groups of the tool bar go with their tools.
+    QCOMPARE(f.window.findChild<QToolButton*>(u"group_PhoneDialer"_s)->isVisibleTo(&f.window), !business);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::cityTools_data()
+{
+    QTest::addColumn<QString>("national");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("home country") << u"true"_s << u"CitypinStd CitypinStdI CityUtility"_s;
+    QTest::newRow("elsewhere") << u"false"_s << u"CitypinStdI"_s;
+}
+
+void FrameTest::cityTools()
+{
+    QFETCH(QString, national);
+    FrameFixture f;
+    f.execute(u"insert into ov_setup (national) values (%1)"_s.arg(national));
+    f.start();
+    QStringList shown;
+    for (const auto& id : {u"CitypinStd"_s, u"CitypinStdI"_s, u"CityUtility"_s}) {
+        if (f.tool(id)->isVisible())
+            shown << id;
+    }
+    QTEST(shown.join(u' '), "shown");
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::dueMails_data()
+{
+    QTest::addColumn<QString>("day");
+    QTest::addColumn<int>("answer"); // 0: no question
+    QTest::newRow("due, yes") << u"#15-Mar-2024#"_s << 1;
+    QTest::newRow("due, no") << u"#15-Mar-2024#"_s << 2;
+    QTest::newRow("not due") << u"#16-Mar-2024#"_s << 0;
+}
+
+void FrameTest::dueMails()
+{
+    QFETCH(QString, day);
+    QFETCH(int, answer);
+    FrameFixture f;
+    f.registry.add<TargetScreen>(u"frmTimedEmail"_s);
+    f.execute(u"insert into time_email ([Date],confirm) values (%1,true)"_s.arg(day));
+    if (answer)
+        f.boxes.expect(
+            u"Do you want to send all confirmed pending emails"_s, answer == 1 ? Answer::Yes : Answer::No);
+    f.start();
+    QCOMPARE(f.registry.find(u"frmTimedEmail") != nullptr, answer == 1);
+    QCOMPARE(f.book.rows(u"select id from time_email"_s).size(), 1);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::toolsOfAbsentScreens()
+{
+    FrameFixture f;
+    f.registry.add<TargetScreen>(u"FullView"_s);
+    f.start();
+    for (const core::Command& command : core::toolCommands()) {
+        QAction* tool = f.tool(command.id.toString());
+        QCOMPARE(tool->isEnabled(), f.window.canPerform(command.action));
+    }
+    QVERIFY(f.tool(u"FullView"_s)->isEnabled());
+    QVERIFY(!f.tool(u"Edit"_s)->isEnabled());
+    f.tool(u"Edit"_s)->trigger();
+    QVERIFY(!f.window.perform(core::OpenScreen{u"FormMain"}));
+    QCOMPARE(f.tabs()->count(), 0);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::tabsAndClosing()
+{
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"FullView"_s);
+    f.registry.add<TargetScreen>(u"FormMain"_s);
+    f.start();
+    auto* start = f.window.findChild<QWidget*>(u"StartPage"_s);
+    QVERIFY(start->isVisible());
+    f.tool(u"FullView"_s)->trigger();
+    f.tool(u"Edit"_s)->trigger();
+    f.tool(u"FullView"_s)->trigger();
+    QCOMPARE(f.tabs()->count(), 2);
+    QCOMPARE(f.tabs()->tabText(f.tabs()->currentIndex()), u"Stubborn"_s);
+    QVERIFY(!start->isVisible());
+    auto* screen = dynamic_cast<StubbornScreen*>(f.registry.find(u"FullView"));
+    screen->mayGo = false;
+    Q_EMIT f.tabs()->tabCloseRequested(f.tabs()->indexOf(screen));
+    QCOMPARE(f.tabs()->count(), 2);
+    QVERIFY(!f.window.close());
+    QCOMPARE(f.shell.ends, 0);
+    screen->mayGo = true;
+    Q_EMIT screen->closeRequested();
+    QCOMPARE(f.tabs()->count(), 1);
+    QVERIFY(!f.registry.find(u"FullView"));
+    Q_EMIT f.tabs()->tabCloseRequested(0);
+    QVERIFY(start->isVisible());
+    QCOMPARE(f.window.windowTitle(), u"Orvane Contacts"_s);
+    f.tool(u"Exit"_s)->trigger();
+    QCOMPARE(f.shell.ends, 1);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::deferredKeys_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("mixed case, the basic form") << u"'FormMain'"_s << true;
+    QTest::newRow("the other key of that form") << u"'formmain1'"_s << true;
+    QTest::newRow("unknown") << u"'formmain2'"_s << false;
+    QTest::newRow("a screen that is not there") << u"'frmdialer'"_s << false;
+    QTest::newRow("null") << u"null"_s << false;
+}
+
+void FrameTest::deferredKeys()
+{
+    QFETCH(QString, key);
+    QFETCH(bool, opens);
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"FormMain1"_s);
+    f.execute(u"insert into ov_setup ([key]) values (%1)"_s.arg(key));
+    f.start();
+    auto* screen = dynamic_cast<StubbornScreen*>(f.registry.find(u"FormMain1"));
+    QCOMPARE(screen != nullptr, opens);
+    if (opens)
+        QCOMPARE(screen->keyAtLoad, QString()); // blanked before it opens, so that it can not come for ever
+    QCOMPARE(f.book.rows(u"select [key] from ov_setup"_s), QStringList{QString()});
+    Q_EMIT f.tabs()->tabCloseRequested(0);
+    f.comeBack();
+    QVERIFY(!f.registry.find(u"FormMain1"));
+    f.execute(u"update ov_setup set [key]='formmain'"_s);
+    f.comeBack();
+    QVERIFY(f.registry.find(u"FormMain1"));
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::modalScreen()
+{
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"frmbday"_s);
+    f.execute(u"insert into ov_setup ([key]) values ('frmbday')"_s);
+    f.start();
+    auto* dialog = f.window.findChild<QDialog*>();
+    QVERIFY(dialog && dialog->isModal());
+    QCOMPARE(dialog->windowTitle(), u"Stubborn"_s);
+    QCOMPARE(f.tabs()->count(), 0);
+    Q_EMIT dynamic_cast<core::Screen*>(f.registry.find(u"frmbday"))->closeRequested();
+    QTRY_VERIFY(!f.registry.find(u"frmbday"));
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::launchPages_data()
+{
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QString>("title");
+    const auto row = [](const char* mode, const QString& tool, const QString& title) {
+        QTest::newRow(mode) << tool << u"Orvane Contacts - "_s + title;
+    };
+    row("From Add", u"ID_Add2"_s, u"Add"_s);
+    row("From Transfer", u"ID_Data"_s, u"Transfer"_s);
+    row("From Setup", u"ID_Setup"_s, u"Setup"_s);
+    row("From Letter", u"ID_Letter12"_s, u"Letter"_s);
+    row("From Email", u"E=Mail"_s, u"Email"_s);
+    row("From View", u"ID_View"_s, u"View Main"_s);
+    row("From Telephone", u"PhoneDialer"_s, u"Telephone"_s);
+    row("From Print", u"ID_Print1"_s, u"Print"_s);
+    row("From Function", u"ID_Fun"_s, u"Function"_s);
+    row("From Function Other", u"AnnivOther"_s, u"Function Other"_s);
+    row("From Edit", u"EditDD"_s, u"Edit"_s);
+    row("From View Other", u"ID_ViewOther"_s, u"View Other"_s);
+}
+
+void FrameTest::launchPages()
+{
+    QFETCH(QString, tool);
+    const QString mode = QString::fromLatin1(QTest::currentDataTag());
+    FrameFixture f;
+    QStringList labels;
+    for (const core::ShippedRows& shipped : core::shippedRows(core::BookPart::Data)) {
+        if (shipped.table.compare(u"ov_cnt_launch", Qt::CaseInsensitive) != 0)
+            continue;
+        QVERIFY(f.book.data().appendRows(shipped.table, shipped.columns, shipped.rows));
+        for (const QStringList& row : shipped.rows) {
+            if (row.at(1) == mode)
+                labels << row.at(2);
+        }
+    }
+    f.start();
+    f.tool(tool)->trigger();
+    QCOMPARE(f.shared.LaunchMode, mode);
+    auto* pad = f.registry.find(u"FrmLaunchDisk");
+    QVERIFY(pad);
+    QTEST(pad->windowTitle(), "title");
+    QVERIFY(widgets::child<QLabel>(pad, u"LblFrmDesc"_s)->text().size() > 20);
+    QStringList shown;
+    const auto* tiles = widgets::child<QListView>(pad, u"Grid1"_s)->model();
+    for (int row = 0; row < tiles->rowCount(); ++row)
+        shown << tiles->index(row, 0).data().toString();
+    QCOMPARE(shown, labels);
+    QVERIFY(labels.size() > 1);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::launchPadStarts()
+{
+    FrameFixture f;
+    f.registry.add<TargetScreen>(u"FormMain"_s);
+    f.execute(u"insert into ov_cnt_launch (Main,Title) values ('From Add','Turbo Add')"_s);
+    f.execute(u"insert into ov_cnt_launch (Main,Title) values ('From Add','Detailed Add')"_s);
+    f.start();
+    f.tool(u"ID_Add"_s)->trigger();
+    auto* grid = widgets::child<QListView>(f.registry.find(u"FrmLaunchDisk"), u"Grid1"_s);
+    QVERIFY(!(grid->model()->index(0, 0).flags() & Qt::ItemIsEnabled));
+    const QModelIndex detailed = grid->model()->index(1, 0);
+    Q_EMIT grid->entered(detailed);
+    QCOMPARE(f.window.findChild<QLabel*>(u"LblTitle"_s)->text(), u" - Detailed Add"_s);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(detailed).center());
+    QVERIFY(f.registry.find(u"FormMain"));
+    QCOMPARE(f.tabs()->count(), 2);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::everyCommand_data()
+{
+    QTest::addColumn<bool>("sample");
+    QTest::newRow("empty book") << false;
+    QTest::newRow("sample rows") << true;
+}
+
+// Every tool, key, short code and label is performed as often as it is listed, with all screens there are;
+// nothing asserts, and no statement fails.
+void FrameTest::everyCommand()
+{
+    QFETCH(bool, sample);
+    FrameFixture f(sample ? TestBook::Rows::Sample : TestBook::Rows::None);
+    entry::registerEntry(f.registry);
+    views::registerViews(f.registry);
+    if (sample) // a mail that is due would ask
+        f.execute(u"update time_email set confirm=false"_s);
+    f.start();
+    int performed = 0;
+    for (const auto commands : {core::toolCommands(), core::keyCommands(), core::shortCodeCommands(),
+             core::launchPadCommands(), core::dropDownCommands()}) {
+        for (const core::Command& command : commands) {
+            const auto* launch = std::get_if<core::LaunchLinkAndSync>(&command.action);
+            // Closing the frame and restoring have tests of their own.
+            if (std::holds_alternative<core::CloseFrame>(command.action)
+                || std::holds_alternative<core::Restore>(command.action))
+                continue;
+            if (launch && launch->ask == core::Ask::Yes)
+                f.boxes.expect(
+                    u"Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "_s, Answer::Yes);
+            f.window.perform(command.action);
+            ++performed;
+            QCoreApplication::processEvents();
+            if (QWidget* popup = QApplication::activePopupWidget())
+                popup->close();
+            for (QDialog* dialog : f.window.findChildren<QDialog*>())
+                delete dialog;
+            QCOMPARE(QString(command.id.toString() + u": "_s + f.verify()),
+                QString(command.id.toString() + u": "_s));
+        }
+    }
+    QVERIFY(performed > 300);
+    for (const QString& form : f.registry.names()) {
+        QVERIFY(f.registry.show(form));
+        QCoreApplication::processEvents();
+        QVERIFY2(f.registry.find(form)->isVisible(), qPrintable(form));
+    }
+    while (f.tabs()->count() > 0)
+        Q_EMIT f.tabs()->tabCloseRequested(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::splashTicks_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<bool>("escape");
+    QTest::addColumn<QString>("heard");
+    const QString setup = u"insert into ov_setup (Email) values (%1)"_s;
+    QTest::newRow("main shell") << setup.arg(u"false"_s) << false << u"main"_s;
+    QTest::newRow("null") << setup.arg(u"null"_s) << false << u"main"_s;
+    QTest::newRow("e-mail shell") << setup.arg(u"true"_s) << false << u"e-mail"_s;
+    QTest::newRow("Esc brings the main shell first, the tick goes on")
+        << setup.arg(u"true"_s) << true << u"main,e-mail"_s;
+    QTest::newRow("unreadable, told at the tick") << u"drop table ov_setup"_s << false << u"unreadable"_s;
+}
+
+void FrameTest::splashTicks()
+{
+    QFETCH(QString, statement);
+    QFETCH(bool, escape);
+    QFETCH(QString, heard);
+    ScreenFixture f;
+    f.execute(statement);
+    if (statement.startsWith(u"drop"))
+        f.book.expectFailure(u"ov_Setup"_s);
+    shell::frmSplash splash(f.context);
+    QStringList signalsHeard;
+    connect(&splash, &shell::frmSplash::mainShellWanted, this, [&] { signalsHeard << u"main"_s; });
+    connect(&splash, &shell::frmSplash::emailShellWanted, this, [&] { signalsHeard << u"e-mail"_s; });
+    connect(&splash, &shell::frmSplash::bookUnreadable, this, [&] { signalsHeard << u"unreadable"_s; });
+    QElapsedTimer time;
+    time.start();
+    splash.load();
+    splash.show();
+    QCOMPARE(signalsHeard, QStringList());
+    if (escape)
+        QTest::keyClick(&splash, Qt::Key_Escape);
+    QTRY_COMPARE(signalsHeard.join(u','), heard);
+    QVERIFY(time.elapsed() >= 99);
+    QCOMPARE(f.boxes.shown, QStringList());
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::splashPassword()
+{
+    ScreenFixture f;
+    shell::frmSplash splash(f.context);
+    QSignalSpy passed(&splash, &shell::frmSplash::previousCallsWanted);
+    auto* box = widgets::child<QLineEdit>(&splash, u"txtpassword"_s);
+    auto* next = widgets::child<QPushButton>(&splash, u"cmdNext"_s);
+    auto* bar = widgets::child<QProgressBar>(&splash, u"dxProgressBar1"_s);
+    box->setText(u" "_s);
+    f.boxes.expect(u"Invalid Password. Try again !!!!"_s);
+    next->click();
+    QCOMPARE(f.boxes.shown, QStringList{u"information: Invalid Password. Try again !!!!"_s});
+    QCOMPARE(box->text(), QString());
+    QCOMPARE(passed.count(), 0);
+    QVERIFY(bar->isHidden());
+    next->click();
+    QCOMPARE(passed.count(), 1);
+    QVERIFY(!bar->isHidden());
+    QCOMPARE(splash.cursor().shape(), Qt::WaitCursor);
+    bar->setValue(96);
+    QTRY_COMPARE_WITH_TIMEOUT(bar->value(), 0, 1500);
+    QCOMPARE(f.verify(), QString());
+}
+
+Q_DECLARE_METATYPE(core::Action)
+QTEST_MAIN(FrameTest)
+#include "frame_test.moc"

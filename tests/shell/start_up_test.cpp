@@ -1,0 +1,273 @@
+#include <QtTest>
+#include <QtWidgets>
+
+#include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
+#include "core/shell/start_up.h"
+#include "core/shell/storage_notice.h"
+#include "core/store/backups.h"
+#include "support/screen_fixture.h"
+#include "widgets/fields.h"
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+using platform::Answer;
+
+namespace {
+
+/// The program from its first window on, on folders of its own. The services are those of a screen fixture.
+class Program : public support::ScreenFixture {
+public:
+    Program()
+        : files(root.filePath(u"program"_s), backupFolder())
+        , all{data, info, schema, shared, registry, window, context.services}
+    {
+        QDir().mkpath(root.filePath(u"program"_s));
+        registry.setContext(all);
+        shell::registerShell(registry);
+    }
+    ~Program() { registry.unloadAll(); }
+    QString backupFolder() const { return root.filePath(u"OVUserFiles/Others/Backup"_s); }
+    void begin()
+    {
+        startUp = std::make_unique<shell::StartUp>(all, window, files, backupFolder());
+        startUp->begin(true);
+    }
+    static QWidget* shown(const QString& name)
+    {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == name && widget->isVisible())
+                return widget;
+        }
+        return nullptr;
+    }
+    /// A good book and perhaps a backup of it, as the program leaves them.
+    void makeBook(bool withBackup)
+    {
+        QVERIFY(files.makeMissing(true));
+        jet::Database made;
+        QCOMPARE(made.open(files.dataFile()), jet::Database::OpenResult::Opened);
+        QVERIFY(made.execute(u"insert into cnt_main (name,first) values ('Asha','Asha')"));
+        if (withBackup)
+            QCOMPARE(core::backUpOnceADay(made, backupFolder(), QDate(2024, 3, 1)), core::BackupResult::Made);
+    }
+    QByteArray bytes() const
+    {
+        QFile file(files.dataFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void damage() const
+    {
+        QFile file(files.dataFile());
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("this is no database at all, but it is long enough to look like a file");
+    }
+
+    jet::Database data;
+    jet::Database info;
+    core::BookFiles files;
+    core::Screens registry;
+    shell::MDIForm1 window;
+    core::Context all;
+    std::unique_ptr<shell::StartUp> startUp;
+};
+
+} // namespace
+
+/// The way from the first window to a shell, and what is done about a book that can not be read.
+class StartUpTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstStartAndSecond();
+    void emailShell();
+    void escapeWithEmailShell();
+    void damagedBook_data();
+    void damagedBook();
+    void restoreFromTheFrame();
+    void fullDiskIsToldOnce();
+};
+
+void StartUpTest::firstStartAndSecond()
+{
+    Program p;
+    p.begin();
+    QVERIFY(Program::shown(u"frmSplash"_s));
+    QVERIFY(!p.window.isVisible());
+    QTRY_VERIFY(p.window.isVisible());
+    QTRY_VERIFY(!Program::shown(u"frmSplash"_s) && !Program::shown(u"Form3"_s));
+    QVERIFY(p.shared.NationalMode);
+    QVERIFY(QFile::exists(p.files.dataFile()) && QFile::exists(p.files.infoFile()));
+    QVERIFY(p.drive.exists(u"C:\\OVUserFiles\\Exported Files\\Emails"));
+    QVERIFY(p.data.openRecordset(u"select * from CNTB_CATEGORIES").count() > 0);
+    QVERIFY(p.info.openRecordset(u"select * from WIA_GLOBALMAS where country in ('India','United States')")
+                .count()
+        == 2);
+    QVERIFY(p.data.execute(u"insert into cnt_main (name) values ('Asha')"));
+    p.startUp.reset();
+    p.data.close();
+    p.info.close();
+    p.begin();
+    QCOMPARE(p.data.openRecordset(u"select name from cnt_main").textAt(0), u"Asha"_s);
+    QTest::qWait(150);
+    QCOMPARE(p.verify(), QString());
+}
+
+void StartUpTest::emailShell()
+{
+    Program p;
+    p.makeBook(false);
+    {
+        jet::Database book;
+        book.open(p.files.dataFile());
+        QVERIFY(book.execute(u"update ov_setup set Email=true"));
+    }
+    p.begin();
+    QTRY_VERIFY(Program::shown(u"FrmEmailSuite"_s));
+    QTRY_VERIFY(!Program::shown(u"frmSplash"_s));
+    QVERIFY(!p.window.isVisible());
+    QVERIFY(Program::shown(u"FrmEmailSuite"_s)->findChild<QListWidget*>(u"lBarContacts"_s)->count() > 3);
+    Program::shown(u"FrmEmailSuite"_s)->close();
+    QCOMPARE(p.shell.ends, 1);
+    QCOMPARE(p.verify(), QString());
+}
+
+void StartUpTest::escapeWithEmailShell()
+{
+    Program p;
+    p.makeBook(false);
+    {
+        jet::Database book;
+        book.open(p.files.dataFile());
+        QVERIFY(book.execute(u"update ov_setup set Email=true"));
+    }
+    p.begin();
+    QTest::keyClick(Program::shown(u"frmSplash"_s), Qt::Key_Escape);
+    QVERIFY(p.window.isVisible());
+    QVERIFY(!Program::shown(u"FrmEmailSuite"_s));
+    QTest::qWait(250);
+    QCOMPARE(p.verify(), QString());
+}
+
+void StartUpTest::damagedBook_data()
+{
+    QTest::addColumn<bool>("backup");
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<bool>("yes");
+    QTest::addColumn<QString>("outcome");
+    QTest::newRow("no backup") << false << u"damaged"_s << false << u"told, ended, untouched"_s;
+    QTest::newRow("backup refused") << true << u"damaged"_s << false << u"asked, ended, untouched"_s;
+    QTest::newRow("backup taken") << true << u"damaged"_s << true << u"asked, running, restored"_s;
+    QTest::newRow("a newer book is left alone") << true << u"newer"_s << false << u"told, ended, untouched"_s;
+    QTest::newRow("a book that is gone") << true << u"gone"_s << true << u"asked, running, restored"_s;
+}
+
+void StartUpTest::damagedBook()
+{
+    QFETCH(bool, backup);
+    QFETCH(QString, fault);
+    QFETCH(bool, yes);
+    Program p;
+    p.makeBook(backup);
+    if (fault == u"damaged")
+        p.damage();
+    if (fault == u"gone")
+        QVERIFY(QFile::remove(p.files.dataFile()));
+    if (fault == u"newer") {
+        jet::Database book;
+        book.open(p.files.dataFile());
+        QVERIFY(book.setVersion(99999));
+    }
+    const QByteArray before = p.bytes();
+    // The words of the box are told by the checks of the files; here it counts that there is one, and when.
+    struct AnyBox final : platform::MessageBoxes {
+        bool yes = false;
+        QStringList shown;
+        void information(const QString& text, const QString&) override { shown << u"told "_s + text; }
+        void warning(const QString& text, const QString&) override { shown << u"told "_s + text; }
+        Answer ask(const QString& text, const QString&, platform::Icon) override
+        {
+            shown << u"asked "_s + text;
+            return yes ? Answer::Yes : Answer::No;
+        }
+        std::optional<QString> openFile(const QString&, const QString&) override { return {}; }
+        std::optional<QString> saveFile(const QString&, const QString&) override { return {}; }
+        std::optional<QString> folder(const QString&) override { return {}; }
+        std::optional<QString> inputText(const QString&, const QString&) override { return {}; }
+    } boxes;
+    boxes.yes = yes;
+    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
+        {p.drive, boxes, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
+    p.registry.setContext(own);
+    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
+    startUp.begin(true);
+    QCOMPARE(boxes.shown, QStringList());
+    QTRY_VERIFY(p.window.isVisible() || p.shell.ends > 0);
+    QTest::qWait(250); // the ticks do not tell it again
+    QCOMPARE(boxes.shown.size(), 1);
+    QVERIFY(boxes.shown[0].contains(u"Orvanedata.dll"));
+    const bool running = p.window.isVisible();
+    const bool restored = running && p.data.openRecordset(u"select name from cnt_main").textAt(0) == u"Asha";
+    QTEST(QStringList({boxes.shown[0].section(u' ', 0, 0), running ? u"running"_s : u"ended"_s,
+                          restored                  ? u"restored"_s
+                              : p.bytes() == before ? u"untouched"_s
+                                                    : u"changed"_s})
+              .join(u", "),
+        "outcome");
+    QCOMPARE(p.shell.ends, running ? 0 : 1);
+    // What was replaced is kept.
+    if (restored && !before.isEmpty())
+        QCOMPARE(QDir(p.root.filePath(u"program"_s)).entryList({u"*-replaced-*"_s}, QDir::Files).size(), 1);
+    QCOMPARE(p.verify(), QString());
+}
+
+void StartUpTest::restoreFromTheFrame()
+{
+    Program p;
+    p.makeBook(true);
+    p.begin();
+    QTRY_VERIFY(p.window.isVisible());
+    QVERIFY(p.data.execute(u"update cnt_main set name='Changed'"));
+    p.registry.add<support::TargetScreen>(u"FullView"_s);
+    QVERIFY(p.window.perform(core::OpenScreen{u"FullView"}));
+    QTimer::singleShot(50, &p.window, [] {
+        auto* dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog);
+        widgets::child<QPushButton>(dialog, u"cmdRestore"_s)->click();
+    });
+    p.window.perform(core::Restore{});
+    QCOMPARE(p.data.openRecordset(u"select name from cnt_main").textAt(0), u"Asha"_s);
+    QVERIFY(!p.registry.find(u"FullView"));
+    QCOMPARE(p.boxes.shown.size(), 1);
+    QVERIFY(p.boxes.shown[0].startsWith(u"information: The address book was restored."));
+    p.boxes.verify();
+}
+
+void StartUpTest::fullDiskIsToldOnce()
+{
+    support::ScreenFixture f;
+    const shell::StorageNotice notice(f.context);
+    f.context.data.openRecordset(u"select nonsense from nowhere");
+    QTest::qWait(10);
+    QCOMPARE(f.boxes.shown, QStringList()); // a broken statement is nobody's business
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit none{4096, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    const QString text(200000, u'n');
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(!f.context.data.execute(u"insert into cnt_main (memo1) values ('"_s + text + u"')"_s));
+    setrlimit(RLIMIT_FSIZE, &before);
+    QCOMPARE(f.boxes.shown, QStringList()); // not in the middle of a save
+    QTest::qWait(10);
+    QCOMPARE(f.boxes.shown.size(), 1);
+    QVERIFY(f.boxes.shown[0].startsWith(u"warning: The address book could not be written: "));
+    f.boxes.verify();
+    QVERIFY(f.context.data.execute(u"insert into cnt_main (memo1) values ('short')"));
+}
+
+QTEST_MAIN(StartUpTest)
+#include "start_up_test.moc"
