@@ -34,8 +34,9 @@ namespace {
 QString programFolder()
 {
     const QString set = qEnvironmentVariable("ORVANE_PROGRAM_FOLDER");
-    const QString folder
-        = set.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/orvane-contacts"_s : set;
+    const QString folder = set.isEmpty()
+        ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/orvane-contacts"_s
+        : set;
     QDir().mkpath(folder);
     return QDir(folder).absolutePath();
 }
@@ -48,7 +49,8 @@ QString rootDriveFolder()
 
 widgets::Look lookOf(const QString& folder)
 {
-    const QString kept = QSettings(folder + u"/window.ini"_s, QSettings::IniFormat).value(u"look"_s).toString();
+    const QString kept
+        = QSettings(folder + u"/window.ini"_s, QSettings::IniFormat).value(u"look"_s).toString();
     if (kept.isEmpty())
         return widgets::preferred();
     return kept == u"dark" ? widgets::Look::Dark : widgets::Look::Light;
@@ -99,7 +101,8 @@ int main(int argc, char** argv)
     const QString backupFolder = drive.local(u"C:\\OVUserFiles\\Others\\Backup");
     core::BookFiles files(folder, backupFolder);
     shell::StartUp startUp(context, frame, files, backupFolder);
-    QObject::connect(&instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
+    QObject::connect(
+        &instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
     startUp.begin(QLocale::system().territory() == QLocale::India);
     const int result = QApplication::exec();
     // Screens read the books, so they go first.

@@ -22,8 +22,8 @@ struct NameParts {
     QString company;
 };
 
-/// The name as it is stored: the trimmed parts joined by one blank. There are no commas and no parentheses in it,
-/// although the view's words have them.
+/// The name as it is stored: the trimmed parts joined by one blank. There are no commas and no parentheses in
+/// it, although the view's words have them.
 QString composeName(NameView view, const NameParts& parts);
 
 /// The name as the label of an entry form shows it while it is typed.

@@ -13,7 +13,7 @@ class MessageBoxes;
 class Shell;
 class Sounds;
 class SpecialFolders;
-}
+} // namespace platform
 
 namespace core {
 
@@ -33,8 +33,8 @@ struct Services {
     platform::Clock& clock;
 };
 
-/// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values they
-/// need.
+/// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values
+/// they need.
 struct Context {
     jet::Database& data; ///< the address book
     jet::Database& info; ///< shipped names and places

@@ -6,7 +6,8 @@ namespace core {
 
 void SaveJournal(jet::Database& data, const JournalEntry& entry)
 {
-    jet::Recordset rows = data.openRecordset(u"select * from OV_JOURNAL where [FROMID]='"_s + entry.fromId + u"'"_s);
+    jet::Recordset rows
+        = data.openRecordset(u"select * from OV_JOURNAL where [FROMID]='"_s + entry.fromId + u"'"_s);
     if (!rows.isValid())
         return;
     if (rows.isEmpty()) {

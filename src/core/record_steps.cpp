@@ -36,7 +36,8 @@ void DeleteCurrent(jet::Recordset& rows, platform::MessageBoxes& boxes, const QS
     if (rows.isEmpty())
         return;
     const auto answer
-        = boxes.ask(QCoreApplication::translate("core", "Are you sure you want to delete the record ? "), title, platform::Icon::Critical);
+        = boxes.ask(QCoreApplication::translate("core", "Are you sure you want to delete the record ? "),
+            title, platform::Icon::Critical);
     if (answer == platform::Answer::Yes)
         rows.removeCurrent();
 }

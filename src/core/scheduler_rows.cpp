@@ -10,7 +10,8 @@ namespace {
 
 constexpr int kYears = 3;
 
-/// Day and month of a date in another year; empty without a date, and for 29 February in a year that has none.
+/// Day and month of a date in another year; empty without a date, and for 29 February in a year that has
+/// none.
 QString inYear(const std::optional<QDate>& date, int year)
 {
     const QDate day = date ? QDate(year, date->month(), date->day()) : QDate();
@@ -25,16 +26,21 @@ QList<SchedulerRow> schedulerRows(const ScheduledDates& dates, int thisYear)
     const QString person = dates.first + u' ' + dates.last;
     const QString id = QString::number(dates.id);
     for (int year = thisYear; year < thisYear + kYears; ++year) {
-        rows.append({u"Birthday"_s, inYear(dates.birthday, year), u"Birthday of "_s + person, person, id + u"Bd"_s});
+        rows.append(
+            {u"Birthday"_s, inYear(dates.birthday, year), u"Birthday of "_s + person, person, id + u"Bd"_s});
         if (!dates.spouse.isEmpty())
-            rows.append({u"Birthday"_s, inYear(dates.spouseBirthday, year), u"Birthday of Spouse "_s + person, person, {}});
+            rows.append({u"Birthday"_s, inYear(dates.spouseBirthday, year), u"Birthday of Spouse "_s + person,
+                person, {}});
         for (int kid = 0; kid < 3; ++kid) {
             if (!dates.kids[kid].isEmpty())
-                rows.append({u"Birthday"_s, inYear(dates.kidBirthdays[kid], year), u"Birthday of Kid "_s + person, person, {}});
+                rows.append({u"Birthday"_s, inYear(dates.kidBirthdays[kid], year),
+                    u"Birthday of Kid "_s + person, person, {}});
         }
-        // Kept: whether there is an anniversary row is asked of the anniversary, its day comes from the third kid.
+        // Kept: whether there is an anniversary row is asked of the anniversary, its day comes from the third
+        // kid.
         if (dates.anniversary)
-            rows.append({u"Anniversary"_s, inYear(dates.kidBirthdays[2], year), u"Anniversary of "_s + person, person, id + u"An"_s});
+            rows.append({u"Anniversary"_s, inYear(dates.kidBirthdays[2], year), u"Anniversary of "_s + person,
+                person, id + u"An"_s});
     }
     return rows;
 }

@@ -16,11 +16,20 @@ Screen::Screen(Context& context, QWidget* parent)
 
 Screen::~Screen() = default;
 
-void Screen::playSound(QStringView path) const { m_context.services.sounds.play(path); }
+void Screen::playSound(QStringView path) const
+{
+    m_context.services.sounds.play(path);
+}
 
-void Screen::inform(const QString& text) const { m_context.services.boxes.information(text, shared().AppTitle); }
+void Screen::inform(const QString& text) const
+{
+    m_context.services.boxes.information(text, shared().AppTitle);
+}
 
-void Screen::warn(const QString& text) const { m_context.services.boxes.warning(text, shared().AppTitle); }
+void Screen::warn(const QString& text) const
+{
+    m_context.services.boxes.warning(text, shared().AppTitle);
+}
 
 void Screen::showHelp(const QString& code, QWidget* beside) const
 {

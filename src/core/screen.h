@@ -6,9 +6,9 @@
 
 namespace core {
 
-/// The base of every screen. A screen is made and loaded by the registry, which gives it the form's name as object
-/// name; callers may fill fields between load and show. It lives in the frame as a tab, or in a dialog, and does not
-/// care which.
+/// The base of every screen. A screen is made and loaded by the registry, which gives it the form's name as
+/// object name; callers may fill fields between load and show. It lives in the frame as a tab, or in a
+/// dialog, and does not care which.
 class Screen : public QWidget {
     Q_OBJECT
 

@@ -31,7 +31,10 @@ Screen* Screens::load(QStringView form)
     return screen;
 }
 
-Screen* Screens::find(QStringView form) const { return m_open.value(form.toString()); }
+Screen* Screens::find(QStringView form) const
+{
+    return m_open.value(form.toString());
+}
 
 bool Screens::show(QStringView form, Shown shown)
 {

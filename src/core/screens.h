@@ -10,8 +10,8 @@
 
 namespace core {
 
-/// The screens of the program by form name. Each subsystem registers what it has; a name that nobody registered opens
-/// nothing. A form is open at most once.
+/// The screens of the program by form name. Each subsystem registers what it has; a name that nobody
+/// registered opens nothing. A form is open at most once.
 class Screens {
 public:
     using Factory = std::function<Screen*(Context&)>;
@@ -27,10 +27,14 @@ public:
     bool has(QStringView form) const { return m_factories.contains(form.toString()); }
     QStringList names() const;
 
-    /// The open screen of that name, or a new one, loaded but not shown; nullptr when nobody registered the name.
+    /// The open screen of that name, or a new one, loaded but not shown; nullptr when nobody registered the
+    /// name.
     Screen* load(QStringView form);
     /// The same as one of the hand-over interfaces; nullptr also when the screen is not one.
-    template <class Interface> Interface* load(QStringView form) { return dynamic_cast<Interface*>(load(form)); }
+    template <class Interface> Interface* load(QStringView form)
+    {
+        return dynamic_cast<Interface*>(load(form));
+    }
     /// The open screen of that name; nullptr when it is not open.
     Screen* find(QStringView form) const;
     template <class Interface> Interface* find(QStringView form) const

@@ -4,10 +4,11 @@
 
 namespace core {
 
-/// What all screens know of one another and of the settings, alive from start to end. Read at the frame's start, then
-/// written by the screens as they hand over.
+/// What all screens know of one another and of the settings, alive from start to end. Read at the frame's
+/// start, then written by the screens as they hand over.
 struct SharedState {
-    bool NationalMode = false; ///< the user lives in the home country: day-first dates, all rows of the vocabularies
+    bool NationalMode
+        = false; ///< the user lives in the home country: day-first dates, all rows of the vocabularies
     bool ContMerge = false; ///< category and subcategory are kept as one entry, joined by "-"
     QString CurrentSql = QStringLiteral("select * from cnt_main"); ///< the contact selection in force
     QString DocumentsPath;

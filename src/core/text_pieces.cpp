@@ -16,8 +16,14 @@ QString pick(QStringView text, QChar mark, int n)
 
 } // namespace
 
-QString PickByComma(QStringView text, int n) { return pick(text, u',', n); }
-QString PickByDash(QStringView text, int n) { return pick(text, u'-', n); }
+QString PickByComma(QStringView text, int n)
+{
+    return pick(text, u',', n);
+}
+QString PickByDash(QStringView text, int n)
+{
+    return pick(text, u'-', n);
+}
 
 QString FormatOperator(QStringView word)
 {
@@ -25,7 +31,13 @@ QString FormatOperator(QStringView word)
     return upper == u"BEFORE" ? u"<"_s : upper == u"AFTER" ? u">"_s : u"="_s;
 }
 
-QString LeftOfLastBackslash(const QString& path) { return path.left(qMax<qsizetype>(0, path.lastIndexOf(u'\\'))); }
-QString AfterLastBackslash(const QString& path) { return path.mid(path.lastIndexOf(u'\\') + 1); }
+QString LeftOfLastBackslash(const QString& path)
+{
+    return path.left(qMax<qsizetype>(0, path.lastIndexOf(u'\\')));
+}
+QString AfterLastBackslash(const QString& path)
+{
+    return path.mid(path.lastIndexOf(u'\\') + 1);
+}
 
 } // namespace core

@@ -7,8 +7,8 @@
 
 namespace core {
 
-/// The word lists behind the fields of the entry screens. Some are the user's own, in the data database, others are
-/// shipped, in the information database.
+/// The word lists behind the fields of the entry screens. Some are the user's own, in the data database,
+/// others are shipped, in the information database.
 enum class Vocabulary {
     FirstNames,
     LastNames,
@@ -35,8 +35,8 @@ enum class Vocabulary {
     MergedCategories, ///< "category-subcategory"
 };
 
-/// The statement of a list. In the home country a list shows all its rows, elsewhere only those marked 'C' as common;
-/// the companies show one side only.
+/// The statement of a list. In the home country a list shows all its rows, elsewhere only those marked 'C' as
+/// common; the companies show one side only.
 QString vocabularySql(Vocabulary list, bool nationalMode);
 bool isInInformation(Vocabulary list);
 

@@ -15,6 +15,7 @@
 #include "entry/mail_contact.h"
 #include "entry/photo_store.h"
 #include "entry/save_checks.h"
+#include "entry/user_fields.h"
 #include "platform/clock.h"
 #include "platform/contact_sync.h"
 #include "platform/favourites.h"
@@ -62,6 +63,7 @@ FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* 
 {
     layOut();
     m_assists = new EntryAssists(this, sstab1, context);
+    m_userFields = new UserFields(this, context.data);
     wire();
 }
 
@@ -113,9 +115,9 @@ void FormMain::layOut()
 
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(12, 8, 12, 8);
-    whole->addWidget(headRow());
+    whole->addWidget(entryHead());
     whole->addWidget(middle, 1);
-    whole->addWidget(buttonRow());
+    whole->addWidget(entryButtons());
     Photo = widgets::child<widgets::PictureBox>(this, u"Photo"_s);
     widgets::child<QLabel>(this, u"lblPhoto"_s)->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
@@ -129,64 +131,6 @@ void FormMain::layOut()
         if (QWidget* extra = control(name))
             m_fields.append({name, name == u"dtcmbwstate" ? u"w_State"_s : QString(), extra});
     }
-}
-
-QWidget* FormMain::headRow()
-{
-    auto* head = new QWidget;
-    auto* row = new QHBoxLayout(head);
-    row->setContentsMargins(2, 0, 2, 0);
-    auto* mode = new QLabel;
-    mode->setObjectName(u"Label10"_s);
-    QFont bold = mode->font();
-    bold.setBold(true);
-    mode->setFont(bold);
-    auto* id = new QLabel;
-    id->setObjectName(u"lblid"_s);
-    id->setToolTip(tr("The number of the contact"));
-    id->setEnabled(false);
-    auto* name = new QLabel;
-    name->setObjectName(u"lblname"_s);
-    name->setTextFormat(Qt::PlainText);
-    QFont large = name->font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
-    name->setFont(large);
-    auto* hint = new QLabel(tr("Choose Add for a new contact, or Edit to change one"));
-    hint->setObjectName(u"lblhint"_s);
-    hint->setFont(large);
-    hint->setForegroundRole(QPalette::PlaceholderText);
-    auto* progress = new QProgressBar;
-    progress->setObjectName(u"ProgressBar1"_s);
-    progress->setFixedSize(120, 8);
-    progress->setTextVisible(false);
-    progress->hide();
-    row->addWidget(mode);
-    row->addWidget(id);
-    row->addWidget(hint);
-    row->addWidget(name, 1);
-    row->addWidget(progress);
-    return head;
-}
-
-QWidget* FormMain::buttonRow()
-{
-    auto* buttons = new QWidget;
-    widgets::FormKit kit(buttons);
-    kit.buttonRow()
-        .button(u"SSCommand3"_s, tr("&Add"), u"person-add", tr("Enter a new contact"))
-        .button(u"SSCommand10"_s, tr("&Edit"), u"person-edit", tr("Choose a contact and change it"))
-        .button(u"SSCommand6"_s, tr("Go to Simple"), u"previous", tr("Back to the first page"))
-        .button(u"SSCommand7"_s, tr("Go to Detailed"), u"next", tr("On to the personal page"))
-        .button(u"ssassist"_s, tr("Assist"), u"info",
-            tr("Known cities, names and companies to pick from, and a key pad"))
-        .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
-        .stretch()
-        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save the contact as a card"))
-        .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
-        .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
-    buttons->layout()->setContentsMargins(0, 0, 0, 0);
-    widgets::child<QPushButton>(buttons, u"Command1"_s)->setShortcut(QKeySequence::Save);
-    return buttons;
 }
 
 void FormMain::wire()
@@ -226,23 +170,6 @@ void FormMain::wire()
     });
     connect(m_assist, &AssistPanel::scopeChosen, m_assists, &EntryAssists::takeScope);
     connect(m_assist, &AssistPanel::keyPressed, m_assists, &EntryAssists::pressKey);
-    wireUserFields();
-}
-
-void FormMain::wireUserFields()
-{
-    for (int number = 1; number <= 3; ++number) {
-        const QString place = QString::number(number);
-        auto* label = findChild<QPushButton*>(u"lbluser"_s + place);
-        if (!label)
-            return;
-        connect(label, &QPushButton::clicked, this, [this, number] { renameUserField(number); });
-        if (number < 3)
-            connect(widgets::child<QComboBox>(this, u"cmbuser"_s + place), &QComboBox::textActivated, this,
-                [this, number](const QString& value) { keepUserValue(number, value); });
-    }
-    connect(widgets::child<QLineEdit>(this, u"txtlbl"_s), &QLineEdit::returnPressed, this,
-        &FormMain::keepUserLabel);
 }
 
 // ---- load and modes
@@ -254,7 +181,7 @@ void FormMain::load()
         box->setFormat(core::datePattern(shared().NationalMode));
     context().data.execute(
         u"delete * from CNT_MAIN where len(trim(name))=0 and len(trim(first))=0 and len(trim(last))=0 and len(trim(company))=0"_s);
-    showUserLabels();
+    m_userFields->showLabels();
     const auto fill = [this](const QString& name, const QStringList& values) {
         widgets::child<widgets::FilledCombo>(this, name)->setValues(values);
     };
@@ -284,18 +211,6 @@ void FormMain::hideSubcategory()
     for (QLabel* label : findChildren<QLabel*>())
         if (label->buddy() == list)
             label->hide();
-}
-
-void FormMain::showUserLabels()
-{
-    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
-    for (int number = 1; number <= 3; ++number) {
-        auto* label = findChild<QPushButton*>(u"lbluser%1"_s.arg(number));
-        if (!label)
-            return;
-        const QString own = setup.textOrEmpty(u"lbluse%1"_s.arg(number));
-        label->setText(own.isEmpty() ? tr("User %1").arg(number) : own);
-    }
 }
 
 void FormMain::go(Mode mode)
@@ -621,7 +536,7 @@ void FormMain::saveAs()
     context().screens.show(u"FrmAddSave", core::Shown::Modally);
 }
 
-// ---- picture and user fields
+// ---- picture
 
 void FormMain::selectPhoto()
 {
@@ -634,46 +549,6 @@ void FormMain::selectPhoto()
         return;
     }
     setText(u"Photo"_s, storePhoto(context().services.drive, *chosen, shared().PhotoStoreMode));
-}
-
-void FormMain::renameUserField(int number)
-{
-    m_renamedField = number;
-    auto* line = widgets::child<QLineEdit>(this, u"txtlbl"_s);
-    line->clear();
-    line->show();
-    line->setFocus();
-}
-
-void FormMain::keepUserLabel()
-{
-    auto* line = widgets::child<QLineEdit>(this, u"txtlbl"_s);
-    const QString label = line->text().trimmed();
-    line->hide();
-    if (label.isEmpty())
-        return;
-    jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
-    if (!setup.hasRow())
-        return;
-    setup.edit();
-    setup.set(u"lbluse%1"_s.arg(m_renamedField), label);
-    setup.update();
-    showUserLabels();
-}
-
-void FormMain::keepUserValue(int number, const QString& value)
-{
-    if (value.trimmed().isEmpty())
-        return;
-    const QString column = u"user%1"_s.arg(number);
-    jet::Recordset known = context().data.openRecordset(
-        u"select * from CNTB_OTHER where "_s + column + u"='"_s + value + u"'"_s);
-    if (!known.isValid() || !known.isEmpty())
-        return;
-    known.addNew();
-    known.set(column, value);
-    known.update();
-    widgets::child<widgets::FilledCombo>(this, u"cmb"_s + column)->refill();
 }
 
 } // namespace entry

@@ -10,20 +10,22 @@ class QTabWidget;
 namespace widgets {
 class HeadingGrid;
 class PictureBox;
-}
+} // namespace widgets
 
 namespace entry {
 
 class AssistPanel;
 class EntryAssists;
+class UserFields;
 
-/// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in it. The
-/// shorter forms are the same class with another variant.
+/// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
+/// it. The shorter forms are the same class with another variant.
 class FormMain : public core::Screen, public core::ContactScreen {
     Q_OBJECT
 
 public:
-    explicit FormMain(core::Context& context, const FormVariant& variant = detailedForm(), QWidget* parent = nullptr);
+    explicit FormMain(
+        core::Context& context, const FormVariant& variant = detailedForm(), QWidget* parent = nullptr);
     ~FormMain() override;
 
     void load() override;
@@ -38,10 +40,7 @@ private:
     enum class Mode { Idle, Adding, Editing };
 
     void layOut();
-    QWidget* buttonRow();
-    QWidget* headRow();
     void wire();
-    void wireUserFields();
 
     FormValues values() const;
     QWidget* control(const QString& name) const;
@@ -52,7 +51,6 @@ private:
     void startEditing();
     void cancel();
     void clearForm();
-    void showUserLabels();
     void hideSubcategory();
     bool showRecord(const QString& id);
     void showNameLabel();
@@ -69,9 +67,6 @@ private:
     void refuse(int refusal);
 
     void selectPhoto();
-    void renameUserField(int number);
-    void keepUserLabel();
-    void keepUserValue(int number, const QString& value);
     void saveAs();
     bool isTouched() const;
 
@@ -83,11 +78,11 @@ private:
     widgets::HeadingGrid* grdEditList;
     AssistPanel* m_assist;
     EntryAssists* m_assists = nullptr;
+    UserFields* m_userFields = nullptr;
     widgets::PictureBox* Photo = nullptr;
     QList<widgets::Control> m_fields;
     QString m_photoPath; ///< as the contact stores it
     QHash<QString, QString> m_untouched; ///< what the form held when its mode began
-    int m_renamedField = 0;
 };
 
 } // namespace entry

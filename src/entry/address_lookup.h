@@ -18,9 +18,10 @@ struct CityFacts {
     bool inHomeCountry = false; ///< then the country goes to all address sets
 };
 
-/// Looks a city up in the table of its country; without a country the national mode chooses the table. Nothing when
-/// the city is not known: state, pin and code of the address are then to be cleared.
-std::optional<CityFacts> lookUpCity(jet::Database& info, const QString& city, const QString& country, bool nationalMode);
+/// Looks a city up in the table of its country; without a country the national mode chooses the table.
+/// Nothing when the city is not known: state, pin and code of the address are then to be cleared.
+std::optional<CityFacts> lookUpCity(
+    jet::Database& info, const QString& city, const QString& country, bool nationalMode);
 
 /// The region of a picked city, blank when null or not known; nothing when the look-up itself failed.
 QString regionOfCity(jet::Database& info, const QString& city, const QString& country);

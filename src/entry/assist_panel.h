@@ -13,12 +13,12 @@ class QTabBar;
 namespace widgets {
 class KeyPad;
 class RecordList;
-}
+} // namespace widgets
 
 namespace entry {
 
-/// The helper beside an entry form: known cities, first and last names and companies to pick from, and the key pad.
-/// It reads its lists when they are in sight.
+/// The helper beside an entry form: known cities, first and last names and companies to pick from, and the
+/// key pad. It reads its lists when they are in sight.
 class AssistPanel : public QWidget {
     Q_OBJECT
 
@@ -33,7 +33,8 @@ public:
 
 Q_SIGNALS:
     void picked(entry::AssistPanel::Tab tab, const QString& value);
-    /// The scope names a country for all address sets; their states are to be cleared. Empty for all countries.
+    /// The scope names a country for all address sets; their states are to be cleared. Empty for all
+    /// countries.
     void scopeChosen(const QString& country);
     void keyPressed(const QString& caption);
 

@@ -13,8 +13,9 @@ class QTabWidget;
 
 namespace entry {
 
-/// What an entry form fills in by itself while a person types: gender by first name, spouse names by gender, state and
-/// codes by city, the company from its parts, words from their beginnings, and the keys of the key pad.
+/// What an entry form fills in by itself while a person types: gender by first name, spouse names by gender,
+/// state and codes by city, the company from its parts, words from their beginnings, and the keys of the key
+/// pad.
 class EntryAssists : public QObject {
     Q_OBJECT
 

@@ -1,10 +1,14 @@
 #include "entry/entry_pages.h"
 
+#include "widgets/fields.h"
 #include "widgets/heading_grid.h"
 #include "widgets/picture_box.h"
 
 #include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -250,6 +254,64 @@ QWidget* picturePage()
             tr("The contact has no picture any more; the file stays"))
         .stretch();
     return scrolling(page);
+}
+
+QWidget* entryHead()
+{
+    auto* head = new QWidget;
+    auto* row = new QHBoxLayout(head);
+    row->setContentsMargins(2, 0, 2, 0);
+    auto* mode = new QLabel;
+    mode->setObjectName(u"Label10"_s);
+    QFont bold = mode->font();
+    bold.setBold(true);
+    mode->setFont(bold);
+    auto* id = new QLabel;
+    id->setObjectName(u"lblid"_s);
+    id->setToolTip(tr("The number of the contact"));
+    id->setEnabled(false);
+    auto* name = new QLabel;
+    name->setObjectName(u"lblname"_s);
+    name->setTextFormat(Qt::PlainText);
+    QFont large = name->font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    name->setFont(large);
+    auto* hint = new QLabel(tr("Choose Add for a new contact, or Edit to change one"));
+    hint->setObjectName(u"lblhint"_s);
+    hint->setFont(large);
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    auto* progress = new QProgressBar;
+    progress->setObjectName(u"ProgressBar1"_s);
+    progress->setFixedSize(120, 8);
+    progress->setTextVisible(false);
+    progress->hide();
+    row->addWidget(mode);
+    row->addWidget(id);
+    row->addWidget(hint);
+    row->addWidget(name, 1);
+    row->addWidget(progress);
+    return head;
+}
+
+QWidget* entryButtons()
+{
+    auto* buttons = new QWidget;
+    widgets::FormKit kit(buttons);
+    kit.buttonRow()
+        .button(u"SSCommand3"_s, tr("&Add"), u"person-add", tr("Enter a new contact"))
+        .button(u"SSCommand10"_s, tr("&Edit"), u"person-edit", tr("Choose a contact and change it"))
+        .button(u"SSCommand6"_s, tr("Go to Simple"), u"previous", tr("Back to the first page"))
+        .button(u"SSCommand7"_s, tr("Go to Detailed"), u"next", tr("On to the personal page"))
+        .button(u"ssassist"_s, tr("Assist"), u"info",
+            tr("Known cities, names and companies to pick from, and a key pad"))
+        .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
+        .stretch()
+        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save the contact as a card"))
+        .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
+        .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
+    buttons->layout()->setContentsMargins(0, 0, 0, 0);
+    widgets::child<QPushButton>(buttons, u"Command1"_s)->setShortcut(QKeySequence::Save);
+    return buttons;
 }
 
 } // namespace entry

@@ -12,8 +12,8 @@ class PictureBox;
 
 namespace entry {
 
-/// The pages of an entry form. Each is laid out by a function of its own and knows no behaviour; the form wires the
-/// controls by their names.
+/// The pages of an entry form. Each is laid out by a function of its own and knows no behaviour; the form
+/// wires the controls by their names.
 using SizeOf = widgets::FormKit::SizeOf;
 
 /// Name, class, home address, telephones and e-mail.
@@ -23,5 +23,10 @@ QWidget* workTwoPage(const SizeOf& sizeOf);
 /// Family, dates, the person's own classes, the user's fields and the note.
 QWidget* personalPage(const SizeOf& sizeOf);
 QWidget* picturePage();
+
+/// What stands above the pages: the mode, the number and the name of the contact, and the progress of a save.
+QWidget* entryHead();
+/// The commands of a form, below the pages.
+QWidget* entryButtons();
 
 } // namespace entry

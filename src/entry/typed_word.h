@@ -4,8 +4,8 @@
 
 namespace entry {
 
-/// The word that is being typed in a field with autotext: a blank starts a new one; backspace and "." do not belong
-/// to it.
+/// The word that is being typed in a field with autotext: a blank starts a new one; backspace and "." do not
+/// belong to it.
 class TypedWord {
 public:
     void type(QChar key);

@@ -1,6 +1,6 @@
-// Qt's VNC platform listens on every address of the computer, and whoever reaches it sees and drives the program
-// without a password. Loaded before the program (LD_PRELOAD), this library turns "listen on any address" into "listen
-// on 127.0.0.1". scripts/run uses it on a machine without a display.
+// Qt's VNC platform listens on every address of the computer, and whoever reaches it sees and drives the
+// program without a password. Loaded before the program (LD_PRELOAD), this library turns "listen on any
+// address" into "listen on 127.0.0.1". scripts/run uses it on a machine without a display.
 
 #include <arpa/inet.h>
 #include <dlfcn.h>

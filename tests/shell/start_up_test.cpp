@@ -147,7 +147,9 @@ void StartUpTest::escapeWithEmailShell()
     QTest::keyClick(Program::shown(u"frmSplash"_s), Qt::Key_Escape);
     QVERIFY(p.window.isVisible());
     QVERIFY(!Program::shown(u"FrmEmailSuite"_s));
-    QTest::qWait(250);
+    QTRY_VERIFY_WITH_TIMEOUT(Program::shown(u"FrmEmailSuite"_s), 1000);
+    QVERIFY(p.window.isVisible());
+    QTRY_VERIFY(!Program::shown(u"frmSplash"_s));
     QCOMPARE(p.verify(), QString());
 }
 

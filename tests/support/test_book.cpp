@@ -61,7 +61,10 @@ TestBook::TestBook(Rows rows)
     });
 }
 
-QString TestBook::path() const { return m_folder.filePath(u"Orvanedata.dll"_s); }
+QString TestBook::path() const
+{
+    return m_folder.filePath(u"Orvanedata.dll"_s);
+}
 
 jet::Schema TestBook::schema()
 {
@@ -72,8 +75,8 @@ QString TestBook::unexpected()
 {
     QStringList problems;
     for (const QString& failure : m_failures) {
-        const auto expected = std::find_if(
-            m_expected.begin(), m_expected.end(), [&](const QString& piece) { return failure.contains(piece); });
+        const auto expected = std::find_if(m_expected.begin(), m_expected.end(),
+            [&](const QString& piece) { return failure.contains(piece); });
         if (expected == m_expected.end())
             problems << u"unexpected: "_s + failure;
         else
@@ -99,6 +102,9 @@ QStringList TestBook::rows(const QString& sql, jet::Way way)
     return result;
 }
 
-QString TestBook::firstText(const QString& sql) { return m_data.openRecordset(sql).textAt(0); }
+QString TestBook::firstText(const QString& sql)
+{
+    return m_data.openRecordset(sql).textAt(0);
+}
 
 } // namespace support

@@ -9,8 +9,9 @@ namespace support {
 
 /// A data database of its own for each test, with every table of both databases, and perhaps the sample rows.
 ///
-/// Each failure of the engine is a failure of the test unless the test expects it by a piece of the statement or of the
-/// reason. unexpected() at the end of a test says what came unasked, and what was expected and did not come.
+/// Each failure of the engine is a failure of the test unless the test expects it by a piece of the statement
+/// or of the reason. unexpected() at the end of a test says what came unasked, and what was expected and did
+/// not come.
 class TestBook {
 public:
     enum class Rows { None, Sample };

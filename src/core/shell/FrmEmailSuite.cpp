@@ -29,7 +29,8 @@ FrmEmailSuite::FrmEmailSuite(core::Context& context)
         for (const ListBarRow& row : area.rows) {
             auto* item = new QListWidgetItem(
                 widgets::icon(area.icon), QCoreApplication::translate("shell", row.caption), list);
-            // The screens of e-mail are placed by this shell when they come; until then there is none to open.
+            // The screens of e-mail are placed by this shell when they come; until then there is none to
+            // open.
             item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
             item->setToolTip(tr("Not available yet"));
         }

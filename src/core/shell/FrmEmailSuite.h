@@ -6,7 +6,8 @@
 
 namespace shell {
 
-/// The small shell of those who use the program for e-mail only: a list bar, and room for the screens of e-mail.
+/// The small shell of those who use the program for e-mail only: a list bar, and room for the screens of
+/// e-mail.
 class FrmEmailSuite : public QMainWindow {
     Q_OBJECT
 

@@ -36,7 +36,10 @@ FrmLaunchDisk::FrmLaunchDisk(core::Context& context, QWidget* parent)
     setFocusProxy(Grid1);
 }
 
-void FrmLaunchDisk::load() { showPage(); }
+void FrmLaunchDisk::load()
+{
+    showPage();
+}
 
 void FrmLaunchDisk::openPage(const QString& mode)
 {
@@ -50,7 +53,8 @@ void FrmLaunchDisk::showPage()
     if (!page)
         return;
     setWindowTitle(QCoreApplication::translate("shell", page->title));
-    LblFrmDesc->setText(context().data.openRecordset(launchDescriptionSql(*page)).textOrEmpty(u"Description"));
+    LblFrmDesc->setText(
+        context().data.openRecordset(launchDescriptionSql(*page)).textOrEmpty(u"Description"));
     Grid1->clearTiles();
     jet::Recordset rows = context().data.openRecordset(launchRowsSql(*page));
     for (; !rows.eof(); rows.moveNext()) {

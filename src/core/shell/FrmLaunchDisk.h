@@ -9,7 +9,8 @@ namespace shell {
 
 class LaunchGrid;
 
-/// The launch pad: one page of commands as large labels with a word on each. Which page, the shared launch mode says.
+/// The launch pad: one page of commands as large labels with a word on each. Which page, the shared launch
+/// mode says.
 class FrmLaunchDisk : public core::Screen, public core::PageScreen {
     Q_OBJECT
 

@@ -52,6 +52,9 @@ FrmProjectMsg::FrmProjectMsg(core::Context& context, QWidget* parent)
     setMinimumSize(560, 420);
 }
 
-void FrmProjectMsg::load() { Web1->setSource(QUrl(u"qrc:/help/product/DescIndex.html"_s)); }
+void FrmProjectMsg::load()
+{
+    Web1->setSource(QUrl(u"qrc:/help/product/DescIndex.html"_s));
+}
 
 } // namespace shell

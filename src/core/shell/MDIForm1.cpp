@@ -66,10 +66,14 @@ struct BarMenu {
     std::initializer_list<QStringView> pages;
 };
 const BarMenu kBarMenus[] = {
-    {QT_TRANSLATE_NOOP("shell", "&Contacts"), {u"ID_AddM", u"ID_AddBasic", u"ID_Edit", u"AddressBook", u"Data", u"ID_DataTransfer"}},
-    {QT_TRANSLATE_NOOP("shell", "&View"), {u"ID_AddBook", u"ID_ViewOther", u"ID_List", u"ID_Lookup", u"BirthdayList1"}},
-    {QT_TRANSLATE_NOOP("shell", "C&ommunicate"), {u"ID_PDialer", u"ID_PhoneDialer", u"ID_Letter", u"ID_EMails"}},
-    {QT_TRANSLATE_NOOP("shell", "&Tools"), {u"Functions", u"OtherFunctions", u"ID_Report", u"Setup", u"Programs"}},
+    {QT_TRANSLATE_NOOP("shell", "&Contacts"),
+        {u"ID_AddM", u"ID_AddBasic", u"ID_Edit", u"AddressBook", u"Data", u"ID_DataTransfer"}},
+    {QT_TRANSLATE_NOOP("shell", "&View"),
+        {u"ID_AddBook", u"ID_ViewOther", u"ID_List", u"ID_Lookup", u"BirthdayList1"}},
+    {QT_TRANSLATE_NOOP("shell", "C&ommunicate"),
+        {u"ID_PDialer", u"ID_PhoneDialer", u"ID_Letter", u"ID_EMails"}},
+    {QT_TRANSLATE_NOOP("shell", "&Tools"),
+        {u"Functions", u"OtherFunctions", u"ID_Report", u"Setup", u"Programs"}},
 };
 
 /// The old menu items, which do what their tools do.
@@ -87,7 +91,10 @@ constexpr MenuItem kMenuItems[] = {
     {u"pdialer", u"Phone"},
 };
 
-QString translated(const char* text) { return QCoreApplication::translate("shell", text); }
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("shell", text);
+}
 
 } // namespace
 
@@ -109,7 +116,8 @@ void MDIForm1::build(core::Context& context)
     const auto isAvailable = [this](const core::Action& action) { return canPerform(action); };
 
     m_tools = new ToolActions(isAvailable, this);
-    connect(m_tools, &ToolActions::triggered, this, [this](const QString& id) { perform(*core::toolAction(id)); });
+    connect(m_tools, &ToolActions::triggered, this,
+        [this](const QString& id) { perform(*core::toolAction(id)); });
 
     auto* listBar = new ListBar(isAvailable);
     m_listBarDock = new QDockWidget(tr("Areas"), this);
@@ -121,7 +129,8 @@ void MDIForm1::build(core::Context& context)
     connect(m_performer, &ActionPerformer::listBarHidden, m_listBarDock, &QWidget::hide);
 
     m_startPage = new StartPage(isAvailable);
-    connect(m_startPage, &StartPage::toolWanted, this, [this](const QString& id) { perform(*core::toolAction(id)); });
+    connect(m_startPage, &StartPage::toolWanted, this,
+        [this](const QString& id) { perform(*core::toolAction(id)); });
     m_tabs = new QTabWidget;
     m_tabs->setObjectName(u"ScreenTabs"_s);
     m_tabs->setDocumentMode(true);
@@ -167,7 +176,8 @@ void MDIForm1::buildToolBar()
                 button->showMenu();
         });
         QAction* placed = SSActiveToolBars1->addWidget(button);
-        connect(tool, &QAction::visibleChanged, placed, [tool, placed] { placed->setVisible(tool->isVisible()); });
+        connect(tool, &QAction::visibleChanged, placed,
+            [tool, placed] { placed->setVisible(tool->isVisible()); });
     }
 }
 
@@ -214,7 +224,8 @@ void MDIForm1::addGoMenu()
         action->setObjectName(item.name.toString());
         action->setEnabled(tool->isEnabled());
         connect(action, &QAction::triggered, tool, &QAction::trigger);
-        connect(tool, &QAction::visibleChanged, action, [tool, action] { action->setVisible(tool->isVisible()); });
+        connect(tool, &QAction::visibleChanged, action,
+            [tool, action] { action->setVisible(tool->isVisible()); });
     }
 }
 
@@ -337,8 +348,14 @@ void MDIForm1::setTitle(const QString& title)
     setWindowTitle(title.isEmpty() ? tr("Orvane Contacts") : title + u" - "_s + tr("Orvane Contacts"));
 }
 
-void MDIForm1::showPosition(const QString& text) { m_positionPane->setText(text); }
-void MDIForm1::showDate(const QString& text) { m_datePane->setText(text); }
+void MDIForm1::showPosition(const QString& text)
+{
+    m_positionPane->setText(text);
+}
+void MDIForm1::showDate(const QString& text)
+{
+    m_datePane->setText(text);
+}
 
 void MDIForm1::clearStatus()
 {
@@ -346,8 +363,14 @@ void MDIForm1::clearStatus()
     m_datePane->clear();
 }
 
-bool MDIForm1::perform(const core::Action& action) { return m_performer->perform(action); }
-bool MDIForm1::canPerform(const core::Action& action) const { return m_performer->canPerform(action); }
+bool MDIForm1::perform(const core::Action& action)
+{
+    return m_performer->perform(action);
+}
+bool MDIForm1::canPerform(const core::Action& action) const
+{
+    return m_performer->canPerform(action);
+}
 
 void MDIForm1::dropDown(const QString& page)
 {

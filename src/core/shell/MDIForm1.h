@@ -17,8 +17,8 @@ class ListBar;
 class StartPage;
 class ToolActions;
 
-/// The frame of the program: tool bar and menus from the tool bar table, the list bar, the status panes, and the
-/// screens as tabs. Built while the splash waits; reads nothing before loadFrame().
+/// The frame of the program: tool bar and menus from the tool bar table, the list bar, the status panes, and
+/// the screens as tabs. Built while the splash waits; reads nothing before loadFrame().
 class MDIForm1 : public QMainWindow, public core::Frame {
     Q_OBJECT
 

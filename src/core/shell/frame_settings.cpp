@@ -72,7 +72,10 @@ FrameSettings readFrameSettings(jet::Database& data, core::SharedState& shared)
     return {setup.flag(u"Business")};
 }
 
-std::span<const QStringView> userFolders() { return kUserFolders; }
+std::span<const QStringView> userFolders()
+{
+    return kUserFolders;
+}
 
 void makeUserFolders(const platform::Drive& drive)
 {
@@ -92,8 +95,8 @@ QString takeDeferredKey(jet::Database& data)
 
 QString dueMailsSql(QDate today)
 {
-    return u"Select * from time_email where date <=#"_s + jet::formatIsoDate(jet::isoDate(today), u"dd-mmm-yyyy")
-        + u"# and confirm=true"_s;
+    return u"Select * from time_email where date <=#"_s
+        + jet::formatIsoDate(jet::isoDate(today), u"dd-mmm-yyyy") + u"# and confirm=true"_s;
 }
 
 } // namespace shell

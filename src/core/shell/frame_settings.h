@@ -18,8 +18,8 @@ struct FrameSettings {
     bool business = false; ///< the business edition hides the personal tools
 };
 
-/// Reads the switches, the contact selection in force, the font of the grids and the picture rule. A table or row that
-/// is missing leaves the default. Adds the empty settings row when there is none.
+/// Reads the switches, the contact selection in force, the font of the grids and the picture rule. A table or
+/// row that is missing leaves the default. Adds the empty settings row when there is none.
 FrameSettings readFrameSettings(jet::Database& data, core::SharedState& shared);
 
 /// The folders of the user, in the order in which they are made.
@@ -27,8 +27,8 @@ std::span<const QStringView> userFolders();
 /// Makes those folders that are missing.
 void makeUserFolders(const platform::Drive& drive);
 
-/// Reads the deferred key, lower-cased, and blanks it before anybody acts on it, so that a screen that fails can not
-/// come again at each start.
+/// Reads the deferred key, lower-cased, and blanks it before anybody acts on it, so that a screen that fails
+/// can not come again at each start.
 QString takeDeferredKey(jet::Database& data);
 
 /// Mails whose day has come and that are confirmed.

@@ -10,8 +10,8 @@ class QProgressBar;
 
 namespace shell {
 
-/// The start-up screen. It opens nothing by itself: it keeps one reading of the settings row, and a tenth of a second
-/// after it came up says which shell is wanted. It lives until that shell is first activated.
+/// The start-up screen. It opens nothing by itself: it keeps one reading of the settings row, and a tenth of
+/// a second after it came up says which shell is wanted. It lives until that shell is first activated.
 class frmSplash : public QWidget {
     Q_OBJECT
 
@@ -19,6 +19,7 @@ public:
     explicit frmSplash(core::Context& context);
 
     void load();
+    bool hasTicked() const { return TickCount > 0; }
 
 Q_SIGNALS:
     void mainShellWanted();

@@ -76,9 +76,13 @@ LaunchGrid::LaunchGrid(QWidget* parent)
         [this](const QModelIndex& index) { Q_EMIT hovered(index.data().toString()); });
 }
 
-void LaunchGrid::clearTiles() { m_tiles->clear(); }
+void LaunchGrid::clearTiles()
+{
+    m_tiles->clear();
+}
 
-void LaunchGrid::addTile(const QString& label, const QString& description, const QString& icon, bool available)
+void LaunchGrid::addTile(
+    const QString& label, const QString& description, const QString& icon, bool available)
 {
     auto* tile = new QStandardItem(widgets::icon(icon), label);
     tile->setEditable(false);

@@ -6,8 +6,8 @@ class QStandardItemModel;
 
 namespace shell {
 
-/// The labels of a launch pad page as tiles: icon, name, one line that says what for. A tile of a command that does
-/// nothing yet is grey.
+/// The labels of a launch pad page as tiles: icon, name, one line that says what for. A tile of a command
+/// that does nothing yet is grey.
 class LaunchGrid : public QListView {
     Q_OBJECT
 

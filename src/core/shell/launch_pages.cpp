@@ -25,7 +25,10 @@ constexpr LaunchPage kPages[] = {
 
 } // namespace
 
-std::span<const LaunchPage> launchPages() { return kPages; }
+std::span<const LaunchPage> launchPages()
+{
+    return kPages;
+}
 
 const LaunchPage* launchPageOf(QStringView mode)
 {

@@ -20,7 +20,10 @@ const core::Action* actionOf(Row kind, QStringView id)
     return kind == Row::Tool ? core::toolAction(id) : core::shortCodeAction(id);
 }
 
-QString translated(const char* text) { return QCoreApplication::translate("shell", text); }
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("shell", text);
+}
 
 } // namespace
 

@@ -8,8 +8,8 @@
 
 namespace shell {
 
-/// The bar at the side with the areas of the program; an area opens to its commands, a click on one starts it.
-/// A command whose screen is not there yet is grey.
+/// The bar at the side with the areas of the program; an area opens to its commands, a click on one starts
+/// it. A command whose screen is not there yet is grey.
 class ListBar : public QTreeWidget {
     Q_OBJECT
 

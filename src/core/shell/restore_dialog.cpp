@@ -20,8 +20,9 @@ std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Back
     QDialog dialog(parent);
     dialog.setObjectName(u"FrmRestore"_s);
     dialog.setWindowTitle(QObject::tr("Restore from a backup"));
-    auto* text = new QLabel(QObject::tr("The address book will be as it was on the day that you choose. The present "
-                                        "one is kept beside it."));
+    auto* text
+        = new QLabel(QObject::tr("The address book will be as it was on the day that you choose. The present "
+                                 "one is kept beside it."));
     text->setWordWrap(true);
     auto* list = new QListWidget;
     list->setObjectName(u"lstBackups"_s);
@@ -29,7 +30,8 @@ std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Back
     for (const core::Backup& backup : backups) {
         const double megabytes = double(QFileInfo(backup.path).size()) / (1024 * 1024);
         list->addItem(QObject::tr("%1   (%2 MB)")
-                          .arg(QLocale().toString(backup.day, QLocale::LongFormat), QLocale().toString(megabytes, 'f', 1)));
+                          .arg(QLocale().toString(backup.day, QLocale::LongFormat),
+                              QLocale().toString(megabytes, 'f', 1)));
     }
     list->setCurrentRow(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);

@@ -22,14 +22,22 @@ struct Favourite {
     QStringView icon;
 };
 constexpr Favourite kFavourites[] = {
-    {u"Edit", QT_TRANSLATE_NOOP("shell", "New contact"), QT_TRANSLATE_NOOP("shell", "Enter a contact with all its details"), u"person-add"},
-    {u"FullView", QT_TRANSLATE_NOOP("shell", "Full view"), QT_TRANSLATE_NOOP("shell", "Look through the contacts one by one"), u"persons"},
-    {u"Search", QT_TRANSLATE_NOOP("shell", "Search"), QT_TRANSLATE_NOOP("shell", "Find contacts by any field"), u"search"},
-    {u"BirthdayList", QT_TRANSLATE_NOOP("shell", "Birthdays"), QT_TRANSLATE_NOOP("shell", "Who has a birthday, and how old they turn"), u"cake"},
-    {u"Phone", QT_TRANSLATE_NOOP("shell", "Phone dialer"), QT_TRANSLATE_NOOP("shell", "Dial a number and keep a record of the call"), u"phone"},
-    {u"Creator", QT_TRANSLATE_NOOP("shell", "Letters"), QT_TRANSLATE_NOOP("shell", "Write a letter to one contact or many"), u"letter"},
-    {u"EMails", QT_TRANSLATE_NOOP("shell", "E-mail"), QT_TRANSLATE_NOOP("shell", "Write to one contact or many"), u"envelope"},
-    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Set-up"), QT_TRANSLATE_NOOP("shell", "Categories, lists and defaults"), u"setup"},
+    {u"Edit", QT_TRANSLATE_NOOP("shell", "New contact"),
+        QT_TRANSLATE_NOOP("shell", "Enter a contact with all its details"), u"person-add"},
+    {u"FullView", QT_TRANSLATE_NOOP("shell", "Full view"),
+        QT_TRANSLATE_NOOP("shell", "Look through the contacts one by one"), u"persons"},
+    {u"Search", QT_TRANSLATE_NOOP("shell", "Search"),
+        QT_TRANSLATE_NOOP("shell", "Find contacts by any field"), u"search"},
+    {u"BirthdayList", QT_TRANSLATE_NOOP("shell", "Birthdays"),
+        QT_TRANSLATE_NOOP("shell", "Who has a birthday, and how old they turn"), u"cake"},
+    {u"Phone", QT_TRANSLATE_NOOP("shell", "Phone dialer"),
+        QT_TRANSLATE_NOOP("shell", "Dial a number and keep a record of the call"), u"phone"},
+    {u"Creator", QT_TRANSLATE_NOOP("shell", "Letters"),
+        QT_TRANSLATE_NOOP("shell", "Write a letter to one contact or many"), u"letter"},
+    {u"EMails", QT_TRANSLATE_NOOP("shell", "E-mail"),
+        QT_TRANSLATE_NOOP("shell", "Write to one contact or many"), u"envelope"},
+    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Set-up"),
+        QT_TRANSLATE_NOOP("shell", "Categories, lists and defaults"), u"setup"},
 };
 
 } // namespace
@@ -80,6 +88,9 @@ StartPage::StartPage(const std::function<bool(const core::Action&)>& isAvailable
     whole->addStretch();
 }
 
-void StartPage::setToday(QDate today) { m_day->setText(QLocale().toString(today, QLocale::LongFormat)); }
+void StartPage::setToday(QDate today)
+{
+    m_day->setText(QLocale().toString(today, QLocale::LongFormat));
+}
 
 } // namespace shell

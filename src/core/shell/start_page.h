@@ -16,7 +16,8 @@ class StartPage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit StartPage(const std::function<bool(const core::Action&)>& isAvailable, QWidget* parent = nullptr);
+    explicit StartPage(
+        const std::function<bool(const core::Action&)>& isAvailable, QWidget* parent = nullptr);
 
     void setToday(QDate today);
 

@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace shell {
 
-StartUp::StartUp(core::Context& context, MDIForm1& frame, core::BookFiles& files, QString backupFolder, QObject* parent)
+StartUp::StartUp(
+    core::Context& context, MDIForm1& frame, core::BookFiles& files, QString backupFolder, QObject* parent)
     : QObject(parent)
     , m_context(context)
     , m_frame(frame)
@@ -85,8 +86,10 @@ void StartUp::buildFrame()
 
 void StartUp::showMainShell()
 {
-    if (m_frame.isVisible())
+    if (m_frame.isVisible()) {
+        unloadSplash();
         return;
+    }
     buildFrame();
     m_frame.loadFrame();
     m_frame.show();
@@ -111,8 +114,14 @@ void StartUp::unloadSplash()
 {
     if (m_wait)
         m_wait->deleteLater();
-    if (m_splash)
+    if (!m_splash)
+        return;
+    // Esc can bring the main shell before the tick, which may still want the other shell; it waits for it
+    // unseen.
+    if (m_splash->hasTicked())
         m_splash->deleteLater();
+    else
+        m_splash->hide();
 }
 
 // Load said nothing; here, at the first look at the settings, is where a missing or damaged book shows.
@@ -141,8 +150,8 @@ bool StartUp::restoreBackup(const core::BookReport& report)
         return false;
     }
     const QString day = QLocale().toString(backup->day, QLocale::LongFormat);
-    const QString question
-        = what + u"\n\n"_s + tr("Shall the backup of %1 be put in its place? The file itself is kept.").arg(day);
+    const QString question = what + u"\n\n"_s
+        + tr("Shall the backup of %1 be put in its place? The file itself is kept.").arg(day);
     if (boxes.ask(question, title, platform::Icon::Warning) == platform::Answer::No)
         return false;
     m_context.data.close();
@@ -158,7 +167,8 @@ void StartUp::chooseAndRestore()
     const QString& title = m_context.shared.AppTitle;
     const auto backups = core::listBackups(m_backupFolder);
     if (backups.isEmpty()) {
-        boxes.information(tr("There is no backup yet. One is made each day that the program is started."), title);
+        boxes.information(
+            tr("There is no backup yet. One is made each day that the program is started."), title);
         return;
     }
     const auto chosen = chooseBackup(&m_frame, backups);
@@ -172,7 +182,8 @@ void StartUp::chooseAndRestore()
     m_report = m_files.openData(m_context.data);
     m_frame.reloadFrame();
     if (restored && m_report)
-        boxes.information(tr("The address book was restored. The one before is kept as %1.").arg(restored.keptFile), title);
+        boxes.information(
+            tr("The address book was restored. The one before is kept as %1.").arg(restored.keptFile), title);
     else
         boxes.warning(restored ? m_report.text : restored.reason, title);
 }

@@ -17,8 +17,8 @@ class FrmEmailSuite;
 class frmSplash;
 class MDIForm1;
 
-/// The way from the first window to the shell that is wanted, and what goes with the files on the way: making them at
-/// the first start, saying what is wrong with a damaged one, the daily backup, restoring one.
+/// The way from the first window to the shell that is wanted, and what goes with the files on the way: making
+/// them at the first start, saying what is wrong with a damaged one, the daily backup, restoring one.
 class StartUp : public QObject {
     Q_OBJECT
 

@@ -27,7 +27,8 @@ void StorageNotice::hear(const jet::Failure& failure)
 void StorageNotice::tell(const QString& reason) const
 {
     m_context.services.boxes.warning(
-        tr("The address book could not be written: %1.\n\nWhat you entered last was not stored. Nothing that was stored "
+        tr("The address book could not be written: %1.\n\nWhat you entered last was not stored. Nothing that "
+           "was stored "
            "before is lost. Make room on the disk, or see that the folder can be written, and save again.")
             .arg(reason),
         m_context.shared.AppTitle);

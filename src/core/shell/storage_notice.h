@@ -6,8 +6,8 @@
 
 namespace shell {
 
-/// A statement that fails is skipped without a word; but when the disk is full or the file can not be written, the
-/// person is told, once in a run.
+/// A statement that fails is skipped without a word; but when the disk is full or the file can not be
+/// written, the person is told, once in a run.
 class StorageNotice : public QObject {
     Q_OBJECT
 

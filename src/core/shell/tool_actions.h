@@ -13,8 +13,8 @@ class QWidget;
 
 namespace shell {
 
-/// One action for each tool of the tool bar table, named by its tool id, and one menu for each page. The frame hangs
-/// them into its menu bar and tool bar.
+/// One action for each tool of the tool bar table, named by its tool id, and one menu for each page. The
+/// frame hangs them into its menu bar and tool bar.
 class ToolActions : public QObject {
     Q_OBJECT
 
