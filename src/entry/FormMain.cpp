@@ -160,7 +160,7 @@ void FormMain::wire()
     connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this,
         &FormMain::showNameLabel);
 
-    const auto chooseRow = [this](int row) { showRecord(grdEditList->textAt(row, u"ID"_s)); };
+    const auto chooseRow = [this](int row) { chooseRecord(grdEditList->textAt(row, u"ID"_s)); };
     connect(grdEditList, &widgets::HeadingGrid::chosen, this, chooseRow);
     connect(grdEditList, &QAbstractItemView::clicked, this,
         [chooseRow](const QModelIndex& index) { chooseRow(index.row()); });
@@ -305,6 +305,14 @@ void FormMain::clearForm()
     }
     m_assists->setQuiet(false);
     showNameLabel();
+}
+
+void FormMain::chooseRecord(const QString& id)
+{
+    // The second click of a double click must not undo what was typed between.
+    const bool isShown = id == widgets::textOf(control(u"lblid"_s));
+    if (!(isShown && isTouched()) && mayClose())
+        showRecord(id);
 }
 
 bool FormMain::showRecord(const QString& id)

@@ -52,6 +52,7 @@ private:
     void cancel();
     void clearForm();
     void hideSubcategory();
+    void chooseRecord(const QString& id);
     bool showRecord(const QString& id);
     void showNameLabel();
     void toggleAssist();

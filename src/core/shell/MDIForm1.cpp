@@ -249,8 +249,7 @@ void MDIForm1::loadFrame()
     shared.DocumentsPath = m_context->services.folders.SpecialFolderPath(5);
     shared.AppTitle = u"Orvane Contacts"_s;
     const FrameSettings settings = readFrameSettings(m_context->data, shared);
-    if (settings.business)
-        m_tools->hidePersonalTools();
+    m_tools->showPersonalTools(!settings.business);
     m_tools->showCityTools(shared.NationalMode);
     showDate(widgets::formatDate(today, core::datePattern(shared.NationalMode)));
     m_startPage->setToday(today);

@@ -28,7 +28,6 @@ struct ScreenNeeded {
     QStringView operator()(const core::OpenLaunchPad&) const { return u"FrmLaunchDisk"; }
     QStringView operator()(const core::EditColumns&) const { return u"FormUserEdit"; }
     QStringView operator()(const core::ListReport&) const { return u"FrmAddFullRptView"; }
-    QStringView operator()(const core::TextReport&) const { return u"FrmTelTxt"; }
     QStringView operator()(const core::ShowLinkedRecords&) const { return u"frmCntViewer"; }
     template <class Other> QStringView operator()(const Other&) const { return {}; }
 };
@@ -48,6 +47,9 @@ bool ActionPerformer::perform(const core::Action& action)
 
 bool ActionPerformer::canPerform(const core::Action& action) const
 {
+    // The text reports have no builder yet.
+    if (std::holds_alternative<core::TextReport>(action))
+        return false;
     const QStringView form = std::visit(ScreenNeeded{}, action);
     return form.isEmpty() || m_context.screens.has(form);
 }

@@ -39,11 +39,11 @@ ToolActions::ToolActions(const IsAvailable& isAvailable, QWidget* window)
     }
 }
 
-void ToolActions::hidePersonalTools()
+void ToolActions::showPersonalTools(bool shown)
 {
     for (const QStringView id : core::personalTools()) {
         if (QAction* tool = action(id))
-            tool->setVisible(false);
+            tool->setVisible(shown);
     }
 }
 

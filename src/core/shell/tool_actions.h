@@ -25,7 +25,7 @@ public:
     QAction* action(QStringView toolId) const { return m_actions.value(toolId.toString()); }
     QMenu* page(QStringView name) const { return m_pages.value(name.toString()); }
 
-    void hidePersonalTools();
+    void showPersonalTools(bool shown);
     void showCityTools(bool nationalMode);
 
 Q_SIGNALS:
