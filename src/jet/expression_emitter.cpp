@@ -249,21 +249,24 @@ void ExpressionEmitter::compare(const Expression& e)
     if (b.kind == Expression::Kind::Null || a.kind == Expression::Kind::Null)
         return compareWithNull(e);
     const bool equality = e.op == u"=" || e.op == u"<>";
-    if (equality && typeOf(a) == Type::YesNo && isTruth(b))
+    const Type left = typeOf(a);
+    if (equality && left == Type::YesNo && isTruth(b))
         return compareYesNo(a, (b.kind == Expression::Kind::True) == (e.op == u"="));
-    if (typeOf(a) == Type::YesNo && equality) {
+    if (left == Type::YesNo && equality) {
         m_out += u"(("_s;
         expression(a);
-        m_out += u" <> 0) "_s + e.op.toString() + u" ("_s;
+        m_out += u" <> 0) "_s;
+        m_out += e.op;
+        m_out += u" ("_s;
         read(b, Type::YesNo);
         m_out += u" <> 0))"_s;
         return;
     }
-    const Type left = typeOf(a);
-    const Type right = typeOf(b);
     m_out += u'(';
-    leftSide(a, right);
-    m_out += u' ' + e.op.toString() + u' ';
+    leftSide(a, typeOf(b));
+    m_out += u' ';
+    m_out += e.op;
+    m_out += u' ';
     read(b, left);
     m_out += u')';
 }
@@ -319,9 +322,10 @@ void ExpressionEmitter::leftSide(const Expression& e, Type other)
 void ExpressionEmitter::collated(const Expression& e)
 {
     expression(e);
+    if (e.kind == Expression::Kind::Column || e.kind == Expression::Kind::Null)
+        return;
     const Type type = typeOf(e);
-    if (e.kind != Expression::Kind::Column && e.kind != Expression::Kind::Null
-        && (type == Type::Text || type == Type::Unknown))
+    if (type == Type::Text || type == Type::Unknown)
         m_out += u" COLLATE JET"_s;
 }
 
