@@ -39,6 +39,8 @@ constexpr Index kIndexes[] = {
     // The tree of categories: its branches, and the people of a branch in order.
     {u"cnt_main_category", u"cnt_main", u"[category1], [category2]", u""},
     {u"cnt_main_subcategory", u"cnt_main", u"[category2], [Name]", u""},
+    // The list of the search screen.
+    {u"cnt_main_category_name", u"cnt_main", u"[category1], [Name]", u""},
     // The blank rows that entry forms clear away at each start: none, as a rule.
     {u"cnt_main_blank", u"cnt_main", u"[id]",
         u"length(trim([Name])) = 0 AND length(trim([First])) = 0 AND length(trim([Last])) = 0 AND "

@@ -274,7 +274,7 @@ void ContactTools::tabFilter()
 void ContactTools::askFilter(QStringView form)
 {
     m_context.shared.CallerForm = m_host.callerForm;
-    m_context.screens.show(form);
+    m_context.screens.show(form, core::Shown::Modally);
 }
 
 void ContactTools::search()

@@ -1,11 +1,13 @@
 #include "widgets/filled_combo.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
 #include <QStringListModel>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -43,6 +45,9 @@ FilledCombo::FilledCombo(QWidget* parent, Typing typing)
     setDuplicatesEnabled(true); // else Enter respells the typed text as the list has it
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr); // and so does leaving the field
     connect(lineEdit(), &QLineEdit::editingFinished, this, &FilledCombo::followTypedText);
+    // Behind the key, when the list of suggestions has come up.
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+        [this] { QTimer::singleShot(0, this, &FilledCombo::dropFulfilledSuggestions); });
     completer()->setCompletionMode(QCompleter::PopupCompletion);
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
     completer()->setMaxVisibleItems(VisibleRows);
@@ -160,6 +165,14 @@ void FilledCombo::showValues(const QStringList& values)
         lineEdit()->setSelection(selectedFrom, selected);
     else
         lineEdit()->setCursorPosition(cursor);
+}
+
+// A value that was typed in full needs no suggestion, and the next click should reach what it is meant for.
+void FilledCombo::dropFulfilledSuggestions()
+{
+    QAbstractItemView* suggestions = completer() ? completer()->popup() : nullptr;
+    if (suggestions && suggestions->isVisible() && findText(currentText(), Qt::MatchFixedString) >= 0)
+        suggestions->hide();
 }
 
 void FilledCombo::followTypedText()

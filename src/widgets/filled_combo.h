@@ -39,6 +39,7 @@ protected:
 private:
     void ensureFilled();
     void showValues(const QStringList& values);
+    void dropFulfilledSuggestions();
     void followTypedText();
 
     std::function<QStringList()> m_source;

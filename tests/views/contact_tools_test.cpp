@@ -207,7 +207,7 @@ void ContactToolsTest::filtersComeBackToTheCaller()
     m_fixture->addTarget(form);
     trigger(id);
     QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
-    QCOMPARE(m_fixture->frame.placed, QStringList{form});
+    QCOMPARE(m_fixture->frame.placed, QStringList{form + u" modally"_s});
 }
 
 void ContactToolsTest::printRecordLeavesTheRequest_data()

@@ -53,11 +53,7 @@ void StartUp::begin(bool inHomeCountry)
     m_files.openInfo(m_context.info);
 
     m_splash = new frmSplash(m_context);
-    // Not at once: the window system is still telling the windows who is active.
-    connect(m_splash, &frmSplash::activated, this, [this] {
-        if (m_wait)
-            m_wait->deleteLater();
-    });
+    connect(m_splash, &frmSplash::activated, this, &StartUp::unloadWaitNotice);
     connect(m_splash, &frmSplash::mainShellWanted, this, &StartUp::showMainShell);
     connect(m_splash, &frmSplash::emailShellWanted, this, &StartUp::showEmailShell);
     connect(m_splash, &frmSplash::bookUnreadable, this, &StartUp::bookFailed);
@@ -110,10 +106,16 @@ void StartUp::showEmailShell()
     backUpLater();
 }
 
+// Not at once, since the window system is still telling the windows who is active; and by a timer, since
+// before the event loop runs deleteLater() would wait for a loop that never comes.
+void StartUp::unloadWaitNotice()
+{
+    QTimer::singleShot(0, this, [this] { delete m_wait; });
+}
+
 void StartUp::unloadSplash()
 {
-    if (m_wait)
-        m_wait->deleteLater();
+    unloadWaitNotice();
     if (!m_splash)
         return;
     // Esc can bring the main shell before the tick, which may still want the other shell; it waits for it

@@ -34,6 +34,7 @@ private:
     void buildFrame();
     void showMainShell();
     void showEmailShell();
+    void unloadWaitNotice();
     void unloadSplash();
     void bookFailed();
     bool restoreBackup(const core::BookReport& report);

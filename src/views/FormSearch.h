@@ -1,0 +1,91 @@
+#pragma once
+
+#include "core/screen.h"
+
+class QAction;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QStackedWidget;
+class QToolBar;
+
+namespace widgets {
+class HeadingGrid;
+}
+
+namespace views {
+
+class HitActions;
+class SearchFilter;
+
+/// Finds contacts: a list narrowed by what is chosen in combos, and another of those that have a word in any
+/// of many fields. A hit leads to the contact.
+class FormSearch : public core::Screen {
+    Q_OBJECT
+
+public:
+    explicit FormSearch(core::Context& context, QWidget* parent = nullptr);
+
+    void load() override;
+
+    QString builtSql; ///< the statement behind the list of contacts
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    struct Tool;
+    static const Tool kTools[];
+
+    QToolBar* layOutTools();
+    QWidget* layOutKeyword();
+    QWidget* layOutResults();
+    QWidget* layOutFoot();
+    void connectControls();
+
+    void find();
+    void refreshByName();
+    void toggleKeyword();
+    void phoneSearch();
+    void categoryTree();
+    void locationTree();
+    void showTree(const QString& title);
+
+    void applyChoices();
+    void applyNames();
+    void clearChoices();
+    void list(const QString& sql);
+    void query(const QString& sql);
+    void queryKeyword(const QString& sql);
+    void searchKeyword();
+    void showKeyword(bool on);
+    void showGrid(widgets::HeadingGrid* grid);
+    void formatGrid();
+    void rowChanged(int row);
+    void showCount();
+    widgets::HeadingGrid* grid() const;
+
+    QString m_keywordSql; ///< the statement behind the keyword grid
+    bool m_keywordRead = false;
+    bool m_wasShown = false;
+
+    SearchFilter* m_filter;
+    HitActions* m_hits;
+    widgets::HeadingGrid* FG1;
+    widgets::HeadingGrid* GridKey;
+    QStackedWidget* m_grids;
+    QFrame* Frame3;
+    QLineEdit* txtkey = nullptr;
+    QRadioButton* Option1;
+    QRadioButton* Option2;
+    QPushButton* SSCommand3;
+    QPushButton* cmdgo;
+    QPushButton* CmdHelp;
+    QLabel* m_count;
+    QAction* m_find = nullptr;
+    QAction* m_advanced = nullptr;
+};
+
+} // namespace views
