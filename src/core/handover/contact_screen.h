@@ -4,8 +4,8 @@
 
 namespace core {
 
-/// A screen that can show one contact: full view, dialer, letter creator, linked records, an entry form in its edit
-/// mode. Found by form name.
+/// A screen that can show one contact: full view, dialer, letter creator, linked records, an entry form in
+/// its edit mode. Found by form name.
 class ContactScreen {
 public:
     virtual ~ContactScreen() = default;
