@@ -4,6 +4,7 @@
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
 #include "core/frame.h"
+#include "core/photo_file.h"
 #include "core/record_steps.h"
 #include "core/scheduler_rows.h"
 #include "core/screens.h"
@@ -381,7 +382,7 @@ void FormMain::setText(const QString& name, const QString& text)
 {
     if (name == u"Photo") {
         m_photoPath = text;
-        Photo->setPath(photoFile(context().services.drive, text));
+        Photo->setPath(core::photoFile(context().services.drive, text));
         setText(u"lblPhoto"_s, text);
         return;
     }

@@ -47,12 +47,4 @@ QString storePhoto(const platform::Drive& drive, const QString& chosen, const QS
     return done ? kFolder.toString() + u'\\' + name : linked;
 }
 
-QString photoFile(const platform::Drive& drive, const QString& stored)
-{
-    if (stored.isEmpty())
-        return {};
-    const QString local = drive.local(stored);
-    return local.isEmpty() && QDir::isAbsolutePath(stored) ? stored : local;
-}
-
 } // namespace entry

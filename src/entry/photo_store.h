@@ -14,7 +14,4 @@ namespace entry {
 /// @return the path that the contact stores; where a copy or move fails, that of the file itself
 QString storePhoto(const platform::Drive& drive, const QString& chosen, const QString& mode);
 
-/// The file of a stored path on this computer; empty when there is no such path.
-QString photoFile(const platform::Drive& drive, const QString& stored);
-
 } // namespace entry

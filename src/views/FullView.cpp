@@ -2,6 +2,7 @@
 
 #include "core/date_patterns.h"
 #include "core/frame.h"
+#include "core/photo_file.h"
 #include "core/sound_files.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
@@ -357,7 +358,7 @@ void FullView::display(qint64 id)
     m_id = id;
     showTexts(fullViewTexts(contact, shared().NationalMode));
     m_picture = contact.textOrEmpty(u"PhotLoc");
-    m_header->showPicture(m_picture.isEmpty() ? QString() : context().services.drive.local(m_picture));
+    m_header->showPicture(core::photoFile(context().services.drive, m_picture));
     m_record->setCurrentIndex(1);
     if (TabsEdit->currentIndex() == kEditPage && m_edit->contact() != id)
         m_edit->loadContact(id);

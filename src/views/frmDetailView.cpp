@@ -1,5 +1,6 @@
 #include "views/frmDetailView.h"
 
+#include "core/photo_file.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "views/full_view_sql.h"
@@ -211,8 +212,7 @@ bool frmDetailView::showContact(qint64 id)
         detailViewTexts(contact, shared().NationalMode, context().services.clock.today()))
         widgets::setTextOf(child<QWidget>(this, shown.control), shown.text);
     const QString picture = contact.textOrEmpty(u"PhotLoc");
-    child<widgets::PictureBox>(this, u"Photo"_s)
-        ->setPath(picture.isEmpty() ? QString() : context().services.drive.local(picture));
+    child<widgets::PictureBox>(this, u"Photo"_s)->setPath(core::photoFile(context().services.drive, picture));
     child<QPushButton>(this, u"cmdass1"_s)->setEnabled(!contact.textOrEmpty(u"Asso1").isEmpty());
     child<QPushButton>(this, u"cmdass2"_s)->setEnabled(!contact.textOrEmpty(u"asso2").isEmpty());
     return true;

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/photo_file.h"
 #include "entry/address_lookup.h"
 #include "entry/city_assist.h"
 #include "entry/photo_store.h"
@@ -262,7 +263,7 @@ void EntryRulesTest::photos()
     file.close();
     QCOMPARE(storePhoto(drive, path, mode), stored);
     QTEST(QFile::exists(path), "stays");
-    QVERIFY(QFile::exists(photoFile(drive, stored)));
+    QVERIFY(QFile::exists(core::photoFile(drive, stored)));
 }
 
 void EntryRulesTest::photoNeverOverwrites()
@@ -279,11 +280,14 @@ void EntryRulesTest::photoNeverOverwrites()
     }
     QCOMPARE(stored,
         (QStringList{u"C:\\OVUserFiles\\Photos\\me.png"_s, u"C:\\OVUserFiles\\Photos\\me (2).png"_s}));
-    QFile first(photoFile(drive, stored[0]));
+    QFile first(core::photoFile(drive, stored[0]));
     QVERIFY(first.open(QIODevice::ReadOnly));
     QCOMPARE(first.readAll(), QByteArray("one"));
     // A file that can not be copied stays a link.
     QCOMPARE(storePhoto(drive, root.filePath(u"gone.png"_s), u"Copy"_s), u"C:\\gone.png"_s);
+    // One from outside the drives keeps the path of this computer, and is found by it.
+    QCOMPARE(storePhoto(drive, u"/elsewhere/me.png"_s, u"Link"_s), u"/elsewhere/me.png"_s);
+    QCOMPARE(core::photoFile(drive, u"/elsewhere/me.png"_s), u"/elsewhere/me.png"_s);
 }
 
 Q_DECLARE_METATYPE(entry::CityChoice)
