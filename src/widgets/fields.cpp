@@ -23,6 +23,16 @@ QString storedLines(QString text)
     return text.replace(u'\n', u"\r\n"_s);
 }
 
+/// Typing is bounded by the column, but a longer text that the book already holds must not be cut: it would
+/// be stored so.
+void makeRoomFor(QWidget* control, const QString& text)
+{
+    auto* combo = qobject_cast<QComboBox*>(control);
+    auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(control);
+    if (line && text.size() > line->maxLength())
+        line->setMaxLength(int(text.size()));
+}
+
 } // namespace
 
 QString textOf(const QWidget* control)
@@ -45,6 +55,7 @@ QString textOf(const QWidget* control)
 
 void setTextOf(QWidget* control, const QString& text)
 {
+    makeRoomFor(control, text);
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
         line->setText(text);
         line->setCursorPosition(0);

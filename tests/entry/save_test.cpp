@@ -108,6 +108,7 @@ private Q_SLOTS:
     void blankRowsGoAtLoad();
     void hostileTexts_data();
     void hostileTexts();
+    void longStoredTextIsNotCut();
     void wrongDateStaysInTheBox();
     void failingSaveKeepsTheForm();
 
@@ -593,6 +594,23 @@ void SaveTest::hostileTexts()
     f.set(u"dtcmbmaiden"_s, text.left(40));
     f.click(u"Command1"_s);
     QCOMPARE(f.book.firstText(u"select maiden from cnt_main"_s), text.left(40));
+}
+
+// A text from an import may be longer than what the field lets a person type; a change of another field keeps
+// it.
+void SaveTest::longStoredTextIsNotCut()
+{
+    EntryForm& f = *m_fixture;
+    const QString city = u"Llanfairpwllgwyngyllgogerychwyrndrobwll"_s;
+    f.addContact(u"Name,First,Last,Nview,h_city,h_add1"_s,
+        u"'A B','A','B','First,Last','"_s + city + u"','"_s + QString(300, u'x') + u'\'');
+    f.start();
+    QVERIFY(f.form()->showContact(1));
+    f.set(u"dtcmbmaiden"_s, u"C"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.firstText(u"select maiden from cnt_main"_s), u"C"_s);
+    QCOMPARE(f.book.firstText(u"select h_city from cnt_main"_s), city);
+    QCOMPARE(f.book.firstText(u"select h_add1 from cnt_main"_s), QString(300, u'x'));
 }
 
 void SaveTest::wrongDateStaysInTheBox()
