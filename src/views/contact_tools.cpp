@@ -6,6 +6,7 @@
 #include "core/screens.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "views/edit_contact.h"
 #include "views/full_view_sql.h"
 #include "widgets/theme.h"
 
@@ -189,13 +190,7 @@ void ContactTools::editDetails()
     const qint64 id = m_host.listedId();
     if (id == 0)
         return notSelected();
-    m_context.shared.EditRequested = true;
-    auto* form = m_context.screens.load<core::ContactScreen>(u"FormMain");
-    if (form && !form->showContact(id)) {
-        m_context.shared.EditRequested = false;
-        m_context.services.boxes.information(tr("Error"), m_context.shared.AppTitle);
-    }
-    m_context.screens.show(u"FormMain");
+    editContact(m_context, id);
 }
 
 void ContactTools::printLabel()

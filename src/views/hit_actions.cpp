@@ -4,7 +4,7 @@
 #include "core/handover/mail_composer.h"
 #include "core/handover/page_screen.h"
 #include "core/screens.h"
-#include "platform/message_boxes.h"
+#include "views/edit_contact.h"
 #include "views/search_clauses.h"
 #include "widgets/theme.h"
 
@@ -110,15 +110,9 @@ void HitActions::showIn(QStringView form)
     m_context.screens.show(form);
 }
 
-void HitActions::edit(QStringView form)
+void HitActions::edit(QStringView)
 {
-    m_context.shared.EditRequested = true;
-    auto* entry = m_context.screens.load<core::ContactScreen>(form);
-    if (entry && !entry->showContact(m_context.shared.selectedContactId)) {
-        m_context.shared.EditRequested = false;
-        m_context.services.boxes.information(tr("Error"), m_context.shared.AppTitle);
-    }
-    m_context.screens.show(form);
+    editContact(m_context, m_context.shared.selectedContactId);
 }
 
 void HitActions::addRecipient(QStringView form)

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "core/context.h"
+
+namespace views {
+
+/// Hands a contact over to the detailed entry form in its edit mode; says "Error" when it is not there any
+/// more.
+void editContact(core::Context& context, qint64 id);
+
+} // namespace views
