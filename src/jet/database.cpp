@@ -156,7 +156,7 @@ Outcome Database::execute(QStringView sql, Way way)
     }
     int result = SQLITE_ERROR;
     {
-        const Prepared statement = m_engine->prepareMain(*request);
+        const Prepared statement = m_engine->prepareMain(*request, way);
         if (statement)
             result = sqlite3_step(statement.get());
         if (result != SQLITE_DONE)
@@ -166,8 +166,9 @@ Outcome Database::execute(QStringView sql, Way way)
         m_engine->forgetTables();
     if (result != SQLITE_DONE)
         return {};
-    return {
-        true, translation.kind == Translation::Kind::Action ? sqlite3_changes(m_engine->connection()) : 0};
+    const int rows = sqlite3_changes(m_engine->connection());
+    m_engine->endStep();
+    return {true, translation.kind == Translation::Kind::Action ? rows : 0};
 }
 
 std::optional<bool> Database::givesRows(QStringView sql, Way way)
@@ -177,6 +178,27 @@ std::optional<bool> Database::givesRows(QStringView sql, Way way)
         return {};
     const auto kind = request->plan->translation.kind;
     return kind == Translation::Kind::Keyset || kind == Translation::Kind::Snapshot;
+}
+
+void Database::keepChanges(const QString& table, const QString& labelColumn)
+{
+    m_engine->keepChanges(table, labelColumn);
+}
+
+std::optional<ChangeStep> Database::lastChange() const
+{
+    const ChangeStep* last = m_engine->undoLog() ? m_engine->undoLog()->last() : nullptr;
+    return last ? std::optional(*last) : std::nullopt;
+}
+
+bool Database::undoLastChange()
+{
+    return m_engine->undoLog() && m_engine->undoLog()->undoLast();
+}
+
+size_t Database::searchMemory() const
+{
+    return m_engine->searchMemory();
 }
 
 QString Database::checkSoundness()
@@ -368,8 +390,10 @@ bool Batch::commit()
     if (!m_open)
         return m_engine->isOpen();
     m_open = false;
-    if (m_engine->run(u"COMMIT"_s))
+    if (m_engine->run(u"COMMIT"_s)) {
+        m_engine->endStep();
         return true;
+    }
     m_engine->reportLast(u"commit");
     m_engine->run(u"ROLLBACK"_s);
     return false;
@@ -381,6 +405,17 @@ void Batch::rollBack()
         return;
     m_engine->run(u"ROLLBACK"_s);
     m_engine->forgetTables(); // one may have been made or dropped inside
+}
+
+Upkeep::Upkeep(Database& database)
+    : m_engine(database.m_engine)
+{
+    m_engine->beginUpkeep();
+}
+
+Upkeep::~Upkeep()
+{
+    m_engine->endUpkeep();
 }
 
 } // namespace jet

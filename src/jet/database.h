@@ -50,6 +50,16 @@ public:
 
     void setFailureHandler(FailureHandler handler);
 
+    /// From now on the last changes of a table can be taken back, one statement, recordset update or batch
+    /// after the other; see UndoLog. The label column holds what a person calls a row.
+    void keepChanges(const QString& table, const QString& labelColumn);
+    std::optional<ChangeStep> lastChange() const;
+    /// All of the step or nothing: false when its rows have been changed by somebody else since. The step is
+    /// gone in either case.
+    bool undoLastChange();
+
+    /// What is kept in memory so that searches for a piece of text are quick, in bytes.
+    size_t searchMemory() const;
     /// Empty when the file is sound, else the engine's words about the first damage.
     QString checkSoundness();
     /// The version number that was stored with setVersion(); 0 in a file that never had one.
@@ -70,6 +80,7 @@ public:
 
 private:
     friend class Batch;
+    friend class Upkeep;
     std::shared_ptr<Engine> m_engine;
 };
 
@@ -88,6 +99,18 @@ public:
 private:
     std::shared_ptr<Engine> m_engine;
     bool m_open = false;
+};
+
+/// What is changed during its life is the program's own doing and no step for a person to take back.
+class Upkeep {
+public:
+    explicit Upkeep(Database& database);
+    ~Upkeep();
+    Upkeep(const Upkeep&) = delete;
+    Upkeep& operator=(const Upkeep&) = delete;
+
+private:
+    std::shared_ptr<Engine> m_engine;
 };
 
 /// The other way to the same file: `like` takes % and _ here.

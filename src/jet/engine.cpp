@@ -1,12 +1,16 @@
 #include "jet/engine.h"
 
 #include "jet/date_text.h"
+#include "jet/letter_case.h"
+#include "jet/like_pattern.h"
 #include "jet/parser.h"
 #include "jet/sql_functions.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QUrl>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +21,10 @@ namespace {
 Q_LOGGING_CATEGORY(lcSql, "orvane.sql", QtCriticalMsg)
 
 constexpr qsizetype kLongestKeptText = 8 * 1024;
+/// So many rows of a search are read at once.
+constexpr size_t kFewRows = 256;
+/// To look at more rows than this part one by one takes as long as all of them in their order.
+constexpr size_t kWorthwhilePart = 4;
 
 ColumnType columnTypeOf(const QString& declared)
 {
@@ -48,6 +56,30 @@ bool isStorageFault(int code)
     case SQLITE_CANTOPEN: return true;
     default: return false;
     }
+}
+
+/// The literals of all patterns.
+std::vector<int> patternsOf(const TextFilter& filter)
+{
+    std::vector<int> literals;
+    if (filter.kind == TextFilter::Kind::Pattern)
+        literals.push_back(filter.literal);
+    for (const TextFilter& part : filter.parts) {
+        const std::vector<int> within = patternsOf(part);
+        literals.insert(literals.end(), within.begin(), within.end());
+    }
+    return literals;
+}
+
+QByteArray jsonList(const std::vector<sqlite3_int64>& numbers)
+{
+    QByteArray list = "[";
+    for (const sqlite3_int64 number : numbers) {
+        if (list.size() > 1)
+            list += ',';
+        list += QByteArray::number(qlonglong(number));
+    }
+    return list + ']';
 }
 
 QString lowered(QStringView name)
@@ -86,6 +118,8 @@ void Engine::close()
     if (!m_connection)
         return;
     *m_isOpen = false;
+    m_search.reset();
+    m_undo.reset();
     while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
         sqlite3_finalize(left);
     sqlite3_close_v2(m_connection);
@@ -154,6 +188,7 @@ Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
     }
     run(u"PRAGMA cache_size = -4096"_s);
     run(u"PRAGMA temp_store = MEMORY"_s);
+    m_search = std::make_unique<TextSearch>(m_connection);
     return Database::OpenResult::Opened;
 }
 
@@ -230,11 +265,71 @@ Prepared Engine::prepare(const QString& sql, const std::shared_ptr<Prepared::Poo
     return Prepared(statement, pooled ? pool : nullptr);
 }
 
-Prepared Engine::prepareMain(const Request& request)
+Prepared Engine::prepareMain(const Request& request, Way way)
 {
     const Translation& translation = request.plan->translation;
+    if (const auto stretch = stretchOf(request, way)) {
+        Prepared result = prepare(translation.stretch.sql, request.plan->stretchPool, true);
+        if (result && !bind(result.get(), translation.stretch.values, *request.literals, *stretch))
+            return {};
+        return result;
+    }
     Prepared result = prepare(translation.main.sql, request.plan->mainPool, true);
     if (result && !bind(result.get(), translation.main.values, *request.literals))
+        return {};
+    return result;
+}
+
+// Texts are sorted by base letters first, so what begins with "É" stands among what begins with "E".
+std::optional<BoundTexts> Engine::stretchOf(const Request& request, Way way)
+{
+    const Translation& translation = request.plan->translation;
+    if (translation.orderedLiteral < 0)
+        return {};
+    std::u32string beginning;
+    for (const int literal : patternsOf(*translation.filter)) {
+        const auto pattern
+            = LikePattern::compile((*request.literals)[size_t(literal)].text.toUtf8().toStdString(), way);
+        // A broken pattern has to fail, also when there is no row to which it would be put.
+        if (!pattern)
+            return {};
+        if (literal == translation.orderedLiteral)
+            beginning = pattern->beginning();
+    }
+    if (beginning.empty())
+        return {};
+    std::string least;
+    for (const char32_t letter : beginning)
+        appendLetter(least, baseLetter(letter));
+    BoundTexts texts;
+    texts.least = QByteArray::fromStdString(least);
+    // No letter is sorted behind bytes that are no letter.
+    texts.beyond = texts.least + QByteArray(8, char(0xFF));
+    return texts;
+}
+
+std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way)
+{
+    const Translation& translation = request.plan->translation;
+    if (!m_search || !translation.filter)
+        return {};
+    auto rows = m_search->rows(translation.table, *translation.filter, *request.literals, way);
+    if (!rows)
+        return {};
+    Narrowed result;
+    // Few rows are as quickly read as known.
+    if (!translation.isOrdered && rows->sure.size() > kFewRows) {
+        result.sure = std::move(rows->sure);
+    } else {
+        const auto middle = rows->doubtful.insert(rows->doubtful.end(), rows->sure.begin(), rows->sure.end());
+        std::inplace_merge(rows->doubtful.begin(), middle, rows->doubtful.end());
+    }
+    if (rows->doubtful.size() > rows->all / kWorthwhilePart)
+        return {};
+    result.rest = prepare(translation.narrowed.sql, request.plan->narrowedPool, true);
+    BoundTexts texts;
+    texts.rowList = jsonList(rows->doubtful);
+    if (!result.rest || !bind(result.rest.get(), translation.narrowed.values, *request.literals, texts))
         return {};
     return result;
 }
@@ -267,18 +362,28 @@ Prepared Engine::prepareKept(const QString& sql)
     return prepare(sql, pool, true);
 }
 
-bool Engine::bind(
-    sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals)
+bool Engine::bind(sqlite3_stmt* statement, const std::vector<Slot>& slots,
+    const std::vector<Literal>& literals, const BoundTexts& texts)
 {
+    const auto bound = [&texts](Slot::Reading reading) {
+        return reading == Slot::Reading::RowList ? &texts.rowList
+            : reading == Slot::Reading::Least    ? &texts.least
+            : reading == Slot::Reading::Beyond   ? &texts.beyond
+                                                 : nullptr;
+    };
     int place = 0;
     for (const Slot& slot : slots) {
+        if (const QByteArray* text = bound(slot.reading)) {
+            sqlite3_bind_text(statement, ++place, text->constData(), int(text->size()), SQLITE_TRANSIENT);
+            continue;
+        }
         const Literal& literal = literals[size_t(slot.literal)];
         ColumnType type = literal.kind == Literal::Kind::Number ? ColumnType::Number : ColumnType::Text;
         switch (slot.reading) {
         case Slot::Reading::Date: type = ColumnType::Date; break;
         case Slot::Reading::Number: type = ColumnType::Number; break;
         case Slot::Reading::YesNo: type = ColumnType::YesNo; break;
-        case Slot::Reading::AsIs: break;
+        default: break;
         }
         QVariant stored;
         if (!toStored(literal.text, type, &stored) || !stored.isValid()) {
@@ -322,6 +427,34 @@ void Engine::forgetTables()
 {
     ++m_generation;
     m_tables.clear();
+    if (m_search)
+        m_search->forget();
+}
+
+// ---- steps to take back
+
+void Engine::keepChanges(const QString& table, const QString& labelColumn)
+{
+    if (m_connection && !m_readOnly)
+        m_undo = std::make_unique<UndoLog>(m_connection, table, labelColumn);
+}
+
+void Engine::endStep()
+{
+    if (m_undo && m_upkeeps == 0)
+        m_undo->endStep();
+}
+
+void Engine::beginUpkeep()
+{
+    endStep();
+    ++m_upkeeps;
+}
+
+void Engine::endUpkeep()
+{
+    if (--m_upkeeps == 0 && m_undo)
+        m_undo->skip();
 }
 
 // ---- failures

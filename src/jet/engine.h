@@ -2,7 +2,9 @@
 
 #include "jet/database.h"
 #include "jet/lexer.h"
+#include "jet/text_search.h"
 #include "jet/translator.h"
+#include "jet/undo_log.h"
 
 #include <QCache>
 #include <QHash>
@@ -63,13 +65,24 @@ struct Plan {
     explicit Plan(const std::shared_ptr<const bool>& fileIsOpen)
         : mainPool(std::make_shared<Prepared::Pool>(fileIsOpen))
         , rowPool(std::make_shared<Prepared::Pool>(fileIsOpen))
+        , narrowedPool(std::make_shared<Prepared::Pool>(fileIsOpen))
+        , stretchPool(std::make_shared<Prepared::Pool>(fileIsOpen))
     {
     }
 
     Translation translation;
     std::shared_ptr<Prepared::Pool> mainPool;
     std::shared_ptr<Prepared::Pool> rowPool;
+    std::shared_ptr<Prepared::Pool> narrowedPool;
+    std::shared_ptr<Prepared::Pool> stretchPool;
     int generation = 0;
+};
+
+/// What is bound beside the values of the statement, for the slots that ask for it.
+struct BoundTexts {
+    QByteArray rowList;
+    QByteArray least;
+    QByteArray beyond;
 };
 
 /// A plan and the values that one text has for it.
@@ -94,12 +107,20 @@ public:
     sqlite3* connection() const { return m_connection; }
 
     std::optional<Request> request(QStringView sql, Way way);
-    Prepared prepareMain(const Request& request);
+    Prepared prepareMain(const Request& request, Way way);
+    /// A search for texts of which the engine knows more than the file.
+    struct Narrowed {
+        std::vector<sqlite3_int64> sure; ///< rows that fit, of a statement without an order
+        Prepared rest; ///< the other rows that fit
+    };
+    /// Nothing when main has to look at all rows. To be asked and run within one ReadTransaction.
+    std::optional<Narrowed> narrowed(const Request& request, Way way);
     Prepared prepareRow(const Request& request, qint64 key);
     Prepared prepareText(const QString& sql);
     Prepared prepareKept(
         const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
-    bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals);
+    bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals,
+        const BoundTexts& texts = {});
     bool run(const QString& sql);
 
     const CatalogTable* table(QStringView name);
@@ -108,6 +129,14 @@ public:
         return [this](QStringView name) { return table(name); };
     }
     void forgetTables();
+    // What a person may take back.
+    void keepChanges(const QString& table, const QString& labelColumn);
+    UndoLog* undoLog() { return m_undo.get(); }
+    void endStep(); ///< a statement or a batch has changed rows
+    void beginUpkeep();
+    void endUpkeep();
+
+    size_t searchMemory() const { return m_search ? m_search->memory() : 0; }
 
     void report(
         QStringView statement, const QString& reason, Failure::Cause cause = Failure::Cause::Statement);
@@ -119,8 +148,12 @@ private:
     std::shared_ptr<Plan> plan(const Lexed& lexed, Way way, QString* error);
     Prepared prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled);
     bool connect(const QString& path, const char* mode);
+    static std::optional<BoundTexts> stretchOf(const Request& request, Way way);
 
     sqlite3* m_connection = nullptr;
+    std::unique_ptr<TextSearch> m_search; ///< of an open file
+    std::unique_ptr<UndoLog> m_undo; ///< of an open file whose changes are kept
+    int m_upkeeps = 0;
     std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true); ///< shared with the pools of statements
     QString m_path;
     bool m_readOnly = false;

@@ -72,6 +72,32 @@ char32_t nextCodePoint(const unsigned char*& at, const unsigned char* end)
     return c;
 }
 
+// A byte that is no UTF-8 has a number above all letters. Whatever stands for it here, no pattern has it.
+void appendLetter(std::string& utf8, char32_t letter)
+{
+    const auto following = [letter](int shift) { return char(0x80 | (letter >> shift & 0x3F)); };
+    if (letter < 0x80)
+        utf8 += char(letter);
+    else if (letter < 0x800)
+        (utf8 += char(0xC0 | letter >> 6)) += following(0);
+    else if (letter < 0x10000)
+        ((utf8 += char(0xE0 | letter >> 12)) += following(6)) += following(0);
+    else
+        (((utf8 += char(0xF0 | (letter >> 18 & 7))) += following(12)) += following(6)) += following(0);
+}
+
+void appendLowered(std::string& lower, std::string_view text)
+{
+    const auto* at = reinterpret_cast<const unsigned char*>(text.data());
+    const auto* const end = at + text.size();
+    while (at < end) {
+        if (*at < 0x80)
+            lower += char(kAsciiLower.of[*at++]);
+        else
+            appendLetter(lower, foldCase(nextCodePoint(at, end)));
+    }
+}
+
 int compareJet(std::string_view left, std::string_view right)
 {
     auto a = reinterpret_cast<const unsigned char*>(left.data());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace jet {
@@ -16,6 +17,11 @@ char32_t baseLetter(char32_t folded);
 /// Reads one code point and steps behind it. A byte that is no UTF-8 stands for itself above the code points'
 /// range.
 char32_t nextCodePoint(const unsigned char*& at, const unsigned char* end);
+
+/// A text in the lower case of `like`, as UTF-8. A text can only be like a pattern when the lowered text
+/// holds the lowered letters that follow one another in the pattern.
+void appendLowered(std::string& lower, std::string_view text);
+void appendLetter(std::string& utf8, char32_t letter);
 
 inline constexpr auto kAsciiLower = [] {
     struct Table {

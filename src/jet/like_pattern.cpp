@@ -145,6 +145,34 @@ bool LikePattern::matchesPlain(std::string_view text) const
     return false;
 }
 
+std::u32string LikePattern::beginning() const
+{
+    std::u32string letters;
+    for (const Item& item : m_items) {
+        if (item.kind != Item::Kind::Letter)
+            break;
+        letters += item.letter;
+    }
+    return letters;
+}
+
+std::string LikePattern::longestWithin() const
+{
+    std::string longest;
+    if (m_items.empty() || m_items.front().kind != Item::Kind::AnyRun)
+        return longest;
+    std::string piece;
+    for (const Item& item : m_items) {
+        if (item.kind == Item::Kind::Letter)
+            appendLetter(piece, item.letter);
+        else
+            piece.clear();
+        if (piece.size() > longest.size())
+            longest = piece;
+    }
+    return longest;
+}
+
 bool LikePattern::fits(const Item& item, char32_t letter)
 {
     switch (item.kind) {

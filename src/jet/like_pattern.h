@@ -17,6 +17,11 @@ public:
     static std::optional<LikePattern> compile(std::string_view pattern, Way way);
 
     bool matches(std::string_view text) const;
+    /// The letters, in lower case, with which everything begins that fits.
+    std::u32string beginning() const;
+    /// The longest piece of letters that stands anywhere in what fits, in the lower case of appendLowered();
+    /// empty for a pattern that says how a text begins.
+    std::string longestWithin() const;
 
 private:
     struct Item {

@@ -87,7 +87,13 @@ void Recordset::step(int position)
 
 bool Recordset::findFirst(QStringView criterion)
 {
-    const int found = m_data ? m_data->find(criterion) : -1;
+    const int found = m_data ? m_data->find(criterion, 0) : -1;
+    return found >= 0 && moveTo(found);
+}
+
+bool Recordset::findNext(QStringView criterion)
+{
+    const int found = m_data ? m_data->find(criterion, position() + 1) : -1;
     return found >= 0 && moveTo(found);
 }
 
@@ -108,6 +114,22 @@ QString Recordset::textAt(int row, int column) const
 qint64 Recordset::keyAt(int row) const
 {
     return row < 0 || row >= count() ? 0 : m_data->key(row);
+}
+
+bool Recordset::holdsRows() const
+{
+    return !m_data || m_data->holdsRows();
+}
+
+int Recordset::endOfRun(int row, int column, int limit) const
+{
+    int end = row + 1;
+    limit = qMin(limit, count());
+    if (row >= 0 && column >= 0 && size_t(column) < m_data->columns().size()) {
+        while (end < limit && m_data->isSameText(row, end, column))
+            ++end;
+    }
+    return end;
 }
 
 QVariant Recordset::value(int column) const

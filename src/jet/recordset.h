@@ -49,6 +49,8 @@ public:
     /// Moves to the first row for which a bare condition such as "id=5" holds; false, without moving, when
     /// none does.
     bool findFirst(QStringView criterion);
+    /// The same behind the current row.
+    bool findNext(QStringView criterion);
 
     // Reading the current row. Dates come as QDate, or QDateTime when the value has a time of day.
     QVariant value(int column) const;
@@ -63,6 +65,10 @@ public:
 
     // Reading any row of the list without moving, for views that show what is in sight.
     qint64 keyAt(int row) const; ///< the row's own id in its table; 0 in a snapshot
+    bool holdsRows() const; ///< false when a row is fetched as it is looked at
+    /// The first row behind `row` that has another text in the column, but none beyond `limit`. For lists
+    /// that are sorted by the column and shown in groups.
+    int endOfRun(int row, int column, int limit) const;
     QString textAt(int row, int column) const;
     QVariant valueAt(int row, int column) const;
 

@@ -24,24 +24,40 @@ bool RecordsetData::load()
     const int width = int(translation.columns.size());
     m_held.reset(width);
     m_fetched.reset(width);
-    const Prepared statement = m_engine->prepareMain(m_request);
-    int result = SQLITE_ERROR;
-    if (statement) {
-        while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
-            if (m_isKeyset)
-                m_keys.push_back(sqlite3_column_int64(statement.get(), 0));
-            // The first row is current now and most often the only one. Fetched here it needs no transaction
-            // of its own.
-            if (!m_rowsHeld && m_keys.size() == 1)
-                look(0);
-            if (m_rowsHeld && !m_held.append(statement.get(), m_isKeyset ? 1 : 0))
-                break;
-        }
+    std::optional<ReadTransaction> sameState;
+    if (translation.filter && m_engine->isOpen())
+        sameState.emplace(m_engine->connection());
+    bool done = false;
+    if (auto narrowed = m_engine->narrowed(m_request, m_way)) {
+        m_keys.assign(narrowed->sure.begin(), narrowed->sure.end());
+        m_rowsHeld = m_rowsHeld && m_keys.empty();
+        done = readRows(narrowed->rest);
+        if (!narrowed->sure.empty())
+            std::sort(m_keys.begin(), m_keys.end());
+    } else {
+        done = readRows(m_engine->prepareMain(m_request, m_way));
     }
-    if (result == SQLITE_DONE)
-        return true;
-    m_engine->reportLast(m_text);
-    return false;
+    if (!done)
+        m_engine->reportLast(m_text);
+    return done;
+}
+
+bool RecordsetData::readRows(const Prepared& statement)
+{
+    if (!statement)
+        return false;
+    int result = SQLITE_ERROR;
+    while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
+        if (m_isKeyset)
+            m_keys.push_back(sqlite3_column_int64(statement.get(), 0));
+        // The first row is current now and most often the only one. Fetched here it needs no transaction of
+        // its own.
+        if (!m_rowsHeld && m_keys.size() == 1)
+            look(0);
+        if (m_rowsHeld && !m_held.append(statement.get(), m_isKeyset ? 1 : 0))
+            break;
+    }
+    return result == SQLITE_DONE;
 }
 
 int RecordsetData::columnIndex(QStringView name) const
@@ -86,13 +102,20 @@ qint64 RecordsetData::number(int row, int column)
     return place.store ? place.store->number(place.row, column) : 0;
 }
 
+bool RecordsetData::isSameText(int row, int otherRow, int column)
+{
+    if (m_rowsHeld)
+        return m_held.isSameText(row, otherRow, column);
+    return text(row, column).compare(text(otherRow, column), Qt::CaseInsensitive) == 0;
+}
+
 QVariant RecordsetData::value(int row, int column)
 {
     const Place place = look(row);
     return place.store ? place.store->value(place.row, column, columns()[size_t(column)].type) : QVariant();
 }
 
-int RecordsetData::find(QStringView criterion)
+int RecordsetData::find(QStringView criterion, int from)
 {
     const Lexed lexed = lex(criterion);
     QString error = lexed.error;
@@ -123,10 +146,14 @@ int RecordsetData::find(QStringView criterion)
         return -1;
     }
     if (!m_isKeyset) {
-        const int found = sqlite3_step(statement.get());
-        if (found != SQLITE_ROW && found != SQLITE_DONE)
+        int result = SQLITE_ERROR;
+        while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
+            if (const int found = sqlite3_column_int(statement.get(), 0); found >= from)
+                return found;
+        }
+        if (result != SQLITE_DONE)
             m_engine->reportLast(criterion);
-        return found == SQLITE_ROW ? sqlite3_column_int(statement.get(), 0) : -1;
+        return -1;
     }
     std::vector<qint64> matches;
     int result = SQLITE_ERROR;
@@ -137,7 +164,9 @@ int RecordsetData::find(QStringView criterion)
         return -1;
     }
     std::sort(matches.begin(), matches.end());
-    const auto found = std::find_if(m_keys.begin(), m_keys.end(),
+    if (from >= count())
+        return -1;
+    const auto found = std::find_if(m_keys.begin() + from, m_keys.end(),
         [&](qint64 key) { return std::binary_search(matches.begin(), matches.end(), key); });
     return found == m_keys.end() ? -1 : int(found - m_keys.begin());
 }
@@ -222,8 +251,10 @@ bool RecordsetData::write(const QString& sql, std::optional<qint64> key)
             sqlite3_bind_int64(statement.get(), ++place, *key);
         if (sqlite3_step(statement.get()) == SQLITE_DONE) {
             // Somebody else may have removed the row; then nothing was stored.
-            if (sqlite3_changes(m_engine->connection()) > 0)
+            if (sqlite3_changes(m_engine->connection()) > 0) {
+                m_engine->endStep();
                 return true;
+            }
             m_engine->report(m_text, u"the row is gone"_s);
             return false;
         }

@@ -22,10 +22,12 @@ public:
 
     QString text(int row, int column);
     qint64 number(int row, int column);
+    bool isSameText(int row, int otherRow, int column);
     QVariant value(int row, int column);
     qint64 key(int row) const { return m_isKeyset ? m_keys[size_t(row)] : 0; }
 
-    int find(QStringView criterion);
+    bool holdsRows() const { return m_rowsHeld; }
+    int find(QStringView criterion, int from);
 
     bool isEditable() const;
     void begin(bool adding);
@@ -48,6 +50,7 @@ private:
         int row;
     };
 
+    bool readRows(const Prepared& statement);
     Place look(int row); ///< where the cells of a row are, fetching it when only its key is held
     bool write(const QString& sql, std::optional<qint64> key);
     void forgetHeldRows();

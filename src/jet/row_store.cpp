@@ -1,6 +1,7 @@
 #include "jet/row_store.h"
 
 #include "jet/date_text.h"
+#include "jet/letter_case.h"
 
 #include <cmath>
 #include <cstring>
@@ -68,6 +69,18 @@ bool RowStore::append(sqlite3_stmt* statement, int firstColumn)
 bool RowStore::isNull(int row, int column) const
 {
     return (cell(row, column).sizeAndKind & 3) == Null;
+}
+
+bool RowStore::isSameText(int row, int otherRow, int column) const
+{
+    const Cell& a = cell(row, column);
+    const Cell& b = cell(otherRow, column);
+    const auto isText = [](const Cell& c) { return (c.sizeAndKind & 3) == Text || c.sizeAndKind == Null; };
+    if (!isText(a) || !isText(b))
+        return text(row, column) == text(otherRow, column);
+    const auto bytes
+        = [this](const Cell& c) { return std::string_view(m_bytes.data() + c.offset, c.sizeAndKind >> 2); };
+    return bytes(a) == bytes(b) || compareJet(bytes(a), bytes(b)) == 0;
 }
 
 QString RowStore::text(int row, int column) const

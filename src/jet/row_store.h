@@ -22,6 +22,7 @@ public:
     int rows() const { return m_columns == 0 ? 0 : int(m_cells.size() / size_t(m_columns)); }
 
     bool isNull(int row, int column) const;
+    bool isSameText(int row, int otherRow, int column) const; ///< without regard to case; null is empty
     QString text(int row, int column) const;
     qint64 number(int row, int column) const;
     QVariant value(int row, int column, ColumnType type) const;

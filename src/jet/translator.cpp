@@ -1,6 +1,7 @@
 #include "jet/translator.h"
 
 #include "jet/expression_emitter.h"
+#include "jet/lexer.h"
 #include "jet/same_name.h"
 
 #include <algorithm>
@@ -144,17 +145,33 @@ private:
         });
         result.idsOnly = plain && (hasMemo || result.columns.size() > kMostHeldColumns);
 
-        m_out += u"SELECT "_s;
-        rowKey(from);
-        if (!result.idsOnly) {
-            m_out += u", "_s + list;
-            m_slots = listSlots;
+        const auto selectKeys = [&](const TextFilter* stretch, bool narrowed) {
+            m_out += u"SELECT "_s;
+            rowKey(from);
+            if (!result.idsOnly) {
+                m_out += u", "_s + list;
+                m_slots = listSlots;
+            }
+            m_out += u" FROM "_s;
+            if (narrowed) {
+                narrowedTable(from, arm);
+            } else {
+                tableAs(from);
+                stretch ? whereInStretch(*stretch, arm) : whereOf(arm);
+            }
+            orderBy(arm.orderBy);
+            return takePiece();
+        };
+        result.main = selectKeys(nullptr, false);
+        if (arm.where && !isDescending(arm.orderBy))
+            result.filter = textFilter(*arm.where);
+        if (result.filter)
+            result.narrowed = selectKeys(nullptr, true);
+        if (const TextFilter* ordered = result.filter ? orderedBy(*result.filter, arm) : nullptr) {
+            result.orderedLiteral = ordered->literal;
+            result.stretch = selectKeys(ordered, false);
         }
-        m_out += u" FROM "_s;
-        tableAs(from);
-        whereOf(arm);
-        orderBy(arm.orderBy);
-        result.main = takePiece();
+        result.isOrdered = !arm.orderBy.empty();
 
         m_out = u"SELECT "_s + list + u" FROM "_s;
         m_slots = listSlots;
@@ -165,6 +182,85 @@ private:
         result.row = takePiece();
         m_scopes.pop_back();
         return result;
+    }
+
+    /// The file engine might walk an index backwards, and rows of equal texts with it. A list of rows is
+    /// walked from its beginning.
+    static bool isDescending(const std::vector<OrderTerm>& order)
+    {
+        return !order.empty() && order.front().descending;
+    }
+
+    /// The table behind a list of its rows, which is walked in order; the condition still holds.
+    void narrowedTable(const TableName& from, const SelectArm& arm)
+    {
+        m_out += u"(SELECT value AS [*row] FROM json_each(?)) CROSS JOIN "_s;
+        m_slots.push_back({-1, Slot::Reading::RowList});
+        tableAs(from);
+        m_out += u" WHERE "_s;
+        rowKey(from);
+        m_out += u" = [*row] AND ("_s;
+        truth(*arm.where);
+        m_out += u')';
+    }
+
+    /// The pattern for the very column by which the rows are sorted first; null when there is none. Only then
+    /// can an index be walked from where the pattern begins without changing the order of the rows.
+    const TextFilter* orderedBy(const TextFilter& filter, const SelectArm& arm) const
+    {
+        if (arm.orderBy.empty() || arm.orderBy.front().expression->kind != Expression::Kind::Column)
+            return nullptr;
+        const CatalogColumn* sorted = resolve(*arm.orderBy.front().expression).column;
+        const auto fits = [&](const TextFilter& part) {
+            return part.kind == TextFilter::Kind::Pattern && sorted && part.column == sorted->name;
+        };
+        if (fits(filter))
+            return &filter;
+        if (filter.kind != TextFilter::Kind::All)
+            return nullptr;
+        const auto found = std::find_if(filter.parts.begin(), filter.parts.end(), fits);
+        return found == filter.parts.end() ? nullptr : &*found;
+    }
+
+    void whereInStretch(const TextFilter& stretch, const SelectArm& arm)
+    {
+        m_out += u" WHERE "_s;
+        name(arm.tables.front().shownAs());
+        m_out += u'.';
+        name(stretch.column);
+        m_out += u" >= ? AND "_s;
+        name(arm.tables.front().shownAs());
+        m_out += u'.';
+        name(stretch.column);
+        m_out += u" < ? AND ("_s;
+        m_slots.push_back({stretch.literal, Slot::Reading::Least});
+        m_slots.push_back({stretch.literal, Slot::Reading::Beyond});
+        truth(*arm.where);
+        m_out += u')';
+    }
+
+    /// Nothing when rows can fit whatever their texts are.
+    std::optional<TextFilter> textFilter(const Expression& e) const
+    {
+        if (isPlainLike(e) && e.parts[1]->literalKind == int(Literal::Kind::Text)) {
+            const CatalogColumn* column = resolve(*e.parts[0]).column;
+            if (!column || (column->type != ColumnType::Text && column->type != ColumnType::Memo))
+                return {};
+            return TextFilter{.column = column->name, .literal = e.parts[1]->literal};
+        }
+        const bool any = e.kind == Expression::Kind::Or;
+        if (!any && e.kind != Expression::Kind::And)
+            return {};
+        TextFilter filter{.kind = any ? TextFilter::Kind::Any : TextFilter::Kind::All};
+        for (const auto& part : e.parts) {
+            auto partly = textFilter(*part);
+            filter.isWhole = filter.isWhole && partly && partly->isWhole;
+            if (partly)
+                filter.parts.push_back(std::move(*partly));
+            else if (any)
+                return {};
+        }
+        return filter.parts.empty() ? std::nullopt : std::optional(std::move(filter));
     }
 
     void selection(const Select& s, std::vector<ResultColumn>* columns) override

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/syntax_tree.h"
+#include "jet/text_filter.h"
 #include "jet/types.h"
 
 #include <QStringList>
@@ -38,8 +39,16 @@ using Catalog = std::function<const CatalogTable*(QStringView)>;
 
 /// One bound value of the file engine's statement: which literal of the text it is, and what it is read as.
 struct Slot {
-    enum class Reading { AsIs, Date, Number, YesNo };
-    int literal = 0;
+    enum class Reading {
+        AsIs,
+        Date,
+        Number,
+        YesNo,
+        RowList,
+        Least, ///< the first text in order that can be like the pattern
+        Beyond, ///< a text behind all that can be
+    };
+    int literal = 0; ///< -1 for the list of rows to look at
     Reading reading = Reading::AsIs;
 };
 
@@ -71,6 +80,14 @@ struct Translation {
     QString tableAlias;
     Piece row; ///< the columns of the row whose id is bound last
     bool idsOnly = false;
+    /// When the condition searches texts: what it asks of them, and main for the rows of a bound list only.
+    std::optional<TextFilter> filter = {};
+    bool isOrdered = false;
+    /// When the rows come in the order of a column that is to be like a pattern: the pattern's literal, and
+    /// main for a stretch of that order.
+    int orderedLiteral = -1;
+    Piece stretch = {};
+    Piece narrowed = {};
 };
 
 /// Turns a parsed statement into text for the file engine. Every name stands in brackets, every value is

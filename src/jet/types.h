@@ -24,6 +24,14 @@ struct Failure {
     QString reason;
 };
 
+/// One change that can be taken back.
+struct ChangeStep {
+    enum class Kind { Added, Changed, Deleted };
+    Kind kind = Kind::Changed; ///< of the first row
+    int rows = 0;
+    QString label; ///< what a person calls the first row
+};
+
 using FailureHandler = std::function<void(const Failure&)>;
 
 } // namespace jet

@@ -6,9 +6,14 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace widgets {
 
@@ -17,8 +22,79 @@ namespace {
 constexpr int CellPadding = 14;
 constexpr int RowPadding = 8;
 constexpr int WidestMargin = 4; ///< characters of a column that shows nothing
+constexpr int BranchMargin = 4;
+constexpr int BranchWidth = 14; ///< of the mark that folds a group
 
 } // namespace
+
+/// Paints headings over the whole width, and leaves out what stands in the heading or the merged cell above.
+class HeadingGrid::LineDelegate : public QStyledItemDelegate {
+public:
+    explicit LineDelegate(HeadingGrid* grid)
+        : QStyledItemDelegate(grid)
+        , m_grid(grid)
+    {
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        if (m_grid->m_model->isHeading(index.row()))
+            paintHeading(painter, option, index.row());
+        else
+            QStyledItemDelegate::paint(painter, option, index);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (isPaintedAbove(index))
+            option->text.clear();
+    }
+
+private:
+    bool isPaintedAbove(const QModelIndex& index) const
+    {
+        const RowsModel* model = m_grid->m_model;
+        if (index.column() == model->groupColumn())
+            return true;
+        const auto isColumn = [&](const QString& name) { return model->columnOf(name) == index.column(); };
+        return std::any_of(m_grid->m_merged.cbegin(), m_grid->m_merged.cend(), isColumn)
+            && index.row() != m_grid->rowAt(0) && model->repeatsAbove(index);
+    }
+
+    void paintHeading(QPainter* painter, const QStyleOptionViewItem& option, int line) const
+    {
+        const RowsModel* model = m_grid->m_model;
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        painter->save();
+        painter->setClipRect(option.rect);
+        painter->fillRect(
+            option.rect, option.palette.brush(selected ? QPalette::Highlight : QPalette::Button));
+
+        const int group = model->groupOf(line);
+        const QRect row(-m_grid->horizontalScrollBar()->value(), option.rect.top(),
+            m_grid->viewport()->width() + m_grid->horizontalScrollBar()->value(), option.rect.height());
+        QStyleOptionViewItem branch = option;
+        branch.rect = QRect(row.left() + BranchMargin, row.top(), BranchWidth, row.height());
+        branch.state = QStyle::State_Enabled | QStyle::State_Children;
+        branch.state.setFlag(QStyle::State_Open, !model->isFolded(group));
+        m_grid->style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, m_grid);
+
+        QFont bold = option.font;
+        bold.setBold(true);
+        painter->setFont(bold);
+        painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::ButtonText));
+        QString text = model->index(line, model->groupColumn()).data().toString();
+        if (!model->isOutlining())
+            text += u"   (%1)"_s.arg(model->rowsIn(group));
+        painter->drawText(row.adjusted(2 * BranchMargin + BranchWidth, 0, 0, 0),
+            Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
+        painter->restore();
+    }
+
+    HeadingGrid* m_grid;
+};
 
 HeadingGrid::HeadingGrid(QWidget* parent)
     : QTableView(parent)
@@ -26,6 +102,7 @@ HeadingGrid::HeadingGrid(QWidget* parent)
     , m_emptyText(tr("Nothing to show"))
 {
     setModel(m_model);
+    setItemDelegate(new LineDelegate(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -41,10 +118,15 @@ HeadingGrid::HeadingGrid(QWidget* parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setMinimumSectionSize(8);
 
-    connect(this, &QAbstractItemView::doubleClicked, this,
-        [this](const QModelIndex& index) { Q_EMIT chosen(index.row()); });
-    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-        [this](const QModelIndex& current) { Q_EMIT currentRowChanged(current.row()); });
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!isHeading(index.row()))
+            Q_EMIT chosen(index.row());
+    });
+    connect(
+        selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& current) {
+            if (!m_isRestoring)
+                Q_EMIT currentRowChanged(current.row());
+        });
     applyWidths();
 }
 
@@ -60,6 +142,7 @@ void HeadingGrid::fill(jet::Recordset rows)
     m_typed.clear();
     m_model->fill(std::move(rows));
     applyHiddenColumns();
+    startOutline();
 }
 
 void HeadingGrid::fill(QStringView headings, jet::Recordset rows, const QStringList& columns)
@@ -75,6 +158,7 @@ void HeadingGrid::setRows(const QList<QStringList>& rows, const QStringList& nam
     m_typed.clear();
     m_model->setRows(rows, names);
     applyHiddenColumns();
+    startOutline();
 }
 
 void HeadingGrid::clearRows()
@@ -96,6 +180,129 @@ void HeadingGrid::setKeyColumn(const QString& name)
 void HeadingGrid::showAs(const QString& name, std::function<QString(const QVariant&)> wording)
 {
     m_model->showAs(name, std::move(wording));
+}
+
+void HeadingGrid::setOutline(const QString& name)
+{
+    m_model->setOutline(name);
+    startOutline();
+}
+
+bool HeadingGrid::isHeading(int row) const
+{
+    return m_model->isHeading(row);
+}
+
+int HeadingGrid::recordCount() const
+{
+    return m_model->recordCount();
+}
+
+void HeadingGrid::foldAll(bool folded)
+{
+    const int group = m_model->groupOf(currentRow());
+    m_model->foldAll(folded);
+    if (group >= 0)
+        setCurrentRow(m_model->headingOf(group));
+}
+
+void HeadingGrid::mergeEqual(const QStringList& names)
+{
+    m_merged = names;
+    viewport()->update();
+}
+
+void HeadingGrid::startOutline()
+{
+    if (m_model->isOutlining())
+        m_outlineTimer.start(0, this);
+    else
+        m_outlineTimer.stop();
+}
+
+void HeadingGrid::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_outlineTimer.timerId())
+        return QTableView::timerEvent(event);
+    const int row = m_model->sourceRow(currentRow());
+    const int top = m_model->sourceRow(rowAt(0));
+    const int percent = m_model->outlineStep();
+    if (percent == 100) {
+        m_outlineTimer.stop();
+        restoreLines(row, top);
+    }
+    Q_EMIT outlineProgress(percent);
+}
+
+// Nobody has chosen another row, so nobody hears of one.
+void HeadingGrid::restoreLines(int row, int top)
+{
+    m_isRestoring = true;
+    applyHiddenColumns();
+    if (row >= 0)
+        setCurrentRow(m_model->lineOfSource(row));
+    if (top > 0)
+        scrollTo(m_model->index(m_model->lineOfSource(top), std::max(0, searchColumn())), PositionAtTop);
+    m_isRestoring = false;
+}
+
+void HeadingGrid::setFolded(int row, bool folded)
+{
+    const int group = m_model->groupOf(row);
+    if (group < 0)
+        return;
+    if (folded)
+        setCurrentRow(m_model->headingOf(group));
+    m_model->fold(group, folded);
+    viewport()->update();
+}
+
+// As in a tree: left folds or goes up to the heading, right unfolds, Enter does either.
+bool HeadingGrid::foldKey(int key)
+{
+    const int row = currentRow();
+    const int group = m_model->groupOf(row);
+    if (group < 0)
+        return false;
+    const bool folded = m_model->isFolded(group);
+    if (key == Qt::Key_Left && !isHeading(row))
+        setCurrentRow(m_model->headingOf(group));
+    else if (!isHeading(row))
+        return false;
+    else if (key == Qt::Key_Left || key == Qt::Key_Minus)
+        setFolded(row, true);
+    else if (key == Qt::Key_Right || key == Qt::Key_Plus)
+        setFolded(row, false);
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
+        setFolded(row, !folded);
+    else
+        return false;
+    return true;
+}
+
+void HeadingGrid::mousePressEvent(QMouseEvent* event)
+{
+    QTableView::mousePressEvent(event);
+    const int row = rowAt(event->position().toPoint().y());
+    const int markEnd = 2 * BranchMargin + BranchWidth - horizontalScrollBar()->value();
+    if (event->button() == Qt::LeftButton && isHeading(row) && event->position().x() < markEnd)
+        setFolded(row, !m_model->isFolded(m_model->groupOf(row)));
+}
+
+void HeadingGrid::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const int row = rowAt(event->position().toPoint().y());
+    if (event->button() == Qt::LeftButton && isHeading(row))
+        return setFolded(row, !m_model->isFolded(m_model->groupOf(row)));
+    QTableView::mouseDoubleClickEvent(event);
+}
+
+// A merged cell shows its text on the first row in sight, so what was painted there can not just be moved.
+void HeadingGrid::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    if (!m_merged.isEmpty() || m_model->groupColumn() >= 0)
+        viewport()->update();
 }
 
 void HeadingGrid::setFontSize(int points)
@@ -146,12 +353,16 @@ qint64 HeadingGrid::keyAt(int row) const
 
 int HeadingGrid::rowOf(qint64 key) const
 {
-    return m_model->rowOf(key);
+    return m_model->lineOf(key);
 }
 
 bool HeadingGrid::selectKey(qint64 key)
 {
-    const int row = rowOf(key);
+    int row = rowOf(key);
+    if (isHeading(row)) {
+        setFolded(row, false);
+        row = rowOf(key);
+    }
     if (row >= 0)
         setCurrentRow(row);
     return row >= 0;
@@ -194,18 +405,14 @@ void HeadingGrid::keyboardSearch(const QString& typed)
         m_typed += typed;
     const bool next = again || m_typed.size() == typed.size();
     const int from = currentRow() < 0 ? 0 : currentRow() + (next ? 1 : 0);
-    for (int i = 0; i < rowCount(); ++i) {
-        const int row = (from + i) % rowCount();
-        const QString text = m_model->index(row, column).data().toString();
-        if (text.startsWith(m_typed, Qt::CaseInsensitive)) {
-            setCurrentRow(row);
-            return;
-        }
-    }
+    if (const int found = m_model->findText(column, m_typed, from % rowCount()); found >= 0)
+        setCurrentRow(found);
 }
 
 void HeadingGrid::keyPressEvent(QKeyEvent* event)
 {
+    if (foldKey(event->key()))
+        return;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (currentRow() >= 0)
             Q_EMIT chosen(currentRow());

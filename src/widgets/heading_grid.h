@@ -2,6 +2,7 @@
 
 #include "jet/recordset.h"
 
+#include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QList>
 #include <QStringList>
@@ -50,6 +51,16 @@ public:
     void setKeyColumn(const QString& name);
     /// Shows a column's values in another way: dates, ticks.
     void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
+    /// Rows of equal texts stand under a heading line that folds; "" ends it. The rows must be sorted by the
+    /// column. After a fill the groups are found in steps, so that the window stays alive; until then one
+    /// heading reads "!!!!!". With headings, a row of the functions below is a line of the grid, and a
+    /// heading has the key 0.
+    void setOutline(const QString& name);
+    bool isHeading(int row) const;
+    int recordCount() const; ///< rows without the headings
+    void foldAll(bool folded);
+    /// A text that is the same as the one above it is not painted again, as if the cells were one.
+    void mergeEqual(const QStringList& names);
     void setFontSize(int points);
     void setEmptyText(const QString& text);
 
@@ -70,13 +81,24 @@ public:
 Q_SIGNALS:
     void chosen(int row);
     void currentRowChanged(int row);
+    void outlineProgress(int percent);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void timerEvent(QTimerEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    class LineDelegate;
+
+    void startOutline();
+    void restoreLines(int row, int top);
+    bool foldKey(int key);
+    void setFolded(int row, bool folded);
     void applyWidths();
     void applyHiddenColumns();
     int searchColumn() const;
@@ -86,6 +108,9 @@ private:
     QStringList m_hidden;
     QString m_typed;
     QElapsedTimer m_sinceTyped;
+    QStringList m_merged;
+    QBasicTimer m_outlineTimer;
+    bool m_isRestoring = false; ///< the same row becomes current again, on another line
 };
 
 } // namespace widgets

@@ -6,6 +6,27 @@ namespace widgets {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int RowsAStep = 20'000;
+/// What a heading reads while its group is not known yet.
+constexpr QStringView Placeholder = u"!!!!!";
+
+/// A text as a pattern of `like` that begins with it; no letter of it is a wildcard or ends the text.
+QString beginsPattern(const QString& text)
+{
+    QString pattern;
+    for (const QChar letter : text) {
+        if (QStringView(u"*?#[").contains(letter))
+            pattern += u'[' + letter + u']';
+        else
+            pattern += letter == u'\'' ? u"''"_s : QString(letter);
+    }
+    return pattern + u'*';
+}
+
+} // namespace
+
 QList<Heading> parseHeadings(QStringView headings)
 {
     QList<Heading> parsed;
@@ -30,6 +51,7 @@ void RowsModel::fill(jet::Recordset rows)
     m_fromList = false;
     m_rows.clear();
     pairOff();
+    beginOutline();
     endResetModel();
 }
 
@@ -41,6 +63,7 @@ void RowsModel::setRows(const QList<QStringList>& rows, const QStringList& names
     m_rows = rows;
     m_names = names;
     pairOff();
+    beginOutline();
     endResetModel();
 }
 
@@ -61,6 +84,7 @@ void RowsModel::showAs(const QString& name, Wording wording)
 void RowsModel::pairOff()
 {
     m_keySource = sourceOf(m_keyColumn.isEmpty() ? u"id"_s : m_keyColumn);
+    m_outlineSource = sourceOf(m_outlineColumn);
     m_wordingsBySource.clear();
     for (auto wording = m_wordings.cbegin(); wording != m_wordings.cend(); ++wording)
         m_wordingsBySource.insert(sourceOf(wording.key()), wording.value());
@@ -110,7 +134,7 @@ int RowsModel::sourceOf(const QString& name) const
 
 QString RowsModel::sourceText(int row, int source) const
 {
-    if (source < 0 || row < 0 || row >= rowCount())
+    if (source < 0 || row < 0 || row >= recordCount())
         return {};
     return m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
 }
@@ -126,14 +150,19 @@ int RowsModel::columnOf(const QString& name) const
     return source < 0 ? -1 : static_cast<int>(m_sources.indexOf(source));
 }
 
-QString RowsModel::text(int row, const QString& name) const
+QString RowsModel::text(int line, const QString& name) const
 {
-    return sourceText(row, sourceOf(name));
+    return sourceText(sourceRow(line), sourceOf(name));
 }
 
-qint64 RowsModel::keyAt(int row) const
+qint64 RowsModel::keyAt(int line) const
 {
-    if (row < 0 || row >= rowCount())
+    return sourceKey(sourceRow(line));
+}
+
+qint64 RowsModel::sourceKey(int row) const
+{
+    if (row < 0 || row >= recordCount())
         return 0;
     if (m_keyColumn.isEmpty() && !m_fromList) {
         if (const qint64 key = m_recordset.keyAt(row))
@@ -142,20 +171,161 @@ qint64 RowsModel::keyAt(int row) const
     return sourceNumber(row, m_keySource);
 }
 
-int RowsModel::rowOf(qint64 key) const
+int RowsModel::lineOf(qint64 key) const
 {
-    for (int row = 0; row < rowCount(); ++row) {
-        if (keyAt(row) == key)
-            return row;
+    for (int row = 0; row < recordCount(); ++row) {
+        if (sourceKey(row) == key)
+            return lineOfSource(row);
     }
     return -1;
+}
+
+int RowsModel::recordCount() const
+{
+    return m_fromList ? static_cast<int>(m_rows.size()) : m_recordset.count();
+}
+
+bool RowsModel::repeatsAbove(const QModelIndex& index) const
+{
+    const int row = sourceRow(index.row());
+    const int above = sourceRow(index.row() - 1);
+    return row >= 0 && above >= 0
+        && index.data().toString().compare(
+               this->index(index.row() - 1, index.column()).data().toString(), Qt::CaseInsensitive)
+        == 0;
+}
+
+// The engine looks through the texts of a recordset without fetching its rows one by one. What a wording
+// shows in another way is compared as it is shown.
+int RowsModel::findText(int column, const QString& begin, int fromLine)
+{
+    const int source = m_sources.value(column, -1);
+    const bool isFetchedText
+        = !m_fromList && !m_recordset.holdsRows() && m_recordset.columnType(source) == jet::ColumnType::Text;
+    if (isFetchedText && !m_outline.isActive() && !m_wordingsBySource.contains(source)) {
+        const QString criterion
+            = u'[' + m_recordset.columns().value(source) + u"] like '"_s + beginsPattern(begin) + u'\'';
+        const bool behind
+            = fromLine > 0 && m_recordset.moveTo(fromLine - 1) && m_recordset.findNext(criterion);
+        return behind || m_recordset.findFirst(criterion) ? m_recordset.position() : -1;
+    }
+    for (int i = 0; i < rowCount(); ++i) {
+        const int line = (fromLine + i) % rowCount();
+        if (index(line, column).data().toString().startsWith(begin, Qt::CaseInsensitive))
+            return line;
+    }
+    return -1;
+}
+
+void RowsModel::setOutline(const QString& name)
+{
+    beginResetModel();
+    m_outlineColumn = name;
+    pairOff();
+    beginOutline();
+    endResetModel();
+}
+
+void RowsModel::beginOutline()
+{
+    m_isOutlining = m_outlineSource >= 0 && recordCount() > 0;
+    m_groupStarts.clear();
+    m_scanned = 0;
+    if (m_isOutlining)
+        m_outline.begin(recordCount());
+    else
+        m_outline.clear();
+}
+
+int RowsModel::outlineStep()
+{
+    const int limit = std::min(m_scanned + RowsAStep, recordCount());
+    const auto sameAsGroup = [this](int row) {
+        return m_fromList ? m_rows[row]
+                                .value(m_outlineSource)
+                                .compare(m_rows[row - 1].value(m_outlineSource), Qt::CaseInsensitive)
+                == 0
+                          : m_recordset.endOfRun(row - 1, m_outlineSource, row + 1) > row;
+    };
+    for (; m_scanned < limit; ++m_scanned) {
+        if (m_scanned == 0 || !sameAsGroup(m_scanned))
+            m_groupStarts.push_back(m_scanned);
+    }
+    if (m_scanned < recordCount())
+        return int(qint64(m_scanned) * 100 / recordCount());
+    beginResetModel();
+    m_isOutlining = false;
+    m_outline.setGroups(std::exchange(m_groupStarts, {}));
+    endResetModel();
+    return 100;
+}
+
+int RowsModel::groupColumn() const
+{
+    return m_outline.isActive() ? static_cast<int>(m_sources.indexOf(m_outlineSource)) : -1;
+}
+
+int RowsModel::groupOf(int line) const
+{
+    return m_outline.isActive() && line >= 0 && line < rowCount() ? m_outline.at(line).group : -1;
+}
+
+bool RowsModel::isHeading(int line) const
+{
+    return groupOf(line) >= 0 && !m_outline.at(line).row;
+}
+
+void RowsModel::fold(int group, bool folded)
+{
+    if (m_isOutlining || m_outline.isFolded(group) == folded)
+        return;
+    const int first = m_outline.headingOf(group) + 1;
+    const int last = first + m_outline.rowsIn(group) - 1;
+    if (folded)
+        beginRemoveRows({}, first, last);
+    else
+        beginInsertRows({}, first, last);
+    m_outline.fold(group, folded);
+    if (folded)
+        endRemoveRows();
+    else
+        endInsertRows();
+}
+
+void RowsModel::foldAll(bool folded)
+{
+    if (m_isOutlining || !m_outline.isActive())
+        return;
+    beginResetModel();
+    m_outline.foldAll(folded);
+    endResetModel();
+}
+
+int RowsModel::sourceRow(int line) const
+{
+    if (line < 0 || line >= rowCount())
+        return -1;
+    return m_outline.isActive() ? m_outline.at(line).row.value_or(-1) : line;
+}
+
+int RowsModel::lineOfSource(int row) const
+{
+    return m_outline.isActive() && row >= 0 ? m_outline.lineOf(row) : row;
+}
+
+QString RowsModel::headingText(int line) const
+{
+    if (m_isOutlining)
+        return Placeholder.toString();
+    const QString text = shownText(m_outline.firstRow(m_outline.at(line).group), m_outlineSource);
+    return text.isEmpty() ? tr("(none)") : text;
 }
 
 int RowsModel::rowCount(const QModelIndex& parent) const
 {
     if (parent.isValid())
         return 0;
-    return m_fromList ? static_cast<int>(m_rows.size()) : m_recordset.count();
+    return m_outline.isActive() ? m_outline.lines() : recordCount();
 }
 
 int RowsModel::columnCount(const QModelIndex& parent) const
@@ -174,11 +344,18 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
     }
     if (role != Qt::DisplayRole)
         return {};
+    const int row = sourceRow(index.row());
+    if (row < 0)
+        return source == m_outlineSource ? headingText(index.row()) : QVariant();
+    return shownText(row, source);
+}
+
+QString RowsModel::shownText(int row, int source) const
+{
     if (const auto wording = m_wordingsBySource.constFind(source); wording != m_wordingsBySource.cend())
-        return (*wording)(m_fromList ? QVariant(sourceText(index.row(), source))
-                                     : m_recordset.valueAt(index.row(), source));
+        return (*wording)(m_fromList ? QVariant(sourceText(row, source)) : m_recordset.valueAt(row, source));
     // A line break would show as a box, or make the row look empty.
-    return sourceText(index.row(), source).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
+    return sourceText(row, source).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -2,6 +2,7 @@
 
 #include "jet/recordset.h"
 #include "widgets/heading_grid.h"
+#include "widgets/row_outline.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -9,7 +10,8 @@
 namespace widgets {
 
 /// The rows behind a heading grid: a recordset, or a list of texts. Texts are fetched one by one as a view
-/// asks. A "source column" is one of the recordset or list, a "column" one under a heading.
+/// asks. A "source column" is one of the recordset or list, a "column" one under a heading; a "line" is what
+/// a view calls a row: a row of the recordset, or the heading of a group of them.
 class RowsModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -26,9 +28,30 @@ public:
     const QList<Heading>& headings() const { return m_headings; }
     bool showsNothing(int column) const { return m_sources.value(column, -1) < 0; }
     int columnOf(const QString& name) const; ///< -1 when no heading stands over it
-    QString text(int row, const QString& name) const;
-    qint64 keyAt(int row) const;
-    int rowOf(qint64 key) const;
+    QString text(int line, const QString& name) const;
+    qint64 keyAt(int line) const;
+    int lineOf(qint64 key) const;
+    int recordCount() const;
+    /// Whether a cell shows the same as the cell above it, and both are rows.
+    bool repeatsAbove(const QModelIndex& index) const;
+    /// The next line, in a circle from the given one, whose text in a column begins so; -1 when there is
+    /// none.
+    int findText(int column, const QString& begin, int fromLine);
+
+    // Groups. A fill makes one group of all rows; the steps that follow find where each text ends.
+    void setOutline(const QString& name);
+    bool isOutlining() const { return m_isOutlining; }
+    int outlineStep(); ///< 0 to 100; with 100 the model has been reset
+    int groupColumn() const; ///< the column whose texts stand in the headings; -1 without an outline
+    int groupOf(int line) const; ///< -1 without an outline
+    bool isHeading(int line) const;
+    int headingOf(int group) const { return m_outline.headingOf(group); }
+    int rowsIn(int group) const { return m_outline.rowsIn(group); }
+    bool isFolded(int group) const { return m_outline.isFolded(group); }
+    void fold(int group, bool folded);
+    void foldAll(bool folded);
+    int sourceRow(int line) const; ///< -1 for a heading
+    int lineOfSource(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -39,8 +62,12 @@ private:
     void pairOff();
     int sourceCount() const;
     int sourceOf(const QString& name) const;
+    void beginOutline();
+    QString headingText(int line) const;
     QString sourceText(int row, int source) const;
     qint64 sourceNumber(int row, int source) const;
+    qint64 sourceKey(int row) const;
+    QString shownText(int row, int source) const;
 
     QList<Heading> m_headings;
     QStringList m_columns; ///< as given for the headings
@@ -49,6 +76,13 @@ private:
     int m_keySource = -1; ///< of the key column, or of "id"
     QHash<QString, Wording> m_wordings; ///< by lower-case name
     QHash<int, Wording> m_wordingsBySource;
+
+    QString m_outlineColumn;
+    int m_outlineSource = -1;
+    RowOutline m_outline;
+    bool m_isOutlining = false;
+    std::vector<int> m_groupStarts; ///< found so far
+    int m_scanned = 0;
 
     jet::Recordset m_recordset;
     bool m_fromList = true;

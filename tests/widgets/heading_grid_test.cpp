@@ -25,6 +25,11 @@ private Q_SLOTS:
     void typingLooksForARow();
     void enterAndDoubleClickChoose();
     void listShowsTheNameOnly();
+    void outlineFindsItsGroupsInSteps();
+    void outlineFolds();
+    void outlineOfManyRows();
+    void mergedCellsArePaintedOnce();
+    void typingLooksThroughRowsThatAreNotHeld();
 
 private:
     jet::Recordset rows(QStringView sql) { return m_data.openRecordset(sql); }
@@ -45,6 +50,9 @@ void HeadingGridTest::initTestCase()
                                                     "data,person,Name,text,60\n"
                                                     "data,person,city,text,60\n"
                                                     "data,person,born,date,\n"
+                                                    "data,wide,id,autonumber,\n"
+                                                    "data,wide,Name,text,60\n"
+                                                    "data,wide,note,memo,\n"
                                                     "data,many,id,autonumber,\n"
                                                     "data,many,Name,text,60\n");
     QVERIFY(m_data.applySchema(schema, u"data"_s));
@@ -240,6 +248,113 @@ void HeadingGridTest::listShowsTheNameOnly()
     QCOMPARE(shownTexts(list, 1), QStringList{u"Bimal"_s});
     list.setCurrentRow(1);
     QCOMPARE(list.currentKey(), 3);
+}
+
+/// Lines of the grid: a heading as "[text]", a row by its name.
+static QStringList linesOf(const HeadingGrid& grid)
+{
+    QStringList lines;
+    for (int line = 0; line < grid.rowCount(); ++line)
+        lines += grid.isHeading(line) ? u"[%1]"_s.arg(grid.model()->index(line, 1).data().toString())
+                                      : grid.textAt(line, u"Name"_s);
+    return lines;
+}
+
+void HeadingGridTest::outlineFindsItsGroupsInSteps()
+{
+    HeadingGrid grid;
+    grid.setOutline(u"city"_s);
+    QSignalSpy progress(&grid, &HeadingGrid::outlineProgress);
+    QSignalSpy rowChanges(&grid, &HeadingGrid::currentRowChanged);
+    grid.fill(u"  |City  |Name  ", rows(u"select id,city,Name from person order by city,Name"));
+    QCOMPARE(grid.rowCount(), 5);
+    QCOMPARE(linesOf(grid).constFirst(), u"[!!!!!]"_s);
+    grid.selectKey(4);
+    QCOMPARE(grid.currentText(u"Name"_s), u"Chand"_s);
+
+    QTRY_COMPARE(progress.size(), 1);
+    QCOMPARE(linesOf(grid),
+        (QStringList{u"[Agra]"_s, u"Bimal"_s, u"[Delhi]"_s, u"Bina"_s, u"[Pune]"_s, u"Asha"_s, u"Chand"_s}));
+    QCOMPARE(grid.recordCount(), 4);
+    QCOMPARE(grid.currentKey(), 4); // still the same row, and nobody was told of another one
+    QCOMPARE(rowChanges.size(), 1);
+    QCOMPARE(grid.keyAt(4), 0);
+
+    grid.setOutline({});
+    QCOMPARE(grid.rowCount(), 4);
+}
+
+void HeadingGridTest::outlineFolds()
+{
+    HeadingGrid grid;
+    grid.setOutline(u"city"_s);
+    QSignalSpy progress(&grid, &HeadingGrid::outlineProgress);
+    QSignalSpy chosen(&grid, &HeadingGrid::chosen);
+    grid.fill(u"  |City  |Name  ", rows(u"select id,city,Name from person order by city,Name"));
+    QTRY_COMPARE(progress.size(), 1);
+
+    grid.selectKey(1);
+    QTest::keyClick(&grid, Qt::Key_Left);
+    QCOMPARE(grid.currentRow(), 4); // the heading
+    QTest::keyClick(&grid, Qt::Key_Left);
+    QCOMPARE(linesOf(grid), (QStringList{u"[Agra]"_s, u"Bimal"_s, u"[Delhi]"_s, u"Bina"_s, u"[Pune]"_s}));
+    grid.setCurrentRow(0);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QCOMPARE(linesOf(grid), (QStringList{u"[Agra]"_s, u"[Delhi]"_s, u"Bina"_s, u"[Pune]"_s}));
+    QCOMPARE(chosen.size(), 0);
+    QVERIFY(grid.selectKey(4)); // in a folded group
+    QCOMPARE(linesOf(grid),
+        (QStringList{u"[Agra]"_s, u"[Delhi]"_s, u"Bina"_s, u"[Pune]"_s, u"Asha"_s, u"Chand"_s}));
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QCOMPARE(chosen.size(), 1);
+    grid.foldAll(true);
+    QCOMPARE(linesOf(grid), (QStringList{u"[Agra]"_s, u"[Delhi]"_s, u"[Pune]"_s}));
+    QCOMPARE(grid.currentRow(), 2);
+}
+
+void HeadingGridTest::outlineOfManyRows()
+{
+    HeadingGrid grid;
+    grid.setOutline(u"Name"_s);
+    QSignalSpy progress(&grid, &HeadingGrid::outlineProgress);
+    grid.fill(u"  |City  |Name  ", rows(u"select id,Name,id from many"));
+    QTRY_VERIFY(!progress.isEmpty() && progress.constLast().constFirst().toInt() == 100);
+    QVERIFY(progress.size() > 1); // the window could move in between
+    QCOMPARE(grid.rowCount(), 2 * grid.recordCount());
+    QVERIFY(grid.selectKey(77'777));
+    QCOMPARE(grid.currentRow(), 2 * 77'777 - 1);
+}
+
+void HeadingGridTest::mergedCellsArePaintedOnce()
+{
+    HeadingGrid grid;
+    grid.resize(400, 300);
+    grid.fill(u"City  |Name  ", rows(u"select city,Name from person order by city,Name"));
+    const auto pictureOf = [&grid](int row) {
+        return grid.viewport()->grab(grid.visualRect(grid.model()->index(row, 0))).toImage();
+    };
+    grid.setAlternatingRowColors(false);
+    grid.show();
+    QVERIFY(pictureOf(2) == pictureOf(3)); // Pune and Pune
+    grid.mergeEqual({u"city"_s});
+    QVERIFY(pictureOf(2) != pictureOf(3));
+    QVERIFY(pictureOf(0) != pictureOf(1)); // Agra, then Delhi in its own cell
+}
+
+void HeadingGridTest::typingLooksThroughRowsThatAreNotHeld()
+{
+    QVERIFY(m_data.execute(u"insert into wide (Name) values ('Ash [1]')"_s));
+    QVERIFY(m_data.execute(u"insert into wide (Name) values ('bea')"_s));
+    QVERIFY(m_data.execute(u"insert into wide (Name) values ('Ash O''Hara')"_s));
+    HeadingGrid grid;
+    grid.fill(u"|Name  ", rows(u"select * from wide"), {{}, u"Name"_s});
+    for (const QString& typed : {u"a"_s, u"s"_s, u"h"_s, u" "_s, u"o"_s, u"'"_s})
+        grid.keyboardSearch(typed);
+    QCOMPARE(grid.currentText(u"Name"_s), u"Ash O'Hara"_s);
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    for (const QString& typed : {u"a"_s, u"s"_s, u"h"_s, u" "_s, u"["_s})
+        grid.keyboardSearch(typed);
+    QCOMPARE(grid.currentText(u"Name"_s), u"Ash [1]"_s);
 }
 
 QTEST_MAIN(HeadingGridTest)

@@ -1,0 +1,217 @@
+#include "jet/text_search.h"
+
+#include "jet/like_pattern.h"
+
+#include <algorithm>
+
+namespace jet {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Below that many rows a search through the file is as quick as anybody can type.
+constexpr sqlite3_int64 kFewRows = 5'000;
+/// A single letter is in nearly every row.
+constexpr size_t kShortestWord = 2;
+/// So many changed rows in so many are looked at anyway; with more the index is read anew.
+constexpr size_t kMostChangedPart = 20;
+void collectColumns(const TextFilter& filter, QStringList* columns)
+{
+    if (filter.kind == TextFilter::Kind::Pattern && !columns->contains(filter.column))
+        *columns << filter.column;
+    for (const TextFilter& part : filter.parts)
+        collectColumns(part, columns);
+}
+
+} // namespace
+
+/// One search: the filter with its patterns.
+struct TextSearch::Query {
+    struct Pattern {
+        std::optional<LikePattern> compiled;
+        std::string word; ///< that the pattern asks for
+    };
+    const Table& table;
+    const std::vector<Literal>& literals;
+    Way way;
+    std::unordered_map<int, Pattern> patterns = {}; ///< by literal
+    bool isBroken
+        = false; ///< a pattern that can not be understood: the statement is to fail as it always does
+
+    const Pattern& pattern(int literal)
+    {
+        const auto [known, isNew] = patterns.try_emplace(literal);
+        if (isNew) {
+            Pattern& made = known->second;
+            made.compiled = LikePattern::compile(literals[size_t(literal)].text.toUtf8().toStdString(), way);
+            isBroken = isBroken || !made.compiled;
+            if (made.compiled)
+                made.word = made.compiled->longestWithin();
+        }
+        return known->second;
+    }
+
+    /// The rows that fit; nothing when all may.
+    std::optional<std::vector<char>> marks(const TextFilter& filter)
+    {
+        if (filter.kind == TextFilter::Kind::Pattern) {
+            const Pattern& asked = pattern(filter.literal);
+            if (asked.word.size() < kShortestWord)
+                return {};
+            std::vector<char> found(table.index.rows());
+            table.index.mark(
+                size_t(table.columns.indexOf(filter.column)), asked.word, *asked.compiled, found);
+            return found;
+        }
+        const bool any = filter.kind == TextFilter::Kind::Any;
+        std::optional<std::vector<char>> result;
+        for (const TextFilter& part : filter.parts) {
+            auto partly = marks(part);
+            isWhole = isWhole && partly;
+            if (!partly && any)
+                return {};
+            if (partly && !result)
+                result = std::move(partly);
+            else if (partly)
+                std::transform(result->begin(), result->end(), partly->begin(), result->begin(),
+                    [any](char a, char b) { return any ? a | b : a & b; });
+        }
+        return result;
+    }
+
+    bool isWhole = true; ///< every pattern was looked for
+};
+
+TextSearch::TextSearch(sqlite3* connection)
+    : m_connection(connection)
+{
+    sqlite3_update_hook(m_connection, &TextSearch::rowChanged, this);
+    // What was read within a transaction that is given up was never so.
+    sqlite3_rollback_hook(
+        m_connection, [](void* self) { static_cast<TextSearch*>(self)->forget(); }, this);
+}
+
+TextSearch::~TextSearch()
+{
+    sqlite3_update_hook(m_connection, nullptr, nullptr);
+    sqlite3_rollback_hook(m_connection, nullptr, nullptr);
+}
+
+void TextSearch::rowChanged(void* self, int, const char*, const char* table, sqlite3_int64 id)
+{
+    auto& tables = static_cast<TextSearch*>(self)->m_tables;
+    if (tables.empty())
+        return;
+    const auto known = tables.find(table);
+    if (known == tables.end() || known->second->isTooMuch)
+        return;
+    auto& changed = known->second->changed;
+    changed.insert(id);
+    if (changed.size() * kMostChangedPart > known->second->index.rows())
+        tables.erase(known);
+}
+
+std::optional<TextSearch::Rows> TextSearch::rows(
+    const QString& name, const TextFilter& filter, const std::vector<Literal>& literals, Way way)
+{
+    QStringList columns;
+    collectColumns(filter, &columns);
+    Table* table = prepared(name, columns);
+    if (!table)
+        return {};
+    Query query{*table, literals, way};
+    const auto marks = query.marks(filter);
+    if (!marks || query.isBroken)
+        return {};
+    Rows found;
+    found.all = marks->size();
+    found.doubtful.assign(table->changed.begin(), table->changed.end());
+    auto& fitting = filter.isWhole && query.isWhole ? found.sure : found.doubtful;
+    for (size_t row = 0; row < marks->size(); ++row) {
+        const sqlite3_int64 id = table->index.idAt(row);
+        if ((*marks)[row] && !table->changed.contains(id))
+            fitting.push_back(id);
+    }
+    std::sort(found.doubtful.begin(), found.doubtful.end());
+    return found;
+}
+
+TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& columns)
+{
+    const auto version = number(u"PRAGMA data_version"_s);
+    const std::string key = name.toStdString();
+    const auto known = m_tables.find(key);
+    Table* table = known == m_tables.end() ? nullptr : known->second.get();
+    if (!table && !isWorthwhile(name))
+        return nullptr;
+    if (!table)
+        table = m_tables.emplace(key, std::make_unique<Table>()).first->second.get();
+    const bool hasAll = std::all_of(columns.cbegin(), columns.cend(),
+        [table](const QString& column) { return table->columns.contains(column); });
+    if (version && table->fileVersion == *version && hasAll)
+        return table->isTooMuch ? nullptr : table;
+    for (const QString& column : columns) {
+        if (!table->columns.contains(column))
+            table->columns << column;
+    }
+    table->fileVersion = version.value_or(0);
+    table->isTooMuch = !version || !read(name, *table);
+    return table->isTooMuch ? nullptr : table;
+}
+
+bool TextSearch::read(const QString& name, Table& table)
+{
+    table.index = {};
+    table.changed.clear();
+    const QString sql = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u']';
+    const QByteArray utf8 = sql.toUtf8();
+    sqlite3_stmt* rows = nullptr;
+    const bool done
+        = sqlite3_prepare_v2(m_connection, utf8.constData(), int(utf8.size()), &rows, nullptr) == SQLITE_OK
+        && table.index.read(rows);
+    sqlite3_finalize(rows);
+    if (!done)
+        table.index = {};
+    return done;
+}
+
+bool TextSearch::isWorthwhile(const QString& name)
+{
+    return number(u"SELECT max(rowid) FROM ["_s + name + u']').value_or(0) >= kFewRows;
+}
+
+std::optional<sqlite3_int64> TextSearch::number(const QString& sql)
+{
+    const QByteArray utf8 = sql.toUtf8();
+    sqlite3_stmt* statement = nullptr;
+    std::optional<sqlite3_int64> result;
+    if (sqlite3_prepare_v2(m_connection, utf8.constData(), int(utf8.size()), &statement, nullptr) == SQLITE_OK
+        && sqlite3_step(statement) == SQLITE_ROW)
+        result = sqlite3_column_int64(statement, 0);
+    sqlite3_finalize(statement);
+    return result;
+}
+
+size_t TextSearch::memory() const
+{
+    size_t sum = 0;
+    for (const auto& [name, table] : m_tables)
+        sum += table->index.bytes();
+    return sum;
+}
+
+ReadTransaction::ReadTransaction(sqlite3* connection)
+    : m_connection(sqlite3_get_autocommit(connection) ? connection : nullptr)
+{
+    if (m_connection && sqlite3_exec(m_connection, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
+        m_connection = nullptr;
+}
+
+ReadTransaction::~ReadTransaction()
+{
+    if (m_connection)
+        sqlite3_exec(m_connection, "COMMIT", nullptr, nullptr, nullptr);
+}
+
+} // namespace jet
