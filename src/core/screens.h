@@ -42,6 +42,17 @@ public:
         return dynamic_cast<Interface*>(find(form));
     }
 
+    /// All open screens that are one of the hand-over interfaces.
+    template <class Interface> QList<Interface*> openOnes() const
+    {
+        QList<Interface*> found;
+        for (const QPointer<Screen>& screen : m_open) {
+            if (auto* one = dynamic_cast<Interface*>(screen.data()))
+                found << one;
+        }
+        return found;
+    }
+
     bool show(QStringView form, Shown shown = Shown::Modelessly);
     void unload(QStringView form);
     /// All open screens go at once, before the files they read are exchanged.

@@ -6,20 +6,20 @@
 #include "core/frame.h"
 #include "core/photo_file.h"
 #include "core/record_steps.h"
-#include "core/scheduler_rows.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "entry/assist_panel.h"
+#include "entry/card_values.h"
 #include "entry/entry_assists.h"
 #include "entry/entry_lists.h"
 #include "entry/entry_pages.h"
 #include "entry/mail_contact.h"
 #include "entry/photo_store.h"
 #include "entry/save_checks.h"
+#include "entry/save_effects.h"
 #include "entry/user_fields.h"
 #include "platform/clock.h"
 #include "platform/contact_sync.h"
-#include "platform/favourites.h"
 #include "platform/message_boxes.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
@@ -53,6 +53,12 @@ QString caption(const char* text)
 constexpr QStringView kNotFromColumn[]
     = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
 
+/// The name of what is entered, by a view of names that a check has found to be one.
+QString composedName(const FormValues& values)
+{
+    return core::composeName(*core::nameViewOf(values.text(u"cmbnview")), namePartsOf(values));
+}
+
 } // namespace
 
 FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* parent)
@@ -64,7 +70,8 @@ FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* 
 {
     layOut();
     m_assists = new EntryAssists(this, sstab1, context);
-    m_userFields = new UserFields(this, context.data);
+    if (m_variant.hasUserFields)
+        m_userFields = new UserFields(this, context.data);
     wire();
 }
 
@@ -87,22 +94,10 @@ void FormMain::layOut()
     grdEditList->setMaximumWidth(260);
 
     const auto sizeOf = [this](QStringView column) { return context().schema.textSize(u"cnt_main", column); };
-    struct Page {
-        QWidget* widget;
-        QString name;
-        QString title;
-        QStringView icon;
-    };
-    const Page pages[] = {
-        {contactPage(sizeOf), u"Contact"_s, tr("&1 Contact"), u"card"},
-        {workOnePage(sizeOf), u"Work1"_s, tr("&2 Work 1"), u"work"},
-        {workTwoPage(sizeOf), u"Work2"_s, tr("&3 Work 2"), u"work"},
-        {personalPage(sizeOf), u"Personal"_s, tr("&4 Personal"), u"family"},
-        {picturePage(), u"Picture"_s, tr("&5 Picture"), u"picture"},
-    };
-    for (const Page& page : pages) {
-        page.widget->setObjectName(page.name);
-        sstab1->addTab(page.widget, widgets::icon(page.icon), page.title);
+    for (const EntryPage& page : m_variant.pages) {
+        QWidget* laidOut = page.layOut(sizeOf);
+        laidOut->setObjectName(page.name.toString());
+        sstab1->addTab(laidOut, widgets::icon(page.icon), caption(page.title));
     }
 
     auto* middle = new QSplitter(Qt::Horizontal);
@@ -180,9 +175,11 @@ void FormMain::load()
     Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
     for (widgets::DateBox* box : findChildren<widgets::DateBox*>())
         box->setFormat(core::datePattern(shared().NationalMode));
+    const jet::Upkeep clearing(context().data);
     context().data.execute(
         u"delete * from CNT_MAIN where len(trim(name))=0 and len(trim(first))=0 and len(trim(last))=0 and len(trim(company))=0"_s);
-    m_userFields->showLabels();
+    if (m_userFields)
+        m_userFields->showLabels();
     const auto fill = [this](const QString& name, const QStringList& values) {
         widgets::child<widgets::FilledCombo>(this, name)->setValues(values);
     };
@@ -334,6 +331,10 @@ bool FormMain::showRecord(const QString& id)
             widgets::setTextOf(field.widget, row.textOrEmpty(field.column));
         }
     }
+    for (const ChangedColumn& changed : m_variant.changedColumns) {
+        if (const QString text = row.textOrEmpty(changed.column); !text.isEmpty())
+            setText(changed.control.toString(), text);
+    }
     const core::Category category{row.textOrEmpty(u"category1"), row.textOrEmpty(u"category2")};
     setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
     setText(u"DtcmbSubCate"_s, category.subcategory);
@@ -366,7 +367,7 @@ void FormMain::toggleAssist()
 
 void FormMain::turnPage(bool simple)
 {
-    sstab1->setCurrentIndex(simple ? 0 : 3);
+    sstab1->setCurrentWidget(sstab1->findChild<QWidget*>(simple ? u"Contact"_s : u"Personal"_s));
     control(u"SSCommand6"_s)->setVisible(!simple);
     control(u"SSCommand7"_s)->setVisible(simple);
 }
@@ -439,92 +440,81 @@ void FormMain::refuse(int refusal)
     }
 }
 
-void FormMain::save()
+bool FormMain::mayBeSaved()
 {
     const FormValues now = values();
-    if (const auto refusal = refusalOfSave(now))
-        return refuse(int(*refusal));
-    const bool editing = IsEditing || shared().EditRequested;
-    if (editing) {
-        if (const auto refusal = refusalOfEdit(now))
-            return refuse(int(*refusal));
-    }
-    const QString name = core::composeName(*core::nameViewOf(now.text(u"cmbnview")), namePartsOf(now));
+    auto refusal = refusalOfSave(now);
+    if (!refusal && isEdit())
+        refusal = refusalOfEdit(now);
+    if (refusal)
+        refuse(int(*refusal));
+    return !refusal;
+}
+
+formats::CardValues FormMain::cardValues() const
+{
+    const FormValues now = values();
+    return cardValuesOf(now, composedName(now));
+}
+
+platform::MailContact FormMain::mailContact() const
+{
+    const FormValues now = values();
+    const qint64 id = widgets::textOf(control(u"lblid"_s)).toLongLong();
+    platform::MailContact contact = mailContactOf(now, composedName(now), id);
+    if (id == 0)
+        contact.key.clear();
+    return contact;
+}
+
+void FormMain::save()
+{
+    if (mayBeSaved())
+        saveContact();
+}
+
+qint64 FormMain::saveContact()
+{
+    const FormValues now = values();
+    const QString name = composedName(now);
     auto* progress = widgets::child<QProgressBar>(this, u"ProgressBar1"_s);
     progress->setValue(0);
     progress->show();
-    const bool stored = editing ? edit(now, name) : add(now, name);
+    const bool editing = isEdit();
+    const qint64 id = editing ? edit(now, name) : add(now, name);
     // What could not be stored stays on the form, so that it can be saved again.
-    if (!stored) {
+    if (id == 0) {
         progress->hide();
-        return;
+        return 0;
     }
     progress->setValue(45);
     if (editing)
-        editSideEffects(now, name);
+        applyEditEffects(context(), m_variant, now, name, id);
     else
-        addSideEffects(now, name);
+        applyAddEffects(context(), m_variant, now, name);
     progress->setValue(50);
     endSave();
+    return id;
 }
 
-bool FormMain::add(const FormValues& values, const QString& name)
+qint64 FormMain::add(const FormValues& values, const QString& name)
 {
     shared().TableName = u"Contact-AddData"_s;
     jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2"_s);
     rows.addNew();
     assign(rows, m_variant.addColumns, values, {name, context().services.clock.today(), shared().ContMerge});
-    return rows.update();
+    return rows.update() ? rows.lastAddedKey() : 0;
 }
 
-bool FormMain::edit(const FormValues& values, const QString& name)
+qint64 FormMain::edit(const FormValues& values, const QString& name)
 {
-    jet::Recordset rows = context().data.openRecordset(
-        u"Select * from cnt_main where id="_s + widgets::textOf(control(u"lblid"_s)));
+    const QString id = widgets::textOf(control(u"lblid"_s));
+    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
     if (!rows.hasRow())
-        return false;
+        return 0;
     rows.edit();
     assign(rows, m_variant.editColumns, values, {name, context().services.clock.today(), shared().ContMerge});
-    return rows.update();
-}
-
-void FormMain::addSideEffects(const FormValues& values, const QString& name)
-{
-    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
-    if (setup.flag(u"UpdOutllook")) {
-        const auto newest = context().data.openRecordset(u"Select * from cnt_main order by ID desc"_s);
-        const qint64 id = newest.hasRow() ? newest.number(u"id") : 1;
-        context().services.mailContacts.add(mailContactOf(values, name, id));
-        core::ScheduledDates dates{id, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"),
-            values.trimmed(u"dtcspouse"),
-            {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
-            values.date(u"DateBday"), values.date(u"DateSpouse"),
-            {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")},
-            values.date(u"DateAnn")};
-        core::addSchedulerRows(
-            context().data, core::schedulerRows(dates, context().services.clock.today().year()));
-    }
-    if (setup.flag(u"AddFav"))
-        addFavourites(values, name, m_variant.homeSuffixOnAdd, m_variant.workSuffixOnAdd);
-}
-
-// A change makes no scheduler rows.
-void FormMain::editSideEffects(const FormValues& values, const QString& name)
-{
-    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
-    if (m_variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
-        context().services.mailContacts.update(
-            mailContactOf(values, name, widgets::textOf(control(u"lblid"_s)).toLongLong()));
-    if (setup.flag(u"AddFav"))
-        addFavourites(values, name, m_variant.homeSuffixOnEdit, m_variant.workSuffixOnEdit);
-}
-
-void FormMain::addFavourites(
-    const FormValues& values, const QString& name, QStringView home, QStringView work)
-{
-    platform::Favourites& favourites = context().services.favourites;
-    favourites.AddFavourite(values.text(u"txtweb"), name, home);
-    favourites.AddFavourite(values.text(u"txtbweb"), name, work);
+    return rows.update() ? id.toLongLong() : 0;
 }
 
 void FormMain::endSave()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/handover/contact_screen.h"
+#include "core/handover/save_source.h"
 #include "core/screen.h"
 #include "entry/form_variant.h"
 #include "widgets/form_kit.h"
@@ -20,7 +21,7 @@ class UserFields;
 
 /// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
 /// it. The shorter forms are the same class with another variant.
-class FormMain : public core::Screen, public core::ContactScreen {
+class FormMain : public core::Screen, public core::ContactScreen, public core::SaveSource {
     Q_OBJECT
 
 public:
@@ -32,6 +33,11 @@ public:
     bool mayClose() override;
     /// Goes to the edit mode with this contact.
     bool showContact(qint64 id) override;
+
+    bool mayBeSaved() override;
+    formats::CardValues cardValues() const override;
+    platform::MailContact mailContact() const override;
+    qint64 saveContact() override;
 
 protected:
     bool event(QEvent* event) override;
@@ -59,11 +65,9 @@ private:
     void turnPage(bool simple);
 
     void save();
-    bool add(const FormValues& values, const QString& name);
-    bool edit(const FormValues& values, const QString& name);
-    void addSideEffects(const FormValues& values, const QString& name);
-    void editSideEffects(const FormValues& values, const QString& name);
-    void addFavourites(const FormValues& values, const QString& name, QStringView home, QStringView work);
+    bool isEdit() const { return IsEditing || shared().EditRequested; }
+    qint64 add(const FormValues& values, const QString& name);
+    qint64 edit(const FormValues& values, const QString& name);
     void endSave();
     void refuse(int refusal);
 

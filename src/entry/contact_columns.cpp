@@ -1,6 +1,7 @@
 #include "entry/contact_columns.h"
 
 #include "core/contact_category.h"
+#include "core/text_pieces.h"
 #include "jet/date_text.h"
 
 using namespace Qt::StringLiterals;
@@ -193,6 +194,159 @@ constexpr ColumnRow kDetailedEdit[] = {
     {u"PhotLoc", u"Photo"},
 };
 
+// The address of this form is that of Work 2.
+// Kept: its e-mails and web address go to the columns of Work 1 when a contact is new, and to those of Work 2
+// when it is changed.
+constexpr ColumnRow kBriefAdd[] = {
+    {u"Title", u"Cmbtitle"},
+    {u"Name", u"", Rule::Name},
+    {u"category1", u"DtcmbCate", Rule::Category1},
+    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"h_city", u"dtcmbcity"},
+    {u"sex", u"CmbSex"},
+    {u"Nview", u"cmbnview"},
+    {u"First", u"dtcmbfname"},
+    {u"Last", u"dtcmblname"},
+    {u"h_add1", u"txtadd1"},
+    {u"h_add2", u"txtadd2"},
+    {u"h_state", u"dtcmbstate"},
+    {u"h_country", u"dtcmbcountry"},
+    {u"h_pin", u"dtcmbpin"},
+    {u"Spouse", u"dtcspouse"},
+    {u"kid1", u"dtckid1"},
+    {u"kid2", u"dtckid2"},
+    {u"kid3", u"dtckid3"},
+    {u"Sp_BD", u"DateSpouse", Rule::Date},
+    {u"Kid1_BD", u"Datekid1", Rule::Date},
+    {u"Kid2_BD", u"datekid2", Rule::Date},
+    {u"Kid3_BD", u"datekid3", Rule::Date},
+    {u"Priority", u"cmbpriority", Rule::Priority},
+    {u"h_std", u"txtstd"},
+    {u"H_Ph1", u"txtph1"},
+    {u"h_ph2", u"txtph2"},
+    {u"h_ph3", u"txtph3"},
+    {u"Mobile", u"txtMobile"},
+    {u"SP_Mobile", u"txtspmobile"},
+    {u"h_web", u"txtweb", Rule::AsTyped},
+    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"h_email2", u"txtemail2", Rule::AsTyped},
+    {u"Sms", u"txtSMS", Rule::AsTyped},
+    {u"M_BD", u"DateBday", Rule::Date},
+    {u"Anniv", u"DateAnn", Rule::Date},
+    {u"w_add1", u"txtwadd1"},
+    {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
+    // Kept: the first line of the address is written a second time.
+    {u"w_add1", u"txtwadd1"},
+    {u"w_add2", u"txtwadd2"},
+    {u"b_email1", u"txtbemail1"},
+    {u"b_email2", u"txtbemail2"},
+    {u"B_Web", u"txtbweb", Rule::AsTyped},
+    {u"w_city", u"dtcmbwcity"},
+    {u"w_State", u"dtcmbwstate"},
+    {u"w_country", u"dtcmbwcountry"},
+    {u"w_pin", u"dtcmbwpin"},
+    {u"W_std", u"txtwstd"},
+    {u"w_Ph1", u"txtwph1"},
+    {u"W_Tel_XTN", u"txtwxtn"},
+    {u"w_Ph2", u"txtwph2"},
+    {u"w_ph3", u"txtwph3"},
+    {u"Job_Title", u"dtcmbjob", Rule::AsTyped},
+    {u"Company", u"txtcmpny"},
+    {u"W_AddType", u"dtcmbbadtyp"},
+    {u"fax", u"txtfax", Rule::AsTyped},
+    {u"Status", u"Dtcmbstatus", Rule::OrUndefined},
+    {u"Mid", u"dtcmbmid", Rule::AsTyped},
+    {u"nick", u"dtcmbnick", Rule::AsTyped},
+    {u"Relation", u"dtcmbrelation", Rule::AsTyped},
+    {u"Religion", u"dtcmbreligion", Rule::AsTyped},
+    {u"education", u"CmbEducation", Rule::AsTyped},
+    {u"region", u"dtcmbregion", Rule::OrUndefined},
+    {u"Hobbies", u"txthobby"},
+    {u"Asso1", u"dtcmbasso1"},
+    {u"asso2", u"dtcmbasso2"},
+    {u"memo1", u"txtMemo"},
+    {u"dateEnter", u"", Rule::Today},
+    {u"DateModi", u"", Rule::Today},
+    {u"Maiden", u"dtcmbmaiden"},
+    {u"altcontact", u"txtaltcontact"},
+    {u"AltTitle", u"dtcmbalttitle"},
+    {u"PhotLoc", u"Photo"},
+};
+
+// Kept: of all classes only the product gets "Undefined" in the place of a blank when a contact is changed;
+// and as in the detailed form a change does not write the fax.
+constexpr ColumnRow kBriefEdit[] = {
+    {u"Title", u"Cmbtitle"},
+    {u"Name", u"", Rule::Name},
+    {u"category1", u"DtcmbCate", Rule::Category1AsTyped},
+    {u"category2", u"DtcmbSubCate", Rule::Category2AsTyped},
+    {u"h_city", u"dtcmbcity"},
+    {u"sex", u"CmbSex"},
+    {u"Nview", u"cmbnview"},
+    {u"First", u"dtcmbfname"},
+    {u"Last", u"dtcmblname"},
+    {u"h_add1", u"txtadd1"},
+    {u"h_add2", u"txtadd2"},
+    {u"h_state", u"dtcmbstate"},
+    {u"h_country", u"dtcmbcountry"},
+    {u"h_pin", u"dtcmbpin"},
+    {u"Spouse", u"dtcspouse"},
+    {u"kid1", u"dtckid1"},
+    {u"kid2", u"dtckid2"},
+    {u"kid3", u"dtckid3"},
+    {u"Sp_BD", u"DateSpouse", Rule::DateInWords},
+    {u"Kid1_BD", u"Datekid1", Rule::DateInWords},
+    {u"Kid2_BD", u"datekid2", Rule::DateInWords},
+    {u"Kid3_BD", u"datekid3", Rule::DateInWords},
+    {u"Priority", u"cmbpriority", Rule::Priority},
+    {u"h_std", u"txtstd"},
+    {u"H_Ph1", u"txtph1"},
+    {u"h_ph2", u"txtph2"},
+    {u"h_ph3", u"txtph3"},
+    {u"Mobile", u"txtMobile"},
+    {u"SP_Mobile", u"txtspmobile"},
+    {u"h_web", u"txtweb", Rule::AsTyped},
+    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"h_email2", u"txtemail2", Rule::AsTyped},
+    {u"Sms", u"txtSMS", Rule::AsTyped},
+    {u"M_BD", u"DateBday", Rule::DateInWords},
+    {u"Anniv", u"DateAnn", Rule::DateInWords},
+    {u"w_add1", u"txtwadd1"},
+    {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
+    {u"w_add2", u"txtwadd2"},
+    {u"w_email1", u"txtbemail1"},
+    {u"W_Email2", u"txtbemail2"},
+    {u"W_web", u"txtbweb", Rule::AsTyped},
+    {u"w_city", u"dtcmbwcity"},
+    {u"w_State", u"dtcmbwstate"},
+    {u"w_country", u"dtcmbwcountry"},
+    {u"w_pin", u"dtcmbwpin"},
+    {u"W_std", u"txtwstd"},
+    {u"w_Ph1", u"txtwph1"},
+    {u"w_Ph2", u"txtwph2"},
+    {u"w_ph3", u"txtwph3"},
+    {u"Job_Title", u"dtcmbjob", Rule::AsTyped},
+    {u"Company", u"txtcmpny"},
+    {u"Status", u"Dtcmbstatus"},
+    {u"Mid", u"dtcmbmid", Rule::AsTyped},
+    {u"nick", u"dtcmbnick", Rule::AsTyped},
+    {u"Relation", u"dtcmbrelation", Rule::AsTyped},
+    {u"Religion", u"dtcmbreligion", Rule::AsTyped},
+    {u"education", u"CmbEducation", Rule::AsTyped},
+    {u"region", u"dtcmbregion"},
+    {u"Hobbies", u"txthobby"},
+    {u"Asso1", u"dtcmbasso1"},
+    {u"asso2", u"dtcmbasso2"},
+    {u"DateModi", u"", Rule::TodayInWords},
+    {u"Maiden", u"dtcmbmaiden"},
+    {u"altcontact", u"txtaltcontact"},
+    {u"AltTitle", u"dtcmbalttitle"},
+    {u"Memo", u"txtMemo"},
+    {u"W_AddType", u"dtcmbbadtyp"},
+    {u"W_Tel_XTN", u"txtwxtn"},
+    {u"PhotLoc", u"Photo"},
+};
+
 QVariant dateValue(const std::optional<QDate>& date, bool inWords)
 {
     if (!date)
@@ -211,11 +365,25 @@ std::span<const ColumnRow> detailedEditColumns()
     return kDetailedEdit;
 }
 
+std::span<const ColumnRow> briefAddColumns()
+{
+    return kBriefAdd;
+}
+std::span<const ColumnRow> briefEditColumns()
+{
+    return kBriefEdit;
+}
+
 QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptions& options)
 {
     const auto category = [&] {
         return core::storedCategory(
             values.text(u"DtcmbCate"), values.text(u"DtcmbSubCate"), options.mergedCategory);
+    };
+    const auto typedCategory = [&](int part) {
+        if (options.mergedCategory)
+            return core::PickByDash(values.text(u"DtcmbCate"), part).trimmed();
+        return values.trimmed(part == 1 ? u"DtcmbCate" : u"DtcmbSubCate");
     };
     switch (row.rule) {
     case Rule::Trimmed: return values.trimmed(row.control);
@@ -228,6 +396,8 @@ QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptio
     case Rule::Name: return options.name;
     case Rule::Category1: return category().category;
     case Rule::Category2: return category().subcategory;
+    case Rule::Category1AsTyped: return typedCategory(1);
+    case Rule::Category2AsTyped: return typedCategory(2);
     // Kept: the sign stands there also when nothing was entered round it.
     case Rule::Email: return QString(values.text(row.control) + u'@' + values.text(u"cboemail1"));
     case Rule::Date: return dateValue(values.date(row.control), false);

@@ -18,6 +18,8 @@ enum class Rule {
     Name, ///< composed by the name view
     Category1,
     Category2,
+    Category1AsTyped, ///< the same, but blank stays blank
+    Category2AsTyped,
     Email, ///< the control, "@", and the suffix control
     Date, ///< null without a valid date
     DateInWords, ///< the same, written as dd/MMM/yyyy
@@ -41,6 +43,9 @@ struct SaveOptions {
 /// The columns of the detailed form, in the order required: for a new contact, and for one that is changed.
 std::span<const ColumnRow> detailedAddColumns();
 std::span<const ColumnRow> detailedEditColumns();
+/// Those of the brief form.
+std::span<const ColumnRow> briefAddColumns();
+std::span<const ColumnRow> briefEditColumns();
 
 /// What is written to the column.
 QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptions& options);

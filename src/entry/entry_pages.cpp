@@ -47,6 +47,113 @@ void userField(FormKit& kit, int number)
         .combo(u"cmbuser%1"_s.arg(number), {}, u"User%1"_s.arg(number));
 }
 
+void workTwoAddress(FormKit& kit)
+{
+    kit.line(u"txtwadd1"_s, tr("Add&ress"), u"w_add1"_s)
+        .line(u"txtwadd2"_s, {}, u"w_add2"_s)
+        .hint(tr("Press (.) for Autotext"))
+        .combo(u"dtcmbwcity"_s, tr("Cit&y"), u"w_city"_s)
+        .beside()
+        .line(u"dtcmbwpin"_s, tr("pin"), u"w_pin"_s)
+        .combo(u"dtcmbwstate"_s, tr("Stat&e"), u"w_State"_s)
+        .combo(u"dtcmbwcountry"_s, tr("Cou&ntry"), u"w_country"_s)
+        .combo(u"dtcmbbadtyp"_s, tr("Address t&ype"), u"W_AddType"_s);
+}
+
+void workTwoPhones(FormKit& kit)
+{
+    kit.line(u"txtwstd"_s, tr("Area c&ode"), u"W_std"_s, KeyFilter::NoLetters)
+        .beside(2)
+        .line(u"txtwph1"_s, tr("phone"), u"w_Ph1"_s)
+        .beside()
+        .line(u"txtwxtn"_s, tr("ext."), u"W_Tel_XTN"_s)
+        .line(u"txtwph2"_s, tr("Phone 2"), u"w_Ph2"_s)
+        .beside()
+        .line(u"txtwph3"_s, tr("3"), u"w_ph3"_s)
+        .line(u"txtfax"_s, tr("&Fax"), u"fax"_s);
+}
+
+void workDetails(FormKit& kit)
+{
+    kit.group(tr("Work"))
+        .combo(u"dtcmbjob"_s, tr("&Job title"), u"Job_Title"_s)
+        .combo(u"Dtcmbbproduct"_s, tr("&Product"), u"Product"_s)
+        .line(u"txtaltcontact"_s, tr("A&lternate contact"), u"altcontact"_s)
+        .combo(u"dtcmbalttitle"_s, tr("and title"), u"AltTitle"_s)
+        .group(tr("E-mail and web"))
+        .line(u"txtbemail1"_s, tr("E-&mail"), u"b_email1"_s)
+        .line(u"txtbemail2"_s, tr("E-mail 2"), u"b_email2"_s)
+        .line(u"txtbweb"_s, tr("&Web"), u"B_Web"_s);
+}
+
+/// The user's own fields, with the line in which a label is renamed.
+void userFields(FormKit& kit)
+{
+    auto* rename = new QLineEdit;
+    rename->setPlaceholderText(tr("New label, then Enter"));
+    kit.group(tr("Your own fields"));
+    for (int number = 1; number <= 3; ++number)
+        userField(kit, number);
+    kit.widget(u"txtlbl"_s, {}, rename);
+    rename->hide();
+}
+
+QWidget* personal(const SizeOf& sizeOf, bool withUserFields)
+{
+    auto* page = new QWidget;
+    auto* words = new widgets::HeadingGrid;
+    words->setHeadings(u"Common words                ", {u"word"_s});
+    words->setMinimumHeight(90);
+    FormKit kit(page, sizeOf);
+    kit.group(tr("Person"))
+        .date(u"DateBday"_s, tr("Birt&hday"), u"M_BD"_s)
+        .beside()
+        .date(u"DateAnn"_s, tr("anniversary"), u"Anniv"_s)
+        .combo(u"dtcmbmid"_s, tr("Mi&ddle name"), u"Mid"_s)
+        .beside()
+        .combo(u"dtcmbnick"_s, tr("nick"), u"nick"_s)
+        .line(u"dtcmbmaiden"_s, tr("Maiden name"), u"Maiden"_s)
+        .beside()
+        .combo(u"dtcmbcity1"_s, tr("home city"), u"h_city"_s)
+        .group(tr("Family"))
+        .combo(u"dtcspouse"_s, tr("S&pouse"), u"Spouse"_s)
+        .beside()
+        .date(u"DateSpouse"_s, tr("born"), u"Sp_BD"_s)
+        .line(u"txtspmobile"_s, tr("Spouse's mobile"), u"SP_Mobile"_s)
+        .line(u"dtckid1"_s, tr("&Kid 1"), u"kid1"_s)
+        .beside()
+        .date(u"Datekid1"_s, tr("born"), u"Kid1_BD"_s)
+        .line(u"dtckid2"_s, tr("Kid 2"), u"kid2"_s)
+        .beside()
+        .date(u"datekid2"_s, tr("born"), u"Kid2_BD"_s)
+        .line(u"dtckid3"_s, tr("Kid 3"), u"kid3"_s)
+        .beside()
+        .date(u"datekid3"_s, tr("born"), u"Kid3_BD"_s)
+        .group(tr("Associates"))
+        .combo(u"dtcmbasso1"_s, tr("Associate &1"), u"Asso1"_s)
+        .combo(u"dtcmbasso2"_s, tr("Associate &2"), u"asso2"_s)
+        .stretch()
+        .nextColumn()
+        .group(tr("About"))
+        .combo(u"dtcmbrelation"_s, tr("&Relation"), u"Relation"_s)
+        .beside()
+        .combo(u"Dtcmbstatus"_s, tr("status"), u"Status"_s)
+        .combo(u"dtcmbreligion"_s, tr("Rel&igion"), u"Religion"_s)
+        .beside()
+        .combo(u"dtcmbregion"_s, tr("region"), u"region"_s)
+        .combo(u"CmbEducation"_s, tr("Educatio&n"), u"education"_s)
+        .combo(u"txthobby"_s, tr("Hobb&ies"), u"Hobbies"_s);
+    if (withUserFields)
+        userFields(kit);
+    kit.group(tr("Note"))
+        .memo(u"txtMemo"_s, tr("N&ote"), u"memo1"_s, 5)
+        .hint(tr("Words that you use often appear below while you type; a click completes the word"))
+        .wide(u"FG1"_s, tr("Common words"), words)
+        .stretch();
+    words->hide();
+    return scrolling(page);
+}
+
 } // namespace
 
 QWidget* contactPage(const SizeOf& sizeOf)
@@ -129,19 +236,9 @@ QWidget* workOnePage(const SizeOf& sizeOf)
         .beside()
         .line(u"txtbph3"_s, tr("3"), u"B_ph3"_s)
         .stretch()
-        .nextColumn()
-        .group(tr("Work"))
-        .combo(u"dtcmbjob"_s, tr("&Job title"), u"Job_Title"_s)
-        .combo(u"Dtcmbbproduct"_s, tr("&Product"), u"Product"_s)
-        .line(u"txtaltcontact"_s, tr("A&lternate contact"), u"altcontact"_s)
-        .combo(u"dtcmbalttitle"_s, tr("and title"), u"AltTitle"_s)
-        .group(tr("E-mail and web"))
-        .line(u"txtbemail1"_s, tr("E-&mail"), u"b_email1"_s)
-        .line(u"txtbemail2"_s, tr("E-mail 2"), u"b_email2"_s)
-        .line(u"txtbweb"_s, tr("&Web"), u"B_Web"_s)
-        .group(tr("Note"))
-        .memo(u"txtbnote"_s, tr("&Business note"), u"b_note"_s, 4)
-        .stretch();
+        .nextColumn();
+    workDetails(kit);
+    kit.group(tr("Note")).memo(u"txtbnote"_s, tr("&Business note"), u"b_note"_s, 4).stretch();
     return scrolling(page);
 }
 
@@ -149,94 +246,39 @@ QWidget* workTwoPage(const SizeOf& sizeOf)
 {
     auto* page = new QWidget;
     FormKit kit(page, sizeOf);
-    kit.group(tr("Work 2 address"))
-        .line(u"txtwadd1"_s, tr("Add&ress"), u"w_add1"_s)
-        .line(u"txtwadd2"_s, {}, u"w_add2"_s)
-        .hint(tr("Press (.) for Autotext"))
-        .combo(u"dtcmbwcity"_s, tr("Cit&y"), u"w_city"_s)
-        .beside()
-        .line(u"dtcmbwpin"_s, tr("pin"), u"w_pin"_s)
-        .combo(u"dtcmbwstate"_s, tr("Stat&e"), u"w_State"_s)
-        .combo(u"dtcmbwcountry"_s, tr("Cou&ntry"), u"w_country"_s)
-        .combo(u"dtcmbbadtyp"_s, tr("Address t&ype"), u"W_AddType"_s)
-        .stretch()
-        .nextColumn()
-        .group(tr("Telephone"))
-        .line(u"txtwstd"_s, tr("Area c&ode"), u"W_std"_s, KeyFilter::NoLetters)
-        .beside(2)
-        .line(u"txtwph1"_s, tr("phone"), u"w_Ph1"_s)
-        .beside()
-        .line(u"txtwxtn"_s, tr("ext."), u"W_Tel_XTN"_s)
-        .line(u"txtwph2"_s, tr("Phone 2"), u"w_Ph2"_s)
-        .beside()
-        .line(u"txtwph3"_s, tr("3"), u"w_ph3"_s)
-        .line(u"txtfax"_s, tr("&Fax"), u"fax"_s)
-        .stretch();
+    kit.group(tr("Work 2 address"));
+    workTwoAddress(kit);
+    kit.stretch().nextColumn().group(tr("Telephone"));
+    workTwoPhones(kit);
+    kit.stretch();
+    return scrolling(page);
+}
+
+QWidget* briefWorkPage(const SizeOf& sizeOf)
+{
+    auto* page = new QWidget;
+    FormKit kit(page, sizeOf);
+    kit.group(tr("Work address"));
+    workTwoAddress(kit);
+    kit.group(tr("Telephone"));
+    workTwoPhones(kit);
+    kit.stretch().nextColumn();
+    workDetails(kit);
+    kit.stretch();
     return scrolling(page);
 }
 
 QWidget* personalPage(const SizeOf& sizeOf)
 {
-    auto* page = new QWidget;
-    auto* words = new widgets::HeadingGrid;
-    words->setHeadings(u"Common words                ", {u"word"_s});
-    words->setMinimumHeight(90);
-    auto* rename = new QLineEdit;
-    rename->setPlaceholderText(tr("New label, then Enter"));
-    FormKit kit(page, sizeOf);
-    kit.group(tr("Person"))
-        .date(u"DateBday"_s, tr("Birt&hday"), u"M_BD"_s)
-        .beside()
-        .date(u"DateAnn"_s, tr("anniversary"), u"Anniv"_s)
-        .combo(u"dtcmbmid"_s, tr("Mi&ddle name"), u"Mid"_s)
-        .beside()
-        .combo(u"dtcmbnick"_s, tr("nick"), u"nick"_s)
-        .line(u"dtcmbmaiden"_s, tr("Maiden name"), u"Maiden"_s)
-        .beside()
-        .combo(u"dtcmbcity1"_s, tr("home city"), u"h_city"_s)
-        .group(tr("Family"))
-        .combo(u"dtcspouse"_s, tr("S&pouse"), u"Spouse"_s)
-        .beside()
-        .date(u"DateSpouse"_s, tr("born"), u"Sp_BD"_s)
-        .line(u"txtspmobile"_s, tr("Spouse's mobile"), u"SP_Mobile"_s)
-        .line(u"dtckid1"_s, tr("&Kid 1"), u"kid1"_s)
-        .beside()
-        .date(u"Datekid1"_s, tr("born"), u"Kid1_BD"_s)
-        .line(u"dtckid2"_s, tr("Kid 2"), u"kid2"_s)
-        .beside()
-        .date(u"datekid2"_s, tr("born"), u"Kid2_BD"_s)
-        .line(u"dtckid3"_s, tr("Kid 3"), u"kid3"_s)
-        .beside()
-        .date(u"datekid3"_s, tr("born"), u"Kid3_BD"_s)
-        .group(tr("Associates"))
-        .combo(u"dtcmbasso1"_s, tr("Associate &1"), u"Asso1"_s)
-        .combo(u"dtcmbasso2"_s, tr("Associate &2"), u"asso2"_s)
-        .stretch()
-        .nextColumn()
-        .group(tr("About"))
-        .combo(u"dtcmbrelation"_s, tr("&Relation"), u"Relation"_s)
-        .beside()
-        .combo(u"Dtcmbstatus"_s, tr("status"), u"Status"_s)
-        .combo(u"dtcmbreligion"_s, tr("Rel&igion"), u"Religion"_s)
-        .beside()
-        .combo(u"dtcmbregion"_s, tr("region"), u"region"_s)
-        .combo(u"CmbEducation"_s, tr("Educatio&n"), u"education"_s)
-        .combo(u"txthobby"_s, tr("Hobb&ies"), u"Hobbies"_s);
-    kit.group(tr("Your own fields"));
-    for (int number = 1; number <= 3; ++number)
-        userField(kit, number);
-    kit.widget(u"txtlbl"_s, {}, rename);
-    kit.group(tr("Note"))
-        .memo(u"txtMemo"_s, tr("N&ote"), u"memo1"_s, 5)
-        .hint(tr("Words that you use often appear below while you type; a click completes the word"))
-        .wide(u"FG1"_s, tr("Common words"), words)
-        .stretch();
-    rename->hide();
-    words->hide();
-    return scrolling(page);
+    return personal(sizeOf, true);
 }
 
-QWidget* picturePage()
+QWidget* briefPersonalPage(const SizeOf& sizeOf)
+{
+    return personal(sizeOf, false);
+}
+
+QWidget* picturePage(const SizeOf&)
 {
     auto* page = new QWidget;
     auto* picture = new widgets::PictureBox;
@@ -306,7 +348,7 @@ QWidget* entryButtons()
             tr("Known cities, names and companies to pick from, and a key pad"))
         .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
         .stretch()
-        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save the contact as a card"))
+        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save to the book, the mail client or a card file"))
         .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
         .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
     buttons->layout()->setContentsMargins(0, 0, 0, 0);

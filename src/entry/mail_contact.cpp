@@ -1,6 +1,7 @@
 #include "entry/mail_contact.h"
 
 #include "core/contact_names.h"
+#include "core/mail_key.h"
 
 #include <array>
 
@@ -23,15 +24,10 @@ platform::MailAddress address(const FormValues& values, const std::array<QString
 
 } // namespace
 
-QString mailKeyOf(qint64 id)
-{
-    return QString::number(id) + u"OV"_s;
-}
-
 platform::MailContact mailContactOf(const FormValues& values, const QString& name, qint64 id)
 {
     platform::MailContact item;
-    item.key = mailKeyOf(id);
+    item.key = core::mailKeyOf(id);
     item.title = values.trimmed(u"Cmbtitle");
     item.first = values.trimmed(u"dtcmbfname");
     item.middle = values.trimmed(u"dtcmbmid");

@@ -5,9 +5,6 @@
 
 namespace entry {
 
-/// The key of a contact's item in the mail client.
-QString mailKeyOf(qint64 id);
-
 /// The item of the mail client for what stands in an entry form.
 platform::MailContact mailContactOf(const FormValues& values, const QString& name, qint64 id);
 

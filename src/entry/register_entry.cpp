@@ -2,6 +2,7 @@
 
 #include "core/screens.h"
 #include "entry/FormMain.h"
+#include "entry/FrmAddSave.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,8 +10,11 @@ namespace entry {
 
 void registerEntry(core::Screens& screens)
 {
-    screens.add(u"FormMain"_s,
-        [](core::Context& context) -> core::Screen* { return new FormMain(context, detailedForm()); });
+    for (const auto variant : {detailedForm, briefForm, businessForm}) {
+        screens.add(variant().form.toString(),
+            [variant](core::Context& context) -> core::Screen* { return new FormMain(context, variant()); });
+    }
+    screens.add<FrmAddSave>(u"FrmAddSave"_s);
 }
 
 } // namespace entry

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include <QStringDecoder>
-
 #include "formats/vcard_lines.h"
 #include "platform/cp1252.h"
 
@@ -297,12 +295,8 @@ ContactCard::ContactCard(const QString& uid)
 
 std::optional<ContactCard> ContactCard::parse(const QByteArray& bytes)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    QString text = utf8.decode(bytes);
     // Were it kept as damaged UTF-8, a rewrite would lose the characters of lines that aren't ours.
-    if (utf8.hasError())
-        text = fromCp1252(bytes);
-    QStringList lines = formats::unfoldVCard(text);
+    QStringList lines = formats::unfoldVCard(fromUtf8OrCp1252(bytes));
     if (lines.size() < 3 || !isLine(lines.first(), "BEGIN:VCARD"_L1) || !isLine(lines.last(), "END:VCARD"_L1))
         return std::nullopt;
     lines.removeFirst();

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QDate>
-#include <QString>
+#include <QStringList>
 
 namespace platform {
 
@@ -87,6 +88,11 @@ public:
     virtual bool remove(const QString& key) = 0;
     virtual bool contains(const QString& key) = 0;
     virtual std::vector<MailContact> list() = 0;
+
+    /// For a list that shows a few at a time: the items in the order of list(), and one of them, nothing when
+    /// it is gone or can't be read.
+    virtual QStringList items() = 0;
+    virtual std::optional<MailContact> item(const QString& item) = 0;
 };
 
 } // namespace platform

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QStringDecoder>
+
 namespace platform {
 
 QString fromCp1252(QByteArrayView bytes)
@@ -13,6 +15,13 @@ QString fromCp1252(QByteArrayView bytes)
         return QChar(special != 0 ? special : char16_t(code));
     });
     return text;
+}
+
+QString fromUtf8OrCp1252(const QByteArray& bytes)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8.decode(bytes);
+    return utf8.hasError() ? fromCp1252(bytes) : text;
 }
 
 QByteArray toCp1252(QStringView text)

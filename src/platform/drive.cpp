@@ -1,5 +1,7 @@
 #include "platform/drive.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -40,6 +42,17 @@ bool Drive::ensureFolder(QStringView path) const
 {
     const QString folder = local(path);
     return !folder.isEmpty() && QDir().mkpath(folder);
+}
+
+bool Drive::isLegalName(QStringView name)
+{
+    // Dots and blanks at the end are dropped by such a drive, so "..." and ".. " would be other spellings of
+    // "..".
+    if (name.isEmpty() || name.endsWith(u'.') || name.endsWith(u' ') || !name.isValidUtf16())
+        return false;
+    return std::none_of(name.begin(), name.end(), [](QChar c) {
+        return c.category() == QChar::Other_Control || QStringView(u"\\/:*?\"<>|").contains(c);
+    });
 }
 
 QString Drive::safeFileName(QStringView name)

@@ -26,6 +26,8 @@ public:
     /// Makes the folder and those above it. True when it is there afterwards.
     bool ensureFolder(QStringView path) const;
 
+    /// Whether such a drive would take the text as the name of one file or folder.
+    static bool isLegalName(QStringView name);
     /// Turns any text, such as a contact's name, into a legal file name of at most 120 characters; never
     /// empty.
     static QString safeFileName(QStringView name);

@@ -12,17 +12,6 @@ namespace platform {
 
 namespace {
 
-bool isLegalComponent(QStringView name)
-{
-    // Dots and blanks at the end are dropped by such a drive, so "..." and ".. " would be other spellings of
-    // "..".
-    if (name.endsWith(u'.') || name.endsWith(u' ') || !name.isValidUtf16())
-        return false;
-    return std::none_of(name.begin(), name.end(), [](QChar c) {
-        return c.category() == QChar::Other_Control || QStringView(u"\\/:*?\"<>|").contains(c);
-    });
-}
-
 /// The spelling under which a name stands in the folder; the name itself when there is none.
 QString spellingIn(const QString& folder, const QString& name)
 {
@@ -45,7 +34,7 @@ QString resolve(const QString& base, QStringView rest)
     QString found = base;
     bool there = true;
     for (const QStringView component : rest.split(u'\\', Qt::SkipEmptyParts)) {
-        if (!isLegalComponent(component))
+        if (!Drive::isLegalName(component))
             return {};
         QString name = component.toString();
         if (there) {
@@ -102,7 +91,7 @@ QString FolderDrive::named(const QString& localPath) const
     const QString path = QDir::cleanPath(localPath);
     const auto spelled = [&path](const QString& base, const QString& start) {
         const QStringList components = path.mid(base.size()).split(u'/', Qt::SkipEmptyParts);
-        if (!std::all_of(components.begin(), components.end(), isLegalComponent))
+        if (!std::all_of(components.begin(), components.end(), Drive::isLegalName))
             return QString();
         return components.isEmpty() ? start + u'\\' : start + u'\\' + components.join(u'\\');
     };

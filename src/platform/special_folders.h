@@ -4,6 +4,9 @@
 
 namespace platform {
 
+inline constexpr int csidlDesktop = 0x10;
+inline constexpr int csidlApplicationData = 0x1a;
+
 /// The user's own folders by their well-known numbers: 5 documents, 6 favourites, 0x10 desktop and so on.
 class SpecialFolders {
 public:

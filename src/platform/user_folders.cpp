@@ -27,6 +27,7 @@ constexpr std::array folders{
     Folder{0x0d, QStandardPaths::MusicLocation, u"", u"Music"},
     Folder{0x0e, QStandardPaths::MoviesLocation, u"", u"Videos"},
     Folder{0x10, QStandardPaths::DesktopLocation, u"", u"Desktop"},
+    Folder{0x1a, QStandardPaths::GenericDataLocation, u"", u"Application Data"},
     Folder{0x27, QStandardPaths::PicturesLocation, u"", u"Pictures"},
     Folder{0x28, QStandardPaths::HomeLocation, u"", u""},
 };

@@ -92,12 +92,25 @@ std::vector<MailContact> VdirContacts::list()
 {
     std::vector<MailContact> contacts;
     for (const QString& file : cardFiles()) {
-        if (const std::optional<ContactCard> card = read(file)) {
-            contacts.push_back(card->contact());
-            contacts.back().item = file;
-        }
+        if (std::optional<MailContact> contact = item(file))
+            contacts.push_back(std::move(*contact));
     }
     return contacts;
+}
+
+QStringList VdirContacts::items()
+{
+    return cardFiles();
+}
+
+std::optional<MailContact> VdirContacts::item(const QString& item)
+{
+    const std::optional<ContactCard> card = item.contains(u'/') ? std::nullopt : read(item);
+    if (!card)
+        return std::nullopt;
+    MailContact contact = card->contact();
+    contact.item = item;
+    return contact;
 }
 
 QStringList VdirContacts::cardFiles() const

@@ -24,6 +24,8 @@ public:
     bool remove(const QString& key) override;
     bool contains(const QString& key) override;
     std::vector<MailContact> list() override;
+    QStringList items() override;
+    std::optional<MailContact> item(const QString& item) override;
 
 private:
     QStringList cardFiles() const;

@@ -3,6 +3,7 @@
 #include "core/frame.h"
 #include "core/screens.h"
 #include "views/hit_actions.h"
+#include "views/place_tree.h"
 #include "views/search_clauses.h"
 #include "views/search_filter.h"
 #include "widgets/fields.h"
@@ -250,6 +251,14 @@ void FormSearch::load()
     query(contactsByCategorySql());
 }
 
+void FormSearch::bookChanged()
+{
+    m_filter->refill();
+    query(builtSql);
+    if (m_keywordRead)
+        queryKeyword(m_keywordSql);
+}
+
 void FormSearch::showEvent(QShowEvent* event)
 {
     Screen::showEvent(event);
@@ -257,12 +266,8 @@ void FormSearch::showEvent(QShowEvent* event)
         return;
     context().frame.setTitle(u"Search"_s);
     // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true)) {
-        m_filter->refill();
-        query(builtSql);
-        if (m_keywordRead)
-            queryKeyword(m_keywordSql);
-    }
+    if (std::exchange(m_wasShown, true))
+        bookChanged();
 }
 
 void FormSearch::find()
@@ -287,12 +292,12 @@ void FormSearch::phoneSearch()
 
 void FormSearch::categoryTree()
 {
-    showTree(tr("Category Tree Search"));
+    showTree(treeSearchTitle(TreeKind::Category));
 }
 
 void FormSearch::locationTree()
 {
-    showTree(tr("Location Tree Search"));
+    showTree(treeSearchTitle(TreeKind::Location));
 }
 
 void FormSearch::showTree(const QString& title)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/handover/book_listener.h"
 #include "core/screen.h"
 
 class QAction;
@@ -22,13 +23,14 @@ class SearchFilter;
 
 /// Finds contacts: a list narrowed by what is chosen in combos, and another of those that have a word in any
 /// of many fields. A hit leads to the contact.
-class FormSearch : public core::Screen {
+class FormSearch : public core::Screen, public core::BookListener {
     Q_OBJECT
 
 public:
     explicit FormSearch(core::Context& context, QWidget* parent = nullptr);
 
     void load() override;
+    void bookChanged() override;
 
     QString builtSql; ///< the statement behind the list of contacts
 

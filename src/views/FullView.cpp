@@ -7,7 +7,9 @@
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/shell.h"
+#include "views/address_source.h"
 #include "views/category_tree.h"
+#include "views/command_button.h"
 #include "views/contact_tools.h"
 #include "views/full_view_edit.h"
 #include "views/full_view_header.h"
@@ -45,23 +47,6 @@ constexpr FullViewKind kFullView{QT_TRANSLATE_NOOP("views", "Full view"), u"Cont
 constexpr int kEditPage = 1;
 constexpr int kSavedNoteMs = 4000;
 
-QToolButton* command(const QString& name, QStringView icon, const QString& toolTip, const QString& text = {},
-    const QKeySequence& key = {})
-{
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    widgets::setIcon(button, icon);
-    button->setText(text);
-    button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
-    button->setAutoRaise(true);
-    button->setShortcut(key);
-    button->setToolTip(
-        key.isEmpty() ? toolTip : u"%1 (%2)"_s.arg(toolTip, key.toString(QKeySequence::NativeText)));
-    button->setAccessibleName(toolTip);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
-
 } // namespace
 
 FullView::FullView(core::Context& context, QWidget* parent)
@@ -84,18 +69,21 @@ FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* pa
     , m_header(new FullViewHeader)
     , m_edit(new FullViewEdit(context))
     , lblCounter(new QLabel)
-    , ssprevious(command(u"ssprevious"_s, u"previous", tr("Previous contact"), {}, Qt::CTRL | Qt::Key_Up))
-    , ssnext(command(u"ssnext"_s, u"next", tr("Next contact"), {}, Qt::CTRL | Qt::Key_Down))
-    , CmdList(command(u"CmdList"_s, u"list", tr("Show the list of all contacts"), tr("List")))
-    , CmdTree(command(u"CmdTree"_s, u"tree", tr("Show the contacts by category"), tr("Tree")))
-    , CmdView(command(u"CmdView"_s, u"filter", tr("Filter the list")))
-    , CmdRefresh(command(u"CmdRefresh"_s, u"restore", tr("Show all contacts again"), {}, Qt::Key_F5))
+    , ssprevious(
+          commandButton(u"ssprevious"_s, u"previous", tr("Previous contact"), {}, Qt::CTRL | Qt::Key_Up))
+    , ssnext(commandButton(u"ssnext"_s, u"next", tr("Next contact"), {}, Qt::CTRL | Qt::Key_Down))
+    , CmdList(commandButton(u"CmdList"_s, u"list", tr("Show the list of all contacts"), tr("List")))
+    , CmdTree(commandButton(u"CmdTree"_s, u"tree", tr("Show the contacts by category"), tr("Tree")))
+    , CmdView(commandButton(u"CmdView"_s, u"filter", tr("Filter the list")))
+    , CmdRefresh(commandButton(u"CmdRefresh"_s, u"restore", tr("Show all contacts again"), {}, Qt::Key_F5))
 {
     setWindowTitle(QCoreApplication::translate("views", kind.title));
     layOut();
     makeMenus();
     connectControls();
 }
+
+FullView::~FullView() = default;
 
 void FullView::layOut()
 {
@@ -159,9 +147,9 @@ QWidget* FullView::layOutRecord()
 {
     TabsEdit = new QTabWidget;
     TabsEdit->setObjectName(u"TabsEdit"_s);
-    auto* pages = new FullViewPages;
-    pages->setDocumentMode(true);
-    TabsEdit->addTab(pages, widgets::icon(u"card"), tr("View"));
+    m_pages = new FullViewPages(m_kind.browsesOthers);
+    m_pages->setDocumentMode(true);
+    TabsEdit->addTab(m_pages, widgets::icon(u"card"), tr("View"));
     TabsEdit->addTab(m_edit, widgets::icon(u"edit"), tr("Edit"));
     auto* record = new QWidget;
     auto* recordLayout = new QVBoxLayout(record);
@@ -181,6 +169,11 @@ QWidget* FullView::layOutRecord()
     layout->setContentsMargins(4, 4, 8, 8);
     layout->addWidget(m_record, 1);
     return side;
+}
+
+void FullView::addCommandRow(QWidget* row)
+{
+    static_cast<QVBoxLayout*>(m_browser->layout())->insertWidget(1, row);
 }
 
 void FullView::makeMenus()
@@ -254,6 +247,8 @@ bool FullView::showContact(qint64 id)
         = context().data.openRecordset(u"select * from [cnt_main] where id=%1"_s.arg(id));
     if (id == 0 || !contact.hasRow())
         return false;
+    if (m_source)
+        browse(nullptr);
     if (DBList1->rowOf(id) < 0)
         openList(contactListSql());
     // Kept: the list is searched for the name, so of two people with one name it stops at the first.
@@ -269,7 +264,18 @@ bool FullView::showContact(qint64 id)
 
 void FullView::applyFilter(const QString& whereClause)
 {
+    if (m_source)
+        browse(nullptr);
     openFound(contactListSql(whereClause));
+}
+
+void FullView::bookChanged()
+{
+    // What is being edited stays until it is saved or left.
+    if (TabsEdit->currentIndex() == kEditPage)
+        return;
+    reopenList();
+    tvwdb->rebuild();
 }
 
 void FullView::showEvent(QShowEvent* event)
@@ -306,6 +312,15 @@ void FullView::openFound(const QString& sql)
 
 void FullView::reopenList()
 {
+    if (m_source) {
+        const int row = DBList1->currentRow();
+        m_source->reload();
+        listSource();
+        DBList1->setCurrentRow(std::min(row, DBList1->rowCount() - 1));
+        if (DBList1->currentRow() < 0)
+            displayNothing();
+        return;
+    }
     openList(Data4);
     if (m_id != 0)
         selectInList(m_id);
@@ -325,10 +340,61 @@ void FullView::selectInList(qint64 id)
     }
 }
 
+void FullView::browse(std::unique_ptr<AddressSource> source)
+{
+    // The rows go first, since they ask the old one for their texts.
+    DBList1->clearRows();
+    m_source = std::move(source);
+    const bool own = !m_source;
+    m_tools->action(u"Edit")->setChecked(false);
+    m_listEditing->setEditable(false);
+    for (const QStringView id : {u"Edit", u"Search"})
+        m_tools->action(id)->setEnabled(own);
+    frmkeyword->hide();
+    m_lists->setCurrentWidget(DBList1);
+    CmdList->setEnabled(false);
+    CmdTree->setEnabled(own);
+    TabsEdit->setTabEnabled(kEditPage, own);
+    m_pages->showBook(own);
+    displayNothing();
+    if (own) {
+        DBList1->showAs(u"Name"_s, {});
+        openList(contactListSql());
+    } else {
+        DBList1->showAs(u"Name"_s,
+            [this](const QVariant& row) { return m_source ? m_source->label(row.toInt()) : QString(); });
+        listSource();
+    }
+    Q_EMIT bookChosen(own);
+}
+
+// A row holds its number; its text is asked for when it comes in sight.
+void FullView::listSource()
+{
+    QList<QStringList> rows;
+    rows.reserve(m_source->count());
+    for (int row = 0; row < m_source->count(); ++row)
+        rows << QStringList{QString::number(row)};
+    DBList1->setRows(rows, {u"Name"_s});
+    DBList1->setCurrentRow(-1);
+    showCounter();
+}
+
+void FullView::showItem(int row)
+{
+    displayNothing();
+    showTexts(m_source->texts(row));
+    m_header->showPlainName(shownName().isEmpty() ? m_source->label(row) : QString());
+    m_record->setCurrentIndex(1);
+    showCounter();
+}
+
 void FullView::rowChanged(int row)
 {
     if (row < 0)
         return;
+    if (m_source)
+        return showItem(row);
     shared().selectedContactId = DBList1->keyAt(row);
     shared().selectedContactName = DBList1->textAt(row, u"Name"_s);
     display(shared().selectedContactId);
@@ -372,6 +438,7 @@ void FullView::displayNothing()
     for (QWidget* control : std::as_const(m_controls))
         widgets::setTextOf(control, {});
     m_header->showPicture({});
+    m_header->showPlainName({});
     TabsEdit->setCurrentIndex(0);
     m_record->setCurrentIndex(0);
 }
@@ -413,6 +480,8 @@ void FullView::chooseInTree(qint64 id)
 
 void FullView::refresh()
 {
+    if (m_source)
+        return reopenList();
     openList(contactListSql());
     tvwdb->rebuild();
     if (m_id == 0)

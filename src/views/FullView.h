@@ -1,10 +1,13 @@
 #pragma once
 
+#include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
 #include "core/handover/filter_target.h"
 #include "core/screen.h"
 
 #include <QHash>
+
+#include <memory>
 
 class QLabel;
 class QMenu;
@@ -18,10 +21,12 @@ class RecordList;
 
 namespace views {
 
+class AddressSource;
 class CategoryTree;
 class ContactTools;
 class FullViewEdit;
 class FullViewHeader;
+class FullViewPages;
 class KeywordPanel;
 class ListEditing;
 struct ShownText;
@@ -31,23 +36,37 @@ struct FullViewKind {
     const char* title; ///< of the tab, for translation
     QStringView frameTitle;
     QStringView callerForm; ///< to which a filter is delivered
+    bool browsesOthers = false; ///< has room for what only other address books have
 };
 
 /// One contact with everything the book holds of it, beside the list of all contacts or the tree of
 /// categories. From here the contact is edited in place or handed to the other screens.
-class FullView : public core::Screen, public core::ContactScreen, public core::FilterTarget {
+class FullView : public core::Screen,
+                 public core::ContactScreen,
+                 public core::FilterTarget,
+                 public core::BookListener {
     Q_OBJECT
 
 public:
     explicit FullView(core::Context& context, QWidget* parent = nullptr);
     FullView(core::Context& context, const FullViewKind& kind, QWidget* parent);
+    ~FullView() override;
 
     void load() override;
     bool showContact(qint64 id) override;
     void applyFilter(const QString& whereClause) override;
+    void bookChanged() override;
+
+Q_SIGNALS:
+    void bookChosen(bool own); ///< another address book is listed, the program's own or one to read only
 
 protected:
     void showEvent(QShowEvent* event) override;
+
+    ContactTools& tools() const { return *m_tools; }
+    void addCommandRow(QWidget* row); ///< below the commands over the list
+    /// Lists another address book, which can only be read; without one the program's own.
+    void browse(std::unique_ptr<AddressSource> source);
 
 private:
     void layOut();
@@ -62,6 +81,8 @@ private:
     void selectInList(qint64 id);
     void rowChanged(int row);
     void moveBy(int step);
+    void listSource();
+    void showItem(int row);
     void showCounter();
     void display(qint64 id);
     void displayNothing();
@@ -85,6 +106,7 @@ private:
     QString m_picture; ///< its picture, as the program writes paths
     bool m_wasShown = false;
     QHash<QString, QWidget*> m_controls; ///< those that show a text of the contact
+    std::unique_ptr<AddressSource> m_source; ///< what is listed, if not the own book
 
     ContactTools* m_tools;
     QMenu* m_menu = nullptr;
@@ -98,6 +120,7 @@ private:
     QStackedWidget* m_record = nullptr; ///< a word when nothing is shown, or the tabs
     QTabWidget* TabsEdit = nullptr;
     FullViewHeader* m_header;
+    FullViewPages* m_pages = nullptr;
     FullViewEdit* m_edit;
     QLabel* lblCounter;
     QToolButton* ssprevious;

@@ -3,9 +3,11 @@
 #include "core/handover/contact_screen.h"
 #include "core/handover/mail_composer.h"
 #include "core/handover/page_screen.h"
+#include "core/save_cards.h"
 #include "core/screens.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "platform/special_folders.h"
 #include "views/edit_contact.h"
 #include "views/full_view_sql.h"
 #include "widgets/theme.h"
@@ -76,17 +78,19 @@ const ContactTools::ToolRow ContactTools::kTools[] = {
     {u"PrintSingle", u"printer", QT_TRANSLATE_NOOP("views", "Print this contact"), {}, nullptr},
     {u"PrintLabel", u"note", QT_TRANSLATE_NOOP("views", "Print a label"), u"FrmlblReport",
         &ContactTools::printLabel},
-    {u"SaveasVCF", u"save", QT_TRANSLATE_NOOP("views", "Save as vCard"), {}, nullptr, Place::MenuOnlyFirst},
-    {u"SavetoDesktop", u"export", QT_TRANSLATE_NOOP("views", "Save to the desktop"), {}, nullptr,
-        Place::MenuOnly},
-    {u"SaveToDesktopAll", u"export", QT_TRANSLATE_NOOP("views", "Save all to the desktop"), {}, nullptr,
-        Place::MenuOnly},
+    {u"SaveasVCF", u"save", QT_TRANSLATE_NOOP("views", "Save as vCard"), {}, &ContactTools::saveAsCard,
+        Place::MenuOnlyFirst},
+    {u"SavetoDesktop", u"export", QT_TRANSLATE_NOOP("views", "Save to the desktop"), {},
+        &ContactTools::saveToDesktop, Place::MenuOnly},
+    {u"SaveToDesktopAll", u"export", QT_TRANSLATE_NOOP("views", "Save all to the desktop"), {},
+        &ContactTools::saveAllToDesktop, Place::MenuOnly},
 };
 
 ContactTools::ContactTools(core::Context& context, Host host, QWidget* screen)
     : QObject(screen)
     , m_context(context)
     , m_host(std::move(host))
+    , m_screen(screen)
 {
     for (const ToolRow& tool : kTools) {
         auto* action = new QAction(translated(tool.text), screen);
@@ -270,6 +274,37 @@ void ContactTools::askFilter(QStringView form)
 {
     m_context.shared.CallerForm = m_host.callerForm;
     m_context.screens.show(form, core::Shown::Modally);
+}
+
+void ContactTools::saveAsCard()
+{
+    saveCard(u"C:\\OVUserFiles\\VCF"_s);
+}
+
+void ContactTools::saveToDesktop()
+{
+    saveCard(m_context.services.folders.SpecialFolderPath(platform::csidlDesktop));
+}
+
+void ContactTools::saveCard(const QString& folder)
+{
+    const jet::Recordset contact = contactByName();
+    if (!contact.hasRow())
+        return notSelected();
+    core::saveCards(m_context, contact.textOrEmpty(u"id"), folder, m_screen);
+}
+
+void ContactTools::saveAllToDesktop()
+{
+    const jet::Recordset all = m_context.data.openRecordset(contactListSql());
+    if (all.isEmpty())
+        return notSelected();
+    QStringList ids;
+    ids.reserve(all.count());
+    for (int row = 0; row < all.count(); ++row)
+        ids << QString::number(all.keyAt(row));
+    core::saveCards(m_context, ids.join(u','),
+        m_context.services.folders.SpecialFolderPath(platform::csidlDesktop), m_screen);
 }
 
 void ContactTools::search()

@@ -62,10 +62,15 @@ private:
     void commonFilter();
     void tabFilter();
     void askFilter(QStringView form);
+    void saveAsCard();
+    void saveToDesktop();
+    void saveCard(const QString& folder);
+    void saveAllToDesktop();
     void search();
 
     core::Context& m_context;
     Host m_host;
+    QWidget* m_screen;
     QHash<QString, QAction*> m_actions;
 };
 

@@ -8,16 +8,18 @@
 
 namespace views {
 
-void editContact(core::Context& context, qint64 id)
+bool editContact(core::Context& context, qint64 id)
 {
     context.shared.EditRequested = true;
     auto* form = context.screens.load<core::ContactScreen>(u"FormMain");
-    if (form && !form->showContact(id)) {
+    const bool found = !form || form->showContact(id);
+    if (!found) {
         context.shared.EditRequested = false;
         context.services.boxes.information(
             QCoreApplication::translate("views", "Error"), context.shared.AppTitle);
     }
     context.screens.show(u"FormMain");
+    return found;
 }
 
 } // namespace views

@@ -5,7 +5,7 @@
 namespace views {
 
 /// Hands a contact over to the detailed entry form in its edit mode; says "Error" when it is not there any
-/// more.
-void editContact(core::Context& context, qint64 id);
+/// more, and is false then.
+bool editContact(core::Context& context, qint64 id);
 
 } // namespace views

@@ -163,6 +163,7 @@ struct Caller {
 
 constexpr Caller kCallers[] = {
     {u"frmSelector", Takes::ClauseWithoutWhere},
+    {u"frmSelector1", Takes::Clause},
     {u"FrmListDetails", Takes::ClauseOrNames},
     {u"FormUserEdit", Takes::Clause},
     {u"FrmAddFullRptView", Takes::Clause},

@@ -221,8 +221,8 @@ bool frmDetailView::showContact(qint64 id)
 void frmDetailView::goToAssociate(const QString& caption)
 {
     const jet::Recordset contact = context().data.openRecordset(associateSql(nameInAssociation(caption)));
-    if (contact.hasRow())
-        showContact(contact.number(u"id"));
+    if (contact.hasRow() && showContact(contact.number(u"id")))
+        Q_EMIT associateShown(contact.number(u"id"));
 }
 
 } // namespace views

@@ -15,6 +15,9 @@ public:
     void load() override { }
     bool showContact(qint64 id) override;
 
+Q_SIGNALS:
+    void associateShown(qint64 id); ///< the page went to another contact by itself
+
 private:
     QWidget* layOutHead();
     void layOutContact(QWidget* page);

@@ -54,6 +54,7 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     , CmdTel(command(u"CmdTel"_s, u"phone", tr("Call")))
     , CmdAdd(command(u"CmdAdd"_s, u"letter", tr("Send Letter")))
     , CmdEmail(command(u"CmdEmail"_s, u"envelope", tr("Send e-mail")))
+    , m_plainName(new QLabel)
     , m_facts(new QLabel)
     , m_associates(new QLabel(tr("Associates:")))
 {
@@ -71,6 +72,11 @@ FullViewHeader::FullViewHeader(QWidget* parent)
         "QPushButton:hover, QPushButton:focus { border-color: palette(mid); }"_s);
     SSCommand8->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     SSCommand8->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_plainName->setObjectName(u"lblPlainName"_s);
+    m_plainName->setTextFormat(Qt::PlainText);
+    m_plainName->setStyleSheet(u"font-size: 17pt; font-weight: 600; padding: 2px 0px;"_s);
+    m_plainName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_plainName->hide();
     lblid->setObjectName(u"lblid"_s);
     lblid->setForegroundRole(QPalette::PlaceholderText);
     lblid->setToolTip(tr("Number of the contact"));
@@ -90,6 +96,7 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     texts->setSpacing(2);
     texts->addStretch(1);
     texts->addWidget(SSCommand8);
+    texts->addWidget(m_plainName);
     texts->addWidget(m_facts);
     texts->addLayout(links);
     texts->addStretch(1);
@@ -114,6 +121,13 @@ void FullViewHeader::showPicture(const QString& path)
 {
     ix1->setPath(path);
     ix1->setCursor(ix1->hasPicture() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void FullViewHeader::showPlainName(const QString& name)
+{
+    m_plainName->setText(name);
+    m_plainName->setHidden(name.isEmpty());
+    SSCommand8->setHidden(!name.isEmpty());
 }
 
 void FullViewHeader::tidy(const QStringList& facts)

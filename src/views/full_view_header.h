@@ -22,6 +22,8 @@ public:
 
     /// A local path; empty for none.
     void showPicture(const QString& path);
+    /// The name of somebody who is not in the book, in place of the button; empty brings the button back.
+    void showPlainName(const QString& name);
     /// To be called after the texts were set: company and category, and which associates there are.
     void tidy(const QStringList& facts);
 
@@ -35,6 +37,7 @@ public:
     QToolButton* CmdEmail;
 
 private:
+    QLabel* m_plainName;
     QLabel* m_facts;
     QLabel* m_associates;
 };

@@ -1,21 +1,44 @@
 #include "views/full_view_pages.h"
 
+#include "widgets/fields.h"
 #include "widgets/form_kit.h"
 #include "widgets/theme.h"
+
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 using widgets::FormKit;
 
 namespace views {
 
-FullViewPages::FullViewPages(QWidget* parent)
+FullViewPages::FullViewPages(bool browsesOthers, QWidget* parent)
     : QTabWidget(parent)
 {
     layOutDetails();
     layOutAddresses();
-    layOutTelephones();
+    layOutTelephones(browsesOthers);
     layOutMail();
     layOutFamily();
+    showBook(true);
+}
+
+void FullViewPages::showBook(bool own)
+{
+    for (const NumbersLabel& numbers : std::as_const(m_numbersLabels))
+        numbers.label->setText(own ? numbers.own : tr("Numbers"));
+    for (QWidget* widget : std::as_const(m_ofOthers))
+        widget->setVisible(!own);
+}
+
+QLabel* FullViewPages::labelOf(const QString& control) const
+{
+    const auto* field = widgets::child<QWidget>(this, control);
+    for (QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy() == field)
+            return label;
+    }
+    Q_ASSERT_X(false, "FullViewPages::labelOf", qUtf8Printable(control));
+    return nullptr;
 }
 
 QWidget* FullViewPages::addPage(const QString& name, const QString& title, QStringView icon)
@@ -80,15 +103,15 @@ void FullViewPages::layOutAddresses()
     }
 }
 
-void FullViewPages::layOutTelephones()
+void FullViewPages::layOutTelephones(bool browsesOthers)
 {
     struct Numbers {
-        QString title, control, last;
+        QString title, control, last, other, otherLabel;
     };
     const Numbers addresses[] = {
-        {tr("Home"), u"txthph1"_s, tr("Mobile")},
-        {tr("Work 1"), u"txtwph1"_s, tr("Spouse's mobile")},
-        {tr("Work 2"), u"txtbph1"_s, tr("Fax")},
+        {tr("Home"), u"txthph1"_s, tr("Mobile"), u"txthph2"_s, tr("Number 2")},
+        {tr("Work 1"), u"txtwph1"_s, tr("Spouse's mobile"), u"txtwph2"_s, tr("Number 2")},
+        {tr("Work 2"), u"txtbph1"_s, tr("Fax"), u"txtfax"_s, tr("Fax")},
     };
     FormKit form(addPage(u"FrmVTel"_s, tr("Telephone"), u"phone"));
     for (const Numbers& numbers : addresses) {
@@ -97,6 +120,15 @@ void FullViewPages::layOutTelephones()
             .group(numbers.title)
             .readOnly(
                 numbers.control, tr("Area code\nNumber 1\nNumber 2\nNumber 3\n%1").arg(numbers.last), 5);
+        if (browsesOthers)
+            form.readOnly(numbers.other, numbers.otherLabel);
+    }
+    if (!browsesOthers)
+        return;
+    for (const Numbers& numbers : addresses) {
+        QLabel* label = labelOf(numbers.control);
+        m_numbersLabels << NumbersLabel{label, label->text()};
+        m_ofOthers << labelOf(numbers.other) << widgets::child<QWidget>(this, numbers.other);
     }
 }
 

@@ -30,7 +30,7 @@ enum class Compose {
 struct TextRow {
     QStringView control;
     Compose how;
-    std::array<QStringView, 5> columns;
+    std::array<QStringView, 6> columns;
 };
 
 constexpr TextRow kFullView[] = {
@@ -174,6 +174,30 @@ constexpr TextRow kDetailView[] = {
     {u"cmdass2", Compose::Association, {u"asso2"}},
 };
 
+constexpr TextRow kResultDetail[] = {
+    {u"lblname", Compose::Plain, {u"Name"}},
+    {u"lbladd1", Compose::Lines, {u"h_add1", u"h_add2", u"h_city", u"h_state", u"h_pin", u"h_country"}},
+    {u"lblbadd1", Compose::Lines, {u"w_add1", u"w_add2", u"w_city", u"w_State", u"w_pin", u"w_country"}},
+    {u"lblaspouse", Compose::Plain, {u"Spouse"}},
+    {u"lblkid1", Compose::Plain, {u"kid1"}},
+    {u"lblkid2", Compose::Plain, {u"kid2"}},
+    {u"lblkid3", Compose::Plain, {u"kid3"}},
+    {u"lblcat1", Compose::Plain, {u"category1"}},
+    {u"lblcat2", Compose::Plain, {u"category2"}},
+    {u"lblcmp", Compose::Plain, {u"Company"}},
+    {u"lblprd", Compose::Plain, {u"Product"}},
+    {u"lblst", Compose::Plain, {u"Status"}},
+    {u"lblrel", Compose::Plain, {u"Relation"}},
+    {u"lblhph1", Compose::Plain, {u"H_Ph1"}},
+    {u"lblwph1", Compose::Plain, {u"w_Ph1"}},
+    {u"lblhph2", Compose::Plain, {u"h_ph2"}},
+    {u"lblwph2", Compose::Plain, {u"w_Ph2"}},
+    {u"lblhph3", Compose::Plain, {u"h_ph3"}},
+    {u"lblwph3", Compose::Plain, {u"w_ph3"}},
+    {u"lblmobile", Compose::Plain, {u"Mobile"}},
+    {u"lblspmobile", Compose::Plain, {u"SP_Mobile"}},
+};
+
 constexpr QStringView kBeforeName = u" - ";
 constexpr QStringView kBehindName = u" Go  >> ";
 
@@ -235,6 +259,11 @@ QList<ShownText> fullViewTexts(const jet::Recordset& row, bool nationalMode)
 QList<ShownText> detailViewTexts(const jet::Recordset& row, bool nationalMode, QDate today)
 {
     return composedAll(kDetailView, row, {nationalMode, today});
+}
+
+QList<ShownText> resultDetailTexts(const jet::Recordset& row)
+{
+    return composedAll(kResultDetail, row, {});
 }
 
 QString associationCaption(const QString& name)

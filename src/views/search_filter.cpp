@@ -1,16 +1,14 @@
 #include "views/search_filter.h"
 
 #include "core/vocabularies.h"
+#include "views/all_combo.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 
-#include <QEvent>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -121,7 +119,7 @@ QGroupBox* SearchFilter::layOutAdvanced()
 void SearchFilter::connectCombos()
 {
     for (auto* combo : std::as_const(m_combos))
-        combo->installEventFilter(this);
+        takeAllWhole(combo);
     connect(m_combos[u"cmbgcat"_s], &QComboBox::editTextChanged, m_combos[u"cmbgsub"_s],
         &widgets::FilledCombo::refill);
     connect(m_combos[u"cmbgfirst"_s], &QComboBox::editTextChanged, this,
@@ -187,18 +185,6 @@ void SearchFilter::setFindVisible(bool on)
     Frame2->setVisible(on);
     if (on)
         m_combos[u"cmbffirst"_s]->setFocus();
-}
-
-// "All" is taken whole, so that the first letter replaces it.
-bool SearchFilter::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* combo = qobject_cast<QComboBox*>(watched);
-    if (combo && event->type() == QEvent::FocusIn && combo->currentText() == kAll)
-        QTimer::singleShot(0, combo, [combo] {
-            if (combo->hasFocus())
-                combo->lineEdit()->selectAll();
-        });
-    return QWidget::eventFilter(watched, event);
 }
 
 void SearchFilter::setQuietly(const QString& combo, const QString& text)

@@ -38,9 +38,6 @@ Q_SIGNALS:
     void choicesChanged();
     void namesChanged();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QGroupBox* layOutFind();
     QGroupBox* layOutFilter();

@@ -49,7 +49,7 @@ public:
     using QTableView::hideColumn;
     /// The column that holds the key of rows that have none of their own; "id" until told otherwise.
     void setKeyColumn(const QString& name);
-    /// Shows a column's values in another way: dates, ticks.
+    /// Shows a column's values in another way: dates, ticks. No wording shows them as they are again.
     void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
     /// Rows of equal texts stand under a heading line that folds; "" ends it. The rows must be sorted by the
     /// column. After a fill the groups are found in steps, so that the window stays alive; until then one

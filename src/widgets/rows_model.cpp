@@ -76,7 +76,10 @@ void RowsModel::setKeyColumn(const QString& name)
 void RowsModel::showAs(const QString& name, Wording wording)
 {
     beginResetModel();
-    m_wordings.insert(name.toLower(), std::move(wording));
+    if (wording)
+        m_wordings.insert(name.toLower(), std::move(wording));
+    else
+        m_wordings.remove(name.toLower());
     pairOff();
     endResetModel();
 }

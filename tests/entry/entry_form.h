@@ -9,14 +9,15 @@
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 
-/// The detailed entry form on a book of its own, worked by the names of its controls.
+/// An entry form, the detailed one unless told otherwise, on a book of its own, worked by the names of its
+/// controls.
 class EntryForm : public support::ScreenFixture {
 public:
-    void start()
+    void start(QStringView name = u"FormMain")
     {
         entry::registerEntry(screens);
-        m_form = dynamic_cast<entry::FormMain*>(screens.load(u"FormMain"));
-        screens.show(u"FormMain");
+        m_form = dynamic_cast<entry::FormMain*>(screens.load(name));
+        screens.show(name);
         // Only the active window has a focus to give and to take.
         m_form->activateWindow();
         if (!QTest::qWaitForWindowActive(m_form))

@@ -82,6 +82,8 @@ void VdirContactsTest::everyFieldReturns()
     QCOMPARE(listed.size(), size_t(1));
     contact.item = u"17OV.vcf"_s;
     QVERIFY(listed[0] == contact);
+    QCOMPARE(contacts.items(), QStringList{contact.item});
+    QVERIFY(contacts.item(contact.item) == contact);
 
     // And all can be blanked again: what is left is a card with a name and a key only.
     MailContact blank;
@@ -304,6 +306,8 @@ void VdirContactsTest::neverLeavesTheFolder()
         QVERIFY(contacts.add(contact));
         QVERIFY(contacts.contains(key));
     }
+    QVERIFY(!contacts.item(u"../"_s + QFileInfo(outside.path()).fileName() + u"/secret.vcf"_s));
+    QVERIFY(!contacts.item(u"9OV.vcf"_s));
     QVERIFY(
         !contacts.assignKey(u"../"_s + QFileInfo(outside.path()).fileName() + u"/secret.vcf"_s, u"1OV"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -412,7 +412,14 @@ void FrameTest::modalScreen()
     QVERIFY(dialog && dialog->isModal());
     QCOMPARE(dialog->windowTitle(), u"Stubborn"_s);
     QCOMPARE(f.tabs()->count(), 0);
-    Q_EMIT dynamic_cast<core::Screen*>(f.registry.find(u"frmbday"))->closeRequested();
+    auto* screen = dynamic_cast<StubbornScreen*>(f.registry.find(u"frmbday"));
+    screen->mayGo = false; // it is asked, by whatever way it is closed
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    dialog->close();
+    Q_EMIT screen->closeRequested();
+    QVERIFY(dialog->isVisible());
+    screen->mayGo = true;
+    Q_EMIT screen->closeRequested();
     QTRY_VERIFY(!f.registry.find(u"frmbday"));
     QCOMPARE(f.verify(), QString());
 }

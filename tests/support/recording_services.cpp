@@ -131,6 +131,21 @@ std::vector<MailContact> RecordingMailContacts::list()
     return contacts;
 }
 
+QStringList RecordingMailContacts::items()
+{
+    QStringList items;
+    for (const MailContact& contact : contacts)
+        items << contact.item;
+    return items;
+}
+
+std::optional<MailContact> RecordingMailContacts::item(const QString& item)
+{
+    const auto found = std::find_if(
+        contacts.begin(), contacts.end(), [&item](const MailContact& c) { return c.item == item; });
+    return found == contacts.end() ? std::nullopt : std::optional(*found);
+}
+
 std::vector<MailContact>::iterator RecordingMailContacts::find(const QString& key)
 {
     return std::find_if(contacts.begin(), contacts.end(),

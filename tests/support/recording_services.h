@@ -58,7 +58,8 @@ public:
     QString SpecialFolderPath(int csidl) const override;
 
     QHash<int, QString> folders{{0x05, QStringLiteral("C:\\Documents")},
-        {0x06, QStringLiteral("C:\\Favorites")}, {0x10, QStringLiteral("C:\\Desktop")}};
+        {0x06, QStringLiteral("C:\\Favorites")}, {0x10, QStringLiteral("C:\\Desktop")},
+        {0x1a, QStringLiteral("C:\\Application Data")}};
 };
 
 class RecordingFavourites final : public platform::Favourites {
@@ -84,6 +85,8 @@ public:
     bool remove(const QString& key) override;
     bool contains(const QString& key) override;
     std::vector<platform::MailContact> list() override;
+    QStringList items() override;
+    std::optional<platform::MailContact> item(const QString& item) override;
 
     std::vector<platform::MailContact> contacts;
     QStringList calls; ///< "add 17OV", "update 17OV", "remove 17OV", also those that failed

@@ -28,11 +28,18 @@ private Q_SLOTS:
     void editDetailsOfAContactThatIsGone();
     void filtersComeBackToTheCaller_data();
     void filtersComeBackToTheCaller();
+    void cardsGoToTheirFolders();
+    void nameThatIsNoFileName();
+    void cardsOfManyCanBeStopped();
     void printRecordLeavesTheRequest_data();
     void printRecordLeavesTheRequest();
 
 private:
     ContactTools& tools();
+    QStringList filesIn(const QString& folder) const
+    {
+        return QDir(m_fixture->drive.local(folder)).entryList(QDir::Files);
+    }
     void trigger(const QString& id) { tools().action(id)->trigger(); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
@@ -75,10 +82,9 @@ ContactTools& ContactToolsTest::tools()
 void ContactToolsTest::toolWithoutItsScreenIsDisabled()
 {
     m_fixture->addTarget(u"FrmDialer"_s);
-    for (const QString& id : {u"Call"_s, u"Search"_s, u"Edit"_s, u"PrintRecord"_s})
+    for (const QString& id : {u"Call"_s, u"Search"_s, u"Edit"_s, u"PrintRecord"_s, u"SaveToDesktopAll"_s})
         QVERIFY2(tools().action(id)->isEnabled(), qPrintable(id));
-    for (const QString& id : {u"Letter"_s, u"SaveasVCF"_s, u"SavetoDesktop"_s, u"SaveToDesktopAll"_s,
-             u"PrintSingle"_s, u"CommonFilter"_s, u"PrintLabel"_s}) {
+    for (const QString& id : {u"Letter"_s, u"PrintSingle"_s, u"CommonFilter"_s, u"PrintLabel"_s}) {
         QVERIFY2(!tools().action(id)->isEnabled(), qPrintable(id));
         QVERIFY(tools().action(id)->toolTip().contains(u"Not available yet"_s));
     }
@@ -208,6 +214,68 @@ void ContactToolsTest::filtersComeBackToTheCaller()
     trigger(id);
     QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
     QCOMPARE(m_fixture->frame.placed, QStringList{form + u" modally"_s});
+}
+
+void ContactToolsTest::cardsGoToTheirFolders()
+{
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\OVUserFiles\\VCF"_s);
+    trigger(u"SaveasVCF"_s);
+    QCOMPARE(filesIn(u"C:\\OVUserFiles\\VCF"_s), QStringList{u"Bob.vcf"_s});
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\Desktop"_s);
+    trigger(u"SavetoDesktop"_s);
+    QCOMPARE(filesIn(u"C:\\Desktop"_s), QStringList{u"Bob.vcf"_s});
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\Desktop"_s);
+    trigger(u"SaveToDesktopAll"_s);
+    QCOMPARE(filesIn(u"C:\\Desktop"_s), (QStringList{u"Ann.vcf"_s, u"Bob.vcf"_s}));
+    m_fixture->execute(u"delete * from cnt_main"_s);
+    for (const QString& id : {u"SaveasVCF"_s, u"SavetoDesktop"_s, u"SaveToDesktopAll"_s}) {
+        m_fixture->boxes.expect(u"Record not selected"_s);
+        trigger(id);
+    }
+}
+
+// The others are written all the same, and nobody is told of what is not there.
+void ContactToolsTest::nameThatIsNoFileName()
+{
+    m_fixture->execute(u"insert into cnt_main (Name) values ('Tea/Coffee')"_s);
+    const QString refusal
+        = u"1 VCF files could not be written. A contact whose name can not be the name of a file has none."_s;
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\Desktop"_s);
+    m_fixture->boxes.expect(refusal);
+    trigger(u"SaveToDesktopAll"_s);
+    QCOMPARE(filesIn(u"C:\\Desktop"_s).size(), 2);
+    m_name = u"Tea/Coffee"_s;
+    m_fixture->boxes.expect(refusal);
+    trigger(u"SaveasVCF"_s);
+}
+
+void ContactToolsTest::cardsOfManyCanBeStopped()
+{
+    QList<QStringList> rows;
+    for (int i = 0; i < 997; ++i)
+        rows << QStringList{u"Person %1"_s.arg(i)};
+    QVERIFY(m_fixture->book.data().appendRows(u"cnt_main"_s, {u"Name"_s}, rows));
+    /// Presses the stop button as soon as it is there.
+    class Stopper final : public QObject {
+    public:
+        int contacts = 0;
+
+    protected:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            auto* dialog = qobject_cast<QProgressDialog*>(watched);
+            if (dialog && event->type() == QEvent::Show) {
+                contacts = dialog->maximum();
+                dialog->cancel();
+            }
+            return false;
+        }
+    } stopper;
+    qApp->installEventFilter(&stopper);
+    m_fixture->boxes.expect(u"Stopped. 25 of 1000 VCF files were saved on C:\\Desktop"_s);
+    trigger(u"SaveToDesktopAll"_s);
+    QCOMPARE(stopper.contacts, 1000);
+    QVERIFY(filesIn(u"C:\\Desktop"_s).size() <= 25);
 }
 
 void ContactToolsTest::printRecordLeavesTheRequest_data()

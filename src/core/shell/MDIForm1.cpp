@@ -7,6 +7,7 @@
 #include "core/shell/list_bar.h"
 #include "core/shell/start_page.h"
 #include "core/shell/tool_actions.h"
+#include "core/shell/undo_command.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
@@ -95,6 +96,32 @@ QString translated(const char* text)
 {
     return QCoreApplication::translate("shell", text);
 }
+
+/// Holds a screen that is shown modally, and asks it before it closes, by whatever way.
+class ScreenDialog : public QDialog {
+public:
+    ScreenDialog(core::Screen* screen, QWidget* parent)
+        : QDialog(parent)
+        , m_screen(screen)
+    {
+        setAttribute(Qt::WA_DeleteOnClose);
+        setWindowTitle(screen->windowTitle());
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(screen);
+        connect(screen, &core::Screen::closeRequested, this, &QDialog::close);
+        connect(screen, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
+    }
+
+    void reject() override
+    {
+        if (m_screen->mayClose())
+            QDialog::reject();
+    }
+
+private:
+    core::Screen* m_screen;
+};
 
 } // namespace
 
@@ -203,6 +230,9 @@ void MDIForm1::buildMenus()
     contacts->addSeparator();
     contacts->addAction(m_tools->action(u"RestoreBackup"));
     contacts->addAction(m_tools->action(u"Exit"));
+    QMenu* edit = new QMenu(tr("&Edit"), this);
+    new UndoCommand(*m_context, edit);
+    menuBar()->insertMenu(view->menuAction(), edit);
     addGoMenu();
     QMenu* help = menuBar()->addMenu(translated("&Help"));
     for (QAction* action : m_tools->page(u"Help")->actions())
@@ -296,15 +326,7 @@ void MDIForm1::activate()
 void MDIForm1::place(core::Screen* screen, core::Shown shown)
 {
     if (shown == core::Shown::Modally) {
-        auto* dialog = new QDialog(this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->setWindowTitle(screen->windowTitle());
-        auto* layout = new QVBoxLayout(dialog);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(screen);
-        connect(screen, &core::Screen::closeRequested, dialog, &QDialog::close);
-        connect(screen, &QWidget::windowTitleChanged, dialog, &QWidget::setWindowTitle);
-        dialog->open();
+        (new ScreenDialog(screen, this))->open();
         return;
     }
     int index = m_tabs->indexOf(screen);

@@ -126,7 +126,10 @@ bool BookFiles::makeNew(const QString& path, BookPart part, bool national)
 
 BookReport BookFiles::openData(jet::Database& database) const
 {
-    return open(database, BookPart::Data);
+    const BookReport report = open(database, BookPart::Data);
+    if (report)
+        database.keepChanges(u"cnt_main"_s, u"Name"_s);
+    return report;
 }
 BookReport BookFiles::openInfo(jet::Database& database) const
 {

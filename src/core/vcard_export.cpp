@@ -1,0 +1,77 @@
+#include "core/vcard_export.h"
+
+#include "platform/card_folder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace core {
+
+namespace {
+
+// As many as the person does not wait for between two looks at the stop button.
+constexpr qsizetype kIdsAtATime = 250;
+constexpr int kContactsAStep = 25;
+
+formats::CardAddress addressOf(const jet::Recordset& contact, const QString& prefix)
+{
+    const auto column
+        = [&contact, &prefix](QStringView name) { return contact.textOrEmpty(prefix + name.toString()); };
+    return {column(u"add1"), column(u"add2"), column(u"city"), column(u"state"), column(u"pin"),
+        column(u"country")};
+}
+
+} // namespace
+
+formats::CardValues cardValuesOf(const jet::Recordset& contact)
+{
+    const auto column = [&contact](QStringView name) { return contact.textOrEmpty(name); };
+    formats::CardValues values;
+    values.name = column(u"Name");
+    values.nameView = column(u"Nview");
+    values.title = column(u"Title");
+    values.nick = column(u"nick");
+    values.company = column(u"Company");
+    values.spouse = column(u"Spouse");
+    values.workPhones = {column(u"w_Ph1"), column(u"w_Ph2"), column(u"w_ph3")};
+    values.homePhones = {column(u"H_Ph1"), column(u"h_ph2"), column(u"h_ph3")};
+    values.mobile = column(u"Mobile");
+    values.fax = column(u"fax");
+    values.work = addressOf(contact, u"w_"_s);
+    values.home = addressOf(contact, u"h_"_s);
+    values.postal = addressOf(contact, u"b_"_s);
+    values.birthday = contact.date(u"M_BD");
+    values.email = column(u"H_email1");
+    values.workEmail = column(u"b_email1");
+    values.web = column(u"h_web");
+    return values;
+}
+
+CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, const QString& idList,
+    const QString& folder, const CardProgress& progress)
+{
+    CardsWritten result;
+    platform::CardFolder cards(drive, folder);
+    const QStringList ids = idList.split(u',', Qt::SkipEmptyParts);
+    for (qsizetype at = 0; at < ids.size(); at += kIdsAtATime) {
+        jet::Recordset rows = book.openRecordset(
+            u"Select * from cnt_main where id in ( "_s + ids.mid(at, kIdsAtATime).join(u',') + u')');
+        for (; rows.hasRow(); rows.moveNext()) {
+            const formats::CardValues values = cardValuesOf(rows);
+            const bool written = cards.write(values.name, formats::contactCardLines(values));
+            ++(written ? result.written : result.refused);
+            const int done = result.written + result.refused;
+            if (progress && done % kContactsAStep == 0 && !progress(done)) {
+                result.stopped = true;
+                return result;
+            }
+        }
+    }
+    return result;
+}
+
+bool WriteVCardValues(const platform::Drive& drive, const QString& folder, const formats::CardValues& values)
+{
+    return platform::CardFolder(drive, folder).write(values.name, formats::enteredCardLines(values));
+}
+
+} // namespace core

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "formats/card_file.h"
+#include "jet/database.h"
+
+#include <functional>
+
+namespace platform {
+class Drive;
+}
+
+namespace core {
+
+struct CardsWritten {
+    int written = 0;
+    int refused = 0; ///< contacts whose name is no file name, or whose file could not be written
+    bool stopped = false;
+};
+
+/// How many contacts are done; the answer false stops the work. Every contact written until then stays.
+using CardProgress = std::function<bool(int done)>;
+
+/// Writes one vCard file for each contact of a list of ids with "," between, named by the contact. Of two
+/// with one name the later wins.
+CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, const QString& idList,
+    const QString& folder, const CardProgress& progress = {});
+
+/// The file for what stands in an entry form.
+bool WriteVCardValues(const platform::Drive& drive, const QString& folder, const formats::CardValues& values);
+
+/// The values of a row of "select * from cnt_main".
+formats::CardValues cardValuesOf(const jet::Recordset& contact);
+
+} // namespace core

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "core/handover/book_listener.h"
+#include "core/handover/filter_target.h"
+#include "core/handover/page_screen.h"
+#include "core/screen.h"
+
+#include <array>
+
+class QSplitter;
+class QStackedWidget;
+class QTabBar;
+class QToolBar;
+
+namespace views {
+
+class ContactTools;
+class FormTree2;
+class NameChoicesPanel;
+class PicturePane;
+class PlaceTree;
+class SelectorTools;
+class TreeChoicesPanel;
+
+/// The advanced search: by the tree of locations or categories, by names, by a choice for each of many
+/// fields, or by pictures. What is found stands in the result pane beside it.
+class frmSelector1 : public core::Screen,
+                     public core::PageScreen,
+                     public core::FilterTarget,
+                     public core::BookListener {
+    Q_OBJECT
+
+public:
+    explicit frmSelector1(core::Context& context, QWidget* parent = nullptr);
+
+    void load() override;
+    void bookChanged() override;
+    /// "Location", "Name", "Category", "Search" or "Picture".
+    void openPage(const QString& page) override;
+    void applyFilter(const QString& whereClause) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    struct Tab;
+    static const std::array<Tab, 5> kTabs;
+
+    void makeTools();
+    QWidget* layOutSearch();
+    void connectControls();
+
+    void enterTab();
+    void chooseTab(int tab);
+    void enterLocation();
+    void enterNames();
+    void enterCategory();
+    void enterSearch();
+    void enterPictures();
+    void shareRoom(bool pictures);
+    void resetChoices();
+    void showAlone(bool alone);
+    void openKeyword();
+
+    QString m_title = QStringLiteral("Search"); ///< of the frame
+    bool m_entered = false; ///< what the tab shows has been read
+    bool m_wide = false; ///< the pictures have the larger half
+    QList<int> m_otherSizes{500, 500}; ///< of the splitter when the other way is taken
+
+    SelectorTools* m_tools;
+    ContactTools* m_contactTools;
+    QToolBar* m_pageTools = nullptr;
+    QTabBar* SSActiveTabs1;
+    QStackedWidget* m_panes;
+    QSplitter* m_splitter;
+    QWidget* m_search;
+    PlaceTree* SSTree1;
+    NameChoicesPanel* m_names;
+    TreeChoicesPanel* m_choices;
+    PicturePane* m_pictures;
+    FormTree2* m_results;
+};
+
+} // namespace views
