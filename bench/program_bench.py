@@ -23,6 +23,9 @@ import time
 
 PATIENCE = 20  # seconds until something that is not painted counts as never painted
 SPLASH, FRAME, FULL_VIEW = "frmSplash", "MDIForm1", "FullView"
+SCREENS = (("frmselector", "frmSelector"), ("frmselector1", "frmSelector1"), ("formtree2", "FormTree2"),
+           ("formmain1", "FormMain1"), ("businessadd", "FormMainBusiness"), ("turboadd", "TurboAdd"))
+SCREEN_GOAL = 150_000  # microseconds, as orientation
 HAND_OVER = 100_000  # microseconds that the splash has to stand
 
 
@@ -151,10 +154,10 @@ class Bench:
         finally:
             run.end()
 
-    def ask_for_full_view(self, place):
+    def ask_for(self, place, key):
         """The frame opens the screen that a program of the suite has left a word for."""
         answer = subprocess.run([self.folder / "orvane-sql", place / "program" / "Orvanedata.dll"], check=True,
-                                input=json.dumps("update ov_setup set [key]='fullview'") + "\n", text=True,
+                                input=json.dumps(f"update ov_setup set [key]='{key}'") + "\n", text=True,
                                 capture_output=True).stdout
         if not json.loads(answer)["ok"]:
             raise NotMeasured(f"{answer}")
@@ -190,7 +193,7 @@ class Bench:
     def full_view(self, contacts, place, bare, bare_memory, times):
         painted, memory = [], []
         for _ in range(times):
-            self.ask_for_full_view(place)
+            self.ask_for(place, "fullview")
             moments, size = self.product(place, FULL_VIEW)
             painted.append(moments[FULL_VIEW])
             memory.append(size)
@@ -200,6 +203,17 @@ class Bench:
                            "ours_us": middle(painted), "plain_us": bare, "ratio": middle(painted) / bare})
         print(f"{'FullView painted, from start, beside a bare window':<70} {contacts:>7} {middle(painted):>12.0f} "
               f"{bare:>12.0f} {middle(painted) / bare:>7.2f}")
+
+
+    def screens(self, contacts, place, times):
+        """From the first page of the frame to the screen that was asked for."""
+        for key, form in SCREENS:
+            taken = []
+            for _ in range(times):
+                self.ask_for(place, key)
+                moments, _size = self.product(place, form)
+                taken.append(moments[form] - moments[FRAME])
+            self.add(f"{form} opened, beside 150 ms", contacts, statistics.median(taken), SCREEN_GOAL, 1)
 
 
 def main():
@@ -218,6 +232,7 @@ def main():
             try:
                 place, bare, memory = bench.start(contacts, times)
                 bench.full_view(contacts, place, bare, memory, min(times, 3))
+                bench.screens(contacts, place, min(times, 3))
             except NotMeasured as failure:
                 print(f"NOT MEASURED: {failure}", flush=True)
                 failures += 1

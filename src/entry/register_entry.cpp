@@ -3,6 +3,7 @@
 #include "core/screens.h"
 #include "entry/FormMain.h"
 #include "entry/FrmAddSave.h"
+#include "entry/FrmDuplicator.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +16,7 @@ void registerEntry(core::Screens& screens)
             [variant](core::Context& context) -> core::Screen* { return new FormMain(context, variant()); });
     }
     screens.add<FrmAddSave>(u"FrmAddSave"_s);
+    screens.add<FrmDuplicator>(u"FrmDuplicator"_s);
 }
 
 } // namespace entry

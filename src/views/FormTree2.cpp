@@ -99,6 +99,7 @@ QWidget* FormTree2::layOutResults()
     FG1->setObjectName(u"FG1"_s);
     FG1->setAccessibleName(tr("Contacts found"));
     FG1->setEmptyText({}); // an empty result is just an empty grid
+    FG1->mergeEqual({u"Category1"_s, u"Category2"_s, u"region"_s, u"h_country"_s, u"h_state"_s, u"h_city"_s});
     FG1->setContextMenuPolicy(Qt::CustomContextMenu);
     auto* detail = new QScrollArea;
     detail->setWidget(m_detail);

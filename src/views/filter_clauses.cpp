@@ -169,6 +169,7 @@ constexpr Caller kCallers[] = {
     {u"FrmAddFullRptView", Takes::Clause},
     {u"FrmAddFullRptNew", Takes::Clause},
     {u"FullView", Takes::Clause},
+    {u"FrmDuplicator", Takes::Clause},
 };
 
 } // namespace

@@ -58,9 +58,21 @@ private:
         const RowsModel* model = m_grid->m_model;
         if (index.column() == model->groupColumn())
             return true;
-        const auto isColumn = [&](const QString& name) { return model->columnOf(name) == index.column(); };
-        return std::any_of(m_grid->m_merged.cbegin(), m_grid->m_merged.cend(), isColumn)
-            && index.row() != m_grid->rowAt(0) && model->repeatsAbove(index);
+        if (index.row() == m_grid->rowAt(0) || !isMerged(index.column()))
+            return false;
+        // As in a tree, a text that follows from another one is the same only below the same other one.
+        for (int column = 0; column <= index.column(); ++column) {
+            const bool counts = !m_grid->isColumnHidden(column) && !model->showsNothing(column);
+            if (counts && !model->repeatsAbove(index.siblingAtColumn(column)))
+                return false;
+        }
+        return true;
+    }
+
+    bool isMerged(int column) const
+    {
+        return std::any_of(m_grid->m_merged.cbegin(), m_grid->m_merged.cend(),
+            [&](const QString& name) { return m_grid->m_model->columnOf(name) == column; });
     }
 
     void paintHeading(QPainter* painter, const QStyleOptionViewItem& option, int line) const

@@ -59,7 +59,8 @@ public:
     bool isHeading(int row) const;
     int recordCount() const; ///< rows without the headings
     void foldAll(bool folded);
-    /// A text that is the same as the one above it is not painted again, as if the cells were one.
+    /// A text that is the same as the one above it is not painted again, as if the cells were one, when all
+    /// texts to its left are the same too.
     void mergeEqual(const QStringList& names);
     void setFontSize(int points);
     void setEmptyText(const QString& text);
