@@ -18,9 +18,25 @@ QString inYear(const std::optional<QDate>& date, int year)
     return day.isValid() ? jet::formatIsoDate(jet::isoDate(day), u"dd-mmm-yyyy") : QString();
 }
 
+void appendFamily(QList<SchedulerRow>& rows, const ScheduledDates& dates, const QString& person, int year,
+    FamilyRows family)
+{
+    if (family == FamilyRows::SpouseAndKids && !dates.spouse.isEmpty())
+        rows.append({u"Birthday"_s, inYear(dates.spouseBirthday, year), u"Birthday of Spouse "_s + person,
+            person, {}});
+    for (int kid = 0; kid < 3; ++kid) {
+        const QString date = inYear(dates.kidBirthdays[kid], year);
+        if (family == FamilyRows::KidsByName && dates.kidBirthdays[kid])
+            rows.append({u"Birthday"_s, date, u"Birthday of Kid "_s + dates.kids[kid], person,
+                QString::number(dates.id) + u"Bd"_s});
+        else if (family == FamilyRows::SpouseAndKids && !dates.kids[kid].isEmpty())
+            rows.append({u"Birthday"_s, date, u"Birthday of Kid "_s + person, person, {}});
+    }
+}
+
 } // namespace
 
-QList<SchedulerRow> schedulerRows(const ScheduledDates& dates, int thisYear)
+QList<SchedulerRow> schedulerRows(const ScheduledDates& dates, int thisYear, FamilyRows family)
 {
     QList<SchedulerRow> rows;
     const QString person = dates.first + u' ' + dates.last;
@@ -28,14 +44,7 @@ QList<SchedulerRow> schedulerRows(const ScheduledDates& dates, int thisYear)
     for (int year = thisYear; year < thisYear + kYears; ++year) {
         rows.append(
             {u"Birthday"_s, inYear(dates.birthday, year), u"Birthday of "_s + person, person, id + u"Bd"_s});
-        if (!dates.spouse.isEmpty())
-            rows.append({u"Birthday"_s, inYear(dates.spouseBirthday, year), u"Birthday of Spouse "_s + person,
-                person, {}});
-        for (int kid = 0; kid < 3; ++kid) {
-            if (!dates.kids[kid].isEmpty())
-                rows.append({u"Birthday"_s, inYear(dates.kidBirthdays[kid], year),
-                    u"Birthday of Kid "_s + person, person, {}});
-        }
+        appendFamily(rows, dates, person, year, family);
         // Kept: whether there is an anniversary row is asked of the anniversary, its day comes from the third
         // kid.
         if (dates.anniversary)

@@ -31,8 +31,15 @@ struct SchedulerRow {
     QString origin; ///< b_a_id
 };
 
+/// Whose birthdays beside the contact's own get rows.
+enum class FamilyRows {
+    SpouseAndKids, ///< those with a name; the rows name the contact
+    KidsByName, ///< kids with a date, under their own names; never the spouse
+};
+
 /// The rows for this year and the next two.
-QList<SchedulerRow> schedulerRows(const ScheduledDates& dates, int thisYear);
+QList<SchedulerRow> schedulerRows(
+    const ScheduledDates& dates, int thisYear, FamilyRows family = FamilyRows::SpouseAndKids);
 
 void addSchedulerRows(jet::Database& data, const QList<SchedulerRow>& rows);
 

@@ -1,13 +1,10 @@
 #pragma once
 
 #include "core/context.h"
-#include "entry/city_assist.h"
+#include "entry/city_scope.h"
 
 #include <QWidget>
 
-class QCheckBox;
-class QComboBox;
-class QRadioButton;
 class QTabBar;
 
 namespace widgets {
@@ -43,23 +40,14 @@ protected:
 
 private:
     void layOut();
-    void fillScope();
     void fillValues();
 
     jet::Database& m_info;
     const core::SharedState& m_shared;
     QTabBar* SSActiveTabs1;
-    QWidget* m_cityChoice;
-    QRadioButton* Option1;
-    QRadioButton* Option2;
-    QRadioButton* Option3;
-    QCheckBox* chkType;
-    QComboBox* cboCountry;
-    QComboBox* cboState;
+    CityScopePanel* m_cities;
     widgets::RecordList* CboFilter;
     widgets::KeyPad* m_keys;
-    CityScope m_scope = CityScope::All;
-    bool m_filled = false;
 };
 
 } // namespace entry

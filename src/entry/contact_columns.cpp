@@ -13,8 +13,8 @@ namespace {
 constexpr ColumnRow kDetailedAdd[] = {
     {u"Title", u"Cmbtitle"},
     {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1},
-    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
+    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
     {u"h_city", u"dtcmbcity"},
     {u"sex", u"CmbSex"},
     {u"Nview", u"cmbnview"},
@@ -41,7 +41,7 @@ constexpr ColumnRow kDetailedAdd[] = {
     {u"Mobile", u"txtMobile"},
     {u"SP_Mobile", u"txtspmobile"},
     {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
     {u"h_email2", u"txtemail2", Rule::AsTyped},
     {u"Sms", u"txtSMS", Rule::AsTyped},
     {u"M_BD", u"DateBday", Rule::Date},
@@ -107,8 +107,8 @@ constexpr ColumnRow kDetailedAdd[] = {
 constexpr ColumnRow kDetailedEdit[] = {
     {u"Title", u"Cmbtitle"},
     {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1},
-    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
+    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
     {u"h_city", u"dtcmbcity"},
     {u"sex", u"CmbSex"},
     {u"Nview", u"cmbnview"},
@@ -135,7 +135,7 @@ constexpr ColumnRow kDetailedEdit[] = {
     {u"Mobile", u"txtMobile"},
     {u"SP_Mobile", u"txtspmobile"},
     {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
     {u"h_email2", u"txtemail2", Rule::AsTyped},
     {u"Sms", u"txtSMS", Rule::AsTyped},
     {u"M_BD", u"DateBday", Rule::DateInWords},
@@ -200,8 +200,8 @@ constexpr ColumnRow kDetailedEdit[] = {
 constexpr ColumnRow kBriefAdd[] = {
     {u"Title", u"Cmbtitle"},
     {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1},
-    {u"category2", u"DtcmbSubCate", Rule::Category2},
+    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
+    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
     {u"h_city", u"dtcmbcity"},
     {u"sex", u"CmbSex"},
     {u"Nview", u"cmbnview"},
@@ -228,7 +228,7 @@ constexpr ColumnRow kBriefAdd[] = {
     {u"Mobile", u"txtMobile"},
     {u"SP_Mobile", u"txtspmobile"},
     {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
     {u"h_email2", u"txtemail2", Rule::AsTyped},
     {u"Sms", u"txtSMS", Rule::AsTyped},
     {u"M_BD", u"DateBday", Rule::Date},
@@ -278,8 +278,8 @@ constexpr ColumnRow kBriefAdd[] = {
 constexpr ColumnRow kBriefEdit[] = {
     {u"Title", u"Cmbtitle"},
     {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1AsTyped},
-    {u"category2", u"DtcmbSubCate", Rule::Category2AsTyped},
+    {u"category1", u"DtcmbCate", Rule::Category1AsTyped, u"DtcmbSubCate"},
+    {u"category2", u"DtcmbSubCate", Rule::Category2AsTyped, u"DtcmbCate"},
     {u"h_city", u"dtcmbcity"},
     {u"sex", u"CmbSex"},
     {u"Nview", u"cmbnview"},
@@ -306,7 +306,7 @@ constexpr ColumnRow kBriefEdit[] = {
     {u"Mobile", u"txtMobile"},
     {u"SP_Mobile", u"txtspmobile"},
     {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email},
+    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
     {u"h_email2", u"txtemail2", Rule::AsTyped},
     {u"Sms", u"txtSMS", Rule::AsTyped},
     {u"M_BD", u"DateBday", Rule::DateInWords},
@@ -376,14 +376,12 @@ std::span<const ColumnRow> briefEditColumns()
 
 QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptions& options)
 {
-    const auto category = [&] {
-        return core::storedCategory(
-            values.text(u"DtcmbCate"), values.text(u"DtcmbSubCate"), options.mergedCategory);
+    const auto category = [&](QStringView first, QStringView second) {
+        return core::storedCategory(values.text(first), values.text(second), options.mergedCategory);
     };
-    const auto typedCategory = [&](int part) {
-        if (options.mergedCategory)
-            return core::PickByDash(values.text(u"DtcmbCate"), part).trimmed();
-        return values.trimmed(part == 1 ? u"DtcmbCate" : u"DtcmbSubCate");
+    const auto typedCategory = [&](QStringView control, QStringView merged, int part) {
+        return options.mergedCategory ? core::PickByDash(values.text(merged), part).trimmed()
+                                      : values.trimmed(control);
     };
     switch (row.rule) {
     case Rule::Trimmed: return values.trimmed(row.control);
@@ -394,12 +392,13 @@ QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptio
         return priority.isEmpty() ? u"2"_s : priority;
     }
     case Rule::Name: return options.name;
-    case Rule::Category1: return category().category;
-    case Rule::Category2: return category().subcategory;
-    case Rule::Category1AsTyped: return typedCategory(1);
-    case Rule::Category2AsTyped: return typedCategory(2);
+    case Rule::Category1: return category(row.control, row.second).category;
+    case Rule::Category2: return category(row.second, row.control).subcategory;
+    case Rule::Category1AsTyped: return typedCategory(row.control, row.control, 1);
+    case Rule::Category2AsTyped: return typedCategory(row.control, row.second, 2);
     // Kept: the sign stands there also when nothing was entered round it.
-    case Rule::Email: return QString(values.text(row.control) + u'@' + values.text(u"cboemail1"));
+    case Rule::Email: return QString(values.text(row.control) + u'@' + values.text(row.second));
+    case Rule::Joined: return QString(values.text(row.control) + values.text(row.second));
     case Rule::Date: return dateValue(values.date(row.control), false);
     case Rule::DateInWords: return dateValue(values.date(row.control), true);
     case Rule::Today: return options.today;

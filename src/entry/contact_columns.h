@@ -16,11 +16,12 @@ enum class Rule {
     OrUndefined, ///< blank gives "Undefined"
     Priority, ///< blank gives "2"
     Name, ///< composed by the name view
-    Category1,
-    Category2,
-    Category1AsTyped, ///< the same, but blank stays blank
+    Category1, ///< of the control, with the subcategory in the second one
+    Category2, ///< the other way round
+    Category1AsTyped, ///< the same two, but blank stays blank
     Category2AsTyped,
-    Email, ///< the control, "@", and the suffix control
+    Email, ///< the control, "@", and the second control
+    Joined, ///< the control and the second one, with nothing between
     Date, ///< null without a valid date
     DateInWords, ///< the same, written as dd/MMM/yyyy
     Today,
@@ -32,6 +33,7 @@ struct ColumnRow {
     QStringView column;
     QStringView control;
     Rule rule = Rule::Trimmed;
+    QStringView second = {}; ///< the other control of a value that is made of two
 };
 
 struct SaveOptions {

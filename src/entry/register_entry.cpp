@@ -4,6 +4,7 @@
 #include "entry/FormMain.h"
 #include "entry/FrmAddSave.h"
 #include "entry/FrmDuplicator.h"
+#include "entry/TurboAdd.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,7 @@ void registerEntry(core::Screens& screens)
     }
     screens.add<FrmAddSave>(u"FrmAddSave"_s);
     screens.add<FrmDuplicator>(u"FrmDuplicator"_s);
+    screens.add<TurboAdd>(u"TurboAdd"_s);
 }
 
 } // namespace entry

@@ -1,6 +1,6 @@
 #include "entry/save_effects.h"
 
-#include "core/scheduler_rows.h"
+#include "core/mail_key.h"
 #include "entry/mail_contact.h"
 #include "platform/clock.h"
 #include "platform/favourites.h"
@@ -11,35 +11,52 @@ namespace entry {
 
 namespace {
 
-void addFavourites(platform::Favourites& favourites, const FormValues& values, const QString& name,
-    QStringView home, QStringView work)
+QList<WebFavourite> favouritesOf(const FormValues& values, QStringView home, QStringView work)
 {
-    favourites.AddFavourite(values.text(u"txtweb"), name, home);
-    favourites.AddFavourite(values.text(u"txtbweb"), name, work);
+    return {{values.text(u"txtweb"), home.toString()}, {values.text(u"txtbweb"), work.toString()}};
+}
+
+void addFavourites(
+    platform::Favourites& favourites, const QString& name, const QList<WebFavourite>& addresses)
+{
+    for (const WebFavourite& web : addresses) {
+        if (!web.address.isEmpty())
+            favourites.AddFavourite(web.address, name, web.suffix);
+    }
 }
 
 } // namespace
 
-void applyAddEffects(
-    core::Context& context, const FormVariant& variant, const FormValues& values, const QString& name)
+void applyAddEffects(core::Context& context, NewContact contact)
 {
     const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
     if (setup.flag(u"UpdOutllook")) {
         const auto newest = context.data.openRecordset(u"Select * from cnt_main order by ID desc"_s);
         const qint64 id = newest.hasRow() ? newest.number(u"id") : 1;
-        context.services.mailContacts.add(mailContactOf(values, name, id));
-        core::ScheduledDates dates{id, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"),
-            values.trimmed(u"dtcspouse"),
+        contact.mail.key = core::mailKeyOf(id);
+        context.services.mailContacts.add(contact.mail);
+        contact.dates.id = id;
+        core::addSchedulerRows(context.data,
+            core::schedulerRows(contact.dates, context.services.clock.today().year(), contact.family));
+    }
+    if (setup.flag(u"AddFav"))
+        addFavourites(context.services.favourites, contact.name, contact.favourites);
+}
+
+void applyAddEffects(
+    core::Context& context, const FormVariant& variant, const FormValues& values, const QString& name)
+{
+    NewContact contact;
+    contact.name = name;
+    contact.mail = mailContactOf(values, name, 0);
+    contact.dates
+        = {0, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"), values.trimmed(u"dtcspouse"),
             {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
             values.date(u"DateBday"), values.date(u"DateSpouse"),
             {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")},
             values.date(u"DateAnn")};
-        core::addSchedulerRows(
-            context.data, core::schedulerRows(dates, context.services.clock.today().year()));
-    }
-    if (setup.flag(u"AddFav"))
-        addFavourites(
-            context.services.favourites, values, name, variant.homeSuffixOnAdd, variant.workSuffixOnAdd);
+    contact.favourites = favouritesOf(values, variant.homeSuffixOnAdd, variant.workSuffixOnAdd);
+    applyAddEffects(context, std::move(contact));
 }
 
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,
@@ -49,8 +66,8 @@ void applyEditEffects(core::Context& context, const FormVariant& variant, const 
     if (variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
         context.services.mailContacts.update(mailContactOf(values, name, id));
     if (setup.flag(u"AddFav"))
-        addFavourites(
-            context.services.favourites, values, name, variant.homeSuffixOnEdit, variant.workSuffixOnEdit);
+        addFavourites(context.services.favourites, name,
+            favouritesOf(values, variant.homeSuffixOnEdit, variant.workSuffixOnEdit));
 }
 
 } // namespace entry

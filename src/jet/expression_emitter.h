@@ -51,6 +51,8 @@ protected:
     void prefixed(QStringView prefix, const Expression& e);
     void terms(const Expression& e, QStringView between);
     static bool isPlainLike(const Expression& e);
+    /// What a condition asks of the texts of a row; nothing when rows can fit whatever their texts are.
+    std::optional<TextFilter> textFilter(const Expression& e) const;
     void orTerms(const Expression& e);
     static bool samePattern(const Expression& a, const Expression& b);
     void arithmetic(const Expression& e);

@@ -1,7 +1,6 @@
 #include "jet/translator.h"
 
 #include "jet/expression_emitter.h"
-#include "jet/lexer.h"
 #include "jet/same_name.h"
 
 #include <algorithm>
@@ -237,30 +236,6 @@ private:
         m_slots.push_back({stretch.literal, Slot::Reading::Beyond});
         truth(*arm.where);
         m_out += u')';
-    }
-
-    /// Nothing when rows can fit whatever their texts are.
-    std::optional<TextFilter> textFilter(const Expression& e) const
-    {
-        if (isPlainLike(e) && e.parts[1]->literalKind == int(Literal::Kind::Text)) {
-            const CatalogColumn* column = resolve(*e.parts[0]).column;
-            if (!column || (column->type != ColumnType::Text && column->type != ColumnType::Memo))
-                return {};
-            return TextFilter{.column = column->name, .literal = e.parts[1]->literal};
-        }
-        const bool any = e.kind == Expression::Kind::Or;
-        if (!any && e.kind != Expression::Kind::And)
-            return {};
-        TextFilter filter{.kind = any ? TextFilter::Kind::Any : TextFilter::Kind::All};
-        for (const auto& part : e.parts) {
-            auto partly = textFilter(*part);
-            filter.isWhole = filter.isWhole && partly && partly->isWhole;
-            if (partly)
-                filter.parts.push_back(std::move(*partly));
-            else if (any)
-                return {};
-        }
-        return filter.parts.empty() ? std::nullopt : std::optional(std::move(filter));
     }
 
     void selection(const Select& s, std::vector<ResultColumn>* columns) override
@@ -590,39 +565,6 @@ template <class Result, class Run> std::optional<Result> guarded(Run run, QStrin
 }
 
 } // namespace
-
-CatalogColumn::CatalogColumn(QString columnName, ColumnType columnType)
-    : name(std::move(columnName))
-    , type(columnType)
-    , m_hash(hashOf(name))
-{
-}
-
-bool CatalogColumn::isCalled(QStringView other, uint otherHash) const
-{
-    return m_hash == otherHash && sameName(name, other);
-}
-
-uint CatalogColumn::hashOf(QStringView text)
-{
-    uint hash = 2166136261u;
-    for (const QChar c : text) {
-        const ushort u = c.unicode();
-        const uint folded = u >= 'A' && u <= 'Z' ? u + 32u : u < 0x80 ? u : 0;
-        hash = (hash ^ folded) * 16777619u;
-    }
-    return hash;
-}
-
-const CatalogColumn* CatalogTable::column(QStringView columnName) const
-{
-    const uint hash = CatalogColumn::hashOf(columnName);
-    for (const CatalogColumn& candidate : columns) {
-        if (candidate.isCalled(columnName, hash))
-            return &candidate;
-    }
-    return nullptr;
-}
 
 std::optional<Translation> translate(
     const Statement& statement, const Catalog& catalog, Way way, QString* error)

@@ -64,6 +64,10 @@ void UndoLog::begin()
     sqlite3_session* session = nullptr;
     if (sqlite3session_create(m_connection, "main", &session) == SQLITE_OK)
         m_session.reset(session);
+    // So that the size of a step is known before it is made.
+    int countSize = 1;
+    if (m_session)
+        sqlite3session_object_config(session, SQLITE_SESSION_OBJCONFIG_SIZE, &countSize);
     if (m_session && sqlite3session_attach(session, m_table.constData()) != SQLITE_OK)
         m_session.reset();
 }
@@ -79,7 +83,8 @@ void UndoLog::endStep()
     if (!m_session || sqlite3_get_autocommit(m_connection) == 0 || sqlite3session_isempty(m_session.get()))
         return;
     Made made;
-    const bool isNoted = sqlite3session_changeset(m_session.get(), &made.size, &made.bytes) == SQLITE_OK;
+    const bool isNoted = sqlite3session_changeset_size(m_session.get()) <= kMostBytes
+        && sqlite3session_changeset(m_session.get(), &made.size, &made.bytes) == SQLITE_OK;
     if (isNoted && made.size > 0) {
         QByteArray rows(static_cast<const char*>(made.bytes), made.size);
         ChangeStep change = describe(rows);

@@ -1,7 +1,5 @@
 #include "entry_form.h"
-
-#include <csignal>
-#include <sys/resource.h>
+#include "stored_rows.h"
 
 using namespace Qt::StringLiterals;
 using platform::Answer;
@@ -61,22 +59,6 @@ QDate dateFor(int field, int year)
 {
     return {year, field + 1, 10 + field};
 }
-
-/// While it lives no file can grow, as on a full disk.
-class FullDisk {
-public:
-    FullDisk()
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit none{4096, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
-};
 
 } // namespace
 
@@ -152,15 +134,7 @@ QMap<QString, QString> SaveTest::written(QChar ending, int year)
         return valueFor(
             std::find(std::begin(kTexts), std::end(kTexts), control) - std::begin(kTexts), ending);
     };
-    QMap<QString, QString> row;
-    for (const jet::SchemaTable& table : m_fixture->schema.tables) {
-        if (table.name != u"cnt_main")
-            continue;
-        for (const jet::SchemaColumn& column : table.columns)
-            row[column.name.toLower()] = column.type == jet::ColumnType::YesNo ? u"false"_s : u"null"_s;
-    }
-    row.remove(u"id"_s);
-    row[u"gen_id"_s] = u"0"_s;
+    QMap<QString, QString> row = blankRow(m_fixture->schema);
     for (const Field& field : kFields)
         row[field.column.toString().toLower()] = typed(field.control);
     for (int i = 0; i < int(std::size(kDates)); ++i)
@@ -176,18 +150,7 @@ QMap<QString, QString> SaveTest::written(QChar ending, int year)
 
 QMap<QString, QString> SaveTest::row(const QString& id)
 {
-    QMap<QString, QString> result;
-    const auto rows = m_fixture->context.data.openRecordset(u"select * from cnt_main where id="_s + id);
-    const QStringList columns = rows.columns();
-    for (int i = 0; i < columns.size(); ++i) {
-        const QVariant value = rows.value(i);
-        const bool isDate = value.typeId() == QMetaType::QDate;
-        result[columns[i].toLower()] = !value.isValid() ? u"null"_s
-            : isDate                                    ? value.toDate().toString(Qt::ISODate)
-                                                        : value.toString();
-    }
-    result.remove(u"id"_s);
-    return result;
+    return storedRow(m_fixture->context.data, id);
 }
 
 void SaveTest::fillName(

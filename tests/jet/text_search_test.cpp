@@ -212,7 +212,8 @@ void TextSearchTest::brokenPatternFailsAsEver()
     QVERIFY(!m_book.openRecordset(u"select id from person where Name like '*mu[*'"_s).isValid());
     QVERIFY(!m_book.openRecordset(u"select id from person where city like '*pu*' and Name like '*mu[*'"_s)
                  .isValid());
-    QVERIFY(!m_book.openRecordset(u"select id from person where Name like 'zzz[*' order by Name"_s).isValid());
+    QVERIFY(
+        !m_book.openRecordset(u"select id from person where Name like 'zzz[*' order by Name"_s).isValid());
     QCOMPARE(m_failures, 3);
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void upkeepIsNoStep();
     void anotherProgramsChangeIsKept();
     void oldStepsAreLetGo();
+    void tooMuchIsNoStep();
 
 private:
     QStringList all();
@@ -184,6 +185,21 @@ void UndoLogTest::oldStepsAreLetGo()
         ++steps;
     QCOMPARE(steps, 20);
     QVERIFY(all().constFirst().contains(u"|9|"_s));
+}
+
+void UndoLogTest::tooMuchIsNoStep()
+{
+    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
+    {
+        jet::Batch batch(m_book);
+        const QString name(1024 * 1024, u'x');
+        for (int i = 0; i < 33; ++i)
+            QVERIFY(execute(u"insert into person (Name) values ('%1')"_s.arg(name)));
+    }
+    QVERIFY(!m_book.lastChange()); // nor is what came before
+    QVERIFY(execute(u"update person set Name='Two' where id=1"_s));
+    QVERIFY(m_book.undoLastChange());
+    QCOMPARE(m_book.openRecordset(u"select * from person").count(), 36);
 }
 
 QTEST_GUILESS_MAIN(UndoLogTest)
