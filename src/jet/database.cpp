@@ -164,10 +164,10 @@ Outcome Database::execute(QStringView sql, Way way)
     }
     if (translation.kind == Translation::Kind::MakeTable)
         m_engine->forgetTables();
+    const int rows = sqlite3_changes(m_engine->connection());
+    m_engine->endStatement(result == SQLITE_DONE);
     if (result != SQLITE_DONE)
         return {};
-    const int rows = sqlite3_changes(m_engine->connection());
-    m_engine->endStep();
     return {true, translation.kind == Translation::Kind::Action ? rows : 0};
 }
 
@@ -391,11 +391,12 @@ bool Batch::commit()
         return m_engine->isOpen();
     m_open = false;
     if (m_engine->run(u"COMMIT"_s)) {
-        m_engine->endStep();
+        m_engine->endStatement(true);
         return true;
     }
     m_engine->reportLast(u"commit");
     m_engine->run(u"ROLLBACK"_s);
+    m_engine->dropChanges();
     return false;
 }
 
@@ -404,6 +405,7 @@ void Batch::rollBack()
     if (!std::exchange(m_open, false))
         return;
     m_engine->run(u"ROLLBACK"_s);
+    m_engine->dropChanges();
     m_engine->forgetTables(); // one may have been made or dropped inside
 }
 

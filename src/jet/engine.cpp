@@ -433,28 +433,38 @@ void Engine::forgetTables()
 
 // ---- steps to take back
 
-void Engine::keepChanges(const QString& table, const QString& labelColumn)
+void Engine::keepChanges(const QString& tableName, const QString& labelColumn)
 {
-    if (m_connection && !m_readOnly)
-        m_undo = std::make_unique<UndoLog>(m_connection, table, labelColumn);
+    const CatalogTable* known = m_readOnly ? nullptr : table(tableName);
+    if (!known)
+        return;
+    QStringList columns;
+    for (const CatalogColumn& column : known->columns)
+        columns << column.name;
+    m_undo = std::make_unique<UndoLog>(m_connection, known->name, columns, labelColumn);
 }
 
-void Engine::endStep()
+void Engine::endStatement(bool succeeded)
 {
     if (m_undo && m_upkeeps == 0)
-        m_undo->endStep();
+        m_undo->endStatement(succeeded);
+}
+
+void Engine::dropChanges()
+{
+    if (m_undo)
+        m_undo->skip();
 }
 
 void Engine::beginUpkeep()
 {
-    endStep();
     ++m_upkeeps;
 }
 
 void Engine::endUpkeep()
 {
-    if (--m_upkeeps == 0 && m_undo)
-        m_undo->skip();
+    if (--m_upkeeps == 0)
+        dropChanges();
 }
 
 // ---- failures

@@ -132,7 +132,8 @@ public:
     // What a person may take back.
     void keepChanges(const QString& table, const QString& labelColumn);
     UndoLog* undoLog() { return m_undo.get(); }
-    void endStep(); ///< a statement or a batch has changed rows
+    void endStatement(bool succeeded); ///< which could change rows; also of a batch, when it is committed
+    void dropChanges(); ///< they were rolled back
     void beginUpkeep();
     void endUpkeep();
 

@@ -249,12 +249,12 @@ bool RecordsetData::write(const QString& sql, std::optional<qint64> key)
             bindStored(statement.get(), ++place, change.stored);
         if (key)
             sqlite3_bind_int64(statement.get(), ++place, *key);
-        if (sqlite3_step(statement.get()) == SQLITE_DONE) {
+        const bool done = sqlite3_step(statement.get()) == SQLITE_DONE;
+        m_engine->endStatement(done);
+        if (done) {
             // Somebody else may have removed the row; then nothing was stored.
-            if (sqlite3_changes(m_engine->connection()) > 0) {
-                m_engine->endStep();
+            if (sqlite3_changes(m_engine->connection()) > 0)
                 return true;
-            }
             m_engine->report(m_text, u"the row is gone"_s);
             return false;
         }

@@ -1,147 +1,205 @@
 #include "jet/undo_log.h"
 
+#include "jet/same_name.h"
+
+#include <cstring>
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A changed row that is not as the step left it: another program has been there.
-int refuse(void*, int, sqlite3_changeset_iter*)
+constexpr size_t kBytesOfACell = 96; ///< beside its text, about
+
+bool isSame(sqlite3_value* a, sqlite3_value* b)
 {
-    return SQLITE_CHANGESET_ABORT;
+    const int type = sqlite3_value_type(a);
+    if (type != sqlite3_value_type(b))
+        return false;
+    switch (type) {
+    case SQLITE_NULL: return true;
+    case SQLITE_INTEGER: return sqlite3_value_int64(a) == sqlite3_value_int64(b);
+    case SQLITE_FLOAT: return sqlite3_value_double(a) == sqlite3_value_double(b);
+    default: {
+        const int size = sqlite3_value_bytes(a);
+        return size == sqlite3_value_bytes(b)
+            && std::memcmp(sqlite3_value_blob(a), sqlite3_value_blob(b), size_t(size)) == 0;
+    }
+    }
 }
 
-/// Bytes that the file engine has made.
-struct Made {
-    int size = 0;
-    void* bytes = nullptr;
-    ~Made() { sqlite3_free(bytes); }
-};
-
-struct Statement {
-    sqlite3_stmt* get = nullptr;
-    Statement(sqlite3* connection, const QString& sql)
-    {
-        const QByteArray utf8 = sql.toUtf8();
-        sqlite3_prepare_v2(connection, utf8.constData(), int(utf8.size()), &get, nullptr);
-    }
-    ~Statement() { sqlite3_finalize(get); }
-    Q_DISABLE_COPY_MOVE(Statement)
-};
-
-QString textOf(sqlite3_value* value)
+/// Of a whole row what is null goes without saying. Blank texts of a new row are not held against it either,
+/// since lists of classes have them filled in.
+bool isBlank(sqlite3_value* value, int operation)
 {
-    return QString::fromUtf8(
-        reinterpret_cast<const char*>(sqlite3_value_text(value)), sqlite3_value_bytes(value));
+    const int type = sqlite3_value_type(value);
+    return type == SQLITE_NULL
+        || (operation == SQLITE_INSERT && type == SQLITE_TEXT && sqlite3_value_bytes(value) == 0);
+}
+
+sqlite3_value* copied(sqlite3_value* value)
+{
+    return !value || sqlite3_value_type(value) == SQLITE_NULL ? nullptr : sqlite3_value_dup(value);
+}
+
+void bind(sqlite3_stmt* statement, int place, sqlite3_value* value)
+{
+    value ? sqlite3_bind_value(statement, place, value) : sqlite3_bind_null(statement, place);
+}
+
+bool run(sqlite3* connection, const char* sql)
+{
+    return sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
 } // namespace
 
-void UndoLog::EndSession::operator()(sqlite3_session* session) const
-{
-    sqlite3session_delete(session);
-}
-
-UndoLog::UndoLog(sqlite3* connection, const QString& table, const QString& labelColumn)
+UndoLog::UndoLog(
+    sqlite3* connection, const QString& table, const QStringList& columns, const QString& labelColumn)
     : m_connection(connection)
     , m_table(table.toUtf8())
-    , m_labelSql(u"SELECT [%1] FROM [%2] WHERE rowid = ?"_s.arg(labelColumn, table))
+    , m_labelColumn(-1)
 {
-    const Statement columns(connection,
-        u"SELECT cid FROM pragma_table_info('%1') WHERE name = '%2' COLLATE NOCASE"_s.arg(
-            table, labelColumn));
-    if (columns.get && sqlite3_step(columns.get) == SQLITE_ROW)
-        m_labelColumn = sqlite3_column_int(columns.get, 0);
-    begin();
+    for (const QString& column : columns) {
+        if (sameName(column, labelColumn))
+            m_labelColumn = int(m_columns.size());
+        m_columns << u'[' + column + u']';
+    }
+    sqlite3_preupdate_hook(m_connection, &UndoLog::beforeChange, this);
 }
 
-UndoLog::~UndoLog() = default;
-
-void UndoLog::begin()
+UndoLog::~UndoLog()
 {
-    m_session.reset();
-    sqlite3_session* session = nullptr;
-    if (sqlite3session_create(m_connection, "main", &session) == SQLITE_OK)
-        m_session.reset(session);
-    // So that the size of a step is known before it is made.
-    int countSize = 1;
-    if (m_session)
-        sqlite3session_object_config(session, SQLITE_SESSION_OBJCONFIG_SIZE, &countSize);
-    if (m_session && sqlite3session_attach(session, m_table.constData()) != SQLITE_OK)
-        m_session.reset();
+    sqlite3_preupdate_hook(m_connection, nullptr, nullptr);
+}
+
+void UndoLog::beforeChange(void* self, sqlite3*, int operation, const char*, const char* table,
+    sqlite3_int64 oldId, sqlite3_int64 newId)
+{
+    auto* log = static_cast<UndoLog*>(self);
+    if (!log->m_isUndoing && !log->m_isTooMuch && log->m_table == table)
+        log->note(operation, operation == SQLITE_INSERT ? newId : oldId);
+}
+
+void UndoLog::note(int operation, sqlite3_int64 id)
+{
+    Row row{operation == SQLITE_INSERT   ? ChangeStep::Kind::Added
+            : operation == SQLITE_DELETE ? ChangeStep::Kind::Deleted
+                                         : ChangeStep::Kind::Changed,
+        id, {}};
+    QString label;
+    for (int column = 0; column < sqlite3_preupdate_count(m_connection); ++column) {
+        sqlite3_value* before = nullptr;
+        sqlite3_value* after = nullptr;
+        if (operation != SQLITE_INSERT)
+            sqlite3_preupdate_old(m_connection, column, &before);
+        if (operation != SQLITE_DELETE)
+            sqlite3_preupdate_new(m_connection, column, &after);
+        if (column == m_labelColumn) {
+            sqlite3_value* name = before ? before : after;
+            label = QString::fromUtf8(
+                reinterpret_cast<const char*>(sqlite3_value_text(name)), sqlite3_value_bytes(name));
+        }
+        if (before && after ? isSame(before, after) : isBlank(before ? before : after, operation))
+            continue;
+        m_pending.bytes += kBytesOfACell + size_t(before ? sqlite3_value_bytes(before) : 0)
+            + size_t(after ? sqlite3_value_bytes(after) : 0);
+        row.cells.push_back(Cell{column, {}, {}});
+        row.cells.back().before.reset(copied(before));
+        row.cells.back().after.reset(copied(after));
+    }
+    if (row.cells.empty()) // nothing new
+        return;
+    if (m_pending.rows.empty())
+        m_pending.change = {row.kind, 0, label};
+    m_pending.rows.push_back(std::move(row));
+    if (m_pending.bytes > kMostBytes) {
+        m_pending = {};
+        m_isTooMuch = true;
+    }
+}
+
+void UndoLog::endStatement(bool succeeded)
+{
+    if (!succeeded && m_pending.rows.size() > m_pendingOfSucceeded)
+        m_pending.rows.erase(
+            m_pending.rows.begin() + std::ptrdiff_t(m_pendingOfSucceeded), m_pending.rows.end());
+    m_pendingOfSucceeded = m_pending.rows.size();
+    if (sqlite3_get_autocommit(m_connection) != 0)
+        closeStep();
+}
+
+void UndoLog::closeStep()
+{
+    // The order of the steps must have no gap.
+    if (m_isTooMuch || m_bytes + m_pending.bytes > kMostBytes) {
+        m_steps.clear();
+        m_bytes = 0;
+    }
+    if (!m_isTooMuch && !m_pending.rows.empty()) {
+        m_pending.change.rows = int(m_pending.rows.size());
+        m_bytes += m_pending.bytes;
+        m_steps.push_back(std::move(m_pending));
+    }
+    if (m_steps.size() > kMostSteps) {
+        m_bytes -= m_steps.front().bytes;
+        m_steps.pop_front();
+    }
+    skip();
 }
 
 void UndoLog::skip()
 {
-    if (m_session && !sqlite3session_isempty(m_session.get()))
-        begin();
+    m_pending = {};
+    m_pendingOfSucceeded = 0;
+    m_isTooMuch = false;
 }
 
-void UndoLog::endStep()
+// A row is only touched while it is as the step left it.
+QString UndoLog::undoSql(const Row& row) const
 {
-    if (!m_session || sqlite3_get_autocommit(m_connection) == 0 || sqlite3session_isempty(m_session.get()))
-        return;
-    Made made;
-    const bool isNoted = sqlite3session_changeset_size(m_session.get()) <= kMostBytes
-        && sqlite3session_changeset(m_session.get(), &made.size, &made.bytes) == SQLITE_OK;
-    if (isNoted && made.size > 0) {
-        QByteArray rows(static_cast<const char*>(made.bytes), made.size);
-        ChangeStep change = describe(rows);
-        m_bytes += rows.size();
-        m_steps.push_back({std::move(change), std::move(rows)});
+    QStringList names;
+    QStringList marks;
+    QStringList changes;
+    QStringList asLeft{u"rowid = ?"_s};
+    for (const Cell& cell : row.cells) {
+        const QString& name = m_columns[cell.column];
+        names << name;
+        marks << u"?"_s;
+        changes << name + u" = ?"_s;
+        asLeft << name + u" COLLATE BINARY IS ?"_s;
     }
-    // The order of the steps must have no gap.
-    if (!isNoted || m_bytes > kMostBytes) {
-        m_steps.clear();
-        m_bytes = 0;
+    const QString table = u'[' + QString::fromUtf8(m_table) + u']';
+    switch (row.kind) {
+    case ChangeStep::Kind::Added: return u"DELETE FROM "_s + table + u" WHERE "_s + asLeft.join(u" AND "_s);
+    case ChangeStep::Kind::Deleted:
+        return u"INSERT INTO "_s + table + u" ("_s + names.join(u", "_s) + u") VALUES ("_s
+            + marks.join(u", "_s) + u')';
+    case ChangeStep::Kind::Changed: break;
     }
-    if (m_steps.size() > kMostSteps) {
-        m_bytes -= m_steps.front().rows.size();
-        m_steps.pop_front();
-    }
-    begin();
+    return u"UPDATE "_s + table + u" SET "_s + changes.join(u", "_s) + u" WHERE "_s + asLeft.join(u" AND "_s);
 }
 
-ChangeStep UndoLog::describe(QByteArray& rows) const
+bool UndoLog::undo(const Row& row)
 {
-    ChangeStep change;
-    sqlite3_changeset_iter* at = nullptr;
-    if (sqlite3changeset_start(&at, int(rows.size()), rows.data()) != SQLITE_OK)
-        return change;
-    while (sqlite3changeset_next(at) == SQLITE_ROW) {
-        if (++change.rows > 1)
-            continue;
-        const char* table = nullptr;
-        int columns = 0;
-        int operation = 0;
-        sqlite3changeset_op(at, &table, &columns, &operation, nullptr);
-        change.kind = operation == SQLITE_INSERT ? ChangeStep::Kind::Added
-            : operation == SQLITE_DELETE         ? ChangeStep::Kind::Deleted
-                                                 : ChangeStep::Kind::Changed;
-        sqlite3_value* value = nullptr;
-        const bool isNew = operation == SQLITE_INSERT;
-        if (m_labelColumn >= 0 && m_labelColumn < columns)
-            isNew ? sqlite3changeset_new(at, m_labelColumn, &value)
-                  : sqlite3changeset_old(at, m_labelColumn, &value);
-        if (value) {
-            change.label = textOf(value);
-        } else if (operation == SQLITE_UPDATE) {
-            // Only what was changed is noted, and the key, which comes first.
-            sqlite3changeset_old(at, 0, &value);
-            change.label = value ? labelOf(sqlite3_value_int64(value)) : QString();
-        }
+    const QByteArray sql = undoSql(row).toUtf8();
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(m_connection, sql.constData(), int(sql.size()), &statement, nullptr) != SQLITE_OK)
+        return false;
+    int place = 0;
+    if (row.kind != ChangeStep::Kind::Added) {
+        for (const Cell& cell : row.cells)
+            bind(statement, ++place, cell.before.get());
     }
-    sqlite3changeset_finalize(at);
-    return change;
-}
-
-QString UndoLog::labelOf(sqlite3_int64 id) const
-{
-    const Statement read(m_connection, m_labelSql);
-    if (!read.get || sqlite3_bind_int64(read.get, 1, id) != SQLITE_OK || sqlite3_step(read.get) != SQLITE_ROW)
-        return {};
-    return textOf(sqlite3_column_value(read.get, 0));
+    if (row.kind != ChangeStep::Kind::Deleted) {
+        sqlite3_bind_int64(statement, ++place, row.id);
+        for (const Cell& cell : row.cells)
+            bind(statement, ++place, cell.after.get());
+    }
+    const bool done = sqlite3_step(statement) == SQLITE_DONE && sqlite3_changes(m_connection) == 1;
+    sqlite3_finalize(statement);
+    return done;
 }
 
 bool UndoLog::undoLast()
@@ -150,15 +208,15 @@ bool UndoLog::undoLast()
         return false;
     const Step step = std::move(m_steps.back());
     m_steps.pop_back();
-    m_bytes -= step.rows.size();
-    m_session.reset();
-    Made inverse;
-    const bool done
-        = sqlite3changeset_invert(int(step.rows.size()), step.rows.constData(), &inverse.size, &inverse.bytes)
-            == SQLITE_OK
-        && sqlite3changeset_apply(m_connection, inverse.size, inverse.bytes, nullptr, refuse, nullptr)
-            == SQLITE_OK;
-    begin();
+    m_bytes -= step.bytes;
+    m_isUndoing = true;
+    bool done = run(m_connection, "BEGIN IMMEDIATE");
+    for (auto row = step.rows.rbegin(); done && row != step.rows.rend(); ++row)
+        done = undo(*row);
+    done = done && run(m_connection, "COMMIT");
+    if (!done && sqlite3_get_autocommit(m_connection) == 0)
+        run(m_connection, "ROLLBACK");
+    m_isUndoing = false;
     return done;
 }
 

@@ -88,7 +88,7 @@ void UndoCommandTest::anotherProgramHasBeenThere()
     jet::Database other;
     QCOMPARE(other.open(fixture.book.path()), jet::Database::OpenResult::Opened);
     QVERIFY(other.execute(u"update cnt_main set Name='Theirs'"_s));
-    fixture.boxes.expect(u"This can not be taken back: another program has changed the contact since."_s);
+    fixture.boxes.expect(u"This can not be taken back: the contact has been changed since."_s);
     edit.actions().constFirst()->trigger();
     QCOMPARE(fixture.book.firstText(u"select name from cnt_main"_s), u"Theirs"_s);
     QCOMPARE(fixture.verify(), QString());

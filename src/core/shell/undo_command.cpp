@@ -59,7 +59,7 @@ void UndoCommand::undo()
         return;
     if (!m_context.data.undoLastChange()) {
         m_context.services.boxes.warning(
-            tr("This can not be taken back: another program has changed the contact since."),
+            tr("This can not be taken back: the contact has been changed since."),
             m_context.shared.AppTitle);
         return;
     }
