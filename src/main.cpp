@@ -1,5 +1,6 @@
 #include "core/context.h"
 #include "core/screens.h"
+#include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
 #include "core/shell/start_up.h"
@@ -94,6 +95,7 @@ int main(int argc, char** argv)
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock}};
     screens.setContext(context);
     shell::registerShell(screens);
+    setup::registerSetup(screens);
     entry::registerEntry(screens);
     views::registerViews(screens);
 

@@ -8,6 +8,7 @@
 #include "core/record_steps.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
+#include "core/text_pieces.h"
 #include "entry/assist_panel.h"
 #include "entry/card_values.h"
 #include "entry/entry_assists.h"
@@ -193,8 +194,9 @@ void FormMain::load()
     clearForm();
     setListSources(this, context());
     m_assist->selectScope(CityScope::All);
-    if (shared().ContMerge)
-        hideSubcategory();
+    m_isMerged = shared().ContMerge;
+    if (m_isMerged)
+        showSubcategory(false);
     context().frame.setTitle(caption(m_variant.title));
     context().frame.showDate(
         widgets::formatDate(context().services.clock.today(), core::datePattern(shared().NationalMode)));
@@ -202,13 +204,33 @@ void FormMain::load()
     go(Mode::Idle);
 }
 
-void FormMain::hideSubcategory()
+void FormMain::showSubcategory(bool shown)
 {
     QWidget* list = control(u"DtcmbSubCate"_s);
-    list->hide();
+    list->setVisible(shown);
     for (QLabel* label : findChildren<QLabel*>())
         if (label->buddy() == list)
-            label->hide();
+            label->setVisible(shown);
+}
+
+void FormMain::vocabulariesChanged()
+{
+    m_userFields->showLabels();
+    if (m_isMerged == shared().ContMerge)
+        return;
+    const bool wasTouched = isTouched();
+    const QString category = widgets::textOf(control(u"DtcmbCate"_s));
+    const QString subcategory = widgets::textOf(control(u"DtcmbSubCate"_s));
+    m_isMerged = shared().ContMerge;
+    if (!m_isMerged) {
+        setText(u"DtcmbCate"_s, core::PickByDash(category, 1));
+        setText(u"DtcmbSubCate"_s, core::PickByDash(category, 2));
+    } else if (!category.isEmpty()) {
+        setText(u"DtcmbCate"_s, core::shownCategory({category, subcategory}, true));
+    }
+    showSubcategory(!m_isMerged);
+    if (!wasTouched)
+        m_untouched = values().texts;
 }
 
 void FormMain::go(Mode mode)

@@ -2,6 +2,7 @@
 
 #include "core/handover/contact_screen.h"
 #include "core/handover/save_source.h"
+#include "core/handover/vocabulary_listener.h"
 #include "core/screen.h"
 #include "entry/form_variant.h"
 #include "widgets/form_kit.h"
@@ -21,7 +22,10 @@ class UserFields;
 
 /// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
 /// it. The shorter forms are the same class with another variant.
-class FormMain : public core::Screen, public core::ContactScreen, public core::SaveSource {
+class FormMain : public core::Screen,
+                 public core::ContactScreen,
+                 public core::SaveSource,
+                 public core::VocabularyListener {
     Q_OBJECT
 
 public:
@@ -38,6 +42,8 @@ public:
     formats::CardValues cardValues() const override;
     platform::MailContact mailContact() const override;
     qint64 saveContact() override;
+    /// Category and subcategory may have become one entry, or two.
+    void vocabulariesChanged() override;
 
 protected:
     bool event(QEvent* event) override;
@@ -57,7 +63,7 @@ private:
     void startEditing();
     void cancel();
     void clearForm();
-    void hideSubcategory();
+    void showSubcategory(bool shown);
     void chooseRecord(const QString& id);
     bool showRecord(const QString& id);
     void showNameLabel();
@@ -77,6 +83,7 @@ private:
 
     const FormVariant& m_variant;
     jet::Recordset Adodc1; ///< all contacts in order, for the position
+    bool m_isMerged = false; ///< category and subcategory stand in one list
     bool IsEditing = false;
     Mode m_mode = Mode::Idle;
     QTabWidget* sstab1;

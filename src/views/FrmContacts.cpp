@@ -7,6 +7,7 @@
 #include "core/mail_key.h"
 #include "core/scheduler_rows.h"
 #include "core/sound_files.h"
+#include "core/text_pieces.h"
 #include "core/vocabularies.h"
 #include "platform/clock.h"
 #include "platform/contact_sync.h"
@@ -171,14 +172,40 @@ void FrmContacts::setSources()
         &widgets::FilledCombo::refill);
     combo(u"Cmbtitle")->setValues({u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
     combo(u"cmbnview")->setValues(core::nameViews());
-    if (!shared().ContMerge)
-        return;
-    // Category and subcategory are one entry.
-    combo(u"DtcmbSubCate")->hide();
+    m_isMerged = shared().ContMerge;
+    if (m_isMerged)
+        showSubcategory(false);
+}
+
+void FrmContacts::showSubcategory(bool shown)
+{
+    auto* list = child<QWidget>(this, u"DtcmbSubCate"_s);
+    list->setVisible(shown);
     for (QLabel* label : findChildren<QLabel*>()) {
-        if (label->buddy() == combo(u"DtcmbSubCate"))
-            label->hide();
+        if (label->buddy() == list)
+            label->setVisible(shown);
     }
+}
+
+// What was typed and not saved stays, in the new way.
+void FrmContacts::vocabulariesChanged()
+{
+    if (m_isMerged == shared().ContMerge)
+        return;
+    const bool wasTouched = isTouched();
+    auto* both = child<QWidget>(this, u"DtcmbCate"_s);
+    auto* second = child<QWidget>(this, u"DtcmbSubCate"_s);
+    const QString category = widgets::textOf(both);
+    m_isMerged = shared().ContMerge;
+    if (!m_isMerged) {
+        widgets::setTextOf(both, core::PickByDash(category, 1));
+        widgets::setTextOf(second, core::PickByDash(category, 2));
+    } else if (!category.isEmpty()) {
+        widgets::setTextOf(both, core::shownCategory({category, widgets::textOf(second)}, true));
+    }
+    showSubcategory(!m_isMerged);
+    if (!wasTouched)
+        m_untouched = values();
 }
 
 void FrmContacts::connectControls()

@@ -2,6 +2,7 @@
 
 #include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
+#include "core/handover/vocabulary_listener.h"
 #include "core/screen.h"
 #include "views/simple_contact.h"
 
@@ -18,7 +19,10 @@ class SelectorTools;
 
 /// The quick view and the simple add: a list of names, and a short form with the fields used most. What was
 /// typed and not saved is never left without a question.
-class FrmContacts : public core::Screen, public core::ContactScreen, public core::BookListener {
+class FrmContacts : public core::Screen,
+                    public core::ContactScreen,
+                    public core::BookListener,
+                    public core::VocabularyListener {
     Q_OBJECT
 
 public:
@@ -28,6 +32,8 @@ public:
     void bookChanged() override;
     bool showContact(qint64 id) override;
     bool mayClose() override;
+    /// Category and subcategory may have become one entry, or two.
+    void vocabulariesChanged() override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -37,6 +43,7 @@ private:
     QWidget* layOutForm();
     void layOutName(QWidget* page);
     void setSources();
+    void showSubcategory(bool shown);
     void connectControls();
 
     SimpleValues values() const;
@@ -59,6 +66,7 @@ private:
     SimpleValues m_untouched; ///< what stood on the form before anybody typed
     bool m_quiet = false; ///< the list moves by itself
     bool m_wasShown = false;
+    bool m_isMerged = false; ///< category and subcategory stand in one list
 
     SelectorTools* m_tools;
     widgets::RecordList* DBList1;

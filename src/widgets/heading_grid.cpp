@@ -24,6 +24,8 @@ constexpr int RowPadding = 8;
 constexpr int WidestMargin = 4; ///< characters of a column that shows nothing
 constexpr int BranchMargin = 4;
 constexpr int BranchWidth = 14; ///< of the mark that folds a group
+constexpr int OrdinarySize = 8; ///< of a grid whose texts are as large as all others
+constexpr auto SizeProperty = "orvaneGridFont"; ///< of the application object
 
 } // namespace
 
@@ -108,6 +110,23 @@ private:
     HeadingGrid* m_grid;
 };
 
+int gridFontSize()
+{
+    const int size = qApp->property(SizeProperty).toInt();
+    return size > 0 ? size : OrdinarySize;
+}
+
+void setGridFontSize(int size)
+{
+    if (size == gridFontSize())
+        return;
+    qApp->setProperty(SizeProperty, size);
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (auto* grid = qobject_cast<HeadingGrid*>(widget))
+            grid->followFontSize();
+    }
+}
+
 HeadingGrid::HeadingGrid(QWidget* parent)
     : QTableView(parent)
     , m_model(new RowsModel(this))
@@ -139,7 +158,15 @@ HeadingGrid::HeadingGrid(QWidget* parent)
             if (!m_isRestoring)
                 Q_EMIT currentRowChanged(current.row());
         });
+    followFontSize();
     applyWidths();
+}
+
+void HeadingGrid::followFontSize()
+{
+    const QFont ordinary = QApplication::font(this);
+    if (gridFontSize() != OrdinarySize || font().pointSize() != ordinary.pointSize())
+        setFontSize(ordinary.pointSize() + gridFontSize() - OrdinarySize);
 }
 
 void HeadingGrid::setHeadings(QStringView headings, const QStringList& columns)

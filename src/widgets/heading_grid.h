@@ -21,6 +21,11 @@ struct Heading {
     friend bool operator==(const Heading&, const Heading&) = default;
 };
 
+/// The size of the texts in all grids, as the person chose it: 8 is that of all other texts, and a larger one
+/// is as many points above it. Grids that are there change at once.
+int gridFontSize();
+void setGridFontSize(int size);
+
 /// Headings are one string of columns joined by "|"; a column is as wide as its text with all its blanks.
 QList<Heading> parseHeadings(QStringView headings);
 
@@ -100,6 +105,8 @@ private:
     void restoreLines(int row, int top);
     bool foldKey(int key);
     void setFolded(int row, bool folded);
+    friend void setGridFontSize(int size);
+    void followFontSize();
     void applyWidths();
     void applyHiddenColumns();
     int searchColumn() const;

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void init();
     void onceADay();
     void rotationKeepsTenAndTouchesNothingElse();
+    void copyBeforeADeletion();
     void clockSetBack();
     void damagedBookIsNoBackup();
     void noRoom();
@@ -115,6 +116,28 @@ void BackupsTest::rotationKeepsTenAndTouchesNothingElse()
     QCOMPARE(listed.size(), 10);
     QCOMPARE(listed.first().day, m_today.addDays(13 * 3));
     QCOMPARE(listed.last().day, m_today.addDays(4 * 3));
+}
+
+// The two kinds do not push one another out, and both can be restored.
+void BackupsTest::copyBeforeADeletion()
+{
+    const QString folder = path(u"backup"_s);
+    QVERIFY(backUpOnceADay(m_book, folder, m_today) == BackupResult::Made);
+    for (int i = 0; i < 7; ++i)
+        QVERIFY(keepBeforeDeletion(m_book, folder, m_now)); // all within a second
+    QCOMPARE(backups().size(), 1 + 5);
+    for (int day = 1; day <= 12; ++day)
+        backUpOnceADay(m_book, folder, m_today.addDays(day));
+    QCOMPARE(backups().filter(u"before-deletion"_s).size(), 5);
+    QVERIFY(backUpOnceADay(m_book, folder, m_today) == BackupResult::Made);
+
+    const QList<Backup> listed = listBackups(folder);
+    QCOMPARE(listed.last().path, daily(m_today));
+    const Backup& newest = listed[listed.size() - 6];
+    QCOMPARE(newest.time, QTime(10, 30, 6));
+    m_book.close();
+    QVERIFY(restore(newest.path, m_file, m_now));
+    QCOMPARE(names(m_file), QStringList{u"Asha"_s});
 }
 
 void BackupsTest::clockSetBack()

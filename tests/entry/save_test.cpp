@@ -238,6 +238,16 @@ void SaveTest::mergedCategory()
     m_fixture->click(u"Command1"_s);
     QCOMPARE(
         m_fixture->book.rows(u"select category1,category2 from cnt_main"_s), QStringList{u"C|Undefined"_s});
+    // The switch is turned in the set-up while a contact is being entered.
+    m_fixture->click(u"SSCommand3"_s);
+    fillName(u"Bela"_s, {}, {}, u"First,Last"_s);
+    m_fixture->set(u"DtcmbCate"_s, u"D-E"_s);
+    m_fixture->shared.ContMerge = false;
+    m_fixture->form()->vocabulariesChanged();
+    QVERIFY(m_fixture->shows(u"DtcmbSubCate"_s));
+    m_fixture->click(u"Command1"_s);
+    QCOMPARE(m_fixture->book.rows(u"select category1,category2 from cnt_main where id=2"_s),
+        QStringList{u"D|E"_s});
 }
 
 void SaveTest::refusals_data()

@@ -17,6 +17,7 @@ const QHash<QString, QStringList> kArrows{
     {u"widgets"_s, {u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"core"_s, {u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"core/shell"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
+    {u"core/setup"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"tools"_s, {u"core"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
 };
 /// Every other room under src is a subsystem.
@@ -41,7 +42,11 @@ QList<File> filesUnder(const QStringList& folders, const QStringList& names)
 
 QString roomOf(const QString& path)
 {
-    return path.startsWith(u"core/shell/") ? u"core/shell"_s : path.section(u'/', 0, -2).section(u'/', 0, 0);
+    for (const QString& room : {u"core/shell"_s, u"core/setup"_s}) {
+        if (path.startsWith(room + u'/'))
+            return room;
+    }
+    return path.section(u'/', 0, -2).section(u'/', 0, 0);
 }
 
 QStringList includesOf(const QString& text)

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "core/setup/register_setup.h"
 #include "core/shell/action_performer.h"
 #include "core/shell/frame_settings.h"
 #include "core/shell/frmSplash.h"
@@ -508,6 +509,7 @@ void FrameTest::everyCommand()
 {
     QFETCH(bool, sample);
     FrameFixture f(sample ? TestBook::Rows::Sample : TestBook::Rows::None);
+    setup::registerSetup(f.registry);
     entry::registerEntry(f.registry);
     views::registerViews(f.registry);
     if (sample) // a mail that is due would ask

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup() { QCOMPARE(m_fixture->verify(), QString()); }
     void newContactIsStored();
     void mergedCategoryIsCut();
+    void categoryFollowsTheSwitch();
     void changeWritesTheFormOnly();
     void refuses_data();
     void refuses();
@@ -100,6 +101,31 @@ void FrmContactsTest::mergedCategoryIsCut()
     click(u"Command1"_s);
     QCOMPARE(rows(u"select Name,category1,category2,Priority from cnt_main where id=13"_s),
         QStringList{u"Acme|Friends|Club|4"_s});
+}
+
+// The switch is turned in the set-up while something is being typed.
+void FrmContactsTest::categoryFollowsTheSwitch()
+{
+    open();
+    type(u"txtcmpny"_s, u"Acme"_s);
+    type(u"DtcmbCate"_s, u"Friends"_s);
+    type(u"DtcmbSubCate"_s, u"Club"_s);
+    m_fixture->shared.ContMerge = true;
+    m_form->vocabulariesChanged();
+    QCOMPARE(text(u"DtcmbCate"_s), u"Friends-Club"_s);
+    QVERIFY(!child<QWidget>(m_form, u"DtcmbSubCate"_s)->isVisible());
+    m_fixture->shared.ContMerge = false;
+    m_form->vocabulariesChanged();
+    QCOMPARE(text(u"DtcmbCate"_s) + u'|' + text(u"DtcmbSubCate"_s), u"Friends|Club"_s);
+    QVERIFY(child<QWidget>(m_form, u"DtcmbSubCate"_s)->isVisible());
+    type(u"cmbnview"_s, u"Company"_s);
+    click(u"Command1"_s);
+    QCOMPARE(rows(u"select Name,category1,category2 from cnt_main where id=13"_s),
+        QStringList{u"Acme|Friends|Club"_s});
+    // A form that nobody has touched is not touched by the switch.
+    m_fixture->shared.ContMerge = true;
+    m_form->vocabulariesChanged();
+    QVERIFY(m_form->mayClose());
 }
 
 void FrmContactsTest::changeWritesTheFormOnly()

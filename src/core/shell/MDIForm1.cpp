@@ -14,6 +14,7 @@
 #include "platform/shell.h"
 #include "platform/special_folders.h"
 #include "widgets/date_box.h"
+#include "widgets/heading_grid.h"
 #include "widgets/theme.h"
 
 #include <QAction>
@@ -109,6 +110,8 @@ public:
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(screen);
+        // A dialog that sizes itself stays below two thirds of the display, which is too small for some.
+        resize(sizeHint().boundedTo(parent->size()));
         connect(screen, &core::Screen::closeRequested, this, &QDialog::close);
         connect(screen, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
     }
@@ -279,6 +282,7 @@ void MDIForm1::loadFrame()
     shared.DocumentsPath = m_context->services.folders.SpecialFolderPath(5);
     shared.AppTitle = u"Orvane Contacts"_s;
     const FrameSettings settings = readFrameSettings(m_context->data, shared);
+    widgets::setGridFontSize(shared.GridFontSize);
     m_tools->showPersonalTools(!settings.business);
     m_tools->showCityTools(shared.NationalMode);
     showDate(widgets::formatDate(today, core::datePattern(shared.NationalMode)));

@@ -29,9 +29,12 @@ std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Back
     list->setAccessibleName(QObject::tr("Backups"));
     for (const core::Backup& backup : backups) {
         const double megabytes = double(QFileInfo(backup.path).size()) / (1024 * 1024);
-        list->addItem(QObject::tr("%1   (%2 MB)")
-                          .arg(QLocale().toString(backup.day, QLocale::LongFormat),
-                              QLocale().toString(megabytes, 'f', 1)));
+        const QString day = QLocale().toString(backup.day, QLocale::LongFormat);
+        const QString when = backup.time.isValid()
+            ? QObject::tr("%1, %2, before a deletion")
+                  .arg(day, QLocale().toString(backup.time, QLocale::ShortFormat))
+            : day;
+        list->addItem(QObject::tr("%1   (%2 MB)").arg(when, QLocale().toString(megabytes, 'f', 1)));
     }
     list->setCurrentRow(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);

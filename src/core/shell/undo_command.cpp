@@ -59,8 +59,7 @@ void UndoCommand::undo()
         return;
     if (!m_context.data.undoLastChange()) {
         m_context.services.boxes.warning(
-            tr("This can not be taken back: the contact has been changed since."),
-            m_context.shared.AppTitle);
+            tr("This can not be taken back: the contact has been changed since."), m_context.shared.AppTitle);
         return;
     }
     for (core::BookListener* listener : m_context.screens.openOnes<core::BookListener>())

@@ -18,24 +18,45 @@ namespace core {
 namespace {
 
 constexpr int kBackupsKept = 10;
+constexpr int kDeletionsKept = 5;
 
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(core::Backups)
 };
 
-/// All files of exactly the daily pattern, newest first.
-QList<Backup> dailyFiles(const QString& folder)
+/// The daily copy is made at the start of a day, before anything is deleted; its time is not valid.
+bool isNewer(const Backup& a, const Backup& b)
 {
-    static const QRegularExpression pattern(u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})\\.dll\\z"_s);
+    return a.day != b.day ? a.day > b.day : a.time.isValid() && (!b.time.isValid() || a.time > b.time);
+}
+
+/// All files of exactly the pattern, newest first. The first group is the day, the second the time.
+QList<Backup> filesOf(const QString& folder, const QRegularExpression& pattern)
+{
     QList<Backup> found;
     for (const QFileInfo& entry : QDir(folder).entryInfoList({u"Orvanedata-*.dll"_s}, QDir::Files)) {
         const auto match = pattern.match(entry.fileName());
         const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
-        if (match.hasMatch() && day.isValid() && !entry.isSymLink())
-            found << Backup{entry.absoluteFilePath(), day};
+        const QTime time = QTime::fromString(match.captured(2), u"HHmmss"_s);
+        const bool timeFits = match.captured(2).isEmpty() || time.isValid();
+        if (match.hasMatch() && day.isValid() && timeFits && !entry.isSymLink())
+            found << Backup{entry.absoluteFilePath(), day, time};
     }
-    std::sort(found.begin(), found.end(), [](const Backup& a, const Backup& b) { return a.day > b.day; });
+    std::sort(found.begin(), found.end(), isNewer);
     return found;
+}
+
+QList<Backup> dailyFiles(const QString& folder)
+{
+    static const QRegularExpression pattern(u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})\\.dll\\z"_s);
+    return filesOf(folder, pattern);
+}
+
+QList<Backup> deletionFiles(const QString& folder)
+{
+    static const QRegularExpression pattern(
+        u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})-before-deletion-([0-9]{6})\\.dll\\z"_s);
+    return filesOf(folder, pattern);
 }
 
 bool isSound(const QString& path)
@@ -49,11 +70,10 @@ bool isSound(const QString& path)
 
 } // namespace
 
-BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDate today)
+namespace {
+
+BackupResult copyTo(jet::Database& database, const QString& folder, const QString& path)
 {
-    const QString path = QDir(folder).filePath(u"Orvanedata-"_s + today.toString(Qt::ISODate) + u".dll"_s);
-    if (QFileInfo::exists(path))
-        return BackupResult::NotNeeded;
     // Checked under another name, so that damage is never found under the name of a backup.
     const QString unchecked = path + u".new"_s;
     QFile::remove(unchecked);
@@ -67,6 +87,19 @@ BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDat
         QFile::remove(unchecked);
         return BackupResult::Failed;
     }
+    return BackupResult::Made;
+}
+
+} // namespace
+
+BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDate today)
+{
+    const QString path = QDir(folder).filePath(u"Orvanedata-"_s + today.toString(Qt::ISODate) + u".dll"_s);
+    if (QFileInfo::exists(path))
+        return BackupResult::NotNeeded;
+    const BackupResult result = copyTo(database, folder, path);
+    if (result != BackupResult::Made)
+        return result;
     const QList<Backup> all = dailyFiles(folder);
     for (qsizetype i = kBackupsKept; i < all.size(); ++i) {
         // With a clock that was set back the new one may be the oldest by its name.
@@ -76,9 +109,36 @@ BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDat
     return BackupResult::Made;
 }
 
+bool keepBeforeDeletion(jet::Database& database, const QString& folder, const QDateTime& now)
+{
+    const auto pathAt = [&folder](const QDateTime& time) {
+        return QDir(folder).filePath(
+            time.toString(u"'Orvanedata-'yyyy-MM-dd'-before-deletion-'HHmmss'.dll'"_s));
+    };
+    QDateTime time = now;
+    // Several within one second stand in their order.
+    if (const QList<Backup> before = deletionFiles(folder); !before.isEmpty()) {
+        const QDateTime newest(before.first().day, before.first().time);
+        if (newest >= now && newest < now.addSecs(60))
+            time = newest.addSecs(1);
+    }
+    while (QFileInfo::exists(pathAt(time)))
+        time = time.addSecs(1);
+    const QString path = pathAt(time);
+    if (copyTo(database, folder, path) != BackupResult::Made)
+        return false;
+    const QList<Backup> all = deletionFiles(folder);
+    for (qsizetype i = kDeletionsKept; i < all.size(); ++i) {
+        if (QFileInfo(all[i].path) != QFileInfo(path))
+            QFile::remove(all[i].path);
+    }
+    return true;
+}
+
 QList<Backup> listBackups(const QString& folder)
 {
-    QList<Backup> found = dailyFiles(folder);
+    QList<Backup> found = dailyFiles(folder) + deletionFiles(folder);
+    std::sort(found.begin(), found.end(), isNewer);
     found.removeIf([](const Backup& backup) { return !BookFiles::inspect(backup.path); });
     return found;
 }

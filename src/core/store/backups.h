@@ -13,10 +13,12 @@ class Database;
 
 namespace core {
 
-/// A daily copy of the data database: `Orvanedata-2026-06-15.dll`.
+/// A daily copy of the data database: `Orvanedata-2026-06-15.dll`. Or one that was made just before many
+/// contacts were deleted: `Orvanedata-2026-06-15-before-deletion-143005.dll`.
 struct Backup {
     QString path;
     QDate day;
+    QTime time = {}; ///< only of a copy before a deletion
 };
 
 enum class BackupResult {
@@ -31,7 +33,11 @@ enum class BackupResult {
 /// person looks at something already; a thread of its own needs a Database of its own.
 BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDate today);
 
-/// The daily copies that look complete, newest first.
+/// Copies the book before a deletion that the person may regret. The daily rotation leaves these copies
+/// alone; of their own the last five stay. False when there is no sound copy: then nothing should be deleted.
+bool keepBeforeDeletion(jet::Database& database, const QString& folder, const QDateTime& now);
+
+/// The copies that look complete, newest first.
 QList<Backup> listBackups(const QString& folder);
 /// The newest copy that proves sound when it is read as a whole.
 std::optional<Backup> lastGoodBackup(const QString& folder);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/screen.h"
+
+class QTabWidget;
+
+namespace widgets {
+class HeadingGrid;
+}
+
+namespace setup {
+
+class SetupPanel;
+enum class ListTab;
+
+/// The set-up of the address book: what the entry forms offer and what a new contact starts with. A tab is
+/// read when it is looked at; other screens follow each change at once.
+class FrmOthers : public core::Screen {
+    Q_OBJECT
+
+public:
+    explicit FrmOthers(core::Context& context, QWidget* parent = nullptr);
+
+    void load() override;
+    QSize sizeHint() const override; ///< as a dialog: every tab without scrolling
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* listsPage(ListTab tab);
+    QWidget* addresses();
+    void addTab(QWidget* page, const QString& caption, QStringView icon);
+    QWidget* layOutFoot();
+    void watch(SetupPanel* panel);
+    void readTab();
+    void tellLists();
+    void tellBook();
+
+    QTabWidget* sstab1;
+    widgets::HeadingGrid* m_addresses = nullptr;
+    bool m_isRead = false;
+};
+
+} // namespace setup

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/setup/setup_panel.h"
+
+class QCheckBox;
+
+namespace setup {
+
+/// What is dialled before a number.
+class DialerPanel : public SetupPanel {
+    Q_OBJECT
+
+public:
+    explicit DialerPanel(core::Context& context, QWidget* parent = nullptr);
+
+    void refresh() override;
+
+private:
+    QString text(const QString& control) const;
+    void save();
+    void writeCitySwitch(bool on);
+
+    QCheckBox* chkDialerCity;
+    QLabel* m_hint;
+};
+
+} // namespace setup

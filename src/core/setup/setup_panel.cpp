@@ -1,0 +1,39 @@
+#include "core/setup/setup_panel.h"
+
+#include "platform/message_boxes.h"
+#include "platform/sounds.h"
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace setup {
+
+SetupPanel::SetupPanel(core::Context& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+{
+}
+
+void SetupPanel::playSound(QStringView name) const
+{
+    m_context.services.sounds.play(u"\\UserFiles\\Misc\\sound\\"_s + name.toString() + u".wav"_s);
+}
+
+void SetupPanel::inform(const QString& text) const
+{
+    m_context.services.boxes.information(text, m_context.shared.AppTitle);
+}
+
+QLabel* makeHint(const QString& name)
+{
+    auto* hint = new QLabel;
+    hint->setObjectName(name);
+    hint->setTextFormat(Qt::PlainText);
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignTop);
+    hint->setMinimumHeight(2 * hint->fontMetrics().lineSpacing());
+    return hint;
+}
+
+} // namespace setup
