@@ -4,48 +4,69 @@
 #include "core/text_pieces.h"
 #include "jet/date_text.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace entry {
 
 namespace {
 
-constexpr ColumnRow kDetailedAdd[] = {
-    {u"Title", u"Cmbtitle"},
-    {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
-    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
-    {u"h_city", u"dtcmbcity"},
-    {u"sex", u"CmbSex"},
-    {u"Nview", u"cmbnview"},
-    {u"First", u"dtcmbfname"},
-    {u"Last", u"dtcmblname"},
-    {u"h_add1", u"txtadd1"},
-    {u"h_add2", u"txtadd2"},
-    {u"h_state", u"dtcmbstate"},
-    {u"h_country", u"dtcmbcountry"},
-    {u"h_pin", u"dtcmbpin"},
-    {u"Spouse", u"dtcspouse"},
-    {u"kid1", u"dtckid1"},
-    {u"kid2", u"dtckid2"},
-    {u"kid3", u"dtckid3"},
-    {u"Sp_BD", u"DateSpouse", Rule::Date},
-    {u"Kid1_BD", u"Datekid1", Rule::Date},
-    {u"Kid2_BD", u"datekid2", Rule::Date},
-    {u"Kid3_BD", u"datekid3", Rule::Date},
-    {u"Priority", u"cmbpriority", Rule::Priority},
-    {u"h_std", u"txtstd"},
-    {u"H_Ph1", u"txtph1"},
-    {u"h_ph2", u"txtph2"},
-    {u"h_ph3", u"txtph3"},
-    {u"Mobile", u"txtMobile"},
-    {u"SP_Mobile", u"txtspmobile"},
-    {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
-    {u"h_email2", u"txtemail2", Rule::AsTyped},
-    {u"Sms", u"txtSMS", Rule::AsTyped},
-    {u"M_BD", u"DateBday", Rule::Date},
-    {u"Anniv", u"DateAnn", Rule::Date},
+/// What all tables begin with; they differ in how blank categories and dates are written.
+constexpr std::array<ColumnRow, 35> person(Rule category1, Rule category2, Rule date)
+{
+    return {{
+        {u"Title", u"Cmbtitle"},
+        {u"Name", u"", Rule::Name},
+        {u"category1", u"DtcmbCate", category1, u"DtcmbSubCate"},
+        {u"category2", u"DtcmbSubCate", category2, u"DtcmbCate"},
+        {u"h_city", u"dtcmbcity"},
+        {u"sex", u"CmbSex"},
+        {u"Nview", u"cmbnview"},
+        {u"First", u"dtcmbfname"},
+        {u"Last", u"dtcmblname"},
+        {u"h_add1", u"txtadd1"},
+        {u"h_add2", u"txtadd2"},
+        {u"h_state", u"dtcmbstate"},
+        {u"h_country", u"dtcmbcountry"},
+        {u"h_pin", u"dtcmbpin"},
+        {u"Spouse", u"dtcspouse"},
+        {u"kid1", u"dtckid1"},
+        {u"kid2", u"dtckid2"},
+        {u"kid3", u"dtckid3"},
+        {u"Sp_BD", u"DateSpouse", date},
+        {u"Kid1_BD", u"Datekid1", date},
+        {u"Kid2_BD", u"datekid2", date},
+        {u"Kid3_BD", u"datekid3", date},
+        {u"Priority", u"cmbpriority", Rule::Priority},
+        {u"h_std", u"txtstd"},
+        {u"H_Ph1", u"txtph1"},
+        {u"h_ph2", u"txtph2"},
+        {u"h_ph3", u"txtph3"},
+        {u"Mobile", u"txtMobile"},
+        {u"SP_Mobile", u"txtspmobile"},
+        {u"h_web", u"txtweb", Rule::AsTyped},
+        {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
+        {u"h_email2", u"txtemail2", Rule::AsTyped},
+        {u"Sms", u"txtSMS", Rule::AsTyped},
+        {u"M_BD", u"DateBday", date},
+        {u"Anniv", u"DateAnn", date},
+    }};
+}
+
+template <std::size_t First, std::size_t Second>
+constexpr std::array<ColumnRow, First + Second> joined(
+    const std::array<ColumnRow, First>& first, const ColumnRow (&second)[Second])
+{
+    std::array<ColumnRow, First + Second> all{};
+    std::copy(first.begin(), first.end(), all.begin());
+    std::copy(std::begin(second), std::end(second), all.begin() + First);
+    return all;
+}
+
+constexpr ColumnRow kDetailedAddRest[] = {
     {u"b_add1", u"txtbadd1"},
     {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
     // Kept: the first line of the Work 1 address is written a second time.
@@ -103,43 +124,9 @@ constexpr ColumnRow kDetailedAdd[] = {
     {u"User3", u"cmbuser3"},
     {u"PhotLoc", u"Photo"},
 };
+constexpr auto kDetailedAdd = joined(person(Rule::Category1, Rule::Category2, Rule::Date), kDetailedAddRest);
 
-constexpr ColumnRow kDetailedEdit[] = {
-    {u"Title", u"Cmbtitle"},
-    {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
-    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
-    {u"h_city", u"dtcmbcity"},
-    {u"sex", u"CmbSex"},
-    {u"Nview", u"cmbnview"},
-    {u"First", u"dtcmbfname"},
-    {u"Last", u"dtcmblname"},
-    {u"h_add1", u"txtadd1"},
-    {u"h_add2", u"txtadd2"},
-    {u"h_state", u"dtcmbstate"},
-    {u"h_country", u"dtcmbcountry"},
-    {u"h_pin", u"dtcmbpin"},
-    {u"Spouse", u"dtcspouse"},
-    {u"kid1", u"dtckid1"},
-    {u"kid2", u"dtckid2"},
-    {u"kid3", u"dtckid3"},
-    {u"Sp_BD", u"DateSpouse", Rule::DateInWords},
-    {u"Kid1_BD", u"Datekid1", Rule::DateInWords},
-    {u"Kid2_BD", u"datekid2", Rule::DateInWords},
-    {u"Kid3_BD", u"datekid3", Rule::DateInWords},
-    {u"Priority", u"cmbpriority", Rule::Priority},
-    {u"h_std", u"txtstd"},
-    {u"H_Ph1", u"txtph1"},
-    {u"h_ph2", u"txtph2"},
-    {u"h_ph3", u"txtph3"},
-    {u"Mobile", u"txtMobile"},
-    {u"SP_Mobile", u"txtspmobile"},
-    {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
-    {u"h_email2", u"txtemail2", Rule::AsTyped},
-    {u"Sms", u"txtSMS", Rule::AsTyped},
-    {u"M_BD", u"DateBday", Rule::DateInWords},
-    {u"Anniv", u"DateAnn", Rule::DateInWords},
+constexpr ColumnRow kDetailedEditRest[] = {
     {u"b_add1", u"txtbadd1"},
     {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
     {u"b_add2", u"txtbadd2"},
@@ -193,46 +180,13 @@ constexpr ColumnRow kDetailedEdit[] = {
     {u"W_Tel_XTN", u"txtwxtn"},
     {u"PhotLoc", u"Photo"},
 };
+constexpr auto kDetailedEdit
+    = joined(person(Rule::Category1, Rule::Category2, Rule::DateInWords), kDetailedEditRest);
 
 // The address of this form is that of Work 2.
 // Kept: its e-mails and web address go to the columns of Work 1 when a contact is new, and to those of Work 2
 // when it is changed.
-constexpr ColumnRow kBriefAdd[] = {
-    {u"Title", u"Cmbtitle"},
-    {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1, u"DtcmbSubCate"},
-    {u"category2", u"DtcmbSubCate", Rule::Category2, u"DtcmbCate"},
-    {u"h_city", u"dtcmbcity"},
-    {u"sex", u"CmbSex"},
-    {u"Nview", u"cmbnview"},
-    {u"First", u"dtcmbfname"},
-    {u"Last", u"dtcmblname"},
-    {u"h_add1", u"txtadd1"},
-    {u"h_add2", u"txtadd2"},
-    {u"h_state", u"dtcmbstate"},
-    {u"h_country", u"dtcmbcountry"},
-    {u"h_pin", u"dtcmbpin"},
-    {u"Spouse", u"dtcspouse"},
-    {u"kid1", u"dtckid1"},
-    {u"kid2", u"dtckid2"},
-    {u"kid3", u"dtckid3"},
-    {u"Sp_BD", u"DateSpouse", Rule::Date},
-    {u"Kid1_BD", u"Datekid1", Rule::Date},
-    {u"Kid2_BD", u"datekid2", Rule::Date},
-    {u"Kid3_BD", u"datekid3", Rule::Date},
-    {u"Priority", u"cmbpriority", Rule::Priority},
-    {u"h_std", u"txtstd"},
-    {u"H_Ph1", u"txtph1"},
-    {u"h_ph2", u"txtph2"},
-    {u"h_ph3", u"txtph3"},
-    {u"Mobile", u"txtMobile"},
-    {u"SP_Mobile", u"txtspmobile"},
-    {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
-    {u"h_email2", u"txtemail2", Rule::AsTyped},
-    {u"Sms", u"txtSMS", Rule::AsTyped},
-    {u"M_BD", u"DateBday", Rule::Date},
-    {u"Anniv", u"DateAnn", Rule::Date},
+constexpr ColumnRow kBriefAddRest[] = {
     {u"w_add1", u"txtwadd1"},
     {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
     // Kept: the first line of the address is written a second time.
@@ -272,45 +226,11 @@ constexpr ColumnRow kBriefAdd[] = {
     {u"AltTitle", u"dtcmbalttitle"},
     {u"PhotLoc", u"Photo"},
 };
+constexpr auto kBriefAdd = joined(person(Rule::Category1, Rule::Category2, Rule::Date), kBriefAddRest);
 
 // Kept: of all classes only the product gets "Undefined" in the place of a blank when a contact is changed;
 // and as in the detailed form a change does not write the fax.
-constexpr ColumnRow kBriefEdit[] = {
-    {u"Title", u"Cmbtitle"},
-    {u"Name", u"", Rule::Name},
-    {u"category1", u"DtcmbCate", Rule::Category1AsTyped, u"DtcmbSubCate"},
-    {u"category2", u"DtcmbSubCate", Rule::Category2AsTyped, u"DtcmbCate"},
-    {u"h_city", u"dtcmbcity"},
-    {u"sex", u"CmbSex"},
-    {u"Nview", u"cmbnview"},
-    {u"First", u"dtcmbfname"},
-    {u"Last", u"dtcmblname"},
-    {u"h_add1", u"txtadd1"},
-    {u"h_add2", u"txtadd2"},
-    {u"h_state", u"dtcmbstate"},
-    {u"h_country", u"dtcmbcountry"},
-    {u"h_pin", u"dtcmbpin"},
-    {u"Spouse", u"dtcspouse"},
-    {u"kid1", u"dtckid1"},
-    {u"kid2", u"dtckid2"},
-    {u"kid3", u"dtckid3"},
-    {u"Sp_BD", u"DateSpouse", Rule::DateInWords},
-    {u"Kid1_BD", u"Datekid1", Rule::DateInWords},
-    {u"Kid2_BD", u"datekid2", Rule::DateInWords},
-    {u"Kid3_BD", u"datekid3", Rule::DateInWords},
-    {u"Priority", u"cmbpriority", Rule::Priority},
-    {u"h_std", u"txtstd"},
-    {u"H_Ph1", u"txtph1"},
-    {u"h_ph2", u"txtph2"},
-    {u"h_ph3", u"txtph3"},
-    {u"Mobile", u"txtMobile"},
-    {u"SP_Mobile", u"txtspmobile"},
-    {u"h_web", u"txtweb", Rule::AsTyped},
-    {u"H_email1", u"txtemail1", Rule::Email, u"cboemail1"},
-    {u"h_email2", u"txtemail2", Rule::AsTyped},
-    {u"Sms", u"txtSMS", Rule::AsTyped},
-    {u"M_BD", u"DateBday", Rule::DateInWords},
-    {u"Anniv", u"DateAnn", Rule::DateInWords},
+constexpr ColumnRow kBriefEditRest[] = {
     {u"w_add1", u"txtwadd1"},
     {u"Product", u"Dtcmbbproduct", Rule::OrUndefined},
     {u"w_add2", u"txtwadd2"},
@@ -346,6 +266,8 @@ constexpr ColumnRow kBriefEdit[] = {
     {u"W_Tel_XTN", u"txtwxtn"},
     {u"PhotLoc", u"Photo"},
 };
+constexpr auto kBriefEdit
+    = joined(person(Rule::Category1AsTyped, Rule::Category2AsTyped, Rule::DateInWords), kBriefEditRest);
 
 QVariant dateValue(const std::optional<QDate>& date, bool inWords)
 {

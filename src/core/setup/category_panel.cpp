@@ -75,6 +75,7 @@ QWidget* CategoryPanel::layOutList()
     FG->setHeadings(kHeadings, {u""_s, u"category1"_s, u"category2"_s});
     FG->setKeyColumn(u"catid"_s);
     FG->setEmptyText(tr("There is no category yet."));
+    FG->mergeEqual({u"category1"_s});
     SSTree1->setObjectName(u"SSTree1"_s);
     SSTree1->setAccessibleName(tr("Categories as a tree"));
     SSTree1->setHeaderHidden(true);
