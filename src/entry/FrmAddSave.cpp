@@ -8,12 +8,12 @@
 #include "entry/mail_contact.h"
 #include "platform/card_folder.h"
 #include "platform/special_folders.h"
+#include "widgets/dialog_keys.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QPushButton>
 
 #include <algorithm>
@@ -192,16 +192,14 @@ void FrmAddSave::cancel()
 
 void FrmAddSave::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        cancel();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
-            button->click();
-        else if (m_save->isEnabled())
-            save();
-    } else {
+    if (!widgets::answerDialogKey(
+            event, this,
+            [this] {
+                if (m_save->isEnabled())
+                    save();
+            },
+            [this] { cancel(); }))
         Screen::keyPressEvent(event);
-    }
 }
 
 } // namespace entry

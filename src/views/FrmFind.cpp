@@ -5,12 +5,12 @@
 #include "core/sound_files.h"
 #include "platform/message_boxes.h"
 #include "views/find_columns.h"
+#include "widgets/dialog_keys.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -121,16 +121,9 @@ void FrmFind::showEvent(QShowEvent* event)
 
 void FrmFind::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        cancel();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
-            button->click();
-        else
-            replace();
-    } else {
+    if (!widgets::answerDialogKey(
+            event, this, [this] { replace(); }, [this] { cancel(); }))
         Screen::keyPressEvent(event);
-    }
 }
 
 } // namespace views

@@ -4,10 +4,10 @@
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "core/vocabularies.h"
+#include "widgets/dialog_keys.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
 
-#include <QKeyEvent>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -94,16 +94,9 @@ void FilterScreen::releaseCaller()
 
 void FilterScreen::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        cancel();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
-            button->click();
-        else
-            filterRecords();
-    } else {
+    if (!widgets::answerDialogKey(
+            event, this, [this] { filterRecords(); }, [this] { cancel(); }))
         Screen::keyPressEvent(event);
-    }
 }
 
 } // namespace views
