@@ -3,6 +3,7 @@
 // where a statement comes again, write-ahead log with full sync; and texts as QString, which every Qt program
 // needs.
 
+#include "core/store/book_files.h"
 #include "core/store/book_schema.h"
 #include "jet/database.h"
 #include "jet/engine.h"
@@ -74,6 +75,19 @@ public:
             u"AND "
             "length(trim([Last])) = 0 AND length(trim(Company)) = 0"_s);
         run(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
+    }
+    /// Other tables with the columns given.
+    Plain(const QString& path, const QString& book, const QList<std::pair<QString, QStringList>>& tables)
+    {
+        if (sqlite3_open(path.toUtf8().constData(), &m_connection) != SQLITE_OK)
+            stop(path);
+        run(u"ATTACH '%1' AS book"_s.arg(book));
+        for (const auto& [table, columns] : tables) {
+            run(u"CREATE TABLE %1 ([%2] TEXT COLLATE NOCASE)"_s.arg(
+                table, columns.join(u"] TEXT COLLATE NOCASE,["_s)));
+            run(u"INSERT INTO %1 SELECT [%2] FROM book.%1"_s.arg(table, columns.join(u"],["_s)));
+        }
+        run(u"DETACH book"_s);
     }
     ~Plain()
     {
@@ -542,6 +556,47 @@ private:
     QList<Line> m_lines;
 };
 
+/// The longest lists that the entry forms and the setup offer, from the names and places that come with the
+/// program: a form reads one of them when it is looked at, and turbo add its first one when it is opened.
+QList<Line> shippedLists(const QString& folder, int times)
+{
+    const QString path = folder + u"/info.dll"_s;
+    jet::Database info;
+    if (!core::BookFiles::makeNew(path, core::BookPart::Information, true)
+        || info.open(path, jet::Database::Kind::Information) != jet::Database::OpenResult::Opened)
+        stop(path);
+    QList<std::pair<QString, QStringList>> tables;
+    for (const QString& table : {u"wia_cntnames"_s, u"WIA_CITY"_s, u"WIA_INDIA"_s})
+        tables << std::pair(table, info.columns(table));
+    Plain plain(folder + u"/plain-info.db"_s, path, tables);
+    struct List {
+        QStringView name;
+        QString ours;
+        QString plain;
+    };
+    const List lists[] = {
+        {u"first names",
+            u"SELECT DISTINCT First FROM [wia_cntnames] WHERE  [FIRST] is not null and len(FIRST) > 0 "_s,
+            u"SELECT DISTINCT first FROM wia_cntnames WHERE first IS NOT NULL AND length(first) > 0 ORDER BY first"_s},
+        {u"last names",
+            u"SELECT DISTINCT last FROM [wia_cntnames] WHERE last IS NOT NULL and last <>'' ORDER BY last"_s,
+            u"SELECT DISTINCT last FROM wia_cntnames WHERE last IS NOT NULL AND last <> '' ORDER BY last"_s},
+        {u"cities of the world", u"select distinct city from wia_city  order by city"_s,
+            u"SELECT DISTINCT city FROM WIA_CITY ORDER BY city"_s},
+        {u"main cities of the home country",
+            u"select distinct city from wia_india where chtype='M'order by city"_s,
+            u"SELECT DISTINCT city FROM WIA_INDIA WHERE chtype = 'M' ORDER BY city"_s},
+    };
+    QList<Line> lines;
+    for (const List& list : lists) {
+        const int rows = openList(info, list.ours);
+        const auto taken = inTurns(
+            times, [&] { openList(info, list.ours); }, [&] { plain.open(list.plain); });
+        lines << Line{u"entry forms: %1"_s.arg(list.name), rows, taken.first, taken.second, 0};
+    }
+    return lines;
+}
+
 void print(const Line& line)
 {
     const double ratio = line.ours / line.plain;
@@ -580,6 +635,10 @@ int main(int argc, char* argv[])
         for (const Line& line : taken)
             print(line);
         lines += taken;
+    }
+    for (const Line& line : shippedLists(folder.path(), quick ? 3 : 15)) {
+        print(line);
+        lines << line;
     }
     if (jsonAt > 0 && jsonAt + 1 < arguments.size()) {
         QJsonArray list;
