@@ -180,6 +180,15 @@ std::optional<bool> Database::givesRows(QStringView sql, Way way)
     return kind == Translation::Kind::Keyset || kind == Translation::Kind::Snapshot;
 }
 
+QString Database::state() const
+{
+    const Prepared read = m_engine->isOpen() ? m_engine->prepareKept(u"PRAGMA data_version"_s) : Prepared();
+    if (!read || sqlite3_step(read.get()) != SQLITE_ROW)
+        return {};
+    return u"%1 %2 %3"_s.arg(m_engine->path(), QString::number(sqlite3_column_int64(read.get(), 0)),
+        QString::number(sqlite3_total_changes(m_engine->connection())));
+}
+
 void Database::keepChanges(const QString& table, const QString& labelColumn)
 {
     m_engine->keepChanges(table, labelColumn);

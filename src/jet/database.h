@@ -50,6 +50,9 @@ public:
 
     void setFailureHandler(FailureHandler handler);
 
+    /// Another text after any change of the file, by whomever; for work that need not be done twice.
+    QString state() const;
+
     /// From now on the last changes of a table can be taken back, one statement, recordset update or batch
     /// after the other; see UndoLog. The label column holds what a person calls a row.
     void keepChanges(const QString& table, const QString& labelColumn);

@@ -446,7 +446,7 @@ void Engine::keepChanges(const QString& tableName, const QString& labelColumn)
 
 void Engine::endStatement(bool succeeded)
 {
-    if (m_undo && m_upkeeps == 0)
+    if (m_undo)
         m_undo->endStatement(succeeded);
 }
 
@@ -458,13 +458,14 @@ void Engine::dropChanges()
 
 void Engine::beginUpkeep()
 {
-    ++m_upkeeps;
+    if (++m_upkeeps == 1 && m_undo)
+        m_undo->pause(true);
 }
 
 void Engine::endUpkeep()
 {
-    if (--m_upkeeps == 0)
-        dropChanges();
+    if (--m_upkeeps == 0 && m_undo)
+        m_undo->pause(false);
 }
 
 // ---- failures

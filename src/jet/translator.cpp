@@ -122,7 +122,7 @@ private:
 
     Translation keyset(const SelectArm& arm)
     {
-        constexpr size_t kMostHeldColumns = 10;
+        constexpr size_t kMostHeldColumns = 6;
         Translation result;
         result.kind = Translation::Kind::Keyset;
         const TableName& from = arm.tables.front();

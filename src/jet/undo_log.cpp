@@ -78,7 +78,7 @@ void UndoLog::beforeChange(void* self, sqlite3*, int operation, const char*, con
     sqlite3_int64 oldId, sqlite3_int64 newId)
 {
     auto* log = static_cast<UndoLog*>(self);
-    if (!log->m_isUndoing && !log->m_isTooMuch && log->m_table == table)
+    if (!log->m_isUndoing && !log->m_isPaused && !log->m_isTooMuch && log->m_table == table)
         log->note(operation, operation == SQLITE_INSERT ? newId : oldId);
 }
 

@@ -30,6 +30,8 @@ public:
     void endStatement(bool succeeded);
     /// Forgets what was changed since the last step: it was rolled back, or no person did it.
     void skip();
+    /// Notes nothing for a while.
+    void pause(bool on) { m_isPaused = on; }
     const ChangeStep* last() const { return m_steps.empty() ? nullptr : &m_steps.back().change; }
     /// Takes the last step back, all of it or nothing. False when its rows have become others since; the step
     /// is gone in either case.
@@ -70,6 +72,7 @@ private:
     size_t m_pendingOfSucceeded = 0; ///< rows of statements that are known to have succeeded
     bool m_isTooMuch = false;
     bool m_isUndoing = false;
+    bool m_isPaused = false;
     std::deque<Step> m_steps;
     size_t m_bytes = 0;
 };

@@ -57,7 +57,11 @@ PlaceTree::PlaceTree(jet::Database& book, QWidget* parent)
 
 void PlaceTree::build(TreeKind kind)
 {
-    normaliseBook(m_book);
+    // What was looked through before and has not changed since is as it should be.
+    if (const QString state = m_book.state(); state.isEmpty() || state != m_normalised) {
+        normaliseBook(m_book);
+        m_normalised = m_book.state();
+    }
     const bool again = topLevelItemCount() > 0 && kind == m_kind;
     const QList<QStringList> open = again ? openPaths() : QList<QStringList>{{}};
     const QStringList current = again ? currentPath() : QStringList();

@@ -39,6 +39,7 @@ private:
     QTreeWidgetItem* find(const QStringList& path) const;
 
     jet::Database& m_book;
+    QString m_normalised; ///< the state of the book when it was looked through last
     TreeKind m_kind = TreeKind::Location;
 };
 

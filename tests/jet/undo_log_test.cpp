@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Whether a change can be taken back as a whole, whatever made it, and nothing else is touched.
+/// Whether a change can be taken back as a whole, whatever made it, nothing else is touched, and any change shows.
 class UndoLogTest : public QObject {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ private Q_SLOTS:
     void anotherProgramsChangeIsKept();
     void oldStepsAreLetGo();
     void tooMuchIsNoStep();
+    void stateTellsOfAnyChange();
 
 private:
     QStringList all();
@@ -200,6 +201,21 @@ void UndoLogTest::tooMuchIsNoStep()
     QVERIFY(execute(u"update person set Name='Two' where id=1"_s));
     QVERIFY(m_book.undoLastChange());
     QCOMPARE(m_book.openRecordset(u"select * from person").count(), 36);
+}
+
+void UndoLogTest::stateTellsOfAnyChange()
+{
+    const QString before = m_book.state();
+    QVERIFY(!before.isEmpty());
+    QCOMPARE(all().size(), 3);
+    QCOMPARE(m_book.state(), before);
+    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
+    const QString own = m_book.state();
+    QVERIFY(own != before);
+    jet::Database other;
+    QCOMPARE(other.open(m_book.path()), jet::Database::OpenResult::Opened);
+    QVERIFY(other.execute(u"update person set Name='Two' where id=1"_s));
+    QVERIFY(m_book.state() != own);
 }
 
 QTEST_GUILESS_MAIN(UndoLogTest)
