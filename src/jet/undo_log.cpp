@@ -125,6 +125,8 @@ void UndoLog::endStatement(bool succeeded)
     if (!succeeded && m_pending.rows.size() > m_pendingOfSucceeded)
         m_pending.rows.erase(
             m_pending.rows.begin() + std::ptrdiff_t(m_pendingOfSucceeded), m_pending.rows.end());
+    if (m_pending.rows.empty())
+        m_pending = {}; // what it would have been called goes as well
     m_pendingOfSucceeded = m_pending.rows.size();
     if (sqlite3_get_autocommit(m_connection) != 0)
         closeStep();

@@ -4,7 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// Whether a change can be taken back as a whole, whatever made it, nothing else is touched, and any change shows.
+/// Whether a change can be taken back as a whole, whatever made it, nothing else is touched, and any change
+/// shows.
 class UndoLogTest : public QObject {
     Q_OBJECT
 
@@ -147,6 +148,15 @@ void UndoLogTest::whatFailsIsNoStep()
         batch.rollBack();
     }
     QVERIFY(!execute(u"update person set Nme='One'"_s));
+    {
+        // One that fails on its way, after a row was touched; the step is called after what was done.
+        jet::Batch batch(m_book);
+        QVERIFY(!execute(u"insert into person (id, Name) values (1, 'Twice')"_s));
+        QVERIFY(execute(u"update person set Name='Chand' where id=2"_s));
+    }
+    QCOMPARE(m_book.lastChange()->label, u"Émile"_s);
+    QCOMPARE(m_book.lastChange()->rows, 1);
+    QVERIFY(m_book.undoLastChange());
     QVERIFY(execute(u"insert into call (Name) values ('x')"_s));
     QVERIFY(!m_book.lastChange());
 }
