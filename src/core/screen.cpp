@@ -2,7 +2,10 @@
 
 #include "platform/message_boxes.h"
 #include "platform/sounds.h"
+#include "widgets/filled_combo.h"
 #include "widgets/tool_tip_box.h"
+
+#include <QShowEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +18,65 @@ Screen::Screen(Context& context, QWidget* parent)
 }
 
 Screen::~Screen() = default;
+
+bool Screen::mayClose()
+{
+    return mayDiscard();
+}
+
+void Screen::vocabulariesChanged()
+{
+    for (auto* combo : findChildren<widgets::FilledCombo*>())
+        combo->refill();
+}
+
+QString Screen::frameTitle() const
+{
+    return m_frameTitle.isEmpty() ? windowTitle() : m_frameTitle;
+}
+
+void Screen::setFrameTitle(const QString& title)
+{
+    m_frameTitle = title;
+    Q_EMIT headChanged();
+}
+
+void Screen::offerFrameTitle(const QString& title)
+{
+    if (m_frameTitle.isEmpty())
+        setFrameTitle(title);
+}
+
+void Screen::setPosition(const QString& position)
+{
+    m_position = position;
+    Q_EMIT headChanged();
+}
+
+void Screen::noteBookRead()
+{
+    m_bookRead = m_context.data.state();
+}
+
+bool Screen::mayDiscard() const
+{
+    if (!isTouched())
+        return true;
+    return m_context.services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
+               shared().AppTitle, platform::Icon::Warning)
+        == platform::Answer::Yes;
+}
+
+void Screen::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    const QString before = m_bookRead;
+    noteBookRead();
+    if (!before.isEmpty() && before != m_bookRead)
+        bookChanged();
+}
 
 void Screen::playSound(QStringView path) const
 {

@@ -28,6 +28,7 @@ Screen* Screens::load(QStringView form)
     m_open.insert(form.toString(), screen);
     reportFirstPaint(screen);
     screen->load();
+    screen->noteBookRead();
     return screen;
 }
 
@@ -51,6 +52,33 @@ void Screens::unload(QStringView form)
         m_open.remove(form.toString());
         open->deleteLater();
     }
+}
+
+void Screens::tellBookChanged(Screen* by)
+{
+    for (Screen* screen : openOnes<Screen>()) {
+        if (screen == by || screen->isVisible())
+            screen->noteBookRead();
+        if (screen != by && screen->isVisible())
+            screen->bookChanged();
+    }
+}
+
+void Screens::tellVocabulariesChanged()
+{
+    for (Screen* screen : openOnes<Screen>())
+        screen->vocabulariesChanged();
+}
+
+bool Screens::mayCloseAll()
+{
+    for (Screen* screen : openOnes<Screen>()) {
+        if (screen->isTouched())
+            m_context->frame.bringForward(screen);
+        if (!screen->mayClose())
+            return false;
+    }
+    return true;
 }
 
 void Screens::unloadAll()

@@ -55,6 +55,14 @@ public:
 
     bool show(QStringView form, Shown shown = Shown::Modelessly);
     void unload(QStringView form);
+
+    /// To be called by every save: the open screens follow, those out of sight when they are seen again. The
+    /// screen that made the change has shown it already.
+    void tellBookChanged(Screen* by = nullptr);
+    void tellVocabulariesChanged();
+    /// Whether all screens may go, since the program ends, a sibling takes over or the book is exchanged.
+    /// Each that holds something typed comes forward and asks.
+    bool mayCloseAll();
     /// All open screens go at once, before the files they read are exchanged.
     void unloadAll();
 

@@ -76,10 +76,9 @@ FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* 
     wire();
 }
 
-// On unload the panes of the frame are cleared, and nobody asks for an edit any more.
+// On unload nobody asks for an edit any more.
 FormMain::~FormMain()
 {
-    context().frame.clearStatus();
     shared().EditRequested = false;
 }
 
@@ -197,9 +196,7 @@ void FormMain::load()
     m_isMerged = shared().ContMerge;
     if (m_isMerged)
         showSubcategory(false);
-    context().frame.setTitle(caption(m_variant.title));
-    context().frame.showDate(
-        widgets::formatDate(context().services.clock.today(), core::datePattern(shared().NationalMode)));
+    setFrameTitle(caption(m_variant.title));
     turnPage(true);
     go(Mode::Idle);
 }
@@ -215,7 +212,9 @@ void FormMain::showSubcategory(bool shown)
 
 void FormMain::vocabulariesChanged()
 {
-    m_userFields->showLabels();
+    Screen::vocabulariesChanged();
+    if (m_userFields)
+        m_userFields->showLabels();
     if (m_isMerged == shared().ContMerge)
         return;
     const bool wasTouched = isTouched();
@@ -293,7 +292,7 @@ bool FormMain::showContact(qint64 id)
         if (!Adodc1.findFirst(u"id=%1"_s.arg(id)))
             return false;
     }
-    if (!mayClose()) {
+    if (!mayDiscard()) {
         // What is being entered stays, and is saved as what it is.
         shared().EditRequested = false;
         return true;
@@ -302,7 +301,7 @@ bool FormMain::showContact(qint64 id)
         return false;
     go(Mode::Editing);
     grdEditList->hide();
-    context().frame.showPosition(core::positionText(Adodc1));
+    setPosition(core::positionText(Adodc1));
     return true;
 }
 
@@ -331,7 +330,7 @@ void FormMain::chooseRecord(const QString& id)
 {
     // The second click of a double click must not undo what was typed between.
     const bool isShown = id == widgets::textOf(control(u"lblid"_s));
-    if (!(isShown && isTouched()) && mayClose())
+    if (!(isShown && isTouched()) && mayDiscard())
         showRecord(id);
 }
 
@@ -438,15 +437,6 @@ bool FormMain::isTouched() const
     return m_mode != Mode::Idle && values().texts != m_untouched;
 }
 
-bool FormMain::mayClose()
-{
-    if (!isTouched())
-        return true;
-    return context().services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
-               shared().AppTitle, platform::Icon::Warning)
-        == platform::Answer::Yes;
-}
-
 // ---- save
 
 void FormMain::refuse(int refusal)
@@ -543,11 +533,12 @@ void FormMain::endSave()
 {
     shared().EditRequested = false;
     Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
-    context().frame.showPosition(core::positionText(Adodc1));
+    setPosition(core::positionText(Adodc1));
     clearForm();
     widgets::child<QProgressBar>(this, u"ProgressBar1"_s)->hide();
     go(Mode::Idle);
     sstab1->setCurrentIndex(0);
+    context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
 }
 

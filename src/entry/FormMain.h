@@ -2,7 +2,6 @@
 
 #include "core/handover/contact_screen.h"
 #include "core/handover/save_source.h"
-#include "core/handover/vocabulary_listener.h"
 #include "core/screen.h"
 #include "entry/form_variant.h"
 #include "widgets/form_kit.h"
@@ -22,10 +21,7 @@ class UserFields;
 
 /// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
 /// it. The shorter forms are the same class with another variant.
-class FormMain : public core::Screen,
-                 public core::ContactScreen,
-                 public core::SaveSource,
-                 public core::VocabularyListener {
+class FormMain : public core::Screen, public core::ContactScreen, public core::SaveSource {
     Q_OBJECT
 
 public:
@@ -34,7 +30,7 @@ public:
     ~FormMain() override;
 
     void load() override;
-    bool mayClose() override;
+    bool isTouched() const override;
     /// Goes to the edit mode with this contact.
     bool showContact(qint64 id) override;
 
@@ -79,7 +75,6 @@ private:
 
     void selectPhoto();
     void saveAs();
-    bool isTouched() const;
 
     const FormVariant& m_variant;
     jet::Recordset Adodc1; ///< all contacts in order, for the position

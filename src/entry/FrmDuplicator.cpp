@@ -22,7 +22,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -57,10 +56,7 @@ FrmDuplicator::FrmDuplicator(core::Context& context, QWidget* parent)
     connectControls();
 }
 
-FrmDuplicator::~FrmDuplicator()
-{
-    context().frame.clearStatus();
-}
+FrmDuplicator::~FrmDuplicator() = default;
 
 QWidget* FrmDuplicator::layOutSource()
 {
@@ -163,6 +159,8 @@ void FrmDuplicator::connectControls()
 // The names are read, no combo is.
 void FrmDuplicator::load()
 {
+    setFrameTitle(u"Record Duplicator"_s);
+    setPosition(u"Record Duplicator"_s);
     const auto values = [this](const QString& sql) { return core::firstColumn(context().data, sql); };
     m_listCategory->setSource([values] { return QStringList{u"All"_s} + values(duplicateCategoriesSql()); });
     m_listCategory->setText(u"All"_s);
@@ -181,15 +179,6 @@ void FrmDuplicator::load()
         child<QCheckBox>(this, check)->setChecked(check == u"Check1");
     readNames();
     showWhatComes();
-}
-
-void FrmDuplicator::showEvent(QShowEvent* event)
-{
-    Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(u"Record Duplicator"_s);
-    context().frame.showPosition(u"Record Duplicator"_s);
 }
 
 void FrmDuplicator::keyPressEvent(QKeyEvent* event)
@@ -300,6 +289,7 @@ void FrmDuplicator::duplicate()
     assignDuplicate(rows, source, made);
     if (!rows.update())
         return;
+    context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
     m_coming->setText(tr("\"%1\" is a contact now.").arg(duplicateName(made.first, m_last).trimmed()));
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
 #include "core/handover/filter_target.h"
 #include "core/screen.h"
@@ -18,10 +17,7 @@ struct DuplicateChoice;
 
 /// Makes somebody who is only named in a contact, such as the spouse or the firm, a contact of their own,
 /// which takes over as much of the addresses and numbers as is asked for.
-class FrmDuplicator : public core::Screen,
-                      public core::ContactScreen,
-                      public core::FilterTarget,
-                      public core::BookListener {
+class FrmDuplicator : public core::Screen, public core::ContactScreen, public core::FilterTarget {
     Q_OBJECT
 
 public:
@@ -34,7 +30,6 @@ public:
     void bookChanged() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

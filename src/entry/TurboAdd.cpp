@@ -2,6 +2,7 @@
 
 #include "core/date_patterns.h"
 #include "core/frame.h"
+#include "core/screens.h"
 #include "core/sound_files.h"
 #include "entry/city_chain.h"
 #include "entry/turbo_boxes.h"
@@ -135,8 +136,8 @@ void TurboAdd::load()
         list1->setRows(rows, {u"Name"_s});
     }
     startEntry();
-    context().frame.setTitle(tr("Contacts Turbo Add"));
-    context().frame.showDate(widgets::formatDate(context().services.clock.today(), pattern));
+    setFrameTitle(tr("Contacts Turbo Add"));
+    setPosition(tr("Contacts Turbo Add"));
 }
 
 // ---- going through the fields
@@ -253,6 +254,7 @@ void TurboAdd::save()
     if (!store())
         return;
     applyAddEffects(context(), newTurboContact(m_boxes->values()));
+    context().screens.tellBookChanged(this);
     const auto answer = context().services.boxes.ask(
         tr("Record Saved.\r\nDo you want to add new record ?"), shared().AppTitle, platform::Icon::Question);
     if (answer == platform::Answer::Yes)

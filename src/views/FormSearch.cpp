@@ -1,6 +1,5 @@
 #include "views/FormSearch.h"
 
-#include "core/frame.h"
 #include "core/screens.h"
 #include "views/hit_actions.h"
 #include "views/place_tree.h"
@@ -22,7 +21,6 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolBar>
@@ -244,6 +242,7 @@ void FormSearch::connectControls()
 // The keyword grid starts with the same list, but is read when it is seen.
 void FormSearch::load()
 {
+    setFrameTitle(u"Search"_s);
     m_keywordSql = contactsByCategorySql();
     formatGrid();
     const SearchGrid words = keywordGrid();
@@ -257,17 +256,6 @@ void FormSearch::bookChanged()
     query(builtSql);
     if (m_keywordRead)
         queryKeyword(m_keywordSql);
-}
-
-void FormSearch::showEvent(QShowEvent* event)
-{
-    Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(u"Search"_s);
-    // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true))
-        bookChanged();
 }
 
 void FormSearch::find()
@@ -409,8 +397,7 @@ void FormSearch::rowChanged(int row)
     if (row < 0)
         return;
     m_hits->select(grid()->keyAt(row));
-    context().frame.showPosition(
-        u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(grid()->rowCount())));
+    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(grid()->rowCount())));
 }
 
 void FormSearch::showCount()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/screen.h"
 
 class QAction;
@@ -23,7 +22,7 @@ class SearchFilter;
 
 /// Finds contacts: a list narrowed by what is chosen in combos, and another of those that have a word in any
 /// of many fields. A hit leads to the contact.
-class FormSearch : public core::Screen, public core::BookListener {
+class FormSearch : public core::Screen {
     Q_OBJECT
 
 public:
@@ -33,9 +32,6 @@ public:
     void bookChanged() override;
 
     QString builtSql; ///< the statement behind the list of contacts
-
-protected:
-    void showEvent(QShowEvent* event) override;
 
 private:
     struct Tool;
@@ -71,7 +67,6 @@ private:
 
     QString m_keywordSql; ///< the statement behind the keyword grid
     bool m_keywordRead = false;
-    bool m_wasShown = false;
 
     SearchFilter* m_filter;
     HitActions* m_hits;

@@ -1,6 +1,5 @@
 #include "views/FormTree2.h"
 
-#include "core/frame.h"
 #include "views/hit_actions.h"
 #include "views/place_tree.h"
 #include "views/result_detail.h"
@@ -199,20 +198,19 @@ void FormTree2::addRowAction(QAction* action)
 
 void FormTree2::bookChanged()
 {
+    if (SSTree1 && SSTree1->topLevelItemCount() > 0)
+        SSTree1->build(SSTree1->kind());
     refresh();
 }
 
+// As the list of another screen it is brought up to date by that one.
 void FormTree2::showEvent(QShowEvent* event)
 {
+    if (!SSTree1)
+        return QWidget::showEvent(event);
     Screen::showEvent(event);
-    if (event->spontaneous() || !SSTree1)
-        return;
-    // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true)) {
-        SSTree1->build(SSTree1->kind());
-        refresh();
-    }
-    followCaption();
+    if (!event->spontaneous())
+        followCaption();
 }
 
 void FormTree2::changeEvent(QEvent* event)
@@ -224,7 +222,6 @@ void FormTree2::changeEvent(QEvent* event)
 
 void FormTree2::followCaption()
 {
-    context().frame.setTitle(windowTitle());
     const TreeKind kind
         = windowTitle() == treeSearchTitle(TreeKind::Location) ? TreeKind::Location : TreeKind::Category;
     if (SSTree1->topLevelItemCount() > 0 && kind == SSTree1->kind())
@@ -271,8 +268,7 @@ void FormTree2::rowChanged(int row)
     m_name = contact.textOrEmpty(u"Name");
     m_detail->display(contact);
     select();
-    context().frame.showPosition(
-        u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(FG1->rowCount())));
+    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(FG1->rowCount())));
 }
 
 void FormTree2::select()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/screen.h"
 #include "views/tree_search_sql.h"
 
@@ -24,7 +23,7 @@ class ResultDetail;
 
 /// The contacts that a search or a node of a tree gives, with a panel about the current one. It is the result
 /// pane of the advanced search, and alone a screen with a tree of its own, whose kind its caption tells.
-class FormTree2 : public core::Screen, public core::BookListener {
+class FormTree2 : public core::Screen {
     Q_OBJECT
 
 public:
@@ -69,7 +68,6 @@ private:
 
     Filter m_last;
     QString m_name; ///< of the current contact
-    bool m_wasShown = false;
 
     HitActions* m_hits;
     QMenu* m_menu;

@@ -3,9 +3,9 @@
 #include "core/contact_category.h"
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
-#include "core/frame.h"
 #include "core/mail_key.h"
 #include "core/scheduler_rows.h"
+#include "core/screens.h"
 #include "core/sound_files.h"
 #include "core/text_pieces.h"
 #include "core/vocabularies.h"
@@ -29,7 +29,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -190,6 +189,7 @@ void FrmContacts::showSubcategory(bool shown)
 // What was typed and not saved stays, in the new way.
 void FrmContacts::vocabulariesChanged()
 {
+    Screen::vocabulariesChanged();
     if (m_isMerged == shared().ContMerge)
         return;
     const bool wasTouched = isTouched();
@@ -216,7 +216,7 @@ void FrmContacts::connectControls()
         connect(button, &QPushButton::clicked, this, handler);
     };
     const auto startAnother = [this] {
-        if (mayLeave())
+        if (mayDiscard())
             startNew();
     };
     onClick(u"SSCommand3"_s, startAnother);
@@ -246,20 +246,10 @@ void FrmContacts::connectControls()
 
 void FrmContacts::load()
 {
+    setFrameTitle(u"Contacts"_s);
     DateBday->setFormat(core::datePattern(shared().NationalMode));
     readList();
     startNew();
-}
-
-void FrmContacts::showEvent(QShowEvent* event)
-{
-    Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(u"Contacts"_s);
-    // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true))
-        bookChanged();
 }
 
 // What is being typed stays.
@@ -280,25 +270,11 @@ void FrmContacts::keyPressEvent(QKeyEvent* event)
         Q_EMIT closeRequested();
 }
 
-bool FrmContacts::mayClose()
-{
-    return mayLeave();
-}
-
-bool FrmContacts::mayLeave()
-{
-    if (!isTouched())
-        return true;
-    return context().services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
-               shared().AppTitle, platform::Icon::Warning)
-        == platform::Answer::Yes;
-}
-
 bool FrmContacts::showContact(qint64 id)
 {
     if (id == 0 || !context().data.openRecordset(contactByIdSql(id)).hasRow())
         return false;
-    if (id == m_id || mayLeave())
+    if (id == m_id || mayDiscard())
         display(id);
     return true;
 }
@@ -317,7 +293,7 @@ void FrmContacts::rowChanged(int row)
     const qint64 id = DBList1->keyAt(row);
     if (m_quiet || id == 0 || id == m_id)
         return;
-    if (mayLeave())
+    if (mayDiscard())
         return display(id);
     // The list goes back behind the event that moved it.
     QMetaObject::invokeMethod(
@@ -430,6 +406,7 @@ void FrmContacts::save()
     tellOthers(now, isNew);
     readList();
     display(m_id);
+    context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
-#include "core/handover/vocabulary_listener.h"
 #include "core/screen.h"
 #include "views/simple_contact.h"
 
@@ -19,10 +17,7 @@ class SelectorTools;
 
 /// The quick view and the simple add: a list of names, and a short form with the fields used most. What was
 /// typed and not saved is never left without a question.
-class FrmContacts : public core::Screen,
-                    public core::ContactScreen,
-                    public core::BookListener,
-                    public core::VocabularyListener {
+class FrmContacts : public core::Screen, public core::ContactScreen {
     Q_OBJECT
 
 public:
@@ -31,12 +26,10 @@ public:
     void load() override;
     void bookChanged() override;
     bool showContact(qint64 id) override;
-    bool mayClose() override;
     /// Category and subcategory may have become one entry, or two.
     void vocabulariesChanged() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -49,7 +42,6 @@ private:
     SimpleValues values() const;
     void showValues(const SimpleValues& values);
     bool isTouched() const { return values() != m_untouched; }
-    bool mayLeave();
     void display(qint64 id);
     void startNew();
     void save();
@@ -65,7 +57,6 @@ private:
     qint64 m_id = 0; ///< the contact on the form, 0 for a new one
     SimpleValues m_untouched; ///< what stood on the form before anybody typed
     bool m_quiet = false; ///< the list moves by itself
-    bool m_wasShown = false;
     bool m_isMerged = false; ///< category and subcategory stand in one list
 
     SelectorTools* m_tools;

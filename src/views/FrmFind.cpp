@@ -95,6 +95,7 @@ void FrmFind::replace()
         return;
     lblResult->setText(tr("Rows changed: %1").arg(outcome.changed));
     refreshCaller();
+    context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
 }
 

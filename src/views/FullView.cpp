@@ -1,10 +1,8 @@
 #include "views/FullView.h"
 
-#include "core/date_patterns.h"
-#include "core/frame.h"
 #include "core/photo_file.h"
+#include "core/screens.h"
 #include "core/sound_files.h"
-#include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/shell.h"
 #include "views/address_source.h"
@@ -18,7 +16,6 @@
 #include "views/keyword_panel.h"
 #include "views/list_editing.h"
 #include "views/record_texts.h"
-#include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/picture_box.h"
 #include "widgets/record_list.h"
@@ -28,7 +25,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTimer>
@@ -238,6 +234,7 @@ void FullView::connectControls()
 // seen.
 void FullView::load()
 {
+    setFrameTitle(m_kind.frameTitle.toString());
     openList(contactListSql());
 }
 
@@ -276,22 +273,6 @@ void FullView::bookChanged()
         return;
     reopenList();
     tvwdb->rebuild();
-}
-
-void FullView::showEvent(QShowEvent* event)
-{
-    Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(m_kind.frameTitle.toString());
-    context().frame.showDate(
-        widgets::formatDate(context().services.clock.today(), core::datePattern(shared().NationalMode)));
-    // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true)) {
-        reopenList();
-        if (!tvwdb->isVisible())
-            tvwdb->rebuild();
-    }
 }
 
 void FullView::openList(const QString& sql)
@@ -506,6 +487,7 @@ void FullView::save()
     if (!m_edit->saveContact())
         return;
     refresh();
+    context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
     m_edit->tell(tr("Saved"));
     QTimer::singleShot(kSavedNoteMs, m_edit, [this] { m_edit->tell({}); });
@@ -531,6 +513,7 @@ void FullView::storeName(qint64 id, const QString& name)
     row.set(u"name", name);
     row.update();
     reopenList();
+    context().screens.tellBookChanged(this);
 }
 
 // While there is no screen for it, the button offers the same menu as its right button.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
 #include "core/handover/filter_target.h"
 #include "core/screen.h"
@@ -41,10 +40,7 @@ struct FullViewKind {
 
 /// One contact with everything the book holds of it, beside the list of all contacts or the tree of
 /// categories. From here the contact is edited in place or handed to the other screens.
-class FullView : public core::Screen,
-                 public core::ContactScreen,
-                 public core::FilterTarget,
-                 public core::BookListener {
+class FullView : public core::Screen, public core::ContactScreen, public core::FilterTarget {
     Q_OBJECT
 
 public:
@@ -61,8 +57,6 @@ Q_SIGNALS:
     void bookChosen(bool own); ///< another address book is listed, the program's own or one to read only
 
 protected:
-    void showEvent(QShowEvent* event) override;
-
     ContactTools& tools() const { return *m_tools; }
     void addCommandRow(QWidget* row); ///< below the commands over the list
     /// Lists another address book, which can only be read; without one the program's own.
@@ -104,7 +98,6 @@ private:
     QString Data4; ///< the statement behind the list
     qint64 m_id = 0; ///< the contact shown
     QString m_picture; ///< its picture, as the program writes paths
-    bool m_wasShown = false;
     QHash<QString, QWidget*> m_controls; ///< those that show a text of the contact
     std::unique_ptr<AddressSource> m_source; ///< what is listed, if not the own book
 

@@ -5,8 +5,8 @@
 #include "core/handover/page_screen.h"
 #include "core/save_cards.h"
 #include "core/screens.h"
+#include "core/sibling_start.h"
 #include "platform/message_boxes.h"
-#include "platform/shell.h"
 #include "platform/special_folders.h"
 #include "views/edit_contact.h"
 #include "views/full_view_sql.h"
@@ -30,8 +30,6 @@ bool startsGroup(Place place)
 {
     return place == Place::LabelledFirst || place == Place::IconOnlyFirst || place == Place::MenuOnlyFirst;
 }
-
-constexpr QStringView kLinkAndSync = u"\\Orvane Link & Sync.exe";
 
 QString translated(const char* text)
 {
@@ -244,20 +242,16 @@ void ContactTools::editList()
 
 void ContactTools::printRecord()
 {
-    for (const QStringView statement : {
-             u"update ov_setup set key='report'",
-             u"update ov_setup set key='report'",
-             // Kept: the misspelt word is written and overwritten at once.
-             u"update ov_setup set rptMod='Contacs'",
-             u"update ov_setup set rptMod='Contacts'",
-             u"update ov_setup set rptSubMod='Address Book- Full'",
-         })
-        m_context.data.execute(statement);
-    platform::Shell& desktop = m_context.services.shell;
-    if (!desktop.siblingExists(kLinkAndSync))
-        m_context.screens.show(u"FrmProjectMsg", core::Shown::Modally);
-    else if (desktop.startSibling(kLinkAndSync))
-        desktop.endProgram();
+    core::startSibling(m_context,
+        {.program = core::kLinkAndSync,
+            .statements = {
+                u"update ov_setup set key='report'"_s,
+                u"update ov_setup set key='report'"_s,
+                // Kept: the misspelt word is written and overwritten at once.
+                u"update ov_setup set rptMod='Contacs'"_s,
+                u"update ov_setup set rptMod='Contacts'"_s,
+                u"update ov_setup set rptSubMod='Address Book- Full'"_s,
+            }});
 }
 
 void ContactTools::commonFilter()

@@ -156,6 +156,7 @@ QWidget* frmCntViewer::layOutRows()
 
 void frmCntViewer::load()
 {
+    setFrameTitle(u"Contacts Link Viewer"_s);
     showDates();
 }
 
@@ -181,7 +182,6 @@ void frmCntViewer::showEvent(QShowEvent* event)
     Screen::showEvent(event);
     if (event->spontaneous())
         return;
-    context().frame.setTitle(u"Contacts Link Viewer"_s);
     const qint64 chosen = shared().selectedContactId;
     const bool isNew = std::exchange(m_offered, chosen) != chosen;
     const qint64 id = m_id == 0 || isNew ? chosen : m_id;

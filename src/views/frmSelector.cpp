@@ -236,6 +236,7 @@ void frmSelector::connectControls()
 // Ids and names are all that is read: no combo is filled and no contact is shown before somebody asks.
 void frmSelector::load()
 {
+    setFrameTitle(u"Contacts-Lookup"_s);
     shared().selectorMdiFlag = u"MDI"_s;
     setSimple(false);
     list();
@@ -251,13 +252,8 @@ void frmSelector::bookChanged()
 void frmSelector::showEvent(QShowEvent* event)
 {
     Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(u"Contacts-Lookup"_s);
-    rememberPage();
-    // Another screen may have changed the book meanwhile.
-    if (std::exchange(m_wasShown, true))
-        bookChanged();
+    if (!event->spontaneous())
+        rememberPage();
 }
 
 bool frmSelector::showContact(qint64 id)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/handover/contact_screen.h"
 #include "core/handover/filter_target.h"
 #include "core/handover/page_screen.h"
@@ -26,7 +25,6 @@ class SelectorTools;
 /// The standing list of all contacts, by letters and in several orders, beside a page that shows the contact
 /// chosen. The other screens that need a contact use the one that was last chosen here.
 class frmSelector : public core::Screen,
-                    public core::BookListener,
                     public core::ContactScreen,
                     public core::FilterTarget,
                     public core::PageScreen {
@@ -70,7 +68,6 @@ private:
     void setInFull(bool inFull);
 
     QString m_clause; ///< of the quick combos or of a filter, without its leading word
-    bool m_wasShown = false;
     bool m_simple = false;
 
     SelectorTools* m_tools;

@@ -1,8 +1,5 @@
 #include "views/frmSelector1.h"
 
-#include "core/date_patterns.h"
-#include "core/frame.h"
-#include "platform/clock.h"
 #include "views/contact_tools.h"
 #include "views/FormTree2.h"
 #include "views/full_view_sql.h"
@@ -14,7 +11,6 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QLocale>
 #include <QMenu>
 #include <QShowEvent>
 #include <QSplitter>
@@ -156,6 +152,7 @@ void frmSelector1::connectControls()
 // The first tab is entered when the screen is seen, for it may be opened on another one.
 void frmSelector1::load()
 {
+    setFrameTitle(u"Search"_s);
     m_results->load();
     SSActiveTabs1->setCurrentIndex(0);
 }
@@ -166,7 +163,7 @@ void frmSelector1::openPage(const QString& page)
         = std::find_if(kTabs.begin(), kTabs.end(), [&](const Tab& row) { return row.page == page; });
     if (tab == kTabs.end())
         return;
-    m_title = tab->title.toString();
+    setFrameTitle(tab->title.toString());
     chooseTab(int(tab - kTabs.begin()));
 }
 
@@ -187,30 +184,19 @@ void frmSelector1::bookChanged()
 {
     m_names->refill();
     m_choices->refill();
+    if (m_entered && m_panes->currentWidget() == SSTree1)
+        SSTree1->build(SSTree1->kind());
     m_results->refresh();
 }
 
 void frmSelector1::showEvent(QShowEvent* event)
 {
     Screen::showEvent(event);
-    if (event->spontaneous())
+    if (event->spontaneous() || std::exchange(m_entered, true))
         return;
-    const QString title = m_title;
-    const bool seenBefore = std::exchange(m_entered, true);
-    // Another screen may have changed the book meanwhile.
-    if (seenBefore) {
-        m_names->refill();
-        m_choices->refill();
-        if (m_panes->currentWidget() == SSTree1)
-            SSTree1->build(SSTree1->kind());
-        m_results->refresh();
-    } else {
-        enterTab();
-    }
-    m_title = title;
-    context().frame.setTitle(m_title);
-    context().frame.showDate(
-        QLocale::c().toString(context().services.clock.today(), core::datePattern(shared().NationalMode)));
+    const QString title = frameTitle();
+    enterTab();
+    setFrameTitle(title);
 }
 
 void frmSelector1::enterTab()
@@ -218,8 +204,7 @@ void frmSelector1::enterTab()
     if (!m_entered)
         return;
     const Tab& tab = kTabs[std::size_t(SSActiveTabs1->currentIndex())];
-    m_title = tab.title.toString();
-    context().frame.setTitle(m_title);
+    setFrameTitle(tab.title.toString());
     shareRoom(tab.enter == &frmSelector1::enterPictures);
     (this->*tab.enter)();
     setFocusProxy(m_panes->currentWidget());

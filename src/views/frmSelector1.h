@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/handover/book_listener.h"
 #include "core/handover/filter_target.h"
 #include "core/handover/page_screen.h"
 #include "core/screen.h"
@@ -24,10 +23,7 @@ class TreeChoicesPanel;
 
 /// The advanced search: by the tree of locations or categories, by names, by a choice for each of many
 /// fields, or by pictures. What is found stands in the result pane beside it.
-class frmSelector1 : public core::Screen,
-                     public core::PageScreen,
-                     public core::FilterTarget,
-                     public core::BookListener {
+class frmSelector1 : public core::Screen, public core::PageScreen, public core::FilterTarget {
     Q_OBJECT
 
 public:
@@ -62,7 +58,6 @@ private:
     void showAlone(bool alone);
     void openKeyword();
 
-    QString m_title = QStringLiteral("Search"); ///< of the frame
     bool m_entered = false; ///< what the tab shows has been read
     bool m_wide = false; ///< the pictures have the larger half
     QList<int> m_otherSizes{500, 500}; ///< of the splitter when the other way is taken

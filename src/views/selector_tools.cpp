@@ -204,6 +204,7 @@ void SelectorTools::remove(QStringView)
         m_context.services.mailContacts.remove(core::mailKeyOf(id));
     m_context.services.sounds.play(core::sounds::Delete);
     Q_EMIT contactDeleted(id);
+    m_context.screens.tellBookChanged();
 }
 
 void SelectorTools::showIn(QStringView form)

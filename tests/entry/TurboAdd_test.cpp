@@ -162,8 +162,8 @@ void TurboAddTest::opensOnTheFirstField()
     QCOMPARE(f.text(u"LblListText"_s), u"First"_s);
     QCOMPARE(f.values(), (QStringList{u"Asha"_s, u"Bea"_s, u"Ben"_s}));
     QVERIFY(f.list1->hasFocus());
-    QCOMPARE(f.frame.titles, QStringList{u"Contacts Turbo Add"_s});
-    QCOMPARE(f.frame.dates, QStringList{u"15 Mar-2024"_s});
+    QCOMPARE(f.form()->frameTitle(), u"Contacts Turbo Add"_s);
+    QCOMPARE(f.form()->position(), u"Contacts Turbo Add"_s);
     QCOMPARE(f.sounds.played, QStringList{kSounds + u"Add.wav"_s});
     for (const auto& hidden : {u"Frame1"_s, u"Framekeypad"_s, u"abc"_s})
         QVERIFY2(!f.shows(hidden), qPrintable(hidden));

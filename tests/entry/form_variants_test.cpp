@@ -94,7 +94,7 @@ void FormVariantsTest::looksLikeItself()
     QFETCH(QString, form);
     m_form->start(form);
     QTEST(m_form->form()->windowTitle(), "caption");
-    QTEST(m_form->frame.titles.constLast(), "title");
+    QTEST(m_form->form()->frameTitle(), "title");
     QStringList pages;
     auto* tabs = m_form->child<QTabWidget>(u"sstab1"_s);
     for (int page = 0; page < tabs->count(); ++page)

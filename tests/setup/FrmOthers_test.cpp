@@ -1,5 +1,3 @@
-#include "core/handover/book_listener.h"
-#include "core/handover/vocabulary_listener.h"
 #include "core/setup/FrmOthers.h"
 #include "core/store/backups.h"
 #include "support/screen_fixture.h"
@@ -18,7 +16,7 @@ using widgets::child;
 namespace {
 
 /// Any other open screen: a list from a vocabulary, a grid, and contacts.
-class OtherScreen final : public core::Screen, public core::VocabularyListener, public core::BookListener {
+class OtherScreen final : public core::Screen {
 public:
     explicit OtherScreen(core::Context& context)
         : Screen(context)
@@ -31,7 +29,11 @@ public:
         });
     }
     void load() override { }
-    void vocabulariesChanged() override { ++changes; }
+    void vocabulariesChanged() override
+    {
+        Screen::vocabulariesChanged();
+        ++changes;
+    }
     void bookChanged() override { ++bookChanges; }
 
     widgets::FilledCombo* combo;
@@ -104,6 +106,7 @@ void FrmOthersTest::init()
     }
     m_fixture->screens.add<OtherScreen>(u"Other"_s);
     m_other = static_cast<OtherScreen*>(m_fixture->screens.load(u"Other"));
+    m_other->show();
 }
 
 void FrmOthersTest::open(const QString& tab)

@@ -32,7 +32,16 @@ public:
         setWindowTitle(u"Stubborn"_s);
         keyAtLoad = context().data.openRecordset(u"select [key] from ov_setup"_s).textAt(0);
     }
-    bool mayClose() override { return mayGo; }
+    bool isTouched() const override { return touched; }
+    bool mayClose() override
+    {
+        ++asked;
+        return mayGo && Screen::mayClose();
+    }
+    using Screen::setFrameTitle;
+    using Screen::setPosition;
+    int asked = 0;
+    bool touched = false;
     QString keyAtLoad = u"not loaded"_s;
     bool mayGo = true;
 };
@@ -91,6 +100,8 @@ private Q_SLOTS:
     void dueMails();
     void toolsOfAbsentScreens();
     void tabsAndClosing();
+    void titleAndPositionOfTheScreenInFront();
+    void typedTextIsAskedForBeforeTheProgramIsLeft();
     void deferredKeys_data();
     void deferredKeys();
     void modalScreen();
@@ -170,11 +181,13 @@ void FrameTest::actions()
         if (f.target(form) && !f.target(form)->pages.isEmpty())
             screens += u" on "_s + f.target(form)->pages.join(u',');
     }
+    const core::Screen* opened = f.screens.find(u"FullView");
+    const QString title = opened ? opened->frameTitle() : QString();
     const auto setup = f.book.rows(u"select [key],rptMod,rptSubMod from ov_setup"_s).constFirst();
-    QTEST(QStringList(
-              {QString::number(done), screens, f.frame.titles.join(u','), f.shell.startedSiblings.join(u','),
-                  QString::number(f.shell.ends), QString(setup).remove(u"null"_s).replace(u'|', u'/')})
-              .join(u';'),
+    QTEST(
+        QStringList({QString::number(done), screens, title, f.shell.startedSiblings.join(u','),
+                        QString::number(f.shell.ends), QString(setup).remove(u"null"_s).replace(u'|', u'/')})
+            .join(u';'),
         "outcome");
     QCOMPARE(f.verify(), QString());
 }
@@ -234,12 +247,6 @@ void FrameTest::loadSetsTheState()
     QCOMPARE(f.shared.DocumentsPath, u"C:\\Documents"_s);
     QCOMPARE(f.pane(u"DatePane"_s), u"15 Mar-2024"_s);
     QVERIFY(f.drive.exists(u"C:\\OVUserFiles\\Exported Files\\Emails"));
-    f.window.setTitle(u"Contacts Full View"_s);
-    f.window.showPosition(u"3 of 120"_s);
-    QCOMPARE(f.window.windowTitle(), u"Contacts Full View - Orvane Contacts"_s);
-    QCOMPARE(f.pane(u"PositionPane"_s), u"3 of 120"_s);
-    f.window.clearStatus();
-    QCOMPARE(f.pane(u"PositionPane"_s) + f.pane(u"DatePane"_s), QString());
     QCOMPARE(f.verify(), QString());
 }
 
@@ -367,6 +374,54 @@ void FrameTest::tabsAndClosing()
     QCOMPARE(f.window.windowTitle(), u"Orvane Contacts"_s);
     f.tool(u"Exit"_s)->trigger();
     QCOMPARE(f.shell.ends, 1);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::titleAndPositionOfTheScreenInFront()
+{
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"FullView"_s);
+    f.registry.add<StubbornScreen>(u"FormMain"_s);
+    f.start();
+    const auto shown = [&f] { return f.window.windowTitle() + u'|' + f.pane(u"PositionPane"_s); };
+    f.tool(u"FullView"_s)->trigger();
+    auto* first = dynamic_cast<StubbornScreen*>(f.registry.find(u"FullView"));
+    first->setFrameTitle(u"Contacts Full View"_s);
+    first->setPosition(u"3 of 120"_s);
+    QCOMPARE(shown(), u"Contacts Full View - Orvane Contacts|3 of 120"_s);
+    f.tool(u"Edit"_s)->trigger();
+    first->setPosition(u"4 of 120"_s);
+    QCOMPARE(shown(), u"Stubborn - Orvane Contacts|"_s);
+    const QTabBar* bar = f.tabs()->tabBar();
+    QTest::mouseClick(const_cast<QTabBar*>(bar), Qt::LeftButton, {}, bar->tabRect(0).center());
+    QCOMPARE(shown(), u"Contacts Full View - Orvane Contacts|4 of 120"_s);
+    QCOMPARE(f.verify(), QString());
+}
+
+void FrameTest::typedTextIsAskedForBeforeTheProgramIsLeft()
+{
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"FullView"_s);
+    f.registry.add<StubbornScreen>(u"FormMain"_s);
+    f.execute(u"insert into ov_setup ([key]) values ('')"_s);
+    f.shell.siblings = QStringList{u"Orvane Link & Sync.exe"_s};
+    f.start();
+    f.tool(u"FullView"_s)->trigger();
+    f.tool(u"Edit"_s)->trigger();
+    dynamic_cast<StubbornScreen*>(f.registry.find(u"FullView"))->touched = true;
+    const QString question = u"What you entered was not saved. Do you want to discard it?"_s;
+    const core::Action ways[] = {core::RequestReport{u"Phone List"}, core::EndProgram{}, core::CloseFrame{}};
+    for (const core::Action& way : ways) {
+        f.tabs()->setCurrentIndex(1);
+        f.boxes.expect(question, Answer::No);
+        f.window.perform(way);
+        QCOMPARE(f.tabs()->currentIndex(), 0);
+    }
+    QCOMPARE(f.shell.ends, 0);
+    QCOMPARE(f.book.rows(u"select [key],rptMod from ov_setup"_s), QStringList{u"|null"_s});
+    f.boxes.expect(question, Answer::Yes);
+    QVERIFY(f.window.perform(core::RequestReport{u"Phone List"}));
+    QCOMPARE(f.shell.startedSiblings.size(), 1);
     QCOMPARE(f.verify(), QString());
 }
 

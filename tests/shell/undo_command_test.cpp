@@ -1,4 +1,3 @@
-#include "core/handover/book_listener.h"
 #include "core/shell/undo_command.h"
 #include "support/screen_fixture.h"
 
@@ -8,7 +7,7 @@
 using namespace Qt::StringLiterals;
 
 /// A screen that shows contacts, and counts how often it is told to read them anew.
-class ListeningScreen final : public core::Screen, public core::BookListener {
+class ListeningScreen final : public core::Screen {
     Q_OBJECT
 
 public:
@@ -60,7 +59,7 @@ void UndoCommandTest::saysAndTakesBack()
         edit.actions().constFirst()->trigger();
     QCOMPARE(fixture.book.rows(u"select name from cnt_main"_s), QStringList{u"Ann"_s});
     QCOMPARE(screen->changes, 3);
-    QCOMPARE(fixture.frame.positions.constLast(), u"Undone: adding Bob"_s);
+    QCOMPARE(fixture.frame.notices.constLast(), u"Undone: adding Bob"_s);
     QCOMPARE(fixture.verify(), QString());
 }
 
@@ -73,7 +72,7 @@ void UndoCommandTest::nothingToTakeBack()
     QCOMPARE(offered(edit), QString());
     Q_EMIT edit.aboutToHide();
     edit.actions().constFirst()->trigger(); // by its shortcut
-    QCOMPARE(fixture.frame.positions, QStringList());
+    QCOMPARE(fixture.frame.notices, QStringList());
     QCOMPARE(fixture.verify(), QString());
 }
 

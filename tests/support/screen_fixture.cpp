@@ -13,6 +13,17 @@ void RecordingFrame::place(core::Screen* screen, core::Shown shown)
     screen->show();
 }
 
+void RecordingFrame::bringForward(core::Screen* screen)
+{
+    broughtForward << screen->objectName();
+}
+
+void RecordingFrame::showNotice(const QString& text, const QString& actionText, std::function<void()> action)
+{
+    notices << (actionText.isEmpty() ? text : text + u" ["_s + actionText + u']');
+    noticeAction = std::move(action);
+}
+
 bool RecordingFrame::perform(const core::Action& action)
 {
     performed.push_back(action);

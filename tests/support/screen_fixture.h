@@ -21,18 +21,15 @@ namespace support {
 class RecordingFrame final : public core::Frame {
 public:
     void place(core::Screen* screen, core::Shown shown) override;
-    void setTitle(const QString& title) override { titles << title; }
-    void showPosition(const QString& text) override { positions << text; }
-    void showDate(const QString& text) override { dates << text; }
-    void clearStatus() override { ++clearings; }
+    void bringForward(core::Screen* screen) override;
+    void showNotice(const QString& text, const QString& actionText, std::function<void()> action) override;
     bool perform(const core::Action& action) override;
     bool canPerform(const core::Action& action) const override;
 
     QStringList placed; ///< form names, with " modally" behind a dialog
-    QStringList titles;
-    QStringList positions;
-    QStringList dates;
-    int clearings = 0;
+    QStringList broughtForward;
+    QStringList notices; ///< with " [Undo]" and alike behind one that offers something
+    std::function<void()> noticeAction;
     std::vector<core::Action> performed;
     bool able = true; ///< the answer of perform() and canPerform()
 };

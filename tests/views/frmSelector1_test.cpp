@@ -99,8 +99,7 @@ void FrmSelector1Test::choose(const QString& combo, const QString& value)
 void FrmSelector1Test::pagesAndTitles()
 {
     open();
-    QCOMPARE(m_fixture->frame.titles.last(), u"Search"_s);
-    QCOMPARE(m_fixture->frame.dates.last(), u"Mar 15-2024"_s);
+    QCOMPARE(m_form->frameTitle(), u"Search"_s);
     auto* tree = control<QTreeWidget>(u"SSTree1"_s);
     QCOMPARE(tree->topLevelItem(0)->text(0), u"Orvane Contacts-Location Wise"_s);
     QCOMPARE(grid()->rowCount(), 3);
@@ -109,7 +108,7 @@ void FrmSelector1Test::pagesAndTitles()
         {4, u"Search-Pics Thumbnails"_s}, {0, u"Search-Location Tree"_s}};
     for (const auto& [tab, title] : titles) {
         QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
-        QCOMPARE(m_fixture->frame.titles.last(), title);
+        QCOMPARE(m_form->frameTitle(), title);
         QCOMPARE(tree->isVisible(), tab == 0 || tab == 2);
     }
     QVERIFY(m_form->findChild<QWidget*>(u"FormTree2"_s)->isVisible());
@@ -123,7 +122,7 @@ void FrmSelector1Test::opensOnThePageAskedFor()
     m_fixture->screens.show(u"frmSelector1");
     QCOMPARE(
         control<QTreeWidget>(u"SSTree1"_s)->topLevelItem(0)->text(0), u"Orvane Contacts-Category Wise"_s);
-    QCOMPARE(m_fixture->frame.titles.last(), u"Search-Category Tree"_s);
+    QCOMPARE(m_form->frameTitle(), u"Search-Category Tree"_s);
 }
 
 void FrmSelector1Test::choicesNarrowTheResults()
@@ -163,7 +162,7 @@ void FrmSelector1Test::keyword()
     m_fixture->execute(u"update cnt_main set b_note='met at the Rotary' where id=2"_s);
     open();
     control<QAction>(u"Search"_s)->trigger();
-    QCOMPARE(m_fixture->frame.titles.last(), u"Search-Advanced"_s);
+    QCOMPARE(m_form->frameTitle(), u"Search-Advanced"_s);
     QTest::keyClicks(control<QLineEdit>(u"txtkeyword"_s), u"rotary"_s);
     press(u"CmdSearch"_s);
     QCOMPARE(listed(), u"2"_s);

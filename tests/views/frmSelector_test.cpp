@@ -88,7 +88,7 @@ void FrmSelectorTest::choose(const QString& combo, const QString& text)
 void FrmSelectorTest::opensWithTheListOnly()
 {
     QCOMPARE(m_form->windowTitle(), u"Record Selector"_s);
-    QCOMPARE(m_fixture->frame.titles, QStringList{u"Contacts-Lookup"_s});
+    QCOMPARE(m_form->frameTitle(), u"Contacts-Lookup"_s);
     QCOMPARE(m_grid->rowCount(), 12);
     QCOMPARE(m_grid->currentRow(), -1);
     QCOMPARE(child<QComboBox>(m_form, u"cboCity"_s)->count(), 1); // not read yet

@@ -1,8 +1,5 @@
 #include "core/setup/FrmOthers.h"
 
-#include "core/frame.h"
-#include "core/handover/book_listener.h"
-#include "core/handover/vocabulary_listener.h"
 #include "core/screens.h"
 #include "core/setup/category_panel.h"
 #include "core/setup/city_panel.h"
@@ -17,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShowEvent>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -151,8 +147,9 @@ QWidget* FrmOthers::layOutFoot()
 
 void FrmOthers::watch(SetupPanel* panel)
 {
-    connect(panel, &SetupPanel::vocabulariesChanged, this, &FrmOthers::tellLists);
-    connect(panel, &SetupPanel::contactsChanged, this, &FrmOthers::tellBook);
+    core::Screens& screens = context().screens;
+    connect(panel, &SetupPanel::vocabulariesChanged, this, [&screens] { screens.tellVocabulariesChanged(); });
+    connect(panel, &SetupPanel::contactsChanged, this, [this, &screens] { screens.tellBookChanged(this); });
 }
 
 QSize FrmOthers::sizeHint() const
@@ -162,18 +159,14 @@ QSize FrmOthers::sizeHint() const
 
 void FrmOthers::load()
 {
+    setFrameTitle(u"Address Book Setup"_s);
     readTab();
 }
 
-void FrmOthers::showEvent(QShowEvent* event)
+// Another screen may have changed a list or a setting.
+void FrmOthers::bookChanged()
 {
-    Screen::showEvent(event);
-    if (event->spontaneous())
-        return;
-    context().frame.setTitle(u"Address Book Setup"_s);
-    // Another screen may have changed a list or a setting meanwhile.
-    if (std::exchange(m_isRead, true))
-        readTab();
+    readTab();
 }
 
 void FrmOthers::readTab()
@@ -183,22 +176,6 @@ void FrmOthers::readTab()
         panel->refresh();
     if (m_addresses && page->isAncestorOf(m_addresses))
         m_addresses->fill(context().data.openRecordset(u"select * from CNT_ADDRESS"_s));
-}
-
-void FrmOthers::tellLists()
-{
-    for (core::Screen* screen : context().screens.openOnes<core::Screen>()) {
-        for (auto* combo : screen->findChildren<widgets::FilledCombo*>())
-            combo->refill();
-    }
-    for (auto* listener : context().screens.openOnes<core::VocabularyListener>())
-        listener->vocabulariesChanged();
-}
-
-void FrmOthers::tellBook()
-{
-    for (auto* listener : context().screens.openOnes<core::BookListener>())
-        listener->bookChanged();
 }
 
 } // namespace setup

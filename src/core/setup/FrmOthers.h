@@ -22,10 +22,8 @@ public:
     explicit FrmOthers(core::Context& context, QWidget* parent = nullptr);
 
     void load() override;
+    void bookChanged() override;
     QSize sizeHint() const override; ///< as a dialog: every tab without scrolling
-
-protected:
-    void showEvent(QShowEvent* event) override;
 
 private:
     QWidget* listsPage(ListTab tab);
@@ -34,12 +32,9 @@ private:
     QWidget* layOutFoot();
     void watch(SetupPanel* panel);
     void readTab();
-    void tellLists();
-    void tellBook();
 
     QTabWidget* sstab1;
     widgets::HeadingGrid* m_addresses = nullptr;
-    bool m_isRead = false;
 };
 
 } // namespace setup

@@ -93,6 +93,8 @@ constexpr MenuItem kMenuItems[] = {
     {u"pdialer", u"Phone"},
 };
 
+constexpr int kNoticeMs = 8000;
+
 QString translated(const char* text)
 {
     return QCoreApplication::translate("shell", text);
@@ -167,6 +169,7 @@ void MDIForm1::build(core::Context& context)
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MDIForm1::closeTab);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &MDIForm1::showHead);
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_startPage);
     m_pages->addWidget(m_tabs);
@@ -285,7 +288,7 @@ void MDIForm1::loadFrame()
     widgets::setGridFontSize(shared.GridFontSize);
     m_tools->showPersonalTools(!settings.business);
     m_tools->showCityTools(shared.NationalMode);
-    showDate(widgets::formatDate(today, core::datePattern(shared.NationalMode)));
+    showToday();
     m_startPage->setToday(today);
     shared.ModuleName = u"Contacts"_s;
     makeUserFolders(m_context->services.drive);
@@ -336,14 +339,25 @@ void MDIForm1::place(core::Screen* screen, core::Shown shown)
     int index = m_tabs->indexOf(screen);
     if (index < 0) {
         index = m_tabs->addTab(screen, screen->windowTitle());
-        connect(screen, &QWidget::windowTitleChanged, m_tabs,
-            [this, screen](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(screen), title); });
+        connect(screen, &QWidget::windowTitleChanged, m_tabs, [this, screen](const QString& title) {
+            m_tabs->setTabText(m_tabs->indexOf(screen), title);
+            showHead();
+        });
         connect(screen, &core::Screen::closeRequested, this,
             [this, screen] { closeTab(m_tabs->indexOf(screen)); });
+        connect(screen, &core::Screen::headChanged, this, &MDIForm1::showHead);
     }
     m_tabs->setCurrentIndex(index);
     showTabOrStartPage();
     screen->setFocus();
+}
+
+void MDIForm1::bringForward(core::Screen* screen)
+{
+    if (const int index = m_tabs->indexOf(screen); index >= 0)
+        m_tabs->setCurrentIndex(index);
+    else
+        screen->window()->activateWindow();
 }
 
 void MDIForm1::closeTab(int index)
@@ -360,32 +374,26 @@ void MDIForm1::showTabOrStartPage()
 {
     const bool empty = m_tabs->count() == 0;
     m_pages->setCurrentWidget(empty ? static_cast<QWidget*>(m_startPage) : m_tabs);
-    if (empty) {
-        clearStatus();
-        setTitle({});
-        showDate(widgets::formatDate(
-            m_context->services.clock.today(), core::datePattern(m_context->shared.NationalMode)));
-    }
+    showHead();
 }
 
-void MDIForm1::setTitle(const QString& title)
+void MDIForm1::showHead()
 {
+    const auto* screen = qobject_cast<core::Screen*>(m_tabs->currentWidget());
+    const QString title = screen ? screen->frameTitle() : QString();
     setWindowTitle(title.isEmpty() ? tr("Orvane Contacts") : title + u" - "_s + tr("Orvane Contacts"));
+    m_positionPane->setText(screen ? screen->position() : QString());
 }
 
-void MDIForm1::showPosition(const QString& text)
+void MDIForm1::showToday()
 {
-    m_positionPane->setText(text);
-}
-void MDIForm1::showDate(const QString& text)
-{
-    m_datePane->setText(text);
+    m_datePane->setText(widgets::formatDate(
+        m_context->services.clock.today(), core::datePattern(m_context->shared.NationalMode)));
 }
 
-void MDIForm1::clearStatus()
+void MDIForm1::showNotice(const QString& text, const QString&, std::function<void()>)
 {
-    m_positionPane->clear();
-    m_datePane->clear();
+    statusBar()->showMessage(text, kNoticeMs);
 }
 
 bool MDIForm1::perform(const core::Action& action)
@@ -431,13 +439,9 @@ void MDIForm1::recallWindow()
 
 void MDIForm1::closeEvent(QCloseEvent* event)
 {
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        auto* screen = qobject_cast<core::Screen*>(m_tabs->widget(i));
-        if (screen && !screen->mayClose()) {
-            m_tabs->setCurrentIndex(i);
-            event->ignore();
-            return;
-        }
+    if (!m_context->screens.mayCloseAll()) {
+        event->ignore();
+        return;
     }
     rememberWindow();
     event->accept();

@@ -34,10 +34,9 @@ public:
     void reloadFrame();
 
     void place(core::Screen* screen, core::Shown shown) override;
-    void setTitle(const QString& title) override;
-    void showPosition(const QString& text) override;
-    void showDate(const QString& text) override;
-    void clearStatus() override;
+    void bringForward(core::Screen* screen) override;
+    void showNotice(
+        const QString& text, const QString& actionText = {}, std::function<void()> action = {}) override;
     bool perform(const core::Action& action) override;
     bool canPerform(const core::Action& action) const override;
 
@@ -58,6 +57,8 @@ private:
     void dropDown(const QString& page);
     void closeTab(int index);
     void showTabOrStartPage();
+    void showHead(); ///< title and position of the screen in front
+    void showToday();
     void toggleLook(bool dark);
     void offerDueMails();
     void rememberWindow() const;

@@ -3,6 +3,7 @@
 #include "core/frame.h"
 #include "core/handover/page_screen.h"
 #include "core/screens.h"
+#include "core/sibling_start.h"
 #include "platform/drive.h"
 #include "platform/help_viewer.h"
 #include "platform/message_boxes.h"
@@ -14,13 +15,7 @@ namespace shell {
 
 namespace {
 
-constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
 constexpr QStringView kHelpFile = u"\\UserFiles\\Help\\OrvaneHelp.chm";
-
-QString fileOf(QStringView program)
-{
-    return u'\\' + program.toString();
-}
 
 /// The screen that an action needs; empty for an action that needs none.
 struct ScreenNeeded {
@@ -70,8 +65,9 @@ bool ActionPerformer::run(const core::OpenScreen& open)
         Q_EMIT listBarHidden();
     if (!open.letterKind.isEmpty())
         m_context.shared.LetterKind = open.letterKind.toString();
-    if (!open.title.isEmpty() && m_context.screens.has(open.form))
-        m_context.frame.setTitle(open.title.toString());
+    core::Screen* screen = m_context.screens.load(open.form);
+    if (screen && !open.title.isEmpty())
+        screen->offerFrameTitle(open.title.toString());
     return openScreen(open.form, open.page, open.shown);
 }
 
@@ -100,37 +96,24 @@ bool ActionPerformer::run(const core::LaunchLinkAndSync& launch)
         if (answer == platform::Answer::No)
             return false;
     }
-    return startProgram(kLinkAndSync, core::WhenMissing::ShowProductPages);
+    return core::startSibling(m_context, {.program = core::kLinkAndSync});
 }
 
 // The key is left only for a program that is there; nobody else would take it away again.
 bool ActionPerformer::run(const core::StartSibling& start)
 {
-    if (!start.key.isEmpty() && m_context.services.shell.siblingExists(fileOf(start.program)))
-        m_context.data.execute(u"update ov_setup set key='"_s + start.key.toString() + u"'"_s);
-    return startProgram(start.program, start.whenMissing);
+    QStringList statements;
+    if (!start.key.isEmpty() && m_context.services.shell.siblingExists(u'\\' + start.program.toString()))
+        statements << u"update ov_setup set key='"_s + start.key.toString() + u"'"_s;
+    return core::startSibling(m_context, {start.program, statements, start.whenMissing});
 }
 
 bool ActionPerformer::run(const core::RequestReport& request)
 {
-    m_context.data.execute(u"update ov_setup set key='report'"_s);
-    m_context.data.execute(u"update ov_setup set rptMod='Contacts'"_s);
-    m_context.data.execute(u"update ov_setup set rptSubMod='"_s + request.subModule.toString() + u"'"_s);
-    return startProgram(kLinkAndSync, core::WhenMissing::ShowProductPages);
-}
-
-bool ActionPerformer::startProgram(QStringView program, core::WhenMissing whenMissing)
-{
-    platform::Shell& desktop = m_context.services.shell;
-    if (desktop.siblingExists(fileOf(program))) {
-        if (!desktop.startSibling(fileOf(program)))
-            return false;
-        desktop.endProgram();
-        return true;
-    }
-    if (whenMissing == core::WhenMissing::ShowProductPages)
-        m_context.screens.show(u"FrmProjectMsg", core::Shown::Modally);
-    return false;
+    return core::startSibling(m_context,
+        {.program = core::kLinkAndSync,
+            .statements = {u"update ov_setup set key='report'"_s, u"update ov_setup set rptMod='Contacts'"_s,
+                u"update ov_setup set rptSubMod='"_s + request.subModule.toString() + u"'"_s}});
 }
 
 bool ActionPerformer::run(const core::TextReport&)
@@ -158,6 +141,8 @@ bool ActionPerformer::run(const core::ShowLinkedRecords&)
 
 bool ActionPerformer::run(const core::EndProgram&)
 {
+    if (!m_context.screens.mayCloseAll())
+        return false;
     m_context.services.shell.endProgram();
     return true;
 }

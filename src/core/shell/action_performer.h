@@ -44,7 +44,6 @@ private:
     bool run(const core::Restore& restore);
 
     bool openScreen(QStringView form, QStringView page, core::Shown shown = core::Shown::Modelessly);
-    bool startProgram(QStringView program, core::WhenMissing whenMissing);
 
     core::Context& m_context;
 };

@@ -1,7 +1,6 @@
 #include "core/shell/undo_command.h"
 
 #include "core/frame.h"
-#include "core/handover/book_listener.h"
 #include "core/screens.h"
 #include "platform/message_boxes.h"
 #include "widgets/theme.h"
@@ -62,9 +61,8 @@ void UndoCommand::undo()
             tr("This can not be taken back: the contact has been changed since."), m_context.shared.AppTitle);
         return;
     }
-    for (core::BookListener* listener : m_context.screens.openOnes<core::BookListener>())
-        listener->bookChanged();
-    m_context.frame.showPosition(tr("Undone: %1").arg(described(*change)));
+    m_context.screens.tellBookChanged();
+    m_context.frame.showNotice(tr("Undone: %1").arg(described(*change)));
 }
 
 } // namespace shell
