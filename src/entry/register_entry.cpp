@@ -1,10 +1,10 @@
 #include "entry/register_entry.h"
 
 #include "core/screens.h"
-#include "entry/FormMain.h"
-#include "entry/FrmAddSave.h"
-#include "entry/FrmDuplicator.h"
-#include "entry/TurboAdd.h"
+#include "entry/duplicator/FrmDuplicator.h"
+#include "entry/form/FormMain.h"
+#include "entry/form/FrmAddSave.h"
+#include "entry/turbo/TurboAdd.h"
 
 using namespace Qt::StringLiterals;
 

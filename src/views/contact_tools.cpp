@@ -9,7 +9,7 @@
 #include "platform/message_boxes.h"
 #include "platform/special_folders.h"
 #include "views/edit_contact.h"
-#include "views/full_view_sql.h"
+#include "views/full_view/full_view_sql.h"
 #include "widgets/theme.h"
 
 #include <QAction>

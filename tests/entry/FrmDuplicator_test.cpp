@@ -1,5 +1,5 @@
-#include "entry/duplicate_columns.h"
-#include "entry/FrmDuplicator.h"
+#include "entry/duplicator/duplicate_columns.h"
+#include "entry/duplicator/FrmDuplicator.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"

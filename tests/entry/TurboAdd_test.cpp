@@ -2,7 +2,7 @@
 #include <QtWidgets>
 
 #include "core/frame.h"
-#include "entry/TurboAdd.h"
+#include "entry/turbo/TurboAdd.h"
 #include "stored_rows.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"

@@ -1,7 +1,7 @@
 #include "entry_form.h"
 
 #include "core/handover/word_picker.h"
-#include "entry/assist_panel.h"
+#include "entry/assists/assist_panel.h"
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"
 

@@ -4,7 +4,7 @@
 #include <QtWidgets>
 
 #include "core/frame.h"
-#include "entry/FormMain.h"
+#include "entry/form/FormMain.h"
 #include "entry/register_entry.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"

@@ -1,10 +1,10 @@
 #include <QtTest>
 
 #include "core/photo_file.h"
-#include "entry/address_lookup.h"
-#include "entry/city_assist.h"
-#include "entry/photo_store.h"
-#include "entry/typed_word.h"
+#include "entry/assists/address_lookup.h"
+#include "entry/assists/city_assist.h"
+#include "entry/assists/typed_word.h"
+#include "entry/form/photo_store.h"
 #include "platform/folder_drive.h"
 #include "support/test_book.h"
 

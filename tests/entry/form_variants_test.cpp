@@ -1,6 +1,6 @@
 #include "entry_form.h"
 
-#include "entry/form_variant.h"
+#include "entry/form/form_variant.h"
 
 using namespace Qt::StringLiterals;
 

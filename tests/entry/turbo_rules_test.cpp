@@ -1,7 +1,7 @@
 #include <QtTest>
 
-#include "entry/city_chain.h"
-#include "entry/turbo_fields.h"
+#include "entry/assists/city_chain.h"
+#include "entry/turbo/turbo_fields.h"
 #include "support/test_book.h"
 
 using namespace Qt::StringLiterals;

@@ -266,12 +266,12 @@ void SetupRulesTest::fontHasOneRowAmongOthers()
 
 void SetupRulesTest::availableCities_data()
 {
-    QTest::addColumn<CityScope>("scope");
+    QTest::addColumn<CityTable>("scope");
     QTest::addColumn<QString>("place");
     QTest::addColumn<bool>("mainOnly");
     QTest::addColumn<QString>("cities");
-    const auto national = CityScope::National;
-    const auto international = CityScope::International;
+    const auto national = CityTable::National;
+    const auto international = CityTable::International;
     QTest::newRow("home, main") << national << u""_s << true << u"Mumbai,Panaji"_s;
     QTest::newRow("home, all") << national << u""_s << false << u"Mumbai,Panaji,Thane"_s;
     QTest::newRow("state, all") << national << u"Maharashtra"_s << false << u"Mumbai,Thane"_s;
@@ -284,7 +284,7 @@ void SetupRulesTest::availableCities_data()
 
 void SetupRulesTest::availableCities()
 {
-    QFETCH(const CityScope, scope);
+    QFETCH(const CityTable, scope);
     QFETCH(const QString, place);
     QFETCH(const bool, mainOnly);
     for (const QString& row :
@@ -299,14 +299,14 @@ void SetupRulesTest::availableCities()
 void SetupRulesTest::frequentCities()
 {
     jet::Database& data = m_book->data();
-    QVERIFY(addFrequentCity(data, CityScope::National, u"Pune"_s) == CityAdded::Yes);
-    QVERIFY(addFrequentCity(data, CityScope::National, u"Xi'an"_s) == CityAdded::Yes);
-    QVERIFY(addFrequentCity(data, CityScope::National, u"PUNE"_s) == CityAdded::Known);
-    QVERIFY(addFrequentCity(data, CityScope::International, u"Pune"_s) == CityAdded::Yes);
+    QVERIFY(addFrequentCity(data, CityTable::National, u"Pune"_s) == CityAdded::Yes);
+    QVERIFY(addFrequentCity(data, CityTable::National, u"Xi'an"_s) == CityAdded::Yes);
+    QVERIFY(addFrequentCity(data, CityTable::National, u"PUNE"_s) == CityAdded::Known);
+    QVERIFY(addFrequentCity(data, CityTable::International, u"Pune"_s) == CityAdded::Yes);
     QVERIFY(setDefaultCity(data, u"Pune"_s));
-    QVERIFY(removeFrequentCity(data, CityScope::National, 0, u"Pune"_s) == CityRemoved::IsDefault);
-    QVERIFY(removeFrequentCity(data, CityScope::National, 0, u"Xi'an"_s) == CityRemoved::Failed);
-    QVERIFY(removeFrequentCity(data, CityScope::National, 1, u"Xi'an"_s) == CityRemoved::Yes);
+    QVERIFY(removeFrequentCity(data, CityTable::National, 0, u"Pune"_s) == CityRemoved::IsDefault);
+    QVERIFY(removeFrequentCity(data, CityTable::National, 0, u"Xi'an"_s) == CityRemoved::Failed);
+    QVERIFY(removeFrequentCity(data, CityTable::National, 1, u"Xi'an"_s) == CityRemoved::Yes);
     QCOMPARE(rows(u"select city,type,priority from cnt_topcities"_s),
         (QStringList{u"Pune|National|1"_s, u"Pune|International|1"_s}));
 }
@@ -315,7 +315,7 @@ void SetupRulesTest::frequentCities()
 void SetupRulesTest::oneDefaultCity()
 {
     for (const QString& city : {u"Pune"_s, u"Goa"_s})
-        addFrequentCity(m_book->data(), CityScope::National, city);
+        addFrequentCity(m_book->data(), CityTable::National, city);
     QVERIFY(setDefaultCity(m_book->data(), u"Pune"_s));
     QVERIFY(setDefaultCity(m_book->data(), u"Goa"_s));
     QCOMPARE(rows(defaultCitySql()), QStringList{u"Goa"_s});

@@ -1,6 +1,6 @@
 #include "support/screen_fixture.h"
-#include "views/FormSearch.h"
-#include "views/search_clauses.h"
+#include "views/search/FormSearch.h"
+#include "views/search/search_clauses.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"

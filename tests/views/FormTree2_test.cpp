@@ -1,6 +1,6 @@
 #include "support/screen_fixture.h"
-#include "views/FormTree2.h"
-#include "views/place_tree.h"
+#include "views/search/FormTree2.h"
+#include "views/search/place_tree.h"
 #include "widgets/fields.h"
 #include "widgets/heading_grid.h"
 #include "widgets/picture_box.h"

@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/FrmContacts.h"
+#include "views/contact_pages/FrmContacts.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"

@@ -1,8 +1,8 @@
 #include "core/handover/refreshable.h"
 #include "core/sound_files.h"
 #include "support/screen_fixture.h"
-#include "views/find_columns.h"
-#include "views/FrmFind.h"
+#include "views/filters/find_columns.h"
+#include "views/filters/FrmFind.h"
 #include "widgets/fields.h"
 
 #include <QtTest>

@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/FullViewWeb.h"
+#include "views/full_view/FullViewWeb.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"
 

@@ -1,6 +1,6 @@
 #include "core/sound_files.h"
 #include "support/screen_fixture.h"
-#include "views/FullView.h"
+#include "views/full_view/FullView.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"
 

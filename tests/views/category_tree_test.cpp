@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/category_tree.h"
+#include "views/full_view/category_tree.h"
 
 #include <QtTest>
 #include <QtWidgets>

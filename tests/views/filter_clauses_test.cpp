@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/filter_clauses.h"
+#include "views/filters/filter_clauses.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "support/screen_fixture.h"
-#include "views/frmCntViewer.h"
-#include "views/linked_records.h"
+#include "views/contact_pages/frmCntViewer.h"
+#include "views/contact_pages/linked_records.h"
 #include "widgets/fields.h"
 #include "widgets/heading_grid.h"
 

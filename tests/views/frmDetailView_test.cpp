@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/frmDetailView.h"
+#include "views/contact_pages/frmDetailView.h"
 #include "widgets/fields.h"
 
 #include <QtTest>

@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/frmNoteView.h"
+#include "views/contact_pages/frmNoteView.h"
 #include "widgets/fields.h"
 
 #include <QtTest>

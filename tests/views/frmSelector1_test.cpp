@@ -1,6 +1,6 @@
 #include "support/screen_fixture.h"
-#include "views/frmFilter.h"
-#include "views/frmSelector1.h"
+#include "views/filters/frmFilter.h"
+#include "views/selector/frmSelector1.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"

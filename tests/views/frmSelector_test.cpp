@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/frmSelector.h"
+#include "views/selector/frmSelector.h"
 #include "widgets/alphabet_tabs.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"

@@ -1,6 +1,6 @@
 #include "support/test_book.h"
-#include "views/full_view_save.h"
-#include "views/full_view_sql.h"
+#include "views/full_view/full_view_save.h"
+#include "views/full_view/full_view_sql.h"
 
 #include <QtTest>
 

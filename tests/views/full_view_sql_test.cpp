@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/full_view_sql.h"
+#include "views/full_view/full_view_sql.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/record_texts.h"
+#include "views/contact_pages/record_texts.h"
 
 #include <QtTest>
 

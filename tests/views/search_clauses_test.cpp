@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/search_clauses.h"
+#include "views/search/search_clauses.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/selector_list.h"
+#include "views/selector/selector_list.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 #include "support/screen_fixture.h"
-#include "views/selector_tools.h"
+#include "views/selector/selector_tools.h"
 
 #include <QtTest>
 #include <QtWidgets>

@@ -1,5 +1,5 @@
 #include "support/test_book.h"
-#include "views/tree_search_sql.h"
+#include "views/search/tree_search_sql.h"
 
 #include <QtTest>
 

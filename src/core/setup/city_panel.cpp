@@ -143,9 +143,9 @@ void CityPanel::connectControls()
     connect(deleteKey, &QShortcut::activated, this, &CityPanel::remove);
 }
 
-CityScope CityPanel::scope() const
+CityTable CityPanel::scope() const
 {
-    return Option1->isChecked() ? CityScope::National : CityScope::International;
+    return Option1->isChecked() ? CityTable::National : CityTable::International;
 }
 
 void CityPanel::refresh()
@@ -156,7 +156,7 @@ void CityPanel::refresh()
 
 void CityPanel::scopeChanged()
 {
-    const bool national = scope() == CityScope::National;
+    const bool national = scope() == CityTable::National;
     DataGrid->setAccessibleName(
         national ? tr("Selected Top National Cities") : tr("Selected Top International Cities"));
     if (auto* group = qobject_cast<QGroupBox*>(DataGrid->parentWidget()))

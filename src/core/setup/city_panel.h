@@ -30,7 +30,7 @@ private:
     QWidget* layOutAvailable();
     QWidget* layOutMiddle();
     void connectControls();
-    CityScope scope() const;
+    CityTable scope() const;
     void scopeChanged();
     void readFrequent(const QString& current);
     void readAvailable();

@@ -8,28 +8,28 @@ namespace setup {
 
 namespace {
 
-QString typeOf(CityScope scope)
+QString typeOf(CityTable scope)
 {
-    return scope == CityScope::National ? u"National"_s : u"International"_s;
+    return scope == CityTable::National ? u"National"_s : u"International"_s;
 }
 
 } // namespace
 
-QString frequentCitiesSql(CityScope scope)
+QString frequentCitiesSql(CityTable scope)
 {
     return u"select * from CNT_TOPCITIES where [type]='"_s + typeOf(scope) + u'\'';
 }
 
-QString placesSql(CityScope scope)
+QString placesSql(CityTable scope)
 {
-    return scope == CityScope::National
+    return scope == CityTable::National
         ? u"select distinct state from WIA_INDIA where state is not null and state <>'' order by state"_s
         : u"select distinct [country] from WIA_GLOBALMAS order by country"_s;
 }
 
-QString availableCitiesSql(CityScope scope, const QString& place, bool mainOnly)
+QString availableCitiesSql(CityTable scope, const QString& place, bool mainOnly)
 {
-    const bool national = scope == CityScope::National;
+    const bool national = scope == CityTable::National;
     if (place.isEmpty()) {
         const QString table = national ? u"wia_india"_s : u"wia_city"_s;
         return mainOnly ? u"select distinct city from "_s + table + u" where chtype='M'order by city"_s
@@ -52,7 +52,7 @@ QString citiesForDefaultSql()
     return u"select distinct city from cnt_topcities where city is not null and city <>'' order by city"_s;
 }
 
-CityAdded addFrequentCity(jet::Database& data, CityScope scope, const QString& city)
+CityAdded addFrequentCity(jet::Database& data, CityTable scope, const QString& city)
 {
     jet::Recordset rows = data.openRecordset(frequentCitiesSql(scope));
     qint64 last = 0;
@@ -68,7 +68,7 @@ CityAdded addFrequentCity(jet::Database& data, CityScope scope, const QString& c
     return rows.update() ? CityAdded::Yes : CityAdded::Failed;
 }
 
-CityRemoved removeFrequentCity(jet::Database& data, CityScope scope, int row, const QString& city)
+CityRemoved removeFrequentCity(jet::Database& data, CityTable scope, int row, const QString& city)
 {
     jet::Recordset rows = data.openRecordset(frequentCitiesSql(scope));
     if (!rows.moveTo(row) || rows.textOrEmpty(u"city") != city)

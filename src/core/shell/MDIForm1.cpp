@@ -78,7 +78,7 @@ const BarMenu kBarMenus[] = {
         {u"Functions", u"OtherFunctions", u"ID_Report", u"Setup", u"Programs"}},
 };
 
-/// The old menu items, which do what their tools do.
+/// Short ways to the most used tools.
 struct MenuItem {
     QStringView name;
     QStringView tool;

@@ -1,0 +1,566 @@
+#include "entry/form/FormMain.h"
+
+#include "core/contact_category.h"
+#include "core/contact_names.h"
+#include "core/date_patterns.h"
+#include "core/frame.h"
+#include "core/photo_file.h"
+#include "core/record_steps.h"
+#include "core/screens.h"
+#include "core/sound_files.h"
+#include "core/text_pieces.h"
+#include "entry/assists/assist_panel.h"
+#include "entry/assists/entry_assists.h"
+#include "entry/form/card_values.h"
+#include "entry/form/entry_lists.h"
+#include "entry/form/entry_pages.h"
+#include "entry/form/mail_contact.h"
+#include "entry/form/photo_store.h"
+#include "entry/form/save_checks.h"
+#include "entry/form/save_effects.h"
+#include "entry/form/user_fields.h"
+#include "platform/clock.h"
+#include "platform/contact_sync.h"
+#include "platform/message_boxes.h"
+#include "widgets/date_box.h"
+#include "widgets/fields.h"
+#include "widgets/filled_combo.h"
+#include "widgets/heading_grid.h"
+#include "widgets/picture_box.h"
+#include "widgets/theme.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace entry {
+
+namespace {
+
+QString caption(const char* text)
+{
+    return QCoreApplication::translate("entry", text);
+}
+
+/// Which column each field shows when a record is put on the form; the fields not listed show theirs as it
+/// is.
+constexpr QStringView kNotFromColumn[]
+    = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
+
+/// The name of what is entered, by a view of names that a check has found to be one.
+QString composedName(const FormValues& values)
+{
+    return core::composeName(*core::nameViewOf(values.text(u"cmbnview")), namePartsOf(values));
+}
+
+} // namespace
+
+FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* parent)
+    : Screen(context, parent)
+    , m_variant(variant)
+    , sstab1(new QTabWidget)
+    , grdEditList(new widgets::HeadingGrid)
+    , m_assist(new AssistPanel(context.info, context.shared))
+{
+    layOut();
+    m_assists = new EntryAssists(this, sstab1, context);
+    if (m_variant.hasUserFields)
+        m_userFields = new UserFields(this, context.data);
+    wire();
+}
+
+// On unload nobody asks for an edit any more.
+FormMain::~FormMain()
+{
+    shared().EditRequested = false;
+}
+
+// ---- layout
+
+void FormMain::layOut()
+{
+    setWindowTitle(caption(m_variant.caption));
+    sstab1->setObjectName(u"sstab1"_s);
+    grdEditList->setObjectName(u"grdEditList"_s);
+    grdEditList->setAccessibleName(tr("Contacts to edit"));
+    grdEditList->setMinimumWidth(180);
+    grdEditList->setMaximumWidth(260);
+
+    const auto sizeOf = [this](QStringView column) { return context().schema.textSize(u"cnt_main", column); };
+    for (const EntryPage& page : m_variant.pages) {
+        QWidget* laidOut = page.layOut(sizeOf);
+        laidOut->setObjectName(page.name.toString());
+        sstab1->addTab(laidOut, widgets::icon(page.icon), caption(page.title));
+    }
+
+    auto* middle = new QSplitter(Qt::Horizontal);
+    middle->addWidget(grdEditList);
+    middle->addWidget(sstab1);
+    middle->addWidget(m_assist);
+    middle->setStretchFactor(1, 1);
+    middle->setChildrenCollapsible(false);
+    grdEditList->hide();
+    m_assist->hide();
+
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(12, 8, 12, 8);
+    whole->addWidget(entryHead());
+    whole->addWidget(middle, 1);
+    whole->addWidget(entryButtons());
+    Photo = widgets::child<widgets::PictureBox>(this, u"Photo"_s);
+    widgets::child<QLabel>(this, u"lblPhoto"_s)->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    // Every control that a save reads or a clearing blanks.
+    for (const ColumnRow& row : m_variant.addColumns) {
+        const QString name = row.control.toString();
+        if (!name.isEmpty() && name != u"Photo" && control(name))
+            m_fields.append({name, row.column.toString(), control(name)});
+    }
+    for (const QString& name : {u"dtcmbwstate"_s, u"cboemail1"_s, u"txtcmpnyPrefix"_s, u"txtcmpnySuffix"_s}) {
+        if (QWidget* extra = control(name))
+            m_fields.append({name, name == u"dtcmbwstate" ? u"w_State"_s : QString(), extra});
+    }
+}
+
+void FormMain::wire()
+{
+    const auto onClick = [this](const QString& name, auto handler) {
+        connect(widgets::child<QPushButton>(this, name), &QPushButton::clicked, this, handler);
+    };
+    onClick(u"Command1"_s, &FormMain::save);
+    onClick(u"CmdCancel"_s, &FormMain::cancel);
+    onClick(u"SSCommand3"_s, &FormMain::startAdding);
+    onClick(u"SSCommand10"_s, &FormMain::startEditing);
+    onClick(u"SSCommand6"_s, [this] { turnPage(true); });
+    onClick(u"SSCommand7"_s, [this] { turnPage(false); });
+    onClick(u"SSCommand8"_s, [this] { context().screens.show(u"FrmOthers", core::Shown::Modally); });
+    onClick(u"SSCommand9"_s, &FormMain::selectPhoto);
+    onClick(u"CmdPhto"_s, &FormMain::selectPhoto);
+    onClick(u"cmdNoPhoto"_s, [this] { setText(u"Photo"_s, {}); });
+    onClick(u"ssassist"_s, &FormMain::toggleAssist);
+    onClick(u"CmdSave"_s, &FormMain::saveAs);
+    onClick(u"CmdHelp"_s, [this] { showHelp(m_variant.helpCode.toString(), control(u"CmdHelp"_s)); });
+    widgets::child<QPushButton>(this, u"SSCommand8"_s)->setEnabled(context().screens.has(u"FrmOthers"));
+    widgets::child<QPushButton>(this, u"CmdSave"_s)->setEnabled(context().screens.has(u"FrmAddSave"));
+
+    for (const QString& name : {u"cmbnview"_s, u"Cmbtitle"_s, u"dtcmbfname"_s, u"dtcmblname"_s})
+        connect(widgets::child<QComboBox>(this, name), &QComboBox::currentTextChanged, this,
+            &FormMain::showNameLabel);
+    connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this,
+        &FormMain::showNameLabel);
+
+    const auto chooseRow = [this](int row) { chooseRecord(grdEditList->textAt(row, u"ID"_s)); };
+    connect(grdEditList, &widgets::HeadingGrid::chosen, this, chooseRow);
+    connect(grdEditList, &QAbstractItemView::clicked, this,
+        [chooseRow](const QModelIndex& index) { chooseRow(index.row()); });
+
+    connect(m_assist, &AssistPanel::picked, m_assists, [this](AssistPanel::Tab tab, const QString& value) {
+        m_assists->takePick(tab, value, m_assist->country());
+    });
+    connect(m_assist, &AssistPanel::scopeChosen, m_assists, &EntryAssists::takeScope);
+    connect(m_assist, &AssistPanel::keyPressed, m_assists, &EntryAssists::pressKey);
+}
+
+// ---- load and modes
+
+void FormMain::load()
+{
+    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+    for (widgets::DateBox* box : findChildren<widgets::DateBox*>())
+        box->setFormat(core::datePattern(shared().NationalMode));
+    const jet::Upkeep clearing(context().data);
+    context().data.execute(
+        u"delete * from CNT_MAIN where len(trim(name))=0 and len(trim(first))=0 and len(trim(last))=0 and len(trim(company))=0"_s);
+    if (m_userFields)
+        m_userFields->showLabels();
+    const auto fill = [this](const QString& name, const QStringList& values) {
+        widgets::child<widgets::FilledCombo>(this, name)->setValues(values);
+    };
+    fill(u"Cmbtitle"_s, {u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
+    fill(u"cmbnview"_s, core::nameViews());
+    QStringList sexes;
+    for (const QStringView sex : m_variant.sexes)
+        sexes << sex.toString();
+    fill(u"CmbSex"_s, sexes);
+    fill(u"cmbpriority"_s, {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
+    clearForm();
+    setListSources(this, context());
+    m_assist->selectScope(CityScope::All);
+    m_isMerged = shared().ContMerge;
+    if (m_isMerged)
+        showSubcategory(false);
+    setFrameTitle(caption(m_variant.title));
+    turnPage(true);
+    go(Mode::Idle);
+}
+
+void FormMain::showSubcategory(bool shown)
+{
+    QWidget* list = control(u"DtcmbSubCate"_s);
+    list->setVisible(shown);
+    for (QLabel* label : findChildren<QLabel*>())
+        if (label->buddy() == list)
+            label->setVisible(shown);
+}
+
+void FormMain::vocabulariesChanged()
+{
+    Screen::vocabulariesChanged();
+    if (m_userFields)
+        m_userFields->showLabels();
+    if (m_isMerged == shared().ContMerge)
+        return;
+    const bool wasTouched = isTouched();
+    const QString category = widgets::textOf(control(u"DtcmbCate"_s));
+    const QString subcategory = widgets::textOf(control(u"DtcmbSubCate"_s));
+    m_isMerged = shared().ContMerge;
+    if (!m_isMerged) {
+        setText(u"DtcmbCate"_s, core::PickByDash(category, 1));
+        setText(u"DtcmbSubCate"_s, core::PickByDash(category, 2));
+    } else if (!category.isEmpty()) {
+        setText(u"DtcmbCate"_s, core::shownCategory({category, subcategory}, true));
+    }
+    showSubcategory(!m_isMerged);
+    if (!wasTouched)
+        m_untouched = values().texts;
+}
+
+void FormMain::go(Mode mode)
+{
+    m_mode = mode;
+    IsEditing = mode == Mode::Editing;
+    const bool idle = mode == Mode::Idle;
+    for (const QString& name : {u"Command1"_s, u"CmdCancel"_s, u"CmdSave"_s})
+        control(name)->setVisible(!idle);
+    for (const QString& name : {u"SSCommand3"_s, u"SSCommand10"_s})
+        control(name)->setVisible(idle);
+    setText(u"Label10"_s, idle ? QString() : mode == Mode::Adding ? tr("Add Mode") : tr("Edit Mode"));
+    grdEditList->setVisible(mode == Mode::Editing);
+    // What is typed outside a mode could not be saved, and the next mode begins with a blank form.
+    for (int page = 0; page < sstab1->count(); ++page)
+        sstab1->widget(page)->setEnabled(!idle);
+    control(u"lblhint"_s)->setVisible(idle);
+    // Without a record there is nothing that a change could be written to.
+    control(u"Command1"_s)
+        ->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
+    m_untouched = values().texts;
+}
+
+void FormMain::startAdding()
+{
+    clearForm();
+    go(Mode::Adding);
+    playSound(core::sounds::Add);
+    sstab1->setCurrentIndex(0);
+    control(u"dtcmbfname"_s)->setFocus();
+}
+
+void FormMain::startEditing()
+{
+    grdEditList->fill(u"|Name                    ",
+        context().data.openRecordset(u"Select id,Name from cnt_main order by name"_s));
+    clearForm();
+    go(Mode::Editing);
+    // Kept: the start of an edit sounds like a deletion.
+    playSound(core::sounds::Delete);
+    grdEditList->setFocus();
+}
+
+void FormMain::cancel()
+{
+    Adodc1.cancelUpdate();
+    clearForm();
+    shared().EditRequested = false;
+    m_assist->hide();
+    setText(u"ssassist"_s, tr("Assist"));
+    go(Mode::Idle);
+    playSound(core::sounds::Cancel);
+}
+
+bool FormMain::showContact(qint64 id)
+{
+    if (!Adodc1.findFirst(u"id=%1"_s.arg(id))) {
+        // Another screen may have added it since this one was opened.
+        Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+        if (!Adodc1.findFirst(u"id=%1"_s.arg(id)))
+            return false;
+    }
+    if (!mayDiscard()) {
+        // What is being entered stays, and is saved as what it is.
+        shared().EditRequested = false;
+        return true;
+    }
+    if (!showRecord(QString::number(id)))
+        return false;
+    go(Mode::Editing);
+    grdEditList->hide();
+    setPosition(core::positionText(Adodc1));
+    return true;
+}
+
+void FormMain::clearForm()
+{
+    m_assists->setQuiet(true);
+    for (const widgets::Control& field : m_fields)
+        widgets::clear(field.widget);
+    setText(u"lblid"_s, {});
+    setText(u"LblStateFull"_s, {});
+    setText(u"Photo"_s, {});
+    setText(u"Cmbtitle"_s, u"Mr."_s);
+    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    if (setup.hasRow()) {
+        const core::Category category{setup.textOrEmpty(u"categ1"), setup.textOrEmpty(u"categ2")};
+        setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+        setText(u"DtcmbSubCate"_s, category.subcategory);
+        setText(u"cmbpriority"_s, setup.textOrEmpty(u"Priority"));
+        setText(u"txtcmpnySuffix"_s, setup.textOrEmpty(u"cmpnysuffix"));
+    }
+    m_assists->setQuiet(false);
+    showNameLabel();
+}
+
+void FormMain::chooseRecord(const QString& id)
+{
+    // The second click of a double click must not undo what was typed between.
+    const bool isShown = id == widgets::textOf(control(u"lblid"_s));
+    if (!(isShown && isTouched()) && mayDiscard())
+        showRecord(id);
+}
+
+bool FormMain::showRecord(const QString& id)
+{
+    const auto row = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
+    if (!row.hasRow())
+        return false;
+    clearForm();
+    m_assists->setQuiet(true);
+    for (const widgets::Control& field : m_fields) {
+        if (field.column.isEmpty()
+            || std::ranges::find(kNotFromColumn, field.name) != std::end(kNotFromColumn))
+            continue;
+        if (auto* box = qobject_cast<widgets::DateBox*>(field.widget)) {
+            const QDate date = row.date(field.column);
+            box->setDate(date.isValid() ? std::optional(date) : std::nullopt);
+        } else {
+            widgets::setTextOf(field.widget, row.textOrEmpty(field.column));
+        }
+    }
+    for (const ChangedColumn& changed : m_variant.changedColumns) {
+        if (const QString text = row.textOrEmpty(changed.column); !text.isEmpty())
+            setText(changed.control.toString(), text);
+    }
+    const core::Category category{row.textOrEmpty(u"category1"), row.textOrEmpty(u"category2")};
+    setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+    setText(u"DtcmbSubCate"_s, category.subcategory);
+    const QString email = row.textOrEmpty(u"H_email1");
+    const qsizetype at = email.indexOf(u'@');
+    setText(u"txtemail1"_s, at < 0 ? email : email.left(at));
+    setText(u"cboemail1"_s, at < 0 ? QString() : email.mid(at + 1));
+    setText(u"lblid"_s, row.textOrEmpty(u"id"));
+    setText(u"Photo"_s, row.textOrEmpty(u"PhotLoc"));
+    m_assists->setQuiet(false);
+    showNameLabel();
+    control(u"Command1"_s)->setEnabled(true);
+    m_untouched = values().texts;
+    return true;
+}
+
+void FormMain::showNameLabel()
+{
+    const FormValues now = values();
+    const auto view = core::nameViewOf(now.text(u"cmbnview"));
+    setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : QString());
+}
+
+void FormMain::toggleAssist()
+{
+    const bool shown = !m_assist->isVisible();
+    m_assist->setVisible(shown);
+    setText(u"ssassist"_s, shown ? tr("Assist Off") : tr("Assist"));
+}
+
+void FormMain::turnPage(bool simple)
+{
+    sstab1->setCurrentWidget(sstab1->findChild<QWidget*>(simple ? u"Contact"_s : u"Personal"_s));
+    control(u"SSCommand6"_s)->setVisible(!simple);
+    control(u"SSCommand7"_s)->setVisible(simple);
+}
+
+// ---- reading the form
+
+QWidget* FormMain::control(const QString& name) const
+{
+    return findChild<QWidget*>(name);
+}
+
+void FormMain::setText(const QString& name, const QString& text)
+{
+    if (name == u"Photo") {
+        m_photoPath = text;
+        Photo->setPath(core::photoFile(context().services.drive, text));
+        setText(u"lblPhoto"_s, text);
+        return;
+    }
+    if (QWidget* widget = control(name))
+        widgets::setTextOf(widget, text);
+}
+
+FormValues FormMain::values() const
+{
+    FormValues result;
+    for (const widgets::Control& field : m_fields) {
+        result.texts.insert(field.name, widgets::textOf(field.widget));
+        if (const auto* box = qobject_cast<const widgets::DateBox*>(field.widget))
+            result.dates.insert(field.name, box->date());
+    }
+    result.texts.insert(u"Photo"_s, m_photoPath);
+    return result;
+}
+
+// Coming back from the set-up, where a list may have changed.
+bool FormMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        refillLists(this);
+    return Screen::event(event);
+}
+
+bool FormMain::isTouched() const
+{
+    return m_mode != Mode::Idle && values().texts != m_untouched;
+}
+
+// ---- save
+
+void FormMain::refuse(int refusal)
+{
+    switch (Refusal(refusal)) {
+    case Refusal::AllBlank:
+        inform(tr("First, Last and Company are blank. At least one of these should not be blank."));
+        sstab1->setCurrentIndex(0);
+        control(u"dtcmbfname"_s)->setFocus();
+        break;
+    case Refusal::NoNameView: warn(tr("Not a Valid Name View")); break;
+    case Refusal::NeitherNameNorCompany: warn(tr("Either Name or Company should be entered")); break;
+    }
+}
+
+bool FormMain::mayBeSaved()
+{
+    const FormValues now = values();
+    auto refusal = refusalOfSave(now);
+    if (!refusal && isEdit())
+        refusal = refusalOfEdit(now);
+    if (refusal)
+        refuse(int(*refusal));
+    return !refusal;
+}
+
+formats::CardValues FormMain::cardValues() const
+{
+    const FormValues now = values();
+    return cardValuesOf(now, composedName(now));
+}
+
+platform::MailContact FormMain::mailContact() const
+{
+    const FormValues now = values();
+    const qint64 id = widgets::textOf(control(u"lblid"_s)).toLongLong();
+    platform::MailContact contact = mailContactOf(now, composedName(now), id);
+    if (id == 0)
+        contact.key.clear();
+    return contact;
+}
+
+void FormMain::save()
+{
+    if (mayBeSaved())
+        saveContact();
+}
+
+qint64 FormMain::saveContact()
+{
+    const FormValues now = values();
+    const QString name = composedName(now);
+    auto* progress = widgets::child<QProgressBar>(this, u"ProgressBar1"_s);
+    progress->setValue(0);
+    progress->show();
+    const bool editing = isEdit();
+    const qint64 id = editing ? edit(now, name) : add(now, name);
+    // What could not be stored stays on the form, so that it can be saved again.
+    if (id == 0) {
+        progress->hide();
+        return 0;
+    }
+    progress->setValue(45);
+    if (editing)
+        applyEditEffects(context(), m_variant, now, name, id);
+    else
+        applyAddEffects(context(), m_variant, now, name);
+    progress->setValue(50);
+    endSave();
+    return id;
+}
+
+qint64 FormMain::add(const FormValues& values, const QString& name)
+{
+    shared().TableName = u"Contact-AddData"_s;
+    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2"_s);
+    rows.addNew();
+    assign(rows, m_variant.addColumns, values, {name, context().services.clock.today(), shared().ContMerge});
+    return rows.update() ? rows.lastAddedKey() : 0;
+}
+
+qint64 FormMain::edit(const FormValues& values, const QString& name)
+{
+    const QString id = widgets::textOf(control(u"lblid"_s));
+    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
+    if (!rows.hasRow())
+        return 0;
+    rows.edit();
+    assign(rows, m_variant.editColumns, values, {name, context().services.clock.today(), shared().ContMerge});
+    return rows.update() ? id.toLongLong() : 0;
+}
+
+void FormMain::endSave()
+{
+    shared().EditRequested = false;
+    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+    setPosition(core::positionText(Adodc1));
+    clearForm();
+    widgets::child<QProgressBar>(this, u"ProgressBar1"_s)->hide();
+    go(Mode::Idle);
+    sstab1->setCurrentIndex(0);
+    context().screens.tellBookChanged(this);
+    playSound(core::sounds::Save);
+}
+
+void FormMain::saveAs()
+{
+    shared().CallerForm = m_variant.form.toString();
+    context().screens.show(u"FrmAddSave", core::Shown::Modally);
+}
+
+// ---- picture
+
+void FormMain::selectPhoto()
+{
+    const auto chosen = context().services.boxes.openFile(tr("Select Picture"),
+        tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
+    if (!chosen)
+        return;
+    if (widgets::readPicture(*chosen, {64, 64}).isNull()) {
+        warn(tr("This file is no picture that can be shown."));
+        return;
+    }
+    setText(u"Photo"_s, storePhoto(context().services.drive, *chosen, shared().PhotoStoreMode));
+}
+
+} // namespace entry

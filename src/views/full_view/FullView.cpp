@@ -1,0 +1,540 @@
+#include "views/full_view/FullView.h"
+
+#include "core/photo_file.h"
+#include "core/screens.h"
+#include "core/sound_files.h"
+#include "platform/drive.h"
+#include "platform/shell.h"
+#include "views/command_button.h"
+#include "views/contact_pages/record_texts.h"
+#include "views/contact_tools.h"
+#include "views/full_view/address_source.h"
+#include "views/full_view/category_tree.h"
+#include "views/full_view/full_view_edit.h"
+#include "views/full_view/full_view_header.h"
+#include "views/full_view/full_view_pages.h"
+#include "views/full_view/full_view_sql.h"
+#include "views/full_view/keyword_panel.h"
+#include "views/full_view/list_editing.h"
+#include "widgets/fields.h"
+#include "widgets/picture_box.h"
+#include "widgets/record_list.h"
+#include "widgets/theme.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+namespace {
+
+constexpr FullViewKind kFullView{QT_TRANSLATE_NOOP("views", "Full view"), u"Contacts Full View", u"FullView"};
+
+constexpr int kEditPage = 1;
+constexpr int kSavedNoteMs = 4000;
+
+} // namespace
+
+FullView::FullView(core::Context& context, QWidget* parent)
+    : FullView(context, kFullView, parent)
+{
+}
+
+FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* parent)
+    : Screen(context, parent)
+    , m_kind(kind)
+    , m_tools(new ContactTools(context,
+          {.callerForm = kind.callerForm.toString(),
+              .shownName = [this] { return shownName(); },
+              .listedId = [this] { return DBList1->currentKey(); }},
+          this))
+    , DBList1(new widgets::RecordList)
+    , tvwdb(new CategoryTree(context.data))
+    , frmkeyword(new KeywordPanel)
+    , m_listEditing(new ListEditing(DBList1))
+    , m_header(new FullViewHeader)
+    , m_edit(new FullViewEdit(context))
+    , lblCounter(new QLabel)
+    , ssprevious(
+          commandButton(u"ssprevious"_s, u"previous", tr("Previous contact"), {}, Qt::CTRL | Qt::Key_Up))
+    , ssnext(commandButton(u"ssnext"_s, u"next", tr("Next contact"), {}, Qt::CTRL | Qt::Key_Down))
+    , CmdList(commandButton(u"CmdList"_s, u"list", tr("Show the list of all contacts"), tr("List")))
+    , CmdTree(commandButton(u"CmdTree"_s, u"tree", tr("Show the contacts by category"), tr("Tree")))
+    , CmdView(commandButton(u"CmdView"_s, u"filter", tr("Filter the list")))
+    , CmdRefresh(commandButton(u"CmdRefresh"_s, u"restore", tr("Show all contacts again"), {}, Qt::Key_F5))
+{
+    setWindowTitle(QCoreApplication::translate("views", kind.title));
+    layOut();
+    makeMenus();
+    connectControls();
+}
+
+FullView::~FullView() = default;
+
+void FullView::layOut()
+{
+    auto* bar = m_tools->makeToolBar(this);
+    bar->setObjectName(u"SSActiveToolBars1"_s);
+    lblCounter->setObjectName(u"lblCounter"_s);
+    lblCounter->setAccessibleName(tr("Position in the list"));
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(space);
+    for (QWidget* step : std::initializer_list<QWidget*>{ssprevious, lblCounter, ssnext})
+        bar->addWidget(step);
+    auto* splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    m_browser = layOutBrowser();
+    splitter->addWidget(m_browser);
+    splitter->addWidget(layOutRecord());
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({270, 900});
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar);
+    layout->addWidget(splitter, 1);
+    setFocusProxy(DBList1);
+}
+
+QWidget* FullView::layOutBrowser()
+{
+    DBList1->setObjectName(u"DBList1"_s);
+    DBList1->setAccessibleName(tr("Contacts"));
+    DBList1->setEmptyText(tr("No contacts here"));
+    tvwdb->setObjectName(u"tvwdb"_s);
+    frmkeyword->setObjectName(u"frmkeyword"_s);
+    frmkeyword->hide();
+    CmdList->setEnabled(false);
+    m_lists = new QStackedWidget;
+    m_lists->addWidget(DBList1);
+    m_lists->addWidget(tvwdb);
+
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(2);
+    commands->addWidget(CmdList);
+    commands->addWidget(CmdTree);
+    commands->addStretch(1);
+    commands->addWidget(CmdView);
+    commands->addWidget(CmdRefresh);
+    auto* browser = new QWidget;
+    browser->setMinimumWidth(200);
+    auto* layout = new QVBoxLayout(browser);
+    layout->setContentsMargins(8, 8, 0, 8);
+    layout->setSpacing(6);
+    layout->addLayout(commands);
+    layout->addWidget(frmkeyword);
+    layout->addWidget(m_lists, 1);
+    return browser;
+}
+
+QWidget* FullView::layOutRecord()
+{
+    TabsEdit = new QTabWidget;
+    TabsEdit->setObjectName(u"TabsEdit"_s);
+    m_pages = new FullViewPages(m_kind.browsesOthers);
+    m_pages->setDocumentMode(true);
+    TabsEdit->addTab(m_pages, widgets::icon(u"card"), tr("View"));
+    TabsEdit->addTab(m_edit, widgets::icon(u"edit"), tr("Edit"));
+    auto* record = new QWidget;
+    auto* recordLayout = new QVBoxLayout(record);
+    recordLayout->setContentsMargins(0, 0, 0, 0);
+    recordLayout->addWidget(m_header);
+    recordLayout->addWidget(TabsEdit, 1);
+    auto* nothing = new QLabel(tr("Choose a contact on the left to see everything about it here."));
+    nothing->setAlignment(Qt::AlignCenter);
+    nothing->setWordWrap(true);
+    nothing->setForegroundRole(QPalette::PlaceholderText);
+    m_record = new QStackedWidget;
+    m_record->addWidget(nothing);
+    m_record->addWidget(record);
+
+    auto* side = new QWidget;
+    auto* layout = new QVBoxLayout(side);
+    layout->setContentsMargins(4, 4, 8, 8);
+    layout->addWidget(m_record, 1);
+    return side;
+}
+
+void FullView::addCommandRow(QWidget* row)
+{
+    static_cast<QVBoxLayout*>(m_browser->layout())->insertWidget(1, row);
+}
+
+void FullView::makeMenus()
+{
+    m_menu = m_tools->makeMenu(this);
+    m_menu->setObjectName(u"Menu"_s);
+    m_filterMenu = new QMenu(this);
+    m_filterMenu->setObjectName(u"FilterMenu"_s);
+    m_filterMenu->setToolTipsVisible(true);
+    for (const QStringView id : {u"CommonFilter", u"TabFilter", u"Search"})
+        m_filterMenu->addAction(m_tools->action(id));
+    CmdView->setMenu(m_filterMenu);
+    CmdView->setPopupMode(QToolButton::MenuButtonPopup);
+    QAction* search = m_tools->action(u"Search");
+    search->setShortcut(QKeySequence::Find);
+    search->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(search);
+
+    const std::pair<QToolButton*, QStringView> buttons[]
+        = {{m_header->CmdTel, u"Call"}, {m_header->CmdAdd, u"Letter"}, {m_header->CmdEmail, u"Email2"}};
+    for (const auto& [button, id] : buttons) {
+        QAction* action = m_tools->action(id);
+        button->setEnabled(action->isEnabled());
+        if (!action->isEnabled())
+            button->setToolTip(tr("%1\nNot available yet").arg(button->toolTip()));
+        connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    }
+}
+
+void FullView::connectControls()
+{
+    connect(DBList1, &widgets::RecordList::currentRowChanged, this, &FullView::rowChanged);
+    connect(tvwdb, &CategoryTree::contactChosen, this, &FullView::chooseInTree);
+    connect(frmkeyword, &KeywordPanel::searched, this, [this](const QString& keyword) {
+        openFound(keywordSql(keyword));
+        frmkeyword->hide();
+    });
+    connect(m_tools, &ContactTools::searchWanted, frmkeyword, &KeywordPanel::open);
+    connect(m_tools, &ContactTools::listEditingWanted, m_listEditing, &ListEditing::setEditable);
+    // Later, since a step to another row ends the editing, and the list is read anew.
+    connect(m_listEditing, &ListEditing::nameEdited, this, &FullView::storeName, Qt::QueuedConnection);
+    connect(ssnext, &QToolButton::clicked, this, [this] { moveBy(1); });
+    connect(ssprevious, &QToolButton::clicked, this, [this] { moveBy(-1); });
+    connect(CmdList, &QToolButton::clicked, this, &FullView::showList);
+    connect(CmdTree, &QToolButton::clicked, this, &FullView::showTree);
+    connect(CmdRefresh, &QToolButton::clicked, this, &FullView::refresh);
+    connect(CmdView, &QToolButton::clicked, this, [this] {
+        shared().CallerForm = m_kind.callerForm.toString();
+        m_filterMenu->popup(CmdView->mapToGlobal(CmdView->rect().bottomLeft()));
+    });
+    connect(TabsEdit, &QTabWidget::currentChanged, this, &FullView::pageChanged);
+    connect(m_edit, &FullViewEdit::saveRequested, this, &FullView::save);
+    connect(m_header->SSCommand8, &QPushButton::clicked, this, &FullView::viewLinkedData);
+    connect(m_header->SSCommand8, &QWidget::customContextMenuRequested, this,
+        [this](const QPoint& at) { m_menu->popup(m_header->SSCommand8->mapToGlobal(at)); });
+    connect(m_header->ix1, &widgets::PictureBox::clicked, this, &FullView::openPicture);
+    for (QPushButton* label : {m_header->LblAsso1, m_header->LblAsso2})
+        connect(label, &QPushButton::clicked, this, [this, label] { goToAssociate(widgets::textOf(label)); });
+}
+
+// Nothing is read but the keys of the list; the tree and the lists of the edit page are read when they are
+// seen.
+void FullView::load()
+{
+    setFrameTitle(m_kind.frameTitle.toString());
+    openList(contactListSql());
+}
+
+bool FullView::showContact(qint64 id)
+{
+    const jet::Recordset contact
+        = context().data.openRecordset(u"select * from [cnt_main] where id=%1"_s.arg(id));
+    if (id == 0 || !contact.hasRow())
+        return false;
+    if (m_source)
+        browse(nullptr);
+    if (DBList1->rowOf(id) < 0)
+        openList(contactListSql());
+    // Kept: the list is searched for the name, so of two people with one name it stops at the first.
+    const QString name = contact.textOrEmpty(u"Name");
+    int row = DBList1->rowOf(id);
+    while (row > 0 && DBList1->textAt(row - 1, u"Name"_s).compare(name, Qt::CaseInsensitive) == 0)
+        --row;
+    TabsEdit->setCurrentIndex(0);
+    selectInList(DBList1->keyAt(row));
+    tvwdb->reveal(contact.textOrEmpty(u"category1"), contact.textOrEmpty(u"category2"), name);
+    return true;
+}
+
+void FullView::applyFilter(const QString& whereClause)
+{
+    if (m_source)
+        browse(nullptr);
+    openFound(contactListSql(whereClause));
+}
+
+void FullView::bookChanged()
+{
+    // What is being edited stays until it is saved or left.
+    if (TabsEdit->currentIndex() == kEditPage)
+        return;
+    reopenList();
+    tvwdb->rebuild();
+}
+
+void FullView::openList(const QString& sql)
+{
+    Data4 = sql;
+    DBList1->fill(context().data.openRecordset(sql));
+    // Said outright that no row is current, else the list takes its first row when it gets the focus.
+    DBList1->setCurrentRow(-1);
+    showCounter();
+}
+
+void FullView::openFound(const QString& sql)
+{
+    openList(sql);
+    const int row = m_id == 0 ? -1 : DBList1->rowOf(m_id);
+    DBList1->setCurrentRow(std::max(0, row));
+}
+
+void FullView::reopenList()
+{
+    if (m_source) {
+        const int row = DBList1->currentRow();
+        m_source->reload();
+        listSource();
+        DBList1->setCurrentRow(std::min(row, DBList1->rowCount() - 1));
+        if (DBList1->currentRow() < 0)
+            displayNothing();
+        return;
+    }
+    openList(Data4);
+    if (m_id != 0)
+        selectInList(m_id);
+}
+
+void FullView::selectInList(qint64 id)
+{
+    const int row = DBList1->rowOf(id);
+    if (row >= 0 && row == DBList1->currentRow()) {
+        rowChanged(row);
+    } else if (row >= 0) {
+        DBList1->setCurrentRow(row);
+    } else {
+        DBList1->setCurrentRow(-1);
+        showCounter();
+        display(id);
+    }
+}
+
+void FullView::browse(std::unique_ptr<AddressSource> source)
+{
+    // The rows go first, since they ask the old one for their texts.
+    DBList1->clearRows();
+    m_source = std::move(source);
+    const bool own = !m_source;
+    m_tools->action(u"Edit")->setChecked(false);
+    m_listEditing->setEditable(false);
+    for (const QStringView id : {u"Edit", u"Search"})
+        m_tools->action(id)->setEnabled(own);
+    frmkeyword->hide();
+    m_lists->setCurrentWidget(DBList1);
+    CmdList->setEnabled(false);
+    CmdTree->setEnabled(own);
+    TabsEdit->setTabEnabled(kEditPage, own);
+    m_pages->showBook(own);
+    displayNothing();
+    if (own) {
+        DBList1->showAs(u"Name"_s, {});
+        openList(contactListSql());
+    } else {
+        DBList1->showAs(u"Name"_s,
+            [this](const QVariant& row) { return m_source ? m_source->label(row.toInt()) : QString(); });
+        listSource();
+    }
+    Q_EMIT bookChosen(own);
+}
+
+// A row holds its number; its text is asked for when it comes in sight.
+void FullView::listSource()
+{
+    QList<QStringList> rows;
+    rows.reserve(m_source->count());
+    for (int row = 0; row < m_source->count(); ++row)
+        rows << QStringList{QString::number(row)};
+    DBList1->setRows(rows, {u"Name"_s});
+    DBList1->setCurrentRow(-1);
+    showCounter();
+}
+
+void FullView::showItem(int row)
+{
+    displayNothing();
+    showTexts(m_source->texts(row));
+    m_header->showPlainName(shownName().isEmpty() ? m_source->label(row) : QString());
+    m_record->setCurrentIndex(1);
+    showCounter();
+}
+
+void FullView::rowChanged(int row)
+{
+    if (row < 0)
+        return;
+    if (m_source)
+        return showItem(row);
+    shared().selectedContactId = DBList1->keyAt(row);
+    shared().selectedContactName = DBList1->textAt(row, u"Name"_s);
+    display(shared().selectedContactId);
+    showCounter();
+}
+
+void FullView::moveBy(int step)
+{
+    const int row = DBList1->currentRow() + step;
+    if (row >= 0 && row < DBList1->rowCount())
+        DBList1->setCurrentRow(row);
+}
+
+void FullView::showCounter()
+{
+    const int row = DBList1->currentRow();
+    lblCounter->setText(row < 0
+            ? QString()
+            : u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(DBList1->rowCount())));
+}
+
+void FullView::display(qint64 id)
+{
+    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(id));
+    if (!contact.hasRow())
+        return displayNothing();
+    m_id = id;
+    showTexts(fullViewTexts(contact, shared().NationalMode));
+    m_picture = contact.textOrEmpty(u"PhotLoc");
+    m_header->showPicture(core::photoFile(context().services.drive, m_picture));
+    m_record->setCurrentIndex(1);
+    if (TabsEdit->currentIndex() == kEditPage && m_edit->contact() != id)
+        m_edit->loadContact(id);
+}
+
+void FullView::displayNothing()
+{
+    m_id = 0;
+    m_picture.clear();
+    showTexts(fullViewTexts({}, shared().NationalMode));
+    for (QWidget* control : std::as_const(m_controls))
+        widgets::setTextOf(control, {});
+    m_header->showPicture({});
+    m_header->showPlainName({});
+    TabsEdit->setCurrentIndex(0);
+    m_record->setCurrentIndex(0);
+}
+
+void FullView::showTexts(const QList<ShownText>& texts)
+{
+    for (const ShownText& shown : texts) {
+        QWidget*& control = m_controls[shown.control];
+        if (!control)
+            control = widgets::child<QWidget>(this, shown.control);
+        widgets::setTextOf(control, shown.text);
+    }
+    m_header->tidy({widgets::textOf(m_controls[u"txtJobTitle"_s]),
+        widgets::textOf(m_controls[u"txtcompany"_s]), widgets::textOf(m_controls[u"txtCat"_s])});
+}
+
+void FullView::showList()
+{
+    m_lists->setCurrentWidget(DBList1);
+    CmdList->setEnabled(false);
+    CmdTree->setEnabled(true);
+    DBList1->setFocus();
+}
+
+void FullView::showTree()
+{
+    m_lists->setCurrentWidget(tvwdb);
+    CmdTree->setEnabled(false);
+    CmdList->setEnabled(true);
+    tvwdb->setFocus();
+}
+
+// The hidden list follows, so that both ways of browsing mean the same contact.
+void FullView::chooseInTree(qint64 id)
+{
+    selectInList(id);
+    shared().selectedContactId = id;
+}
+
+void FullView::refresh()
+{
+    if (m_source)
+        return reopenList();
+    openList(contactListSql());
+    tvwdb->rebuild();
+    if (m_id == 0)
+        return;
+    selectInList(m_id);
+    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(m_id));
+    tvwdb->reveal(
+        contact.textOrEmpty(u"category1"), contact.textOrEmpty(u"category2"), contact.textOrEmpty(u"Name"));
+}
+
+void FullView::pageChanged(int page)
+{
+    m_browser->setVisible(page != kEditPage);
+    if (page == kEditPage) {
+        m_edit->loadContact(m_id);
+        playSound(core::sounds::Edit);
+    }
+}
+
+void FullView::save()
+{
+    if (!m_edit->saveContact())
+        return;
+    refresh();
+    context().screens.tellBookChanged(this);
+    playSound(core::sounds::Save);
+    m_edit->tell(tr("Saved"));
+    QTimer::singleShot(kSavedNoteMs, m_edit, [this] { m_edit->tell({}); });
+}
+
+void FullView::goToAssociate(const QString& name)
+{
+    const jet::Recordset contact = context().data.openRecordset(associateSql(name));
+    if (!contact.hasRow())
+        return;
+    const qint64 id = contact.number(u"id");
+    if (DBList1->rowOf(id) < 0)
+        openList(contactListSql());
+    selectInList(id);
+}
+
+void FullView::storeName(qint64 id, const QString& name)
+{
+    jet::Recordset row = context().data.openRecordset(u"SELECT id,name FROM cnt_main where id=%1"_s.arg(id));
+    if (!row.hasRow())
+        return;
+    row.edit();
+    row.set(u"name", name);
+    row.update();
+    reopenList();
+    context().screens.tellBookChanged(this);
+}
+
+// While there is no screen for it, the button offers the same menu as its right button.
+void FullView::viewLinkedData()
+{
+    QAction* viewer = m_tools->action(u"ViewLinkedItem");
+    if (viewer->isEnabled())
+        viewer->trigger();
+    else
+        m_menu->popup(m_header->SSCommand8->mapToGlobal(m_header->SSCommand8->rect().bottomLeft()));
+}
+
+void FullView::openPicture()
+{
+    if (!m_picture.isEmpty())
+        context().services.shell.openFile(m_picture);
+}
+
+QString FullView::shownName() const
+{
+    return widgets::textOf(m_header->SSCommand8);
+}
+
+} // namespace views

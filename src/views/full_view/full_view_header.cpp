@@ -1,0 +1,146 @@
+#include "views/full_view/full_view_header.h"
+
+#include "widgets/picture_box.h"
+#include "widgets/theme.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+namespace {
+
+QPushButton* link(const QString& name)
+{
+    auto* button = new QPushButton;
+    button->setObjectName(name);
+    button->setAccessibleName(QObject::tr("Associate"));
+    button->setToolTip(QObject::tr("Go to this contact"));
+    button->setFlat(true);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    button->setStyleSheet(
+        u"QPushButton { color: palette(link); text-decoration: underline; border: none; padding: 1px 4px; }"
+        "QPushButton:focus { border: 1px dotted palette(link); }"_s);
+    button->hide();
+    return button;
+}
+
+QToolButton* command(const QString& name, QStringView icon, const QString& toolTip)
+{
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    widgets::setIcon(button, icon);
+    button->setIconSize({22, 22});
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+FullViewHeader::FullViewHeader(QWidget* parent)
+    : QWidget(parent)
+    , ix1(new widgets::PictureBox)
+    , SSCommand8(new QPushButton)
+    , lblid(new QLabel)
+    , LblAsso1(link(u"LblAsso1"_s))
+    , LblAsso2(link(u"LblAsso2"_s))
+    , CmdTel(command(u"CmdTel"_s, u"phone", tr("Call")))
+    , CmdAdd(command(u"CmdAdd"_s, u"letter", tr("Send Letter")))
+    , CmdEmail(command(u"CmdEmail"_s, u"envelope", tr("Send e-mail")))
+    , m_plainName(new QLabel)
+    , m_facts(new QLabel)
+    , m_associates(new QLabel(tr("Associates:")))
+{
+    ix1->setObjectName(u"ix1"_s);
+    ix1->setFixedSize(76, 76);
+    ix1->setAccessibleName(tr("Picture"));
+    SSCommand8->setObjectName(u"SSCommand8"_s);
+    SSCommand8->setFlat(true);
+    SSCommand8->setToolTip(tr("View all linked data"));
+    SSCommand8->setAccessibleDescription(tr("View all linked data"));
+    // The font as a style sheet, since the frame's own sheet would win over one that is set.
+    SSCommand8->setStyleSheet(
+        u"QPushButton { font-size: 17pt; font-weight: 600; text-align: left; border: 1px solid transparent;"
+        " border-radius: 5px; padding: 1px 4px; }"
+        "QPushButton:hover, QPushButton:focus { border-color: palette(mid); }"_s);
+    SSCommand8->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    SSCommand8->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_plainName->setObjectName(u"lblPlainName"_s);
+    m_plainName->setTextFormat(Qt::PlainText);
+    m_plainName->setStyleSheet(u"font-size: 17pt; font-weight: 600; padding: 2px 0px;"_s);
+    m_plainName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_plainName->hide();
+    lblid->setObjectName(u"lblid"_s);
+    lblid->setForegroundRole(QPalette::PlaceholderText);
+    lblid->setToolTip(tr("Number of the contact"));
+    m_facts->setTextFormat(Qt::PlainText);
+    m_facts->setContentsMargins(6, 0, 0, 0);
+    m_facts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_associates->setContentsMargins(6, 0, 0, 0);
+    m_associates->hide();
+
+    auto* links = new QHBoxLayout;
+    links->setSpacing(4);
+    links->addWidget(m_associates);
+    links->addWidget(LblAsso1);
+    links->addWidget(LblAsso2);
+    links->addStretch(1);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addStretch(1);
+    texts->addWidget(SSCommand8);
+    texts->addWidget(m_plainName);
+    texts->addWidget(m_facts);
+    texts->addLayout(links);
+    texts->addStretch(1);
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(4);
+    for (QToolButton* button : {CmdTel, CmdEmail, CmdAdd})
+        commands->addWidget(button);
+    auto* right = new QVBoxLayout;
+    right->addStretch(1);
+    right->addLayout(commands);
+    right->addWidget(lblid, 0, Qt::AlignRight);
+    right->addStretch(1);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 8);
+    layout->setSpacing(12);
+    layout->addWidget(ix1);
+    layout->addLayout(texts, 1);
+    layout->addLayout(right);
+}
+
+void FullViewHeader::showPicture(const QString& path)
+{
+    ix1->setPath(path);
+    ix1->setCursor(ix1->hasPicture() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void FullViewHeader::showPlainName(const QString& name)
+{
+    m_plainName->setText(name);
+    m_plainName->setHidden(name.isEmpty());
+    SSCommand8->setHidden(!name.isEmpty());
+}
+
+void FullViewHeader::tidy(const QStringList& facts)
+{
+    QStringList shown;
+    for (const QString& fact : facts) {
+        if (!fact.trimmed().isEmpty() && fact.trimmed() != u"-")
+            shown << fact.trimmed();
+    }
+    m_facts->setText(shown.join(u"   ·   "_s));
+    for (QPushButton* button : {LblAsso1, LblAsso2})
+        button->setHidden(button->text().isEmpty());
+    m_associates->setHidden(LblAsso1->isHidden() && LblAsso2->isHidden());
+}
+
+} // namespace views

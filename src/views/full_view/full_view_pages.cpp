@@ -1,0 +1,164 @@
+#include "views/full_view/full_view_pages.h"
+
+#include "widgets/fields.h"
+#include "widgets/form_kit.h"
+#include "widgets/theme.h"
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+using widgets::FormKit;
+
+namespace views {
+
+FullViewPages::FullViewPages(bool browsesOthers, QWidget* parent)
+    : QTabWidget(parent)
+{
+    layOutDetails();
+    layOutAddresses();
+    layOutTelephones(browsesOthers);
+    layOutMail();
+    layOutFamily();
+    showBook(true);
+}
+
+void FullViewPages::showBook(bool own)
+{
+    for (const NumbersLabel& numbers : std::as_const(m_numbersLabels))
+        numbers.label->setText(own ? numbers.own : tr("Numbers"));
+    for (QWidget* widget : std::as_const(m_ofOthers))
+        widget->setVisible(!own);
+}
+
+QLabel* FullViewPages::labelOf(const QString& control) const
+{
+    const auto* field = widgets::child<QWidget>(this, control);
+    for (QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy() == field)
+            return label;
+    }
+    Q_ASSERT_X(false, "FullViewPages::labelOf", qUtf8Printable(control));
+    return nullptr;
+}
+
+QWidget* FullViewPages::addPage(const QString& name, const QString& title, QStringView icon)
+{
+    auto* page = new QWidget;
+    page->setObjectName(name);
+    addTab(page, widgets::icon(icon), title);
+    return page;
+}
+
+void FullViewPages::layOutDetails()
+{
+    FormKit form(addPage(u"FrmVOther"_s, tr("Details"), u"card"));
+    form.group(tr("Person"))
+        .readOnly(u"txtfirst"_s, tr("Name"))
+        .readOnly(u"txtnick"_s, tr("Nick name"))
+        .readOnly(u"txtGender"_s, tr("Gender"))
+        .readOnly(u"txtreligion"_s, tr("Religion"))
+        .readOnly(u"txteducation"_s, tr("Education"))
+        .readOnly(u"txthobbies"_s, tr("Hobbies"));
+    form.group(tr("Work"))
+        .readOnly(u"txtcompany"_s, tr("Company"))
+        .readOnly(u"txtJobTitle"_s, tr("Job title"))
+        .readOnly(u"txtAltTitle"_s, tr("Other contact"))
+        .hint(tr("Title of the other contact"))
+        .beside()
+        .readOnly(u"txtaltcontact"_s, {});
+    form.nextColumn()
+        .group(tr("Classes"))
+        .readOnly(u"txtCat"_s, tr("Category"))
+        .readOnly(u"txtpriority"_s, tr("Priority"))
+        .readOnly(u"txtproduct"_s, tr("Product"))
+        .readOnly(u"txtstatus"_s, tr("Status"))
+        .readOnly(u"txtregion"_s, tr("Region"))
+        .readOnly(u"txtrelation"_s, tr("Relation"));
+    form.group(tr("Own fields"))
+        .readOnly(u"TxtUser1"_s, tr("User 1"))
+        .readOnly(u"TxtUser2"_s, tr("User 2"))
+        .readOnly(u"TxtUser3"_s, tr("User 3"));
+}
+
+void FullViewPages::layOutAddresses()
+{
+    struct Address {
+        QString title, type, lines, city, state;
+    };
+    const Address addresses[] = {
+        {tr("Home"), {}, u"txthadd"_s, u"txthcity"_s, u"txthstate"_s},
+        {tr("Work 1"), u"txtwtype"_s, u"txtwadd"_s, u"txtwcity"_s, u"txtwstate"_s},
+        {tr("Work 2"), u"txtbtype"_s, u"txtbadd"_s, u"txtbcity"_s, u"txtbstate"_s},
+    };
+    FormKit form(addPage(u"FrmVAdd"_s, tr("Addresses"), u"home"));
+    for (const Address& address : addresses) {
+        form.nextColumn().group(address.title);
+        if (!address.type.isEmpty())
+            form.readOnly(address.type, tr("Type"));
+        form.readOnly(address.lines, tr("Address"), 3)
+            .readOnly(address.city, tr("City"))
+            .hint(tr("City and pin code"))
+            .readOnly(address.state, tr("State"))
+            .hint(tr("State and country"));
+    }
+}
+
+void FullViewPages::layOutTelephones(bool browsesOthers)
+{
+    struct Numbers {
+        QString title, control, last, other, otherLabel;
+    };
+    const Numbers addresses[] = {
+        {tr("Home"), u"txthph1"_s, tr("Mobile"), u"txthph2"_s, tr("Number 2")},
+        {tr("Work 1"), u"txtwph1"_s, tr("Spouse's mobile"), u"txtwph2"_s, tr("Number 2")},
+        {tr("Work 2"), u"txtbph1"_s, tr("Fax"), u"txtfax"_s, tr("Fax")},
+    };
+    FormKit form(addPage(u"FrmVTel"_s, tr("Telephone"), u"phone"));
+    for (const Numbers& numbers : addresses) {
+        // The label has a line for each line of the box.
+        form.nextColumn()
+            .group(numbers.title)
+            .readOnly(
+                numbers.control, tr("Area code\nNumber 1\nNumber 2\nNumber 3\n%1").arg(numbers.last), 5);
+        if (browsesOthers)
+            form.readOnly(numbers.other, numbers.otherLabel);
+    }
+    if (!browsesOthers)
+        return;
+    for (const Numbers& numbers : addresses) {
+        QLabel* label = labelOf(numbers.control);
+        m_numbersLabels << NumbersLabel{label, label->text()};
+        m_ofOthers << labelOf(numbers.other) << widgets::child<QWidget>(this, numbers.other);
+    }
+}
+
+void FullViewPages::layOutMail()
+{
+    FormKit form(addPage(u"FrmVEmail"_s, tr("E-mail and web"), u"envelope"));
+    form.nextColumn()
+        .group(tr("Home"))
+        .readOnly(u"txthemail1"_s, tr("E-mail"), 2)
+        .readOnly(u"txtHweb"_s, tr("Web"));
+    form.nextColumn()
+        .group(tr("Work"))
+        .readOnly(u"txtwemail1"_s, tr("E-mail"), 2)
+        .readOnly(u"txtWweb"_s, tr("Web"));
+}
+
+void FullViewPages::layOutFamily()
+{
+    FormKit form(addPage(u"FrmVOther1"_s, tr("Family and notes"), u"family"));
+    form.nextColumn()
+        .group(tr("Family"))
+        .readOnly(u"TxtSpouse"_s, tr("Spouse"))
+        .hint(tr("Spouse, and the maiden name"))
+        .readOnly(u"dtpSpouse"_s, tr("Spouse's birthday"))
+        .readOnly(u"dtpBirtday"_s, tr("Birthday"))
+        .readOnly(u"dtpAnniv"_s, tr("Anniversary"))
+        .readOnly(u"dtpKid1"_s, tr("Birthday, child 1"))
+        .readOnly(u"dtpKid2"_s, tr("Birthday, child 2"))
+        .readOnly(u"dtpKid3"_s, tr("Birthday, child 3"));
+    form.nextColumn().group(tr("Business")).readOnly(u"txtbnote"_s, tr("Note"), 8);
+}
+
+} // namespace views

@@ -1,0 +1,414 @@
+#include "views/search/FormSearch.h"
+
+#include "core/screens.h"
+#include "views/search/hit_actions.h"
+#include "views/search/place_tree.h"
+#include "views/search/search_clauses.h"
+#include "views/search/search_filter.h"
+#include "widgets/fields.h"
+#include "widgets/form_kit.h"
+#include "widgets/heading_grid.h"
+#include "widgets/theme.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+struct FormSearch::Tool {
+    QStringView id;
+    QStringView icon;
+    const char* text;
+    const char* toolTip;
+    QStringView form; ///< the screen without which the tool is disabled
+    void (FormSearch::*perform)();
+    QKeySequence::StandardKey key = QKeySequence::UnknownKey;
+};
+
+const FormSearch::Tool FormSearch::kTools[] = {
+    {u"Find", u"persons", QT_TRANSLATE_NOOP("views", "Find"),
+        QT_TRANSLATE_NOOP("views", "Find by first name, last name and company"), {}, &FormSearch::find},
+    {u"Advanced", u"search", QT_TRANSLATE_NOOP("views", "Advanced"),
+        QT_TRANSLATE_NOOP("views", "Look for a word in many fields"), {}, &FormSearch::toggleKeyword,
+        QKeySequence::Find},
+    {u"Refresh", u"restore", QT_TRANSLATE_NOOP("views", "Refresh"),
+        QT_TRANSLATE_NOOP("views", "Show all contacts by name"), {}, &FormSearch::refreshByName,
+        QKeySequence::Refresh},
+    {u"Search4", u"phone", QT_TRANSLATE_NOOP("views", "Phone Search"),
+        QT_TRANSLATE_NOOP("views", "Search all telephone numbers"), u"FrmPhSearch", &FormSearch::phoneSearch},
+    {u"Search5", u"category", QT_TRANSLATE_NOOP("views", "Category Tree"),
+        QT_TRANSLATE_NOOP("views", "Search the tree of categories"), u"FormTree2", &FormSearch::categoryTree},
+    {u"Search6", u"location", QT_TRANSLATE_NOOP("views", "Location Tree"),
+        QT_TRANSLATE_NOOP("views", "Search the tree of locations"), u"FormTree2", &FormSearch::locationTree},
+    {u"Close", u"exit", QT_TRANSLATE_NOOP("views", "Close"), QT_TRANSLATE_NOOP("views", "Close the search"),
+        {}, &FormSearch::closeRequested},
+};
+
+FormSearch::FormSearch(core::Context& context, QWidget* parent)
+    : Screen(context, parent)
+    , m_filter(new SearchFilter(context.data))
+    , m_hits(new HitActions(
+          context, [this] { return grid()->currentKey(); }, this))
+    , FG1(new widgets::HeadingGrid)
+    , GridKey(new widgets::HeadingGrid)
+    , m_grids(new QStackedWidget)
+    , Frame3(new QFrame)
+    , Option1(new QRadioButton(tr("Category")))
+    , Option2(new QRadioButton(tr("Name")))
+    , SSCommand3(new QPushButton(tr("Keyword Search")))
+    , cmdgo(new QPushButton(tr("Go")))
+    , CmdHelp(new QPushButton(tr("Help")))
+    , m_count(new QLabel)
+{
+    setWindowTitle(tr("Search"));
+    auto* choices = new QScrollArea;
+    choices->setWidget(m_filter);
+    choices->setWidgetResizable(true);
+    choices->setFrameShape(QFrame::NoFrame);
+    choices->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    choices->setMinimumWidth(m_filter->minimumSizeHint().width() + 20);
+    auto* splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(choices);
+    splitter->addWidget(layOutResults());
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setContentsMargins(8, 8, 8, 8);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(layOutTools());
+    layout->addWidget(splitter, 1);
+    connectControls();
+    setFocusProxy(FG1);
+}
+
+QToolBar* FormSearch::layOutTools()
+{
+    auto* bar = new QToolBar;
+    bar->setIconSize({20, 20});
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const Tool& tool : kTools) {
+        auto* action = new QAction(QCoreApplication::translate("views", tool.text), this);
+        action->setObjectName(tool.id.toString());
+        widgets::setIcon(action, tool.icon);
+        const bool available = tool.form.isEmpty() || context().screens.has(tool.form);
+        const QString toolTip = QCoreApplication::translate("views", tool.toolTip);
+        action->setEnabled(available);
+        action->setToolTip(available ? toolTip : tr("%1\nNot available yet").arg(toolTip));
+        action->setShortcut(tool.key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, this, [this, perform = tool.perform] { (this->*perform)(); });
+        addAction(action);
+        bar->addAction(action);
+    }
+    m_find = widgets::child<QAction>(this, u"Find"_s);
+    m_advanced = widgets::child<QAction>(this, u"Advanced"_s);
+    m_find->setCheckable(true);
+    return bar;
+}
+
+QWidget* FormSearch::layOutKeyword()
+{
+    Frame3->setObjectName(u"Frame3"_s);
+    Frame3->setFrameShape(QFrame::StyledPanel);
+    widgets::FormKit form(Frame3);
+    form.line(u"txtkey"_s, tr("&Keyword"))
+        .beside()
+        .button(u"CmdSearch"_s, tr("&Search"), u"search", tr("Look for the word in many fields (Enter)"))
+        .beside()
+        .button(u"SSCommand5"_s, tr("Refresh"), u"restore", tr("List all contacts again"))
+        .beside()
+        .button(u"SSCommand4"_s, tr("Hide"), u"cancel", tr("Hide the keyword search (Esc)"));
+    txtkey = widgets::child<QLineEdit>(Frame3, u"txtkey"_s);
+    Frame3->hide();
+    return Frame3;
+}
+
+QWidget* FormSearch::layOutResults()
+{
+    FG1->setObjectName(u"FG1"_s);
+    FG1->setAccessibleName(tr("Contacts"));
+    GridKey->setObjectName(u"GridKey"_s);
+    GridKey->setAccessibleName(tr("Contacts with the keyword"));
+    for (widgets::HeadingGrid* each : {FG1, GridKey}) {
+        each->setEmptyText({}); // an empty result is just an empty grid
+        each->setContextMenuPolicy(Qt::CustomContextMenu);
+        m_grids->addWidget(each);
+    }
+    auto* results = new QWidget;
+    auto* layout = new QVBoxLayout(results);
+    layout->setContentsMargins(4, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(layOutKeyword());
+    layout->addWidget(m_grids, 1);
+    layout->addWidget(layOutFoot());
+
+    QWidget* const order[] = {widgets::child<QPushButton>(Frame3, u"SSCommand4"_s), FG1, GridKey, Option1,
+        Option2, SSCommand3, cmdgo, CmdHelp};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
+    for (QPushButton* button : {SSCommand3, cmdgo, CmdHelp})
+        button->setAutoDefault(false);
+    return results;
+}
+
+QWidget* FormSearch::layOutFoot()
+{
+    Option1->setObjectName(u"Option1"_s);
+    Option2->setObjectName(u"Option2"_s);
+    Option1->setChecked(true);
+    m_count->setForegroundRole(QPalette::PlaceholderText);
+    m_count->setAccessibleName(tr("Contacts listed"));
+    SSCommand3->setObjectName(u"SSCommand3"_s);
+    SSCommand3->setToolTip(tr("Look for a word in many fields (Ctrl+F)"));
+    widgets::setIcon(SSCommand3, u"search");
+    cmdgo->setObjectName(u"cmdgo"_s);
+    widgets::setIcon(cmdgo, u"next");
+    cmdgo->setEnabled(m_hits->open()->isEnabled());
+    cmdgo->setToolTip(
+        cmdgo->isEnabled() ? tr("Go to the contact (Enter, double click)") : m_hits->open()->toolTip());
+    CmdHelp->setObjectName(u"CmdHelp"_s);
+    widgets::setIcon(CmdHelp, u"help");
+    auto* foot = new QWidget;
+    auto* layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    layout->addWidget(new QLabel(tr("View by")));
+    layout->addWidget(Option1);
+    layout->addWidget(Option2);
+    layout->addSpacing(12);
+    layout->addWidget(m_count);
+    layout->addStretch(1);
+    layout->addWidget(SSCommand3);
+    layout->addWidget(cmdgo);
+    layout->addWidget(CmdHelp);
+    return foot;
+}
+
+void FormSearch::connectControls()
+{
+    const auto button = [this](const QString& name) { return widgets::child<QPushButton>(this, name); };
+    connect(m_filter, &SearchFilter::choicesChanged, this, &FormSearch::applyChoices);
+    connect(m_filter, &SearchFilter::namesChanged, this, &FormSearch::applyNames);
+    connect(m_filter->SSCommand6, &QPushButton::clicked, this, &FormSearch::clearChoices);
+    connect(SSCommand3, &QPushButton::clicked, this, [this] {
+        showKeyword(true);
+        showGrid(GridKey);
+    });
+    connect(button(u"SSCommand4"_s), &QPushButton::clicked, this, [this] { showKeyword(false); });
+    connect(button(u"SSCommand5"_s), &QPushButton::clicked, this, [this] {
+        queryKeyword(contactsByCategorySql());
+        showGrid(GridKey);
+    });
+    connect(button(u"CmdSearch"_s), &QPushButton::clicked, this, &FormSearch::searchKeyword);
+    connect(txtkey, &QLineEdit::returnPressed, this, &FormSearch::searchKeyword);
+    auto* escape = new QShortcut(Qt::Key_Escape, Frame3);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, this, [this] { showKeyword(false); });
+    connect(Option1, &QRadioButton::toggled, this, &FormSearch::formatGrid);
+    connect(cmdgo, &QPushButton::clicked, m_hits->open(), &QAction::trigger);
+    connect(CmdHelp, &QPushButton::clicked, this, [this] { showHelp(u"CON0024"_s, CmdHelp); });
+    for (widgets::HeadingGrid* each : {FG1, GridKey}) {
+        connect(each, &widgets::HeadingGrid::chosen, m_hits->open(), &QAction::trigger);
+        connect(each, &widgets::HeadingGrid::currentRowChanged, this, [this, each](int row) {
+            if (each == grid()) // the hidden one may be read anew
+                rowChanged(row);
+        });
+        connect(each, &QWidget::customContextMenuRequested, this, [this, each](const QPoint& at) {
+            if (each->currentRow() >= 0)
+                m_hits->menu()->popup(each->viewport()->mapToGlobal(at));
+        });
+    }
+}
+
+// The keyword grid starts with the same list, but is read when it is seen.
+void FormSearch::load()
+{
+    setFrameTitle(u"Search"_s);
+    m_keywordSql = contactsByCategorySql();
+    formatGrid();
+    const SearchGrid words = keywordGrid();
+    GridKey->setHeadings(words.headings, words.columns);
+    query(contactsByCategorySql());
+}
+
+void FormSearch::bookChanged()
+{
+    m_filter->refill();
+    query(builtSql);
+    if (m_keywordRead)
+        queryKeyword(m_keywordSql);
+}
+
+void FormSearch::find()
+{
+    m_filter->setFindVisible(m_find->isChecked());
+}
+
+void FormSearch::refreshByName()
+{
+    list(contactsByNameSql());
+}
+
+void FormSearch::toggleKeyword()
+{
+    showKeyword(Frame3->isHidden());
+}
+
+void FormSearch::phoneSearch()
+{
+    context().screens.show(u"FrmPhSearch");
+}
+
+void FormSearch::categoryTree()
+{
+    showTree(treeSearchTitle(TreeKind::Category));
+}
+
+void FormSearch::locationTree()
+{
+    showTree(treeSearchTitle(TreeKind::Location));
+}
+
+void FormSearch::showTree(const QString& title)
+{
+    if (core::Screen* tree = context().screens.load(u"FormTree2"))
+        tree->setWindowTitle(title);
+    context().screens.show(u"FormTree2");
+}
+
+void FormSearch::applyChoices()
+{
+    list(searchSql(m_filter->choices()));
+}
+
+void FormSearch::applyNames()
+{
+    list(nameSearchSql(m_filter->names()));
+}
+
+void FormSearch::clearChoices()
+{
+    m_filter->reset();
+    list(contactsByCategorySql());
+}
+
+// What was chosen is seen, also when the hits of a keyword were shown before.
+void FormSearch::list(const QString& sql)
+{
+    query(sql);
+    showGrid(FG1);
+}
+
+// A statement that broke, as by an apostrophe, leaves the grid as it was.
+void FormSearch::query(const QString& sql)
+{
+    jet::Recordset rows = context().data.openRecordset(sql);
+    if (!rows.isValid())
+        return;
+    builtSql = sql;
+    const qint64 current = FG1->currentKey();
+    FG1->fill(std::move(rows));
+    if (current == 0 || !FG1->selectKey(current))
+        FG1->setCurrentRow(-1);
+    showCount();
+}
+
+void FormSearch::queryKeyword(const QString& sql)
+{
+    jet::Recordset rows = context().data.openRecordset(sql);
+    if (!rows.isValid())
+        return;
+    m_keywordSql = sql;
+    m_keywordRead = true;
+    const QStringList columns = keywordGrid().columns;
+    QList<int> unknown;
+    for (int column = 0; column < columns.size(); ++column) {
+        if (!columns[column].isEmpty() && rows.columnIndex(columns[column]) < 0)
+            unknown << column;
+    }
+    const qint64 current = GridKey->currentKey();
+    GridKey->fill(std::move(rows));
+    for (int column = 0; column < columns.size(); ++column)
+        GridKey->setColumnHidden(column, unknown.contains(column));
+    if (current == 0 || !GridKey->selectKey(current))
+        GridKey->setCurrentRow(-1);
+    showCount();
+}
+
+void FormSearch::searchKeyword()
+{
+    queryKeyword(keywordHitsSql(txtkey->text()));
+    showGrid(GridKey);
+}
+
+void FormSearch::showKeyword(bool on)
+{
+    Frame3->setVisible(on);
+    m_advanced->setText(on ? tr("Hide") : tr("Advanced"));
+    if (on) {
+        txtkey->setFocus();
+        txtkey->selectAll();
+    } else {
+        showGrid(FG1);
+        FG1->setFocus();
+    }
+}
+
+void FormSearch::showGrid(widgets::HeadingGrid* shown)
+{
+    if (shown == GridKey && !m_keywordRead)
+        queryKeyword(m_keywordSql);
+    m_grids->setCurrentWidget(shown);
+    setFocusProxy(shown);
+    showCount();
+    rowChanged(shown->currentRow());
+}
+
+void FormSearch::formatGrid()
+{
+    const SearchGrid layout = contactGrid(Option1->isChecked() ? ViewBy::Category : ViewBy::Name);
+    const qint64 current = FG1->currentKey();
+    FG1->setHeadings(layout.headings, layout.columns);
+    if (current != 0)
+        FG1->selectKey(current);
+}
+
+void FormSearch::rowChanged(int row)
+{
+    if (row < 0)
+        return;
+    m_hits->select(grid()->keyAt(row));
+    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(grid()->rowCount())));
+}
+
+void FormSearch::showCount()
+{
+    const int count = grid()->rowCount();
+    m_count->setText(count == 1 ? tr("1 contact") : tr("%1 contacts").arg(count));
+}
+
+widgets::HeadingGrid* FormSearch::grid() const
+{
+    return m_grids->currentWidget() == GridKey ? GridKey : FG1;
+}
+
+} // namespace views

@@ -1,0 +1,286 @@
+#include "views/search/FormTree2.h"
+
+#include "views/search/hit_actions.h"
+#include "views/search/place_tree.h"
+#include "views/search/result_detail.h"
+#include "widgets/heading_grid.h"
+#include "widgets/theme.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QShowEvent>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+namespace {
+
+constexpr int kTreeWidth = 260;
+constexpr int kDetailHeight = 260;
+
+} // namespace
+
+FormTree2::FormTree2(core::Context& context, QWidget* parent)
+    : Screen(context, parent)
+    , m_hits(new HitActions(
+          context, [this] { return currentId(); }, this))
+    , m_menu(m_hits->menu())
+    , FG1(new widgets::HeadingGrid)
+    , m_detail(new ResultDetail(context.services.drive))
+    , Option1(new QRadioButton(tr("Category")))
+    , Option2(new QRadioButton(tr("Name")))
+    , lblcount(new QLabel)
+{
+    setWindowTitle(treeSearchTitle(TreeKind::Category));
+    auto* splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    if (!parent) {
+        SSTree1 = new PlaceTree(context.data);
+        SSTree1->setObjectName(u"SSTree1"_s);
+        SSTree1->setMinimumWidth(160);
+        splitter->addWidget(SSTree1);
+        splitter->setContentsMargins(8, 8, 8, 8);
+    }
+    splitter->addWidget(layOutResults());
+    splitter->setStretchFactor(splitter->count() - 1, 1);
+    splitter->setSizes(parent ? QList<int>{900} : QList<int>{kTreeWidth, 900});
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(layOutTools());
+    layout->addWidget(splitter, 1);
+    connectControls();
+    setFocusProxy(SSTree1 ? static_cast<QWidget*>(SSTree1) : FG1);
+}
+
+QToolBar* FormTree2::layOutTools()
+{
+    auto* bar = new QToolBar;
+    bar->setObjectName(u"SSActiveToolBars1"_s);
+    bar->setIconSize({20, 20});
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const auto tool
+        = [this, bar](const QString& id, QStringView icon, const QString& text, const QString& toolTip) {
+              auto* action = new QAction(text, this);
+              action->setObjectName(id);
+              action->setToolTip(toolTip);
+              widgets::setIcon(action, icon);
+              bar->addAction(action);
+              return action;
+          };
+    m_byName = tool(u"Name"_s, u"persons", tr("Name"), tr("View the results by name"));
+    m_byCategory = tool(u"Category"_s, u"category", tr("Category"), tr("View the results by category"));
+    auto* views = new QActionGroup(this);
+    for (QAction* action : {m_byName, m_byCategory}) {
+        action->setCheckable(true);
+        views->addAction(action);
+    }
+    m_byCategory->setChecked(true);
+    bar->addSeparator();
+    connect(tool(u"close"_s, u"exit", tr("Close"), tr("Close the search")), &QAction::triggered, this,
+        &FormTree2::closeRequested);
+    return bar;
+}
+
+QWidget* FormTree2::layOutResults()
+{
+    FG1->setObjectName(u"FG1"_s);
+    FG1->setAccessibleName(tr("Contacts found"));
+    FG1->setEmptyText({}); // an empty result is just an empty grid
+    FG1->mergeEqual({u"Category1"_s, u"Category2"_s, u"region"_s, u"h_country"_s, u"h_state"_s, u"h_city"_s});
+    FG1->setContextMenuPolicy(Qt::CustomContextMenu);
+    auto* detail = new QScrollArea;
+    detail->setWidget(m_detail);
+    detail->setWidgetResizable(true);
+    detail->setFrameShape(QFrame::NoFrame);
+    detail->setMinimumHeight(m_detail->sizeHint().height() / 2);
+    auto* upper = new QWidget;
+    auto* upperLayout = new QVBoxLayout(upper);
+    upperLayout->setContentsMargins(4, 0, 0, 0);
+    upperLayout->setSpacing(6);
+    upperLayout->addWidget(FG1, 1);
+    upperLayout->addWidget(layOutFoot());
+    auto* results = new QSplitter(Qt::Vertical);
+    results->setChildrenCollapsible(false);
+    results->addWidget(upper);
+    results->addWidget(detail);
+    results->setStretchFactor(0, 1);
+    results->setSizes({360, kDetailHeight});
+    return results;
+}
+
+QWidget* FormTree2::layOutFoot()
+{
+    Option1->setObjectName(u"Option1"_s);
+    Option2->setObjectName(u"Option2"_s);
+    Option1->setChecked(true);
+    lblcount->setObjectName(u"lblcount"_s);
+    lblcount->setAccessibleName(tr("Number of rows"));
+    auto* foot = new QWidget;
+    auto* layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    layout->addWidget(new QLabel(tr("View by")));
+    layout->addWidget(Option1);
+    layout->addWidget(Option2);
+    layout->addStretch(1);
+    auto* rows = new QLabel(tr("Rows"));
+    for (QLabel* label : {rows, lblcount}) {
+        label->setForegroundRole(QPalette::PlaceholderText);
+        layout->addWidget(label);
+    }
+    return foot;
+}
+
+void FormTree2::connectControls()
+{
+    connect(m_byName, &QAction::triggered, Option2, [this] { Option2->setChecked(true); });
+    connect(m_byCategory, &QAction::triggered, Option1, [this] { Option1->setChecked(true); });
+    connect(Option1, &QRadioButton::toggled, this, &FormTree2::viewChanged);
+    connect(FG1, &widgets::HeadingGrid::currentRowChanged, this, &FormTree2::rowChanged);
+    // Also the row that has been current all along: another list may have been chosen from meanwhile.
+    connect(FG1, &widgets::HeadingGrid::clicked, this, &FormTree2::select);
+    connect(FG1, &widgets::HeadingGrid::chosen, m_hits->open(), &QAction::trigger);
+    connect(FG1, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (FG1->currentRow() >= 0)
+            m_menu->popup(FG1->viewport()->mapToGlobal(at));
+    });
+    if (SSTree1)
+        connect(SSTree1, &PlaceTree::nodeChosen, this,
+            [this](const QStringList& path) { showNode(SSTree1->kind(), path); });
+}
+
+// Alone it waits for its caption, which is set before it is shown.
+void FormTree2::load() { }
+
+void FormTree2::showNode(TreeKind kind, const QStringList& path)
+{
+    apply([kind, path](ViewBy view) { return nodeQuery(kind, path, view); });
+}
+
+void FormTree2::showFound(const QString& whereClause)
+{
+    apply([whereClause](ViewBy view) { return foundQuery(whereClause, view); });
+}
+
+void FormTree2::showThumbnail(qint64 id)
+{
+    apply([id](ViewBy view) { return thumbnailQuery(id, view); });
+    FG1->setCurrentRow(0);
+}
+
+void FormTree2::refresh()
+{
+    if (m_last)
+        run(m_last);
+}
+
+qint64 FormTree2::currentId() const
+{
+    return FG1->currentKey();
+}
+
+void FormTree2::addRowAction(QAction* action)
+{
+    FG1->addAction(action);
+}
+
+void FormTree2::bookChanged()
+{
+    if (SSTree1 && SSTree1->topLevelItemCount() > 0)
+        SSTree1->build(SSTree1->kind());
+    refresh();
+}
+
+// As the list of another screen it is brought up to date by that one.
+void FormTree2::showEvent(QShowEvent* event)
+{
+    if (!SSTree1)
+        return QWidget::showEvent(event);
+    Screen::showEvent(event);
+    if (!event->spontaneous())
+        followCaption();
+}
+
+void FormTree2::changeEvent(QEvent* event)
+{
+    Screen::changeEvent(event);
+    if (event->type() == QEvent::WindowTitleChange && isVisible() && SSTree1)
+        followCaption();
+}
+
+void FormTree2::followCaption()
+{
+    const TreeKind kind
+        = windowTitle() == treeSearchTitle(TreeKind::Location) ? TreeKind::Location : TreeKind::Category;
+    if (SSTree1->topLevelItemCount() > 0 && kind == SSTree1->kind())
+        return;
+    SSTree1->build(kind);
+    showNode(kind, {});
+}
+
+ViewBy FormTree2::view() const
+{
+    return Option1->isChecked() ? ViewBy::Category : ViewBy::Name;
+}
+
+// A statement that broke, as by an apostrophe, leaves the grid as it was.
+bool FormTree2::run(const Filter& filter)
+{
+    const ResultQuery query = filter(view());
+    jet::Recordset rows = context().data.openRecordset(query.sql);
+    if (!rows.isValid())
+        return false;
+    const qint64 current = FG1->currentKey();
+    FG1->fill(query.headings, std::move(rows), query.columns);
+    if (current == 0 || !FG1->selectKey(current))
+        FG1->setCurrentRow(-1);
+    lblcount->setText(QString::number(FG1->rowCount()));
+    rowChanged(FG1->currentRow());
+    return true;
+}
+
+void FormTree2::apply(const Filter& filter)
+{
+    if (run(filter))
+        m_last = filter;
+}
+
+void FormTree2::rowChanged(int row)
+{
+    if (row < 0) {
+        m_name.clear();
+        return m_detail->display({});
+    }
+    const jet::Recordset contact
+        = context().data.openRecordset(u"select * from cnt_main where id=%1"_s.arg(FG1->keyAt(row)));
+    m_name = contact.textOrEmpty(u"Name");
+    m_detail->display(contact);
+    select();
+    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(FG1->rowCount())));
+}
+
+void FormTree2::select()
+{
+    shared().selectedContactId = currentId();
+    shared().selectedContactName = m_name;
+}
+
+void FormTree2::viewChanged()
+{
+    (Option1->isChecked() ? m_byCategory : m_byName)->setChecked(true);
+    refresh();
+}
+
+} // namespace views

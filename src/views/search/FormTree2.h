@@ -1,0 +1,84 @@
+#pragma once
+
+#include "core/screen.h"
+#include "views/search/tree_search_sql.h"
+
+#include <functional>
+
+class QAction;
+class QLabel;
+class QMenu;
+class QRadioButton;
+class QToolBar;
+
+namespace widgets {
+class HeadingGrid;
+}
+
+namespace views {
+
+class HitActions;
+class PlaceTree;
+class ResultDetail;
+
+/// The contacts that a search or a node of a tree gives, with a panel about the current one. It is the result
+/// pane of the advanced search, and alone a screen with a tree of its own, whose kind its caption tells.
+class FormTree2 : public core::Screen {
+    Q_OBJECT
+
+public:
+    /// With a parent it is a pane of that screen.
+    explicit FormTree2(core::Context& context, QWidget* parent = nullptr);
+
+    void load() override;
+    void bookChanged() override;
+
+    void showNode(TreeKind kind, const QStringList& path);
+    void showFound(const QString& whereClause);
+    void showThumbnail(qint64 id);
+    /// Runs the last filter again.
+    void refresh();
+
+    qint64 currentId() const;
+    QString currentName() const { return m_name; }
+    /// The menu of a row, in place of its own.
+    void setRowMenu(QMenu* menu) { m_menu = menu; }
+    /// A tool whose key works in the grid.
+    void addRowAction(QAction* action);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    using Filter = std::function<ResultQuery(ViewBy)>;
+
+    QToolBar* layOutTools();
+    QWidget* layOutResults();
+    QWidget* layOutFoot();
+    void connectControls();
+
+    ViewBy view() const;
+    bool run(const Filter& filter);
+    void apply(const Filter& filter);
+    void rowChanged(int row);
+    void select();
+    void viewChanged();
+    void followCaption();
+
+    Filter m_last;
+    QString m_name; ///< of the current contact
+
+    HitActions* m_hits;
+    QMenu* m_menu;
+    PlaceTree* SSTree1 = nullptr; ///< alone only
+    widgets::HeadingGrid* FG1;
+    ResultDetail* m_detail;
+    QRadioButton* Option1;
+    QRadioButton* Option2;
+    QLabel* lblcount;
+    QAction* m_byName = nullptr;
+    QAction* m_byCategory = nullptr;
+};
+
+} // namespace views

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "jet/database.h"
+#include "views/search/tree_search_sql.h"
+
+#include <QTreeWidget>
+
+namespace views {
+
+/// The caption under which the tree of a kind is opened as a screen of its own.
+QString treeSearchTitle(TreeKind kind);
+
+/// Writes "Undefined" where a column of the trees is empty, in one go.
+void normaliseBook(jet::Database& book);
+
+/// The address book as a tree of categories and subcategories, or of regions, countries, states and cities. A
+/// branch is read when it is opened.
+class PlaceTree : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    explicit PlaceTree(jet::Database& book, QWidget* parent = nullptr);
+
+    /// Builds the tree anew; what was open and current in a tree of this kind is so again. The book is
+    /// normalised first.
+    void build(TreeKind kind);
+    TreeKind kind() const { return m_kind; }
+    /// The path of the current node, empty for the root.
+    QStringList currentPath() const;
+
+Q_SIGNALS:
+    /// The path has as many steps as the node is below the root.
+    void nodeChosen(const QStringList& path);
+
+private:
+    QTreeWidgetItem* node(const QString& text, const QStringList& path) const;
+    void fill(QTreeWidgetItem* branch);
+    QList<QStringList> openPaths() const;
+    QTreeWidgetItem* find(const QStringList& path) const;
+
+    jet::Database& m_book;
+    QString m_normalised; ///< the state of the book when it was looked through last
+    TreeKind m_kind = TreeKind::Location;
+};
+
+} // namespace views
