@@ -97,8 +97,8 @@ Database& Database::operator=(const Database&) = default;
 Database::OpenResult Database::open(const QString& path, Kind kind)
 {
     auto engine = std::make_shared<Engine>();
+    engine->takeHandlers(*m_engine);
     const OpenResult result = engine->open(path, kind);
-    engine->setFailureHandler(m_engine->failureHandler());
     m_engine = std::move(engine);
     return result;
 }
@@ -106,7 +106,7 @@ Database::OpenResult Database::open(const QString& path, Kind kind)
 void Database::close()
 {
     auto closed = std::make_shared<Engine>();
-    closed->setFailureHandler(m_engine->failureHandler());
+    closed->takeHandlers(*m_engine);
     m_engine->close();
     m_engine = std::move(closed);
 }
@@ -127,6 +127,14 @@ void Database::setFailureHandler(FailureHandler handler)
 {
     m_engine->setFailureHandler(std::move(handler));
 }
+void Database::setWaitHandler(WaitHandler handler)
+{
+    m_engine->setWaitHandler(std::move(handler));
+}
+std::optional<Failure> Database::lastFailure() const
+{
+    return m_engine->lastFailure();
+}
 
 Recordset Database::openRecordset(QStringView sql, Way way)
 {
@@ -144,31 +152,9 @@ Recordset Database::openRecordset(QStringView sql, Way way)
 
 Outcome Database::execute(QStringView sql, Way way)
 {
-    const auto request = m_engine->request(sql, way);
-    if (!request)
-        return {};
-    const Translation& translation = request->plan->translation;
-    switch (translation.kind) {
-    case Translation::Kind::OtherFile: return {true, 0};
-    case Translation::Kind::Keyset:
-    case Translation::Kind::Snapshot: m_engine->report(sql, u"a selection is no action"_s); return {};
-    default: break;
-    }
-    int result = SQLITE_ERROR;
-    {
-        const Prepared statement = m_engine->prepareMain(*request, way);
-        if (statement)
-            result = sqlite3_step(statement.get());
-        if (result != SQLITE_DONE)
-            m_engine->reportLast(sql);
-    }
-    if (translation.kind == Translation::Kind::MakeTable)
-        m_engine->forgetTables();
-    const int rows = sqlite3_changes(m_engine->connection());
-    m_engine->endStatement(result == SQLITE_DONE);
-    if (result != SQLITE_DONE)
-        return {};
-    return {true, translation.kind == Translation::Kind::Action ? rows : 0};
+    const Outcome outcome = m_engine->execute(sql, way);
+    m_engine->endWrite(outcome.ok);
+    return outcome;
 }
 
 std::optional<bool> Database::givesRows(QStringView sql, Way way)
@@ -228,7 +214,7 @@ int Database::version() const
 
 bool Database::setVersion(int version)
 {
-    return m_engine->isOpen() && m_engine->run(u"PRAGMA user_version = "_s + QString::number(version));
+    return m_engine->isOpen() && m_engine->runWrite(u"PRAGMA user_version = "_s + QString::number(version));
 }
 
 QStringList Database::tables() const
@@ -284,12 +270,7 @@ bool Database::applySchema(const Schema& schema, const QString& databaseName)
         return false;
     Batch batch(*this);
     bool done = true;
-    const auto step = [&](const QString& sql) {
-        if (done && !m_engine->run(sql)) {
-            m_engine->reportLast(sql);
-            done = false;
-        }
-    };
+    const auto step = [&](const QString& sql) { done = done && m_engine->runWrite(sql); };
     QStringList made;
     for (const SchemaTable& table : schema.tables) {
         if (table.database != databaseName)
@@ -313,10 +294,7 @@ bool Database::applySchema(const Schema& schema, const QString& databaseName)
             + u" ("_s + index.columns.toString() + u')'
             + (index.condition.isEmpty() ? QString() : u" WHERE "_s + index.condition.toString()));
     }
-    if (done)
-        done = batch.commit();
-    else
-        batch.rollBack();
+    done = batch.commit() && done;
     m_engine->forgetTables();
     return done;
 }
@@ -342,7 +320,7 @@ bool Database::appendRows(const QString& table, const QStringList& columns, cons
     Batch batch(*this);
     const Prepared insert = m_engine->prepareText(u"INSERT INTO "_s + bracketed(table) + u" ("_s
         + names.join(u", "_s) + u") VALUES ("_s + marks.join(u", "_s) + u')');
-    bool done = bool(insert);
+    bool done = bool(insert) && m_engine->mayWrite(table);
     for (const QStringList& row : rows) {
         for (int i = 0; done && i < int(types.size()); ++i) {
             const QString text = row.value(i);
@@ -355,12 +333,10 @@ bool Database::appendRows(const QString& table, const QStringList& columns, cons
             break;
         sqlite3_reset(insert.get());
     }
-    if (!done) {
+    if (!done)
         m_engine->reportLast(table);
-        batch.rollBack();
-        return false;
-    }
-    return batch.commit();
+    m_engine->endWrite(done);
+    return batch.commit() && done;
 }
 
 bool Database::create(const QString& path)
@@ -377,56 +353,6 @@ bool Database::create(const QString& path)
             == SQLITE_OK;
     sqlite3_close(connection);
     return done;
-}
-
-// ---- batches
-
-Batch::Batch(Database& database)
-    : m_engine(database.m_engine)
-{
-    // Inside another batch this one is part of it.
-    m_open = m_engine->isOpen() && sqlite3_get_autocommit(m_engine->connection())
-        && m_engine->run(u"BEGIN IMMEDIATE"_s);
-}
-
-Batch::~Batch()
-{
-    commit();
-}
-
-bool Batch::commit()
-{
-    if (!m_open)
-        return m_engine->isOpen();
-    m_open = false;
-    if (m_engine->run(u"COMMIT"_s)) {
-        m_engine->endStatement(true);
-        return true;
-    }
-    m_engine->reportLast(u"commit");
-    m_engine->run(u"ROLLBACK"_s);
-    m_engine->dropChanges();
-    return false;
-}
-
-void Batch::rollBack()
-{
-    if (!std::exchange(m_open, false))
-        return;
-    m_engine->run(u"ROLLBACK"_s);
-    m_engine->dropChanges();
-    m_engine->forgetTables(); // one may have been made or dropped inside
-}
-
-Upkeep::Upkeep(Database& database)
-    : m_engine(database.m_engine)
-{
-    m_engine->beginUpkeep();
-}
-
-Upkeep::~Upkeep()
-{
-    m_engine->endUpkeep();
 }
 
 } // namespace jet

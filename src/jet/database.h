@@ -40,6 +40,7 @@ public:
     OpenResult open(const QString& path, Kind kind = Kind::Data);
     void close();
     bool isOpen() const;
+    /// A file that can only be read for now. Each write looks whether that is still so.
     bool isReadOnly() const;
     QString path() const;
 
@@ -49,6 +50,11 @@ public:
     std::optional<bool> givesRows(QStringView sql, Way way = Way::Dao);
 
     void setFailureHandler(FailureHandler handler);
+    /// Lets a window live while a write waits, up to five seconds, for another program.
+    void setWaitHandler(WaitHandler handler);
+    /// Why the last write failed, or the first of a batch; nothing once a later one succeeded. Broken
+    /// selections do not count, selections of a file that can not be read do.
+    std::optional<Failure> lastFailure() const;
 
     /// Another text after any change of the file, by whomever; for work that need not be done twice.
     QString state() const;
@@ -87,12 +93,18 @@ private:
     std::shared_ptr<Engine> m_engine;
 };
 
-/// Work on many rows in one commit: what succeeded is kept, a statement that failed changed nothing, as row
-/// by row. Commits at the end of its life; rolls back after rollBack(), or as a whole when the program dies
-/// before.
+/// Work on many rows in one commit, at the end of its life; after rollBack(), or when the program dies
+/// before, nothing of it was done. A batch within another is a part of it.
+///
+/// When the transaction is gone (a full disk ends it, or another program keeps the file) all further writes
+/// of its life are refused, and commit() says so.
 class Batch {
 public:
-    explicit Batch(Database& database);
+    enum class Mode {
+        AllOrNothing, ///< one failed write, and commit() rolls back and is false
+        KeepWhatSucceeds, ///< a failed write has changed nothing, the others stay, as row by row
+    };
+    explicit Batch(Database& database, Mode mode = Mode::AllOrNothing);
     ~Batch();
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
@@ -100,8 +112,13 @@ public:
     void rollBack();
 
 private:
+    bool end(bool keep);
+
     std::shared_ptr<Engine> m_engine;
-    bool m_open = false;
+    Mode m_mode;
+    int m_failuresBefore = 0;
+    bool m_isRunning = false;
+    bool m_isCommitted = false;
 };
 
 /// What is changed during its life is the program's own doing and no step for a person to take back.

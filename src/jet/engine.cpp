@@ -4,11 +4,8 @@
 #include "jet/letter_case.h"
 #include "jet/like_pattern.h"
 #include "jet/parser.h"
-#include "jet/sql_functions.h"
 
-#include <QFileInfo>
 #include <QLoggingCategory>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -43,19 +40,6 @@ QString columnText(sqlite3_stmt* statement, int column)
 {
     return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
         sqlite3_column_bytes(statement, column));
-}
-
-bool isStorageFault(int code)
-{
-    switch (code & 0xFF) {
-    case SQLITE_FULL:
-    case SQLITE_IOERR:
-    case SQLITE_READONLY:
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-    case SQLITE_CANTOPEN: return true;
-    default: return false;
-    }
 }
 
 /// The literals of all patterns.
@@ -109,99 +93,190 @@ Engine::~Engine()
 
 void Engine::close()
 {
+    letGo();
+    m_file.close();
+}
+
+Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
+{
+    close();
+    const Database::OpenResult result = m_file.open(path, kind);
+    if (result == Database::OpenResult::Opened)
+        takeUp();
+    return result;
+}
+
+/// Everything that hangs on the connection goes before it.
+void Engine::letGo()
+{
     for (auto& cache : m_byText)
         cache.clear();
     for (auto& cache : m_byShape)
         cache.clear();
     m_tables.clear();
     m_kept.clear();
-    if (!m_connection)
-        return;
     *m_isOpen = false;
     m_search.reset();
     m_undo.reset();
-    while (sqlite3_stmt* left = sqlite3_next_stmt(m_connection, nullptr))
-        sqlite3_finalize(left);
-    sqlite3_close_v2(m_connection);
-    m_connection = nullptr;
 }
 
-bool Engine::connect(const QString& path, const char* mode)
+void Engine::takeUp()
 {
-    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + mode;
-    if (m_connection)
-        sqlite3_close_v2(m_connection);
-    m_connection = nullptr;
-    if (sqlite3_open_v2(uri.constData(), &m_connection,
-            SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr)
-        != SQLITE_OK) {
-        sqlite3_close_v2(m_connection);
-        m_connection = nullptr;
+    m_isOpen = std::make_shared<bool>(true);
+    m_search = std::make_unique<TextSearch>(connection());
+    if (!m_keptTable.isEmpty())
+        keepChanges(m_keptTable, m_keptLabel);
+}
+
+void Engine::takeHandlers(const Engine& other)
+{
+    m_failureHandler = other.m_failureHandler;
+    m_file.setWaitHandler(other.m_file.waitHandler());
+}
+
+// ---- writing
+
+Outcome Engine::execute(QStringView sql, Way way)
+{
+    if (!mayWrite(sql))
+        return {};
+    const auto request = this->request(sql, way);
+    if (!request)
+        return {};
+    const Translation& translation = request->plan->translation;
+    switch (translation.kind) {
+    case Translation::Kind::OtherFile: return {true, 0};
+    case Translation::Kind::Keyset:
+    case Translation::Kind::Snapshot: report(sql, u"a selection is no action"_s); return {};
+    default: break;
+    }
+    int result = SQLITE_ERROR;
+    {
+        const Prepared statement = prepareMain(*request, way);
+        if (statement)
+            result = stepWrite(statement.get());
+        if (result != SQLITE_DONE)
+            reportLast(sql);
+    }
+    const int rows = sqlite3_changes(connection());
+    if (translation.kind == Translation::Kind::MakeTable)
+        forgetTables();
+    if (result != SQLITE_DONE)
+        return {};
+    return {true, translation.kind == Translation::Kind::Action ? rows : 0};
+}
+
+bool Engine::runWrite(const QString& sql)
+{
+    const bool may = mayWrite(sql);
+    const bool done = may && m_file.runWaiting(sql.toUtf8().constData());
+    if (may && !done)
+        reportLast(sql);
+    endWrite(done);
+    return done;
+}
+
+bool Engine::mayWrite(QStringView statement)
+{
+    if (m_batch.depth > 0) {
+        // A full disk makes the file engine roll back by itself. What came behind would be stored alone.
+        m_batch.isGone = m_batch.isGone || !isOpen() || sqlite3_get_autocommit(connection()) != 0;
+        if (!m_batch.isGone)
+            return true;
+        report(statement, u"what it belongs to was given up before"_s, m_batch.whyGone);
         return false;
     }
-    sqlite3_extended_result_codes(m_connection, 1);
-    sqlite3_busy_timeout(m_connection, 3000);
-    // A name that does not exist must fail; it must not turn into a text.
-    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(m_connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_limit(m_connection, SQLITE_LIMIT_ATTACHED, 0);
-    registerDialect(m_connection);
+    if (m_file.isReadOnly() && m_file.isWritableByNow()) {
+        letGo();
+        m_file.reopen();
+        if (isOpen())
+            takeUp();
+    }
+    if (isOpen())
+        m_file.switchLogOn();
     return true;
 }
 
-Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
+void Engine::endWrite(bool succeeded)
 {
-    close();
-    const QFileInfo file(path);
-    if (!file.exists())
-        return Database::OpenResult::Missing;
-    // The file engine would take an empty file for a database without tables.
-    if (file.isFile() && file.size() == 0)
-        return Database::OpenResult::NotADatabase;
-    m_path = file.canonicalFilePath();
-    m_readOnly = false;
-    const bool data = kind == Database::Kind::Data;
-    const auto probe = [this, data] {
-        return run(u"SELECT count(*) FROM sqlite_master"_s) && (!data || run(u"PRAGMA journal_mode = WAL"_s));
-    };
-    bool sound = connect(m_path, "?mode=rw") && probe();
-    if (!sound && m_connection && (sqlite3_errcode(m_connection) & 0xFF) == SQLITE_NOTADB) {
-        close();
-        return Database::OpenResult::NotADatabase;
+    if (m_undo)
+        m_undo->endStatement(succeeded);
+    if (succeeded && m_batch.depth == 0)
+        m_lastFailure.reset();
+    if (succeeded)
+        return;
+    if (m_batch.depth == 0 || m_batch.failures == 0)
+        m_lastFailure = m_lastReport;
+    if (m_batch.depth == 0)
+        return;
+    ++m_batch.failures;
+    if (!m_batch.isGone && isOpen() && sqlite3_get_autocommit(connection()) != 0) {
+        m_batch.isGone = true;
+        m_batch.whyGone = m_lastReport.cause;
     }
-    // A folder that can not be written: the rows can still be looked at, unless a log waits that would be
-    // ignored.
-    if (!sound && QFileInfo(m_path + u"-wal"_s).size() == 0) {
-        sound = connect(m_path, "?mode=ro&immutable=1") && run(u"SELECT count(*) FROM sqlite_master"_s);
-        m_readOnly = sound;
-    }
-    if (!sound) {
-        close();
-        return Database::OpenResult::Failed;
-    }
-    m_readOnly = m_readOnly || sqlite3_db_readonly(m_connection, "main") == 1;
-    if (data && !m_readOnly) {
-        run(u"PRAGMA synchronous = FULL"_s);
-        run(u"PRAGMA wal_autocheckpoint = 1000"_s);
-    }
-    run(u"PRAGMA cache_size = -4096"_s);
-    run(u"PRAGMA temp_store = MEMORY"_s);
-    m_search = std::make_unique<TextSearch>(m_connection);
-    return Database::OpenResult::Opened;
 }
 
-bool Engine::run(const QString& sql)
+void Engine::beginBatch()
 {
-    return sqlite3_exec(m_connection, sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    if (m_batch.depth > 0) {
+        ++m_batch.depth;
+        if (!m_batch.isGone)
+            m_file.run("SAVEPOINT part");
+        return;
+    }
+    const bool begun = mayWrite(u"begin") && m_file.runWaiting("BEGIN IMMEDIATE");
+    m_batch = {.depth = 1};
+    if (begun)
+        return;
+    reportLast(u"begin");
+    m_batch.isGone = true;
+    m_batch.whyGone = m_lastReport.cause;
+    endWrite(false);
+}
+
+bool Engine::endBatch(bool keep)
+{
+    if (!isOpen())
+        return false;
+    const OpenBatch batch = m_batch;
+    --m_batch.depth;
+    const bool isGone = batch.isGone || sqlite3_get_autocommit(connection()) != 0;
+    if (batch.depth > 1) {
+        m_batch.isGone = isGone;
+        if (isGone)
+            return false;
+        if (!keep) {
+            m_file.run("ROLLBACK TO part");
+            ++m_batch.failures;
+            dropChanges();
+            forgetTables();
+        }
+        m_file.run("RELEASE part");
+        return keep;
+    }
+    if (keep && !isGone && m_file.runWaiting("COMMIT")) {
+        if (m_undo)
+            m_undo->endStatement(true);
+        if (batch.failures == 0)
+            m_lastFailure.reset();
+        return true;
+    }
+    if (keep && !isGone) {
+        reportLast(u"commit");
+        m_lastFailure = m_lastReport;
+    }
+    if (sqlite3_get_autocommit(connection()) == 0)
+        m_file.run("ROLLBACK");
+    dropChanges();
+    forgetTables(); // one may have been made or dropped inside
+    return false;
 }
 
 // ---- translations
 
 std::optional<Request> Engine::request(QStringView sql, Way way)
 {
-    if (!m_connection) {
+    if (!isOpen()) {
         report(sql, u"no database is open"_s, Failure::Cause::Storage);
         return {};
     }
@@ -246,8 +321,10 @@ std::shared_ptr<Plan> Engine::plan(const Lexed& lexed, Way way, QString* error)
 Prepared Engine::prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled)
 {
     // A recordset may outlive its file, and the statements in the pools of its plan ended with the file.
-    if (!m_connection)
+    if (!isOpen())
         return {};
+    if (pooled)
+        pool->serve(m_isOpen);
     if (pooled && !pool->empty()) {
         Prepared waiting(pool->back(), pool);
         pool->pop_back();
@@ -256,7 +333,7 @@ Prepared Engine::prepare(const QString& sql, const std::shared_ptr<Prepared::Poo
     const QByteArray utf8 = sql.toUtf8();
     sqlite3_stmt* statement = nullptr;
     const char* rest = nullptr;
-    if (sqlite3_prepare_v3(m_connection, utf8.constData(), int(utf8.size()),
+    if (sqlite3_prepare_v3(connection(), utf8.constData(), int(utf8.size()),
             pooled ? SQLITE_PREPARE_PERSISTENT : 0, &statement, &rest)
         != SQLITE_OK) {
         sqlite3_finalize(statement);
@@ -402,7 +479,7 @@ const CatalogTable* Engine::table(QStringView name)
     const QString key = lowered(name);
     if (const auto known = m_tables.find(key); known != m_tables.end())
         return known->second.get();
-    if (!m_connection || key.startsWith(u"sqlite_"))
+    if (!isOpen() || key.startsWith(u"sqlite_"))
         return nullptr;
     const Prepared columns
         = prepareText(u"SELECT t.name, c.name, c.type FROM sqlite_master t, pragma_table_info(t.name) c "
@@ -435,19 +512,15 @@ void Engine::forgetTables()
 
 void Engine::keepChanges(const QString& tableName, const QString& labelColumn)
 {
-    const CatalogTable* known = m_readOnly ? nullptr : table(tableName);
+    m_keptTable = tableName;
+    m_keptLabel = labelColumn;
+    const CatalogTable* known = isReadOnly() ? nullptr : table(tableName);
     if (!known)
         return;
     QStringList columns;
     for (const CatalogColumn& column : known->columns)
         columns << column.name;
-    m_undo = std::make_unique<UndoLog>(m_connection, known->name, columns, labelColumn);
-}
-
-void Engine::endStatement(bool succeeded)
-{
-    if (m_undo)
-        m_undo->endStatement(succeeded);
+    m_undo = std::make_unique<UndoLog>(connection(), known->name, columns, labelColumn);
 }
 
 void Engine::dropChanges()
@@ -473,18 +546,25 @@ void Engine::endUpkeep()
 void Engine::report(QStringView statement, const QString& reason, Failure::Cause cause)
 {
     qCDebug(lcSql).noquote() << reason << "in" << statement.left(400);
+    const Failure failure{cause, statement.toString(), reason};
     if (m_failureHandler)
-        m_failureHandler({cause, statement.toString(), reason});
+        m_failureHandler(failure);
+    m_lastReport = failure; // behind the handler, which may ask the database itself
 }
 
 void Engine::reportLast(QStringView statement)
 {
     if (!m_refusal.isEmpty())
         return report(statement, std::exchange(m_refusal, QString()));
-    const int code = m_connection ? sqlite3_errcode(m_connection) : SQLITE_CANTOPEN;
-    const QString reason
-        = m_connection ? QString::fromUtf8(sqlite3_errmsg(m_connection)) : u"no database is open"_s;
-    report(statement, reason, isStorageFault(code) ? Failure::Cause::Storage : Failure::Cause::Statement);
+    const Failure failure = m_file.lastError();
+    report(statement, failure.reason, failure.cause);
+}
+
+void Engine::reportRead(QStringView statement)
+{
+    reportLast(statement);
+    if (m_lastReport.isOfStorage() && m_batch.failures == 0)
+        m_lastFailure = m_lastReport;
 }
 
 // ---- values

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/database.h"
+#include "jet/file_connection.h"
 #include "jet/lexer.h"
 #include "jet/text_search.h"
 #include "jet/translator.h"
@@ -34,6 +35,14 @@ public:
             }
         }
         Q_DISABLE_COPY_MOVE(Pool)
+        /// The file was opened anew: what waited ended with the old connection.
+        void serve(const std::shared_ptr<bool>& fileIsOpen)
+        {
+            if (m_fileIsOpen == fileIsOpen)
+                return;
+            clear();
+            m_fileIsOpen = fileIsOpen;
+        }
 
     private:
         std::shared_ptr<const bool> m_fileIsOpen;
@@ -101,10 +110,10 @@ public:
 
     Database::OpenResult open(const QString& path, Database::Kind kind);
     void close();
-    bool isOpen() const { return m_connection != nullptr; }
-    bool isReadOnly() const { return m_readOnly; }
-    const QString& path() const { return m_path; }
-    sqlite3* connection() const { return m_connection; }
+    bool isOpen() const { return connection() != nullptr; }
+    bool isReadOnly() const { return m_file.isReadOnly(); }
+    const QString& path() const { return m_file.path(); }
+    sqlite3* connection() const { return m_file.handle(); }
 
     std::optional<Request> request(QStringView sql, Way way);
     Prepared prepareMain(const Request& request, Way way);
@@ -121,7 +130,18 @@ public:
         const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
     bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals,
         const BoundTexts& texts = {});
-    bool run(const QString& sql);
+
+    // Writing. Each write asks whether it may, and tells how it ended.
+    Outcome execute(QStringView sql, Way way);
+    bool runWrite(const QString& sql); ///< of the engine itself, which no caller wrote; reports itself
+    bool mayWrite(QStringView statement); ///< false, and reported, when there is nothing to write to
+    int stepWrite(sqlite3_stmt* statement) { return m_file.stepWaiting(statement); }
+    void endWrite(bool succeeded);
+    void beginBatch();
+    bool endBatch(bool keep);
+    bool isInBatch() const { return m_batch.depth > 0; }
+    int failuresOfBatch() const { return m_batch.failures; }
+    std::optional<Failure> lastFailure() const { return m_lastFailure; }
 
     const CatalogTable* table(QStringView name);
     Catalog catalog()
@@ -132,7 +152,6 @@ public:
     // What a person may take back.
     void keepChanges(const QString& table, const QString& labelColumn);
     UndoLog* undoLog() { return m_undo.get(); }
-    void endStatement(bool succeeded); ///< which could change rows; also of a batch, when it is committed
     void dropChanges(); ///< they were rolled back
     void beginUpkeep();
     void endUpkeep();
@@ -141,25 +160,37 @@ public:
 
     void report(
         QStringView statement, const QString& reason, Failure::Cause cause = Failure::Cause::Statement);
+    void reportRead(QStringView statement); ///< a selection that failed
     void reportLast(QStringView statement); ///< what the file engine says
     void setFailureHandler(FailureHandler handler) { m_failureHandler = std::move(handler); }
-    const FailureHandler& failureHandler() const { return m_failureHandler; }
+    void setWaitHandler(WaitHandler handler) { m_file.setWaitHandler(std::move(handler)); }
+    void takeHandlers(const Engine& other);
 
 private:
     std::shared_ptr<Plan> plan(const Lexed& lexed, Way way, QString* error);
     Prepared prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled);
-    bool connect(const QString& path, const char* mode);
+    struct OpenBatch {
+        int depth = 0;
+        int failures = 0;
+        bool isGone = false; ///< its transaction ended by itself or never began
+        Failure::Cause whyGone = Failure::Cause::Storage;
+    };
+    void letGo();
+    void takeUp();
     static std::optional<BoundTexts> stretchOf(const Request& request, Way way);
 
-    sqlite3* m_connection = nullptr;
+    FileConnection m_file;
+    OpenBatch m_batch;
     std::unique_ptr<TextSearch> m_search; ///< of an open file
     std::unique_ptr<UndoLog> m_undo; ///< of an open file whose changes are kept
+    QString m_keptTable;
+    QString m_keptLabel;
     int m_upkeeps = 0;
     std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true); ///< shared with the pools of statements
-    QString m_path;
-    bool m_readOnly = false;
     int m_generation = 0;
     FailureHandler m_failureHandler;
+    Failure m_lastReport;
+    std::optional<Failure> m_lastFailure;
     QString m_refusal; ///< why the last values were not bound; the file engine knows nothing of it
     std::unordered_map<QString, std::unique_ptr<CatalogTable>> m_tables; ///< by lower-case name
     std::unordered_map<QString, std::shared_ptr<Prepared::Pool>> m_kept; ///< by text

@@ -38,7 +38,7 @@ bool RecordsetData::load()
         done = readRows(m_engine->prepareMain(m_request, m_way));
     }
     if (!done)
-        m_engine->reportLast(m_text);
+        m_engine->reportRead(m_text);
     return done;
 }
 
@@ -207,6 +207,13 @@ bool RecordsetData::set(QStringView columnName, const QVariant& value)
 
 bool RecordsetData::update()
 {
+    const bool done = updateNow();
+    m_engine->endWrite(done);
+    return done;
+}
+
+bool RecordsetData::updateNow()
+{
     const Editing editing = std::exchange(m_editing, Editing::Nothing);
     const QString table = u'[' + m_request.plan->translation.table + u']';
     if (editing == Editing::NewRow) {
@@ -242,28 +249,33 @@ bool RecordsetData::update()
 
 bool RecordsetData::write(const QString& sql, std::optional<qint64> key)
 {
+    if (!m_engine->mayWrite(m_text))
+        return false;
     const Prepared statement = m_engine->prepareKept(sql);
-    if (statement) {
-        int place = 0;
-        for (const Change& change : m_changes)
-            bindStored(statement.get(), ++place, change.stored);
-        if (key)
-            sqlite3_bind_int64(statement.get(), ++place, *key);
-        const bool done = sqlite3_step(statement.get()) == SQLITE_DONE;
-        m_engine->endStatement(done);
-        if (done) {
-            // Somebody else may have removed the row; then nothing was stored.
-            if (sqlite3_changes(m_engine->connection()) > 0)
-                return true;
-            m_engine->report(m_text, u"the row is gone"_s);
-            return false;
-        }
+    int place = 0;
+    for (const Change& change : m_changes)
+        bindStored(statement.get(), ++place, change.stored);
+    if (key)
+        sqlite3_bind_int64(statement.get(), ++place, *key);
+    if (!statement || m_engine->stepWrite(statement.get()) != SQLITE_DONE) {
+        m_engine->reportLast(m_text);
+        return false;
     }
-    m_engine->reportLast(m_text);
+    // Somebody else may have removed the row; then nothing was stored.
+    if (sqlite3_changes(m_engine->connection()) > 0)
+        return true;
+    m_engine->report(m_text, u"the row is gone"_s);
     return false;
 }
 
 bool RecordsetData::removeCurrent()
+{
+    const bool done = removeNow();
+    m_engine->endWrite(done);
+    return done;
+}
+
+bool RecordsetData::removeNow()
 {
     if (!m_isKeyset || position < 0 || position >= count()) {
         m_engine->report(m_text, u"no row to delete"_s);

@@ -52,6 +52,8 @@ private:
 
     bool readRows(const Prepared& statement);
     Place look(int row); ///< where the cells of a row are, fetching it when only its key is held
+    bool updateNow();
+    bool removeNow();
     bool write(const QString& sql, std::optional<qint64> key);
     void forgetHeldRows();
 

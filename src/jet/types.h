@@ -17,8 +17,15 @@ enum class ColumnType { Unknown, Text, Memo, Number, YesNo, Date, AutoNumber };
 struct Failure {
     enum class Cause {
         Statement, ///< broken text, unknown name, a value of the wrong type
-        Storage, ///< full disk, read-only file, damaged file: the person should hear of it
+        // Of these the person should hear.
+        DiskFull,
+        ReadOnly, ///< the file or its folder may not be written
+        Damaged, ///< the file is no sound database
+        Locked, ///< another program keeps the file to itself
+        Storage, ///< any other trouble with the file
     };
+    bool isOfStorage() const { return cause != Cause::Statement; }
+
     Cause cause = Cause::Statement;
     QString statement; ///< the text as the caller wrote it
     QString reason;
@@ -33,5 +40,8 @@ struct ChangeStep {
 };
 
 using FailureHandler = std::function<void(const Failure&)>;
+/// Called about every 50 milliseconds while a write waits for another program; false gives up. It may paint
+/// and read, and must not close the database.
+using WaitHandler = std::function<bool()>;
 
 } // namespace jet

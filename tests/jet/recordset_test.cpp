@@ -365,7 +365,7 @@ private Q_SLOTS:
     void batchKeepsWhatSucceeded()
     {
         {
-            jet::Batch batch(m_book->data());
+            jet::Batch batch(m_book->data(), jet::Batch::Mode::KeepWhatSucceeds);
             for (const QString& value : {u"1"_s, u"'two'"_s, u"3"_s}) {
                 m_book->data().execute(u"insert into wma_handycontacts (cntid) values ("_s + value + u')');
                 m_book->data().execute(u"update cnt_phcall set nextcall='soon' where id="_s + value);
@@ -377,11 +377,34 @@ private Q_SLOTS:
             (QStringList{u"1"_s, u"1"_s, u"3"_s, u"11"_s}));
     }
 
+    // One failed write of any sort takes the others with it, a broken selection does not.
+    void batchOfAllOrNothing()
+    {
+        jet::Database& data = m_book->data();
+        for (const bool isUpdate : {true, false}) {
+            jet::Batch batch(data);
+            QVERIFY(data.execute(u"delete * from cnt_phcall"));
+            jet::Recordset gone = open(u"select * from cnt_main where id=999"_s);
+            gone.edit();
+            m_book->expectFailure(isUpdate ? u"id=999"_s : u"'it's'"_s);
+            QVERIFY(isUpdate ? !gone.update() : !data.execute(u"update cnt_main set name='it's'"));
+            QVERIFY(data.execute(u"delete * from cnt_user"));
+            QVERIFY(!batch.commit());
+            QCOMPARE(data.lastFailure()->cause, jet::Failure::Cause::Statement);
+        }
+        QCOMPARE(m_book->firstText(u"select count(*) from cnt_phcall"_s), u"3"_s);
+        QCOMPARE(m_book->firstText(u"select count(*) from cnt_user"_s), u"1"_s);
+        jet::Batch batch(data);
+        m_book->expectFailure(u"'it's'"_s);
+        QVERIFY(!open(u"select * from cnt_main where name='it's'"_s).isValid());
+        QVERIFY(data.execute(u"delete * from cnt_user") && batch.commit() && !data.lastFailure());
+    }
+
     // One statement over many rows that fails in the middle has changed none of
     // them.
     void statementThatFailsInTheMiddle()
     {
-        jet::Batch batch(m_book->data());
+        jet::Batch batch(m_book->data(), jet::Batch::Mode::KeepWhatSucceeds);
         QVERIFY(m_book->data().execute(u"update cnt_main set hobbies='Chess'").changed == 12);
         m_book->expectFailure(u"m_bd=name"_s);
         QVERIFY(!m_book->data().execute(u"update cnt_main set hobbies='Go', m_bd=name").ok);
@@ -394,6 +417,7 @@ private Q_SLOTS:
     void batchRollsBackAndNests()
     {
         jet::Database& data = m_book->data();
+        const auto users = [this] { return m_book->firstText(u"select count(*) from cnt_user"_s); };
         {
             jet::Batch outer(data);
             data.execute(u"delete * from cnt_main");
@@ -401,14 +425,27 @@ private Q_SLOTS:
             {
                 jet::Batch inner(data);
                 data.execute(u"delete * from cnt_user");
-                inner.rollBack(); // a part of the outer one: that decides
+                QVERIFY(inner.commit());
             }
-            QCOMPARE(m_book->firstText(u"select count(*) from cnt_user"_s), u"0"_s);
+            QCOMPARE(users(), u"0"_s);
             QCOMPARE(m_book->firstText(u"select count(*) from copied"_s), u"1"_s);
             outer.rollBack();
         }
         QCOMPARE(m_book->firstText(u"select count(*) from cnt_main"_s), u"12"_s);
-        QCOMPARE(m_book->firstText(u"select count(*) from cnt_user"_s), u"1"_s);
+        QCOMPARE(users(), u"1"_s);
+        for (const auto mode : {jet::Batch::Mode::AllOrNothing, jet::Batch::Mode::KeepWhatSucceeds}) {
+            jet::Batch outer(data, mode);
+            data.execute(u"delete * from cnt_phcall");
+            {
+                jet::Batch inner(data);
+                data.execute(u"delete * from cnt_user");
+                inner.rollBack();
+            }
+            QCOMPARE(users(), u"1"_s);
+            QCOMPARE(outer.commit(), mode == jet::Batch::Mode::KeepWhatSucceeds);
+            QCOMPARE(m_book->firstText(u"select count(*) from cnt_phcall"_s),
+                mode == jet::Batch::Mode::KeepWhatSucceeds ? u"0"_s : u"3"_s);
+        }
         // The table that was made inside is gone, and can be made again.
         QVERIFY(data.execute(u"select * into copied from cnt_user").ok);
         QVERIFY(data.execute(u"drop table copied").ok);

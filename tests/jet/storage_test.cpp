@@ -15,6 +15,7 @@
 using namespace Qt::StringLiterals;
 using support::TestBook;
 using OpenResult = jet::Database::OpenResult;
+using Cause = jet::Failure::Cause;
 
 namespace {
 
@@ -118,9 +119,8 @@ int fillUp(const QString& path)
         return 1;
     int storageFaults = 0;
     int otherFaults = 0;
-    data.setFailureHandler([&](const jet::Failure& failure) {
-        ++(failure.cause == jet::Failure::Cause::Storage ? storageFaults : otherFaults);
-    });
+    data.setFailureHandler(
+        [&](const jet::Failure& failure) { ++(failure.isOfStorage() ? storageFaults : otherFaults); });
     rlimit limit{};
     ::getrlimit(RLIMIT_FSIZE, &limit);
     limit.rlim_cur = 600'000;
@@ -196,21 +196,43 @@ private Q_SLOTS:
         while (saved < 5'000 && save(data, QString::number(saved)).ok)
             ++saved;
         QVERIFY(saved > 20 && saved < 5'000);
-        QCOMPARE(m_causes, QList<jet::Failure::Cause>{jet::Failure::Cause::Storage});
+        QCOMPARE(m_causes, QList<Cause>{Cause::DiskFull});
+        QCOMPARE(data.lastFailure()->cause, Cause::DiskFull);
         jet::Recordset rows = data.openRecordset(u"select * from cnt_main order by id");
         QCOMPARE(rows.count(), saved);
         rows.addNew();
         rows.set(u"note", QString(100'000, u'x'));
         QVERIFY(!rows.update());
         QCOMPARE(rows.count(), saved);
-        {
-            jet::Batch batch(data);
-            save(data, u"in a batch"_s, 300'000);
-            batch.commit();
+        // What belongs to a write for which there was no room must not be stored alone.
+        for (const auto mode : {jet::Batch::Mode::KeepWhatSucceeds, jet::Batch::Mode::AllOrNothing}) {
+            jet::Batch batch(data, mode);
+            jet::Recordset large = data.openRecordset(u"select * from cnt_main where 1>2");
+            large.addNew();
+            large.set(u"note", QString(9'000'000, u'n'));
+            QVERIFY(!large.update());
+            QVERIFY(!data.execute(u"update cnt_main set category1='x' where id=1"));
+            QVERIFY(!batch.commit());
         }
+        QCOMPARE(data.openRecordset(u"select category1 from cnt_main where id=1").textAt(0), QString());
         for (const auto cause : m_causes)
-            QCOMPARE(cause, jet::Failure::Cause::Storage);
+            QCOMPARE(cause, Cause::DiskFull);
+        {
+            jet::Database second;
+            data.close();
+            QCOMPARE(second.open(path), OpenResult::Opened);
+            QCOMPARE(second.openRecordset(u"select id from cnt_main").count(), saved);
+            QVERIFY(!save(second, u"x"_s, 50'000));
+            QCOMPARE(second.lastFailure()->cause, Cause::DiskFull);
+            QVERIFY(
+                ::mount("tmpfs", m_folder->path().toUtf8().constData(), "tmpfs", MS_REMOUNT, "size=2m") == 0);
+            QVERIFY(save(second, u"x"_s, 50'000));
+            QVERIFY(!second.lastFailure() && !second.isReadOnly());
+            QVERIFY(second.execute(u"delete * from cnt_main where name='x'"));
+        }
+        QCOMPARE(data.open(path), OpenResult::Opened);
         QCOMPARE(data.openRecordset(u"select id from cnt_main").count(), saved);
+        while (save(data, u"more"_s, 50'000)) { }
         QVERIFY(!data.backUpTo(at(u"copy"_s)));
         QVERIFY(!QFile::exists(at(u"copy"_s)) && !QFile::exists(at(u"copy.part"_s)));
         // With room again all goes on, after a new start as well.
@@ -219,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(data.checkSoundness(), QString());
         data.close();
         QCOMPARE(data.open(path), OpenResult::Opened);
-        QCOMPARE(data.openRecordset(u"select id from cnt_main").count(), saved + 1);
+        QCOMPARE(data.openRecordset(u"select id from cnt_main where name<>'more'").count(), saved + 1);
     }
 
     void fileThatMayNotGrow()
@@ -268,13 +290,15 @@ private Q_SLOTS:
         QVERIFY(!rows.removeCurrent());
         QVERIFY(!data.execute(u"select * into copied from cnt_main").ok);
         QVERIFY(!data.backUpTo(at(u"copy"_s)));
-        QCOMPARE(m_causes, QList<jet::Failure::Cause>(5, jet::Failure::Cause::Storage));
+        QCOMPARE(m_causes, QList<Cause>(4, Cause::ReadOnly) << Cause::Storage);
         QVERIFY(!jet::Database::create(at(u"new"_s)));
-        data.close();
         QCOMPARE(contents(path), before);
         QVERIFY(disk.setWritable(true));
-        QCOMPARE(data.open(path, kind), OpenResult::Opened);
-        QVERIFY(!data.isReadOnly() && save(data, u"y"_s).ok);
+        // The next write finds it so, and rows that were selected before go on.
+        rows.edit();
+        QVERIFY(rows.set(u"name", u"y"_s) && rows.update());
+        QVERIFY(!data.isReadOnly() && save(data, u"z"_s).ok);
+        QCOMPARE(rows.textOrEmpty(u"name"), u"y"_s);
     }
 
     void openingWhatIsNoBook_data()
@@ -336,7 +360,7 @@ private Q_SLOTS:
         watch(data);
         QVERIFY(!data.checkSoundness().isEmpty());
         QVERIFY(!data.openRecordset(u"select distinct note from cnt_main").isValid());
-        QCOMPARE(m_causes, QList<jet::Failure::Cause>{jet::Failure::Cause::Storage});
+        QCOMPARE(m_causes, QList<Cause>{Cause::Damaged});
     }
 
     void foldersWithOddNames()
@@ -372,7 +396,7 @@ private Q_SLOTS:
         QVERIFY(data.backUpTo(at(u"copy"_s)));
         QVERIFY(save(data, u"Later"_s).ok);
         QVERIFY(!data.backUpTo(at(u"copy"_s)));
-        QCOMPARE(m_causes, QList<jet::Failure::Cause>{jet::Failure::Cause::Storage});
+        QCOMPARE(m_causes, QList<Cause>{Cause::Storage});
         QCOMPARE(QDir(m_folder->path()).entryList({u"copy*"_s}), QStringList{u"copy"_s});
         jet::Database copy;
         QCOMPARE(copy.open(at(u"copy"_s)), OpenResult::Opened);
@@ -425,6 +449,66 @@ private Q_SLOTS:
         }
     }
 
+    void waitsForAnotherProgram()
+    {
+        QVERIFY(makeBook(at(u"book"_s)));
+        jet::Database one;
+        jet::Database two;
+        QCOMPARE(one.open(at(u"book"_s)), OpenResult::Opened);
+        QCOMPARE(two.open(at(u"book"_s)), OpenResult::Opened);
+        watch(one);
+        auto theirs = std::make_unique<jet::Batch>(two);
+        int calls = 0;
+        int rowsSeen = -1;
+        one.setWaitHandler([&] {
+            rowsSeen = one.openRecordset(u"select id from cnt_main").count();
+            if (++calls == 3)
+                theirs.reset();
+            return calls < 10;
+        });
+        QVERIFY(save(one, u"waited"_s).ok);
+        QVERIFY(calls == 3 && rowsSeen == 0 && !one.lastFailure());
+        theirs = std::make_unique<jet::Batch>(two);
+        QVERIFY(!save(one, u"gave up"_s));
+        QCOMPARE(calls, 10);
+        QCOMPARE(m_causes, QList<Cause>{Cause::Locked});
+        {
+            jet::Batch mine(one);
+            QVERIFY(!save(one, u"not begun"_s));
+            theirs.reset();
+            QVERIFY(!save(one, u"nor that"_s) && !mine.commit());
+        }
+        QCOMPARE(one.lastFailure()->cause, Cause::Locked);
+        QCOMPARE(one.openRecordset(u"select name from cnt_main").count(), 1);
+        QVERIFY(save(one, u"free"_s) && !one.lastFailure());
+    }
+
+    void strangeFile()
+    {
+        const QString path = at(u"strange"_s);
+        QProcess maker;
+        maker.start(u"sqlite3"_s,
+            {path,
+                u"create table cnt_main(id integer primary key, name text, flag yesnoint);"
+                "create table log(name text); create view friends as select * from cnt_main;"
+                "insert into cnt_main values(1,'Ann',0);"
+                "create trigger spy after update on cnt_main begin insert into log values('x'); end;"_s});
+        if (!maker.waitForFinished() || maker.exitCode() != 0)
+            QSKIP("no sqlite3 to make a file that is not ours");
+        const QByteArray before = contents(path);
+        jet::Database data;
+        QCOMPARE(data.open(path), OpenResult::Opened);
+        QCOMPARE(data.openRecordset(u"select name from cnt_main").textAt(0), u"Ann"_s);
+        QVERIFY(!data.openRecordset(u"select * from friends").isValid());
+        QVERIFY(!data.tables().contains(u"friends"_s));
+        data.close();
+        QCOMPARE(contents(path), before);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"strange"_s});
+        QCOMPARE(data.open(path), OpenResult::Opened);
+        QVERIFY(data.execute(u"update cnt_main set flag=true"));
+        QVERIFY(data.openRecordset(u"select * from log").isEmpty());
+    }
+
     void twoConnectionsWriteInTurn()
     {
         QVERIFY(makeBook(at(u"book"_s)));
@@ -456,7 +540,7 @@ private:
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    QList<jet::Failure::Cause> m_causes;
+    QList<Cause> m_causes;
 };
 
 int main(int argc, char** argv)

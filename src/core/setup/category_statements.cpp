@@ -114,10 +114,7 @@ bool renameCategory(jet::Database& data, qint64 id, const Category& from, const 
     row.edit();
     row.set(u"category1", to.category);
     row.set(u"category2", to.subcategory);
-    if (!row.update()) {
-        batch.rollBack();
-        return false;
-    }
+    row.update();
     return batch.commit();
 }
 
@@ -125,10 +122,8 @@ bool deleteCategory(jet::Database& data, DeleteWay way, const Category& category
 {
     jet::Batch batch(data);
     for (const QString& sql : deleteStatements(way, category, target)) {
-        if (!data.execute(sql)) {
-            batch.rollBack();
-            return false;
-        }
+        if (!data.execute(sql))
+            break;
     }
     return batch.commit();
 }

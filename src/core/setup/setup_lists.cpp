@@ -116,14 +116,14 @@ bool renameWord(jet::Database& data, const WordList& list, const QString& from, 
 bool deleteWord(jet::Database& data, const WordList& list, const QString& word)
 {
     jet::Recordset rows = data.openRecordset(findSql(list, word));
-    const jet::Batch batch(data);
+    jet::Batch batch(data);
     int deleted = 0;
     // The list shows a word once, however many rows hold it.
     for (int row = rows.count() - 1; row >= 0; --row) {
         if (rows.moveTo(row) && rows.removeCurrent())
             ++deleted;
     }
-    return deleted > 0;
+    return batch.commit() && deleted > 0;
 }
 
 } // namespace setup

@@ -17,7 +17,7 @@ StorageNotice::StorageNotice(core::Context& context, QObject* parent)
 
 void StorageNotice::hear(const jet::Failure& failure)
 {
-    if (failure.cause != jet::Failure::Cause::Storage || !m_context.data.isOpen() || m_told)
+    if (!failure.isOfStorage() || !m_context.data.isOpen() || m_told)
         return;
     m_told = true;
     // Behind the save that is running, so that the box does not stop it half-way.

@@ -36,7 +36,7 @@ void normaliseBook(jet::Database& book)
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     {
         const jet::Upkeep upkeep(book);
-        jet::Batch together(book);
+        jet::Batch together(book, jet::Batch::Mode::KeepWhatSucceeds);
         for (const QString& statement : normalisingStatements())
             book.execute(statement);
     }

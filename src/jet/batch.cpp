@@ -1,0 +1,49 @@
+#include "jet/engine.h"
+
+namespace jet {
+
+Batch::Batch(Database& database, Mode mode)
+    : m_engine(database.m_engine)
+    , m_mode(mode)
+    , m_isRunning(m_engine->isOpen())
+{
+    if (!m_isRunning)
+        return;
+    m_failuresBefore = m_engine->isInBatch() ? m_engine->failuresOfBatch() : 0;
+    m_engine->beginBatch();
+}
+
+Batch::~Batch()
+{
+    commit();
+}
+
+bool Batch::commit()
+{
+    return end(m_mode == Mode::KeepWhatSucceeds || m_engine->failuresOfBatch() == m_failuresBefore);
+}
+
+void Batch::rollBack()
+{
+    end(false);
+}
+
+bool Batch::end(bool keep)
+{
+    if (std::exchange(m_isRunning, false))
+        m_isCommitted = m_engine->endBatch(keep);
+    return m_isCommitted;
+}
+
+Upkeep::Upkeep(Database& database)
+    : m_engine(database.m_engine)
+{
+    m_engine->beginUpkeep();
+}
+
+Upkeep::~Upkeep()
+{
+    m_engine->endUpkeep();
+}
+
+} // namespace jet
