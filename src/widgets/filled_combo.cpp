@@ -1,13 +1,13 @@
 #include "widgets/filled_combo.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
+#include "widgets/line_guard.h"
+#include "widgets/suggestion_list.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
 #include <QStringListModel>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -45,13 +45,13 @@ FilledCombo::FilledCombo(QWidget* parent, Typing typing)
     setDuplicatesEnabled(true); // else Enter respells the typed text as the list has it
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr); // and so does leaving the field
     connect(lineEdit(), &QLineEdit::editingFinished, this, &FilledCombo::followTypedText);
-    // Behind the key, when the list of suggestions has come up.
-    connect(lineEdit(), &QLineEdit::textEdited, this,
-        [this] { QTimer::singleShot(0, this, &FilledCombo::dropFulfilledSuggestions); });
-    completer()->setCompletionMode(QCompleter::PopupCompletion);
-    completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    completer()->setMaxVisibleItems(VisibleRows);
+    setCompleter(nullptr); // its list would take the next click and the next keys
+    m_suggestions = new SuggestionList(lineEdit(), model());
+    connect(lineEdit(), &QLineEdit::textEdited, this, &FilledCombo::suggest);
+    connect(m_suggestions, &SuggestionList::picked, this, &FilledCombo::pick);
+    connect(m_suggestions, &SuggestionList::passedOver, this, &FilledCombo::followTypedText);
     lineEdit()->installEventFilter(this);
+    guardLine(lineEdit());
 }
 
 void FilledCombo::setSource(std::function<QStringList()> source)
@@ -93,14 +93,34 @@ void FilledCombo::setText(const QString& text)
     }
 }
 
+QStringList FilledCombo::suggestions() const
+{
+    return m_suggestions ? m_suggestions->suggestions() : QStringList();
+}
+
 void FilledCombo::showPopup()
 {
+    if (m_suggestions)
+        m_suggestions->hide();
     ensureFilled();
     QComboBox::showPopup();
 }
 
+// A key of the list of suggestions is no shortcut of the screen meanwhile.
+bool FilledCombo::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_suggestions
+        && m_suggestions->isForList(static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::event(event);
+}
+
 void FilledCombo::keyPressEvent(QKeyEvent* event)
 {
+    if (m_suggestions && m_suggestions->isForList(event))
+        return m_suggestions->take(event);
     if (!event->text().isEmpty() || event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
         ensureFilled();
     QComboBox::keyPressEvent(event);
@@ -125,9 +145,14 @@ void FilledCombo::wheelEvent(QWheelEvent* event)
 bool FilledCombo::eventFilter(QObject* watched, QEvent* event)
 {
     // A key sent to the line itself does not pass through keyPressEvent() here.
-    if (watched == lineEdit() && event->type() == QEvent::KeyPress
-        && !static_cast<QKeyEvent*>(event)->text().isEmpty()) {
-        ensureFilled();
+    if (watched == lineEdit() && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (m_suggestions->isForList(key)) {
+            m_suggestions->take(key);
+            return true;
+        }
+        if (!key->text().isEmpty())
+            ensureFilled();
     }
     return QComboBox::eventFilter(watched, event);
 }
@@ -157,8 +182,7 @@ void FilledCombo::showValues(const QStringList& values)
     const int selectedFrom = lineEdit()->selectionStart();
     const auto selected = static_cast<int>(lineEdit()->selectedText().size());
     texts->setStringList(values);
-    completer()->setModelSorting(
-        isSorted(values) ? QCompleter::CaseInsensitivelySortedModel : QCompleter::UnsortedModel);
+    m_suggestions->setSorted(isSorted(values));
     setCurrentIndex(static_cast<int>(values.indexOf(typed)));
     lineEdit()->setText(typed);
     if (selected > 0)
@@ -167,12 +191,18 @@ void FilledCombo::showValues(const QStringList& values)
         lineEdit()->setCursorPosition(cursor);
 }
 
-// A value that was typed in full needs no suggestion, and the next click should reach what it is meant for.
-void FilledCombo::dropFulfilledSuggestions()
+void FilledCombo::suggest(const QString& typed)
 {
-    QAbstractItemView* suggestions = completer() ? completer()->popup() : nullptr;
-    if (suggestions && suggestions->isVisible() && findText(currentText(), Qt::MatchFixedString) >= 0)
-        suggestions->hide();
+    ensureFilled(); // a paste by the mouse comes without a key
+    m_suggestions->suggestFor(typed);
+}
+
+void FilledCombo::pick(int row)
+{
+    setCurrentIndex(row);
+    lineEdit()->setText(itemText(row)); // as the list has it, also when the row was current before
+    Q_EMIT activated(row);
+    Q_EMIT textActivated(itemText(row));
 }
 
 void FilledCombo::followTypedText()

@@ -2,6 +2,7 @@
 
 #include "widgets/date_box.h"
 #include "widgets/filled_combo.h"
+#include "widgets/line_guard.h"
 #include "widgets/theme.h"
 
 #include <QButtonGroup>
@@ -91,6 +92,7 @@ FormKit& FormKit::group(const QString& title)
     m_grid->setVerticalSpacing(BetweenFields);
     m_grid->setColumnStretch(1, 1);
     m_column->insertWidget(m_column->count() - 1, m_group);
+    m_lastLine = nullptr;
     m_buttons = nullptr;
     m_row = nullptr;
     m_rows = 0;
@@ -135,7 +137,13 @@ FormKit& FormKit::line(const QString& name, const QString& label, const QString&
     auto* edit = new QLineEdit(m_page);
     edit->setMaxLength(sizeOf(column));
     setKeyFilter(edit, filter);
-    return widget(name, label, edit, column);
+    guardLine(edit);
+    QLineEdit* above = label.isEmpty() && m_beside == 0 ? m_lastLine : nullptr;
+    widget(name, label, edit, column);
+    if (above)
+        continueIn(above, edit);
+    m_lastLine = edit;
+    return *this;
 }
 
 FormKit& FormKit::combo(const QString& name, const QString& label, const QString& column, KeyFilter filter)
@@ -347,6 +355,7 @@ void FormKit::keep(const QString& name, QWidget* control, const QString& column)
             QWidget::setTabOrder(m_lastFocus, control);
         m_lastFocus = control;
     }
+    m_lastLine = nullptr;
     m_controls += Control{name, column, control};
 }
 

@@ -12,6 +12,7 @@ class QButtonGroup;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QVBoxLayout;
 class QWidget;
 
@@ -28,8 +29,8 @@ struct Control {
 ///
 /// A call says the control's name, its label (with & for the mnemonic) and its column; the kit sets object
 /// name, buddy, accessible name, tool tip, tab order, length and place. An empty label carries on under the
-/// control above and takes its accessible name. The kit itself is done with when the layout is: the page owns
-/// all it made.
+/// control above and takes its accessible name: of two lines, a pasted address fills both. The kit itself is
+/// done with when the layout is: the page owns all it made.
 class FormKit {
 public:
     using SizeOf = std::function<int(QStringView column)>; ///< how many characters a column takes
@@ -101,6 +102,7 @@ private:
     Flow m_flow = Flow::None;
     QButtonGroup* m_choice = nullptr; ///< of the radio buttons that are being added
     QString m_lastLabel;
+    QLineEdit* m_lastLine = nullptr; ///< when the control before is one
     QWidget* m_lastFocus = nullptr;
     QList<Control> m_controls;
 };

@@ -41,8 +41,6 @@ public:
         QWidget* line = combo ? combo->lineEdit() : field;
         QMetaObject::invokeMethod(line, "selectAll");
         QTest::keyClicks(line, typed);
-        if (combo)
-            combo->completer()->popup()->hide();
         QTest::keyClick(line, Qt::Key_Tab);
     }
     void showPageOf(const QString& name)

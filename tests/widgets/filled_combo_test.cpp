@@ -1,4 +1,7 @@
+#include "widgets/fields.h"
 #include "widgets/filled_combo.h"
+#include "widgets/form_kit.h"
+#include "widgets/suggestion_list.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -17,6 +20,9 @@ private Q_SLOTS:
     void listOnlyFindsTheTextItIsGiven();
     void wheelNeedsFocus();
     void tenThousandValues();
+    void listLetsGo_data();
+    void listLetsGo();
+    void keysOfTheList();
 };
 
 namespace {
@@ -34,6 +40,13 @@ struct Source {
         };
     }
 };
+
+/// Keys that go to whatever has the focus, as those of a keyboard do.
+void typeInto(QWindow* window, const QString& text)
+{
+    for (const QChar letter : text)
+        QTest::keyClick(window, letter.toLatin1());
+}
 
 } // namespace
 
@@ -71,8 +84,7 @@ void FilledComboTest::readsForTheFirstKey()
     QTest::keyClicks(combo.lineEdit(), u"hy"_s);
     QCOMPARE(source.reads, 1);
     QCOMPARE(combo.currentText(), u"hy"_s);
-    QCOMPARE(combo.completer()->completionCount(), 1);
-    QCOMPARE(combo.completer()->currentCompletion(), u"Hyderabad"_s);
+    QCOMPARE(combo.suggestions(), QStringList{u"Hyderabad"_s});
 }
 
 void FilledComboTest::refillKeepsWhatIsTyped()
@@ -155,10 +167,97 @@ void FilledComboTest::tenThousandValues()
     QElapsedTimer timer;
     timer.start();
     QTest::keyClicks(&combo, u"city 099"_s);
-    QCOMPARE(combo.completer()->completionCount(), 100);
+    QCOMPARE(combo.suggestions().size(), 100);
     combo.showPopup();
     QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(combo.view()->height() < 20 * combo.fontMetrics().height() + 100);
+}
+
+void FilledComboTest::listLetsGo_data()
+{
+    QTest::addColumn<QString>("to"); // the label of what comes next
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("last"); // what the texts are then
+    QTest::addColumn<int>("saves");
+    QTest::newRow("click into a field") << u"Company"_s << false << u"Acme"_s << u"Acme"_s << 0;
+    QTest::newRow("mnemonic of a field") << u"Company"_s << true << u"98765"_s << u"98765"_s << 0;
+    QTest::newRow("click on Save") << u"Save"_s << false << QString() << QString() << 1;
+    QTest::newRow("mnemonic of Save") << u"Save"_s << true << QString() << QString() << 1;
+}
+
+void FilledComboTest::listLetsGo()
+{
+    QFETCH(QString, to);
+    QFETCH(bool, byKey);
+    QWidget form;
+    FormKit kit(&form);
+    kit.group()
+        .combo(u"First"_s, u"&First"_s)
+        .line(u"Company"_s, u"&Company"_s)
+        .button(u"Save"_s, u"&Save"_s);
+    auto* first = child<FilledCombo>(&form, u"First"_s);
+    first->setValues({u"Asha"_s, u"Ashley"_s});
+    int saved = 0;
+    QString savedName;
+    connect(child<QPushButton>(&form, u"Save"_s), &QPushButton::clicked, this, [&] {
+        ++saved;
+        savedName = first->currentText();
+    });
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    first->setFocus();
+    typeInto(form.windowHandle(), u"As"_s);
+    QCOMPARE(first->suggestions().size(), 2);
+    auto* list = first->findChild<SuggestionList*>();
+    QTRY_VERIFY(list->isVisible());
+    QTest::keyClick(form.windowHandle(), Qt::Key_Down);
+    QCOMPARE(first->currentText(), u"Asha"_s);
+
+    auto* next = child<QWidget>(&form, to);
+    if (byKey)
+        QTest::keyClick(form.windowHandle(), Qt::Key(to[0].unicode()), Qt::AltModifier);
+    else
+        QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, next->mapTo(&form, next->rect().center()));
+    QVERIFY(!list->isVisible());
+    QFETCH(QString, typed);
+    typeInto(form.windowHandle(), typed);
+    QCOMPARE(first->currentText(), u"Asha"_s);
+    QTEST(child<QLineEdit>(&form, u"Company"_s)->text(), "last");
+    QFETCH(int, saves);
+    QTRY_COMPARE(saved, saves); // a button that is pressed by a key comes up again first
+    QCOMPARE(savedName, saves ? u"Asha"_s : QString());
+}
+
+void FilledComboTest::keysOfTheList()
+{
+    QDialog form;
+    auto* combo = new FilledCombo(&form);
+    combo->setValues({u"Asha"_s, u"Ashley"_s, u"Meera"_s});
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    combo->setFocus();
+    QWindow* window = form.windowHandle();
+    QSignalSpy picked(combo, &QComboBox::activated);
+    auto* list = combo->findChild<SuggestionList*>();
+
+    typeInto(window, u"as"_s);
+    QTest::keyClick(window, Qt::Key_Up); // the last one
+    QCOMPARE(combo->currentText(), u"Ashley"_s);
+    QTest::keyClick(window, Qt::Key_Escape); // the list, not the dialog, and the text is the typed one
+    QVERIFY(!list->isVisible());
+    QVERIFY(form.isVisible());
+    QCOMPARE(combo->currentText(), u"as"_s);
+
+    typeInto(window, u"h"_s);
+    QTest::mouseClick(
+        list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
+    QCOMPARE(combo->currentText(), u"Ashley"_s);
+    QCOMPARE(picked.size(), 1);
+    QVERIFY(!list->isVisible());
+    QVERIFY(combo->hasFocus());
 }
 
 QTEST_MAIN(FilledComboTest)

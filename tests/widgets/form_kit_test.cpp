@@ -16,6 +16,9 @@ private Q_SLOTS:
     void tabWalksInTheOrderOfTheCalls();
     void everyInputIsLabelled();
     void lengthsComeFromTheColumns();
+    void severalLinesIntoOne_data();
+    void severalLinesIntoOne();
+    void surplusIsRefusedAloud();
     void radiosOfTwoRunsAreTwoChoices();
     void gridTakesTheRoomThatIsLeft();
     void textsSurviveTheFields_data();
@@ -99,6 +102,63 @@ void FormKitTest::lengthsComeFromTheColumns()
     auto* city = child<QComboBox>(&page, u"dtcmbcity"_s);
     QTest::keyClicks(city, QString(50, u'x'));
     QCOMPARE(city->currentText().size(), 40);
+}
+
+void FormKitTest::severalLinesIntoOne_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("second"); // what the second line of the address holds before
+    QTest::addColumn<QStringList>("texts"); // of the field and of the second line
+    const QString all = u"12 Hill Road Bandra Mumbai"_s;
+    QTest::newRow("address") << u"txtadd1"_s << QString()
+                             << QStringList{u"12 Hill Road"_s, u"Bandra Mumbai"_s};
+    QTest::newRow("nothing is written over") << u"txtadd1"_s << u"Flat 3"_s << QStringList{all, u"Flat 3"_s};
+    QTest::newRow("last line of it") << u"txtadd2"_s << QString() << QStringList{all, all};
+    QTest::newRow("combo") << u"dtcmbcity"_s << QString() << QStringList{all, QString()};
+}
+
+void FormKitTest::severalLinesIntoOne()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, second);
+    QWidget page;
+    addressForm(&page, new QLineEdit(&page));
+    setTextOf(child<QWidget>(&page, u"txtadd2"_s), second);
+    page.show();
+    page.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&page));
+    child<QWidget>(&page, field)->setFocus();
+    QApplication::clipboard()->setText(u"12 Hill Road\r\n  Bandra\n\nMumbai\n"_s);
+    QTest::keySequence(page.windowHandle(), QKeySequence::Paste);
+    const QStringList texts{
+        textOf(child<QWidget>(&page, field)), textOf(child<QWidget>(&page, u"txtadd2"_s))};
+    QTEST(texts, "texts");
+
+    auto* line = page.focusWidget()->findChild<QLineEdit*>();
+    line = line ? line : qobject_cast<QLineEdit*>(page.focusWidget());
+    line->clear();
+    QContextMenuEvent ask(QContextMenuEvent::Mouse, {5, 5}, line->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(line, &ask);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    for (QAction* action : menu->actions()) {
+        if (action->text().startsWith(u"&Paste"_s))
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    }
+    QVERIFY2(!line->text().contains(u'\n') && line->text().startsWith(u"12 Hill"), qPrintable(line->text()));
+}
+
+void FormKitTest::surplusIsRefusedAloud()
+{
+    QWidget page;
+    addressForm(&page, new QLineEdit(&page));
+    page.show();
+    auto* code = child<QLineEdit>(&page, u"txtstd"_s);
+    QTest::keyClicks(code, u"012345"_s);
+    QVERIFY(!page.findChild<QLabel*>(u"CToolTip"_s));
+    QTest::keyClicks(code, u"6"_s);
+    const auto* told = page.findChild<QLabel*>(u"CToolTip"_s);
+    QVERIFY(told && told->text().contains(u"6 characters"_s));
 }
 
 void FormKitTest::radiosOfTwoRunsAreTwoChoices()
