@@ -19,6 +19,7 @@
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
 #include "views/register_views.h"
+#include "widgets/date_box.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
@@ -84,6 +85,7 @@ int main(int argc, char** argv)
     platform::WindowHelpViewer help(drive, desktop);
     platform::VdirContacts mailContacts(QDir(folder).filePath(u"MailContacts"_s));
     platform::SystemClock clock;
+    widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
     jet::Database info;

@@ -1,13 +1,17 @@
 #include "widgets/date_box.h"
 
 #include "widgets/theme.h"
+#include "widgets/tool_tip_box.h"
 
 #include <QAction>
 #include <QCalendarWidget>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QPainter>
 #include <QScreen>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,6 +26,7 @@ namespace {
 constexpr std::array<QStringView, 12> Months{u"january", u"february", u"march", u"april", u"may", u"june",
     u"july", u"august", u"september", u"october", u"november", u"december"};
 constexpr int ShortestMonth = 3;
+constexpr int FirstYear = 100; ///< what is stored of an earlier one reads as a year of two digits
 
 /// The number of an English month, written out or cut after its third letter or later; 0 when it is none.
 int monthOf(QStringView word)
@@ -60,21 +65,29 @@ QStringList pieces(QStringView text)
 
 std::optional<int> yearOf(const QString& digits)
 {
-    if (digits.size() == 4)
-        return digits.toInt();
+    const int year = digits.toInt();
+    if (digits.size() == 4 && year >= FirstYear)
+        return year;
     if (digits.size() != 2)
         return {};
-    const int year = digits.toInt();
     return year < 30 ? 2000 + year : 1900 + year;
 }
 
-std::optional<QDate> dateOf(const QString& year, int month, const QString& day)
+std::optional<QDate> dateOf(const QString& year, int month, const QString& day, QDate latest)
 {
     const auto fullYear = yearOf(year);
     if (!fullYear || day.size() > 2)
         return {};
-    const QDate date(*fullYear, month, day.toInt());
+    QDate date(*fullYear, month, day.toInt());
+    if (year.size() == 2 && latest.isValid() && date > latest)
+        date = QDate(*fullYear - 100, month, day.toInt());
     return date.isValid() ? std::optional(date) : std::nullopt;
+}
+
+std::function<QDate()>& todaysDate()
+{
+    static std::function<QDate()> today = &QDate::currentDate;
+    return today;
 }
 
 } // namespace
@@ -87,7 +100,7 @@ QString formatDate(QDate date, QStringView pattern)
     return QLocale::c().toString(date, pattern.toString().replace(u'm', u'M'));
 }
 
-std::optional<QDate> readDate(QStringView text, DateOrder order)
+std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest)
 {
     const QStringList parts = pieces(text);
     if (parts.size() != 3)
@@ -101,18 +114,19 @@ std::optional<QDate> readDate(QStringView text, DateOrder order)
         const QString& second = parts[i == 2 ? 1 : 2];
         if (month == 0 || first.front().isLetter() || second.front().isLetter())
             return {};
-        return first.size() == 4 ? dateOf(first, month, second) : dateOf(second, month, first);
+        return first.size() == 4 ? dateOf(first, month, second, latest)
+                                 : dateOf(second, month, first, latest);
     }
 
     if (parts[0].size() == 4)
-        return dateOf(parts[0], parts[1].toInt(), parts[2]);
+        return dateOf(parts[0], parts[1].toInt(), parts[2], latest);
     if (parts[0].size() > 2 || parts[1].size() > 2)
         return {};
     QString day = parts[order == DateOrder::DayFirst ? 0 : 1];
     QString month = parts[order == DateOrder::DayFirst ? 1 : 0];
     if (month.toInt() > 12)
         std::swap(day, month);
-    return dateOf(parts[2], month.toInt(), day);
+    return dateOf(parts[2], month.toInt(), day, latest);
 }
 
 DateBox::DateBox(QWidget* parent)
@@ -146,7 +160,7 @@ std::optional<QDate> DateBox::date() const
 {
     if (m_exact && text() == formatDate(*m_exact, m_format))
         return m_exact;
-    return readDate(text(), order());
+    return readDate(text(), order(), todaysDate()());
 }
 
 void DateBox::setDate(const std::optional<QDate>& date)
@@ -156,15 +170,47 @@ void DateBox::setDate(const std::optional<QDate>& date)
     setCursorPosition(0);
 }
 
-bool DateBox::isValidOrEmpty() const
+bool DateBox::holdsBadText() const
 {
-    return text().trimmed().isEmpty() || date();
+    return !text().trimmed().isEmpty() && !date();
+}
+
+DateBox* DateBox::firstBad(const QWidget* form)
+{
+    const auto boxes = form->findChildren<DateBox*>();
+    const auto bad
+        = std::find_if(boxes.cbegin(), boxes.cend(), [](const DateBox* box) { return box->holdsBadText(); });
+    return bad == boxes.cend() ? nullptr : *bad;
+}
+
+void DateBox::askToMend()
+{
+    for (QWidget* page = this; page->parentWidget(); page = page->parentWidget()) {
+        auto* pages = qobject_cast<QStackedWidget*>(page->parentWidget());
+        if (auto* tabs = pages ? qobject_cast<QTabWidget*>(pages->parentWidget()) : nullptr)
+            tabs->setCurrentWidget(page);
+        else if (pages)
+            pages->setCurrentWidget(page);
+    }
+    setFocus();
+    mark();
+    showHelpBeside(this, complaint());
+}
+
+void DateBox::setToday(std::function<QDate()> today)
+{
+    todaysDate() = std::move(today);
+}
+
+QString DateBox::complaint() const
+{
+    return tr("This is not a date. Write it like %1.").arg(formatDate(QDate(1990, 2, 1), m_format));
 }
 
 void DateBox::followText()
 {
     // While a person types, a date is not wrong, only unfinished.
-    if (!hasFocus() || isValidOrEmpty())
+    if (!hasFocus() || !holdsBadText())
         mark();
     const auto now = date();
     if (now == m_last)
@@ -182,16 +228,15 @@ void DateBox::tidy()
 
 void DateBox::mark()
 {
-    const bool wrong = !isValidOrEmpty();
+    const bool wrong = holdsBadText();
+    if (wrong && !m_wrong)
+        m_toolTip = toolTip();
     if (wrong != m_wrong) {
-        if (wrong) {
-            m_toolTip = toolTip();
-            setToolTip(
-                tr("This is not a date. Write it like %1.").arg(formatDate(QDate(1990, 2, 1), m_format)));
-        } else {
-            setToolTip(m_toolTip);
-        }
+        setToolTip(wrong ? complaint() : m_toolTip);
+        if (!wrong && isVisible())
+            showHelpBeside(this, {}); // what stands there is no longer so
         m_wrong = wrong;
+        update();
     }
     QPalette colours;
     if (wrong)
@@ -209,7 +254,7 @@ void DateBox::showCalendar()
     calendar->setObjectName(u"calendarOfDateBox"_s);
     calendar->setLocale(QLocale::c());
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setSelectedDate(date().value_or(QDate::currentDate()));
+    calendar->setSelectedDate(date().value_or(todaysDate()()));
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(2, 2, 2, 2);
     layout->addWidget(calendar);
@@ -241,6 +286,27 @@ void DateBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+void DateBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    mark();
+    const bool left
+        = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (left && holdsBadText() && isVisible())
+        showHelpBeside(this, complaint());
+}
+
+void DateBox::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (!m_wrong)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(warningColor(), 1.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), 3, 3);
 }
 
 void DateBox::changeEvent(QEvent* event)

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QLineEdit>
 
+#include <functional>
 #include <optional>
 
 namespace widgets {
@@ -13,14 +14,16 @@ QString formatDate(QDate date, QStringView pattern);
 
 /// A date as a person types it: with the month as a word in any place, as 1990-02-01, or as three numbers, of
 /// which the first is the day or the month (and the other when it is over 12). Two-digit years 00 to 29 are
-/// 20xx.
+/// 20xx, unless that is after `latest`; no year lies before 100.
 enum class DateOrder { DayFirst, MonthFirst };
-std::optional<QDate> readDate(QStringView text, DateOrder order);
+std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest = {});
 
 /// A date field that may be empty, with a calendar behind a button (or F4, or Alt+Down).
 ///
-/// What was typed is never lost: a text that is no date stays, in red, and counts as no date. A date is shown
-/// in the box's format when the field is left.
+/// What was typed is never lost: a text that is no date stays, marked in red, until it is mended; leaving the
+/// box says so beside it, and a form asks firstBad() before it saves. A date is shown in the box's format
+/// when the field is left. Two digits for a year mean one that has been, as these are birthdays and wedding
+/// days.
 class DateBox : public QLineEdit {
     Q_OBJECT
 
@@ -32,8 +35,16 @@ public:
 
     std::optional<QDate> date() const;
     void setDate(const std::optional<QDate>& date);
-    bool isValidOrEmpty() const;
+    bool holdsBadText() const; ///< neither a date nor nothing
     void showCalendar();
+
+    /// The first box of a form whose text is no date; none when there is nothing to mend.
+    static DateBox* firstBad(const QWidget* form);
+    /// Turns to the page of the box, takes the focus to it and says what is wrong beside it.
+    void askToMend();
+
+    /// Where the boxes have the day of today from, until told otherwise that of the computer.
+    static void setToday(std::function<QDate()> today);
 
 Q_SIGNALS:
     void dateChanged();
@@ -41,12 +52,15 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     DateOrder order() const;
     void followText();
     void tidy();
     void mark();
+    QString complaint() const;
 
     QString m_format;
     std::optional<QDate> m_exact; ///< what was set, as a two-digit year does not tell its century

@@ -2,6 +2,7 @@
 
 #include "widgets/date_box.h"
 #include "widgets/filled_combo.h"
+#include "widgets/long_text.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -20,7 +21,7 @@ namespace {
 /// Lines end in CR LF in all stored texts.
 QString storedLines(QString text)
 {
-    return text.replace(u'\n', u"\r\n"_s);
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\n', u"\r\n"_s);
 }
 
 /// Typing is bounded by the column, but a longer text that the book already holds must not be cut: it would
@@ -38,17 +39,17 @@ void makeRoomFor(QWidget* control, const QString& text)
 QString textOf(const QWidget* control)
 {
     if (const auto* line = qobject_cast<const QLineEdit*>(control))
-        return line->text();
+        return wholeText(line, line->text());
     if (const auto* combo = qobject_cast<const QComboBox*>(control))
         return combo->currentText();
     if (const auto* memo = qobject_cast<const QPlainTextEdit*>(control))
-        return storedLines(memo->toPlainText());
+        return storedLines(wholeText(memo, memo->toPlainText()));
     if (const auto* memo = qobject_cast<const QTextEdit*>(control))
         return storedLines(memo->toPlainText());
     if (const auto* label = qobject_cast<const QLabel*>(control))
-        return label->text();
+        return wholeText(label, label->text());
     if (const auto* button = qobject_cast<const QAbstractButton*>(control))
-        return button->text().replace(u"&&"_s, u"&"_s);
+        return wholeText(button, button->text().replace(u"&&"_s, u"&"_s));
     Q_ASSERT_X(false, "widgets::textOf", "a control without a text");
     return {};
 }
@@ -57,8 +58,7 @@ void setTextOf(QWidget* control, const QString& text)
 {
     makeRoomFor(control, text);
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
-        line->setText(text);
-        line->setCursorPosition(0);
+        showInLine(line, text);
     } else if (auto* filled = qobject_cast<FilledCombo*>(control)) {
         filled->setText(text);
     } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
@@ -67,13 +67,14 @@ void setTextOf(QWidget* control, const QString& text)
         else
             combo->setCurrentIndex(combo->findText(text));
     } else if (auto* plain = qobject_cast<QPlainTextEdit*>(control)) {
-        plain->setPlainText(text);
+        showInBox(plain, text);
     } else if (auto* memo = qobject_cast<QTextEdit*>(control)) {
         memo->setPlainText(text);
     } else if (auto* label = qobject_cast<QLabel*>(control)) {
-        label->setText(text);
+        label->setText(beginning(label, text));
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-        button->setText(QString(text).replace(u"&"_s, u"&&"_s)); // a name's "&" is no mnemonic
+        // A name's "&" is no mnemonic, and a long one must not widen the window.
+        button->setText(beginning(button, text).replace(u"&"_s, u"&&"_s));
     } else {
         Q_ASSERT_X(false, "widgets::setTextOf", "a control without a text");
     }

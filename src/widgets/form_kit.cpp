@@ -229,6 +229,7 @@ FormKit& FormKit::caption(const QString& name, const QString& text, const QStrin
     auto* value = new QLabel(text, m_page);
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
+    value->setMinimumWidth(1); // no text of a contact makes the window wider
     return widget(name, label, value);
 }
 
@@ -294,6 +295,8 @@ void FormKit::place(QWidget* control, const QString& label, Qt::Alignment labelA
     const int besideStretch = std::exchange(m_beside, 0);
     const bool beside = besideStretch > 0;
     auto* shown = label.isEmpty() ? nullptr : new QLabel(label, m_page);
+    if (shown)
+        shown->setTextFormat(Qt::PlainText);
     if (m_buttons) {
         if (shown)
             m_buttons->addWidget(shown);

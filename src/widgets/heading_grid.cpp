@@ -93,6 +93,10 @@ private:
         branch.rect = QRect(row.left() + BranchMargin, row.top(), BranchWidth, row.height());
         branch.state = QStyle::State_Enabled | QStyle::State_Children;
         branch.state.setFlag(QStyle::State_Open, !model->isFolded(group));
+        if (selected) {
+            for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+                branch.palette.setColor(role, option.palette.color(QPalette::HighlightedText));
+        }
         m_grid->style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, m_grid);
 
         QFont bold = option.font;

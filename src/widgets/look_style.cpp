@@ -1,5 +1,8 @@
 #include "widgets/look_style.h"
 
+#include "widgets/theme.h"
+
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -94,11 +97,122 @@ void drawFieldFrame(const QStyleOption& option, QPainter* painter)
     painter->drawRoundedRect(onPixels(option.rect), Radius, Radius);
 }
 
+void drawTabClose(const QStyleOption& option, QPainter* painter)
+{
+    if (isOn(option, QStyle::State_MouseOver) && isOn(option, QStyle::State_Enabled)) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(option.palette.color(QPalette::Mid));
+        painter->drawRoundedRect(onPixels(option.rect), Radius, Radius);
+    }
+    icon(u"close").paint(painter, option.rect);
+}
+
+struct StandardIcon {
+    QStyle::StandardPixmap standard;
+    QStringView name;
+};
+
+constexpr StandardIcon StandardIcons[] = {
+    {QStyle::SP_MessageBoxInformation, u"info"},
+    {QStyle::SP_MessageBoxWarning, u"warning"},
+    {QStyle::SP_MessageBoxCritical, u"error"},
+    {QStyle::SP_MessageBoxQuestion, u"question"},
+    {QStyle::SP_ArrowLeft, u"arrow-left"},
+    {QStyle::SP_ArrowRight, u"arrow-right"},
+    {QStyle::SP_ArrowUp, u"arrow-up"},
+    {QStyle::SP_ArrowDown, u"arrow-down"},
+    {QStyle::SP_ArrowBack, u"arrow-left"},
+    {QStyle::SP_ArrowForward, u"arrow-right"},
+    {QStyle::SP_TitleBarCloseButton, u"close"},
+    {QStyle::SP_DockWidgetCloseButton, u"close"},
+    {QStyle::SP_TitleBarNormalButton, u"window"},
+    {QStyle::SP_TitleBarMaxButton, u"window"},
+    {QStyle::SP_TabCloseButton, u"close"},
+    {QStyle::SP_LineEditClearButton, u"close"},
+    {QStyle::SP_ToolBarHorizontalExtensionButton, u"more"},
+    {QStyle::SP_ToolBarVerticalExtensionButton, u"arrow-down"},
+    {QStyle::SP_DirIcon, u"folder"},
+    {QStyle::SP_DirClosedIcon, u"folder"},
+    {QStyle::SP_DirOpenIcon, u"folder"},
+    {QStyle::SP_DirLinkIcon, u"folder"},
+    {QStyle::SP_DirHomeIcon, u"home"},
+    {QStyle::SP_FileIcon, u"file"},
+    {QStyle::SP_FileLinkIcon, u"file"},
+    {QStyle::SP_ComputerIcon, u"drive"},
+    {QStyle::SP_DesktopIcon, u"window"},
+    {QStyle::SP_DriveHDIcon, u"drive"},
+    {QStyle::SP_DriveNetIcon, u"drive"},
+    {QStyle::SP_FileDialogToParent, u"folder-up"},
+    {QStyle::SP_FileDialogNewFolder, u"folder-add"},
+    {QStyle::SP_FileDialogBack, u"arrow-left"},
+    {QStyle::SP_FileDialogDetailedView, u"report"},
+    {QStyle::SP_FileDialogListView, u"list"},
+};
+
 } // namespace
 
 LookStyle::LookStyle()
     : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
 {
+}
+
+// A tool tip is a label, too, and polished before it has its text.
+void LookStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto* label = qobject_cast<QLabel*>(widget); label && label->textFormat() == Qt::AutoText)
+        label->setTextFormat(Qt::PlainText);
+}
+
+QIcon LookStyle::standardIcon(
+    StandardPixmap standard, const QStyleOption* option, const QWidget* widget) const
+{
+    const auto* found = std::find_if(std::begin(StandardIcons), std::end(StandardIcons),
+        [standard](const StandardIcon& own) { return own.standard == standard; });
+    return found == std::end(StandardIcons) ? QProxyStyle::standardIcon(standard, option, widget)
+                                            : icon(found->name);
+}
+
+QPixmap LookStyle::standardPixmap(
+    StandardPixmap standard, const QStyleOption* option, const QWidget* widget) const
+{
+    const bool own = std::any_of(std::begin(StandardIcons), std::end(StandardIcons),
+        [standard](const StandardIcon& each) { return each.standard == standard; });
+    if (!own)
+        return QProxyStyle::standardPixmap(standard, option, widget);
+    const int side = pixelMetric(PM_SmallIconSize, option, widget);
+    return standardIcon(standard, option, widget)
+        .pixmap(QSize(side, side), widget ? widget->devicePixelRatioF() : 1);
+}
+
+int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    constexpr int EasyToHit = 24;
+    return metric == PM_ToolBarExtensionExtent ? EasyToHit : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int LookStyle::styleHint(
+    StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+        ? 0
+        : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+// The icon of the entry that is under the mouse stands on the colour of the highlight.
+void LookStyle::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto* item
+        = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (!item || item->icon.isNull() || !isOn(*item, State_Selected) || !isOn(*item, State_Enabled))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionMenuItem highlighted = *item;
+    const int side = pixelMetric(PM_SmallIconSize, option, widget);
+    highlighted.icon = QIcon(
+        item->icon.pixmap(QSize(side, side), painter->device()->devicePixelRatioF(), QIcon::Selected));
+    QProxyStyle::drawControl(element, &highlighted, painter, widget);
 }
 
 void LookStyle::drawPrimitive(
@@ -109,6 +223,7 @@ void LookStyle::drawPrimitive(
     case PE_IndicatorCheckBox:
     case PE_IndicatorItemViewItemCheck: drawCheckBox(*option, painter); break;
     case PE_IndicatorRadioButton: drawRadioButton(*option, painter); break;
+    case PE_IndicatorTabClose: drawTabClose(*option, painter); break;
     case PE_FrameLineEdit:
     case PE_Frame: drawFieldFrame(*option, painter); break;
     default: QProxyStyle::drawPrimitive(element, option, painter, widget); break;

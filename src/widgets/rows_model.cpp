@@ -357,8 +357,9 @@ QString RowsModel::shownText(int row, int source) const
 {
     if (const auto wording = m_wordingsBySource.constFind(source); wording != m_wordingsBySource.cend())
         return (*wording)(m_fromList ? QVariant(sourceText(row, source)) : m_recordset.valueAt(row, source));
-    // A line break would show as a box, or make the row look empty.
-    return sourceText(row, source).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
+    // A line break would show as a box, or make the row look empty; no cell is as wide as a long text.
+    constexpr qsizetype MostLetters = 500;
+    return sourceText(row, source).left(MostLetters).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const

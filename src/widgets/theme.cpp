@@ -33,7 +33,7 @@ constexpr Colours LightColours{
     .alternate = u"#f8fafc",
     .button = u"#f9fafb",
     .text = u"#1f2937",
-    .quiet = u"#6b7280",
+    .quiet = u"#5f6876",
     .disabled = u"#9ca3af",
     .accent = u"#2563eb",
     .onAccent = u"#ffffff",
@@ -42,7 +42,7 @@ constexpr Colours LightColours{
     .toolTip = u"#ffffff",
     .iconStroke = u"#475569",
     .iconAccent = u"#2563eb",
-    .warning = u"#dc2626",
+    .warning = u"#c81e1e",
 };
 constexpr Colours DarkColours{
     .window = u"#23262d",
@@ -75,7 +75,7 @@ QPalette paletteOf(const Colours& colours)
         line.darker(130), QColor(colours.edge), QColor(colours.text), QColor(colours.onAccent),
         QColor(colours.base), window);
     palette.setColor(QPalette::AlternateBase, QColor(colours.alternate));
-    palette.setColor(QPalette::PlaceholderText, QColor(colours.disabled));
+    palette.setColor(QPalette::PlaceholderText, QColor(colours.quiet));
     palette.setColor(QPalette::Highlight, QColor(colours.accent));
     palette.setColor(QPalette::HighlightedText, QColor(colours.onAccent));
     palette.setColor(QPalette::Link, QColor(colours.accent));
@@ -114,6 +114,10 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
 QGroupBox { font-weight: 600; }
 QLineEdit:read-only, QPlainTextEdit[readOnly="true"] { background: @window; }
 QComboBox { combobox-popup: 0; }
+QCalendarWidget QWidget#qt_calendar_navigationbar { background: @window; }
+QCalendarWidget QToolButton { color: @text; border: none; border-radius: 5px; padding: 4px; }
+QCalendarWidget QToolButton:hover { background: @hover; }
+QCalendarWidget QToolButton::menu-indicator { image: none; }
 QToolTip { background: @toolTip; color: @text; border: 1px solid @line; padding: 4px; }
 )"_s;
     const auto faded = [&colours](double share) {
@@ -164,7 +168,7 @@ public:
         const QString key = u"%1 %2x%3 %4 %5"_s.arg(m_fileName)
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(mode == QIcon::Disabled)
+                                .arg(int(mode == QIcon::Active ? QIcon::Normal : mode))
                                 .arg(look == Look::Dark);
         QPixmap drawn;
         if (QPixmapCache::find(key, &drawn))
@@ -176,8 +180,10 @@ public:
         QByteArray svg = file.readAll();
         const auto recolour
             = [&svg](QStringView from, QStringView to) { svg.replace(from.toLatin1(), to.toLatin1()); };
-        recolour(LightColours.iconStroke, coloursOf(look).iconStroke);
-        recolour(LightColours.iconAccent, coloursOf(look).iconAccent);
+        const Colours& colours = coloursOf(look);
+        const bool highlighted = mode == QIcon::Selected;
+        recolour(LightColours.iconStroke, highlighted ? colours.onAccent : colours.iconStroke);
+        recolour(LightColours.iconAccent, highlighted ? colours.onAccent : colours.iconAccent);
 
         QImage image(size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);

@@ -1,5 +1,6 @@
 #include "widgets/thumbnail_view.h"
 
+#include "widgets/long_text.h"
 #include "widgets/picture_box.h"
 #include "widgets/theme.h"
 
@@ -42,7 +43,7 @@ public:
         const Thumbnail& row = m_rows[index.row()];
         switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole: return row.text;
+        case Qt::ToolTipRole: return tipOf(row.text);
         case KeyRole: return row.key;
         default: return {};
         }

@@ -1,5 +1,7 @@
 #include "support/screen_fixture.h"
 
+#include "widgets/date_box.h"
+
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -50,11 +52,13 @@ ScreenFixture::ScreenFixture(TestBook::Rows rows)
           {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock}}
 {
     screens.setContext(context);
+    widgets::DateBox::setToday([this] { return clock.today(); });
 }
 
 ScreenFixture::~ScreenFixture()
 {
     screens.unloadAll();
+    widgets::DateBox::setToday(&QDate::currentDate);
 }
 
 void ScreenFixture::addTarget(const QString& form)

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void tidiedWhenLeft();
     void twoDigitYearKeepsCentury();
     void tellsOfChangesOnce();
+    void twoDigitsHaveBeen_data();
+    void twoDigitsHaveBeen();
+    void leavingABadOneSaysSo();
     void calendarFillsTheField();
 };
 
@@ -77,6 +80,8 @@ void DateBoxTest::reads_data()
     both("three-digit year", u"1/2/199"_s, none);
     both("long number", u"1/2/99999999999999"_s, none);
     both("a word more", u"about 1 Feb 1990"_s, none);
+    both("year below 100", u"1/1/0099"_s, none);
+    both("year 100", u"1/1/0100"_s, QDate(100, 1, 1));
     both("sign", u"1#2#1990"_s, none);
     both("two months", u"Feb Mar 1990"_s, none);
     both("empty", {}, none);
@@ -98,12 +103,12 @@ void DateBoxTest::wrongTextStays()
     QTest::keyClick(&box, Qt::Key_Return);
     QCOMPARE(box.text(), u"30 Feb 1990"_s);
     QVERIFY(!box.date());
-    QVERIFY(!box.isValidOrEmpty());
+    QVERIFY(box.holdsBadText());
     QVERIFY(box.palette().color(QPalette::Text) != right);
     QVERIFY(box.toolTip().contains(u"01 Feb-1990"_s));
 
     box.clear();
-    QVERIFY(box.isValidOrEmpty());
+    QVERIFY(!box.holdsBadText());
     QCOMPARE(box.palette().color(QPalette::Text), right);
     QCOMPARE(box.toolTip(), u"Day of birth"_s);
 }
@@ -143,6 +148,57 @@ void DateBoxTest::tellsOfChangesOnce()
     QCOMPARE(changes.size(), 1);
     box.setText(u"1 Feb 199"_s);
     QCOMPARE(changes.size(), 2);
+}
+
+void DateBoxTest::twoDigitsHaveBeen_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QDate>("date"); // on 10 May 2024
+    QTest::newRow("today") << u"10/5/24"_s << QDate(2024, 5, 10);
+    QTest::newRow("tomorrow") << u"11/5/24"_s << QDate(1924, 5, 11);
+    QTest::newRow("some years ahead") << u"14/2/29"_s << QDate(1929, 2, 14);
+    QTest::newRow("four digits are meant") << u"14/2/2029"_s << QDate(2029, 2, 14);
+    QTest::newRow("leap day that has not been") << u"29/2/28"_s << QDate(1928, 2, 29);
+}
+
+void DateBoxTest::twoDigitsHaveBeen()
+{
+    DateBox::setToday([] { return QDate(2024, 5, 10); });
+    DateBox box;
+    QFETCH(QString, typed);
+    QTest::keyClicks(&box, typed + u'\r');
+    QTEST(box.date().value_or(QDate()), "date");
+    DateBox::setToday(&QDate::currentDate);
+}
+
+void DateBoxTest::leavingABadOneSaysSo()
+{
+    QTabWidget form;
+    auto* page = new QWidget;
+    auto* box = new DateBox(page);
+    form.addTab(page, u"One"_s);
+    form.addTab(new QLineEdit, u"Two"_s);
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    box->setDate(QDate(1990, 2, 1));
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, u"5 Jun"_s);
+    const auto told = [&form] { return form.findChild<QLabel*>(u"CToolTip"_s) != nullptr; };
+    QVERIFY(!told()); // not finished yet
+    QTest::keyClick(box, Qt::Key_Tab);
+    QVERIFY(told());
+    QCOMPARE(box->text(), u"5 Jun"_s);
+    QCOMPARE(DateBox::firstBad(&form), box);
+
+    form.setCurrentIndex(1);
+    box->askToMend();
+    QCOMPARE(form.currentIndex(), 0);
+    QVERIFY(box->hasFocus());
+    QTest::keyClicks(box, u"-2001"_s);
+    QVERIFY(!told());
+    QVERIFY(!DateBox::firstBad(&form));
 }
 
 void DateBoxTest::calendarFillsTheField()

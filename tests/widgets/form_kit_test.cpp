@@ -19,6 +19,7 @@ private Q_SLOTS:
     void severalLinesIntoOne_data();
     void severalLinesIntoOne();
     void surplusIsRefusedAloud();
+    void longTextsShowTheirBeginning();
     void radiosOfTwoRunsAreTwoChoices();
     void gridTakesTheRoomThatIsLeft();
     void textsSurviveTheFields_data();
@@ -159,6 +160,41 @@ void FormKitTest::surplusIsRefusedAloud()
     QTest::keyClicks(code, u"6"_s);
     const auto* told = page.findChild<QLabel*>(u"CToolTip"_s);
     QVERIFY(told && told->text().contains(u"6 characters"_s));
+}
+
+void FormKitTest::longTextsShowTheirBeginning()
+{
+    QWidget page;
+    FormKit form(&page);
+    form.group()
+        .readOnly(u"box"_s, u"Note"_s, 4)
+        .readOnly(u"line"_s, u"Name"_s)
+        .caption(u"value"_s)
+        .button(u"link"_s, {});
+    page.show();
+    const int width = page.width();
+    const QString text(200'000, u'x');
+    for (const QString& name : {u"box"_s, u"line"_s, u"value"_s, u"link"_s}) {
+        setTextOf(child<QWidget>(&page, name), text);
+        QCOMPARE(textOf(child<QWidget>(&page, name)), text);
+    }
+    auto* box = child<QPlainTextEdit>(&page, u"box"_s);
+    QCOMPARE(box->toPlainText().count(u'x'), 64 * 1024);
+    page.layout()->activate();
+    QVERIFY2(page.minimumSizeHint().width() < width + 400, qPrintable(QString::number(page.width())));
+    auto* more = child<QToolButton>(&page, u"cmdMore"_s);
+    for (int part = 0; part < 3; ++part) {
+        QVERIFY(more->isVisible());
+        QTest::mouseClick(more, Qt::LeftButton);
+    }
+    QCOMPARE(box->toPlainText().remove(u'\n'), text);
+    QCOMPARE(textOf(box), text);
+    QVERIFY(!more->isVisible());
+
+    for (const QString& name : {u"box"_s, u"line"_s, u"value"_s, u"link"_s}) {
+        setTextOf(child<QWidget>(&page, name), u"short"_s);
+        QCOMPARE(textOf(child<QWidget>(&page, name)), u"short"_s);
+    }
 }
 
 void FormKitTest::radiosOfTwoRunsAreTwoChoices()

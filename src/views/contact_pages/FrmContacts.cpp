@@ -394,7 +394,7 @@ void FrmContacts::save()
     const SimpleValues now = values();
     if (const auto refusal = refusalOf(now))
         return refuse(*refusal);
-    if (!DateBday->isValidOrEmpty()) {
+    if (DateBday->holdsBadText()) {
         warn(tr("The birthday is no date."));
         DateBday->setFocus();
         return;

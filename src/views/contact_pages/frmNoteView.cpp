@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTextBrowser>
@@ -26,6 +27,8 @@ namespace {
 
 constexpr int kPictureSize = 64;
 constexpr int kWidthOfTwoColumns = 700;
+constexpr qsizetype kMostLetters = 64 * 1024;
+constexpr QStringView kMore = u"more";
 constexpr QStringView kDialer = u"FrmDialer";
 constexpr QStringView kSearch = u"Search";
 
@@ -120,6 +123,8 @@ bool frmNoteView::showContact(qint64 id)
     const jet::Recordset contact = context().data.openRecordset(contactByIdSql(id));
     if (!contact.hasRow())
         return false;
+    if (m_id != id)
+        m_letters = kMostLetters;
     m_id = id;
     m_sections = noteSections(contact, m_view, shared().NationalMode, context().services.clock.today());
     const NoteHead head = noteHead(contact);
@@ -221,16 +226,28 @@ QString frmNoteView::sectionHtml(const NoteSection& section, bool isFirst)
 // when there is a screen to call it.
 QString frmNoteView::textOf(const NoteText& text)
 {
-    const QString shown = text.text.toHtmlEscaped().replace(u"\r\n"_s, u"<br>"_s).replace(u"\n"_s, u"<br>"_s);
+    const QString part = text.text.left(m_letters);
+    const QString shown = part.toHtmlEscaped().replace(u"\r\n"_s, u"<br>"_s).replace(u"\n"_s, u"<br>"_s);
+    QString rest;
+    if (part.size() < text.text.size())
+        rest = u"\u2026 <a href=\"#%1\">%2</a>"_s.arg(kMore, tr("more"));
     if (text.link == NoteLink::None || (text.link == NoteLink::Phone && !context().screens.has(kDialer)))
-        return shown;
+        return shown + rest;
     m_links << text;
     return u"<a style=\"text-decoration:none\" href=\"#%1\">%2</a>"_s.arg(
-        QString::number(m_links.size() - 1), shown);
+               QString::number(m_links.size() - 1), shown)
+        + rest;
 }
 
 void frmNoteView::follow(const QUrl& link)
 {
+    if (link.fragment() == kMore) {
+        m_letters += kMostLetters;
+        const int place = m_page->verticalScrollBar()->value();
+        render();
+        m_page->verticalScrollBar()->setValue(place);
+        return;
+    }
     const NoteText text = m_links.value(link.fragment().toInt());
     switch (text.link) {
     case NoteLink::None: break;

@@ -52,6 +52,7 @@ private:
     NoteView m_view = NoteView::Brief;
     QList<NoteSection> m_sections;
     QList<NoteText> m_links; ///< by the number in a link of the page
+    qsizetype m_letters = 0; ///< shown of a text, so that one without measure does not hold up the window
     bool m_wide = false; ///< there is room for two columns
 
     QTabBar* m_views;

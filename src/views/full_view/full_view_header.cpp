@@ -1,5 +1,6 @@
 #include "views/full_view/full_view_header.h"
 
+#include "widgets/fields.h"
 #include "widgets/picture_box.h"
 #include "widgets/theme.h"
 
@@ -125,7 +126,7 @@ void FullViewHeader::showPicture(const QString& path)
 
 void FullViewHeader::showPlainName(const QString& name)
 {
-    m_plainName->setText(name);
+    widgets::setTextOf(m_plainName, name);
     m_plainName->setHidden(name.isEmpty());
     SSCommand8->setHidden(!name.isEmpty());
 }
@@ -137,7 +138,7 @@ void FullViewHeader::tidy(const QStringList& facts)
         if (!fact.trimmed().isEmpty() && fact.trimmed() != u"-")
             shown << fact.trimmed();
     }
-    m_facts->setText(shown.join(u"   ·   "_s));
+    widgets::setTextOf(m_facts, shown.join(u"   ·   "_s));
     for (QPushButton* button : {LblAsso1, LblAsso2})
         button->setHidden(button->text().isEmpty());
     m_associates->setHidden(LblAsso1->isHidden() && LblAsso2->isHidden());

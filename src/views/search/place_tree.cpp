@@ -1,5 +1,6 @@
 #include "views/search/place_tree.h"
 
+#include "widgets/long_text.h"
 #include "widgets/theme.h"
 
 #include <QGuiApplication>
@@ -91,7 +92,7 @@ QTreeWidgetItem* PlaceTree::node(const QString& text, const QStringList& path) c
     item->setData(0, PathRole, path);
     item->setData(0, KeyRole, treeNodeKey(path));
     if (path.size() > 1)
-        item->setToolTip(0, treeNodeKey(path));
+        item->setToolTip(0, widgets::tipOf(treeNodeKey(path)));
     item->setData(0, FilledRole, path.size() == treeDepth(m_kind));
     if (path.size() < treeDepth(m_kind))
         item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);

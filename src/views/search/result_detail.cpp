@@ -4,6 +4,7 @@
 #include "jet/recordset.h"
 #include "views/contact_pages/record_texts.h"
 #include "widgets/fields.h"
+#include "widgets/long_text.h"
 #include "widgets/picture_box.h"
 
 #include <QCoreApplication>
@@ -147,8 +148,8 @@ void ResultDetail::display(const jet::Recordset& contact)
 {
     for (const ShownText& shown : resultDetailTexts(contact)) {
         auto* label = widgets::child<QLabel>(this, shown.control);
-        label->setText(shown.text);
-        label->setToolTip(shown.text);
+        widgets::setTextOf(label, shown.text);
+        label->setToolTip(widgets::tipOf(shown.text));
     }
     Picture1->setPath(core::photoFile(m_drive, contact.textOrEmpty(u"PhotLoc")));
 }
