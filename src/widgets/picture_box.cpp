@@ -2,12 +2,16 @@
 
 #include "widgets/theme.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QMutex>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionFocusRect>
+#include <QThreadPool>
 
 #include <algorithm>
 
@@ -16,9 +20,23 @@ namespace widgets {
 namespace {
 
 constexpr qint64 LargestFile = 100 * 1024 * 1024;
-constexpr qint64 MostPixels = 120'000'000;
+constexpr qint64 LargestDrawing = 256 * 1024;
+constexpr qint64 MostPixels = 50'000'000;
+constexpr qint64 ManyPixels = 12'000'000; ///< of a picture that is read alone
 constexpr int LongestSide = 30'000;
 constexpr int SmallestReading = 240; ///< so that a box that grows a little need not read again
+
+/// Whether a drawing is as plain as it has to be to be drawn.
+bool isHarmless(const QString& path)
+{
+    QFile file(path);
+    if (file.size() > LargestDrawing || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray drawing = file.read(LargestDrawing);
+    const bool isCompressed = drawing.startsWith("\x1f\x8b");
+    return !isCompressed && !drawing.contains("<image") && !drawing.contains("<use")
+        && !drawing.contains("<!ENTITY");
+}
 
 } // namespace
 
@@ -31,6 +49,8 @@ QImage readPicture(const QString& path, QSize within)
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
+    if (reader.format().startsWith("svg") && !isHarmless(path))
+        return {};
     const QSize claimed = reader.size();
     if (claimed.isEmpty() || std::max(claimed.width(), claimed.height()) > LongestSide
         || qint64(claimed.width()) * claimed.height() > MostPixels) {
@@ -41,6 +61,10 @@ QImage readPicture(const QString& path, QSize within)
     const QSize fitting = claimed.scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
     if (fitting.width() < claimed.width())
         reader.setScaledSize(fitting);
+    static QMutex alone;
+    QMutexLocker lock(&alone);
+    if (qint64(claimed.width()) * claimed.height() < ManyPixels)
+        lock.unlock();
     QImage image;
     if (!reader.read(&image))
         return {};
@@ -58,10 +82,40 @@ PictureBox::PictureBox(QWidget* parent)
 void PictureBox::setPath(const QString& path)
 {
     m_path = path;
-    m_readFor = wantedSize();
-    m_image = readPicture(m_path, m_readFor);
+    m_image = {};
+    m_scaled = {};
+    read(wantedSize());
+    update();
+}
+
+void PictureBox::read(QSize within)
+{
+    m_readFor = within;
+    const int reading = ++m_reading;
+    m_isReading = !m_path.isEmpty();
+    if (!m_isReading)
+        return arrived(reading, {});
+    QThreadPool::globalInstance()->start([box = QPointer(this), reading, path = m_path, within] {
+        const QImage image = readPicture(path, within);
+        QMetaObject::invokeMethod(
+            qApp,
+            [box, reading, image] {
+                if (box)
+                    box->arrived(reading, image);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void PictureBox::arrived(int reading, const QImage& image)
+{
+    if (reading != m_reading)
+        return;
+    m_isReading = false;
+    m_image = image;
     m_scaled = {};
     update();
+    Q_EMIT pictureRead();
 }
 
 QSize PictureBox::sizeHint() const
@@ -80,10 +134,8 @@ void PictureBox::resizeEvent(QResizeEvent* event)
     m_scaled = {};
     const QSize wanted = wantedSize();
     const bool outgrown = wanted.width() > m_readFor.width() || wanted.height() > m_readFor.height();
-    if (hasPicture() && outgrown) {
-        m_readFor = wanted * 3 / 2;
-        m_image = readPicture(m_path, m_readFor);
-    }
+    if (outgrown && (hasPicture() || m_isReading))
+        read(wanted * 3 / 2);
 }
 
 void PictureBox::paintEvent(QPaintEvent*)
@@ -95,11 +147,12 @@ void PictureBox::paintEvent(QPaintEvent*)
         painter.setPen(palette().color(QPalette::Mid));
         painter.setBrush(palette().color(QPalette::Base));
         painter.drawRoundedRect(QRectF(frame).translated(0.5, 0.5), 4, 4);
-        const int side = std::min({64, width() / 2, height() / 2});
+        const int side = m_isReading ? 0 : std::min({64, width() / 2, height() / 2});
         painter.setOpacity(0.45);
         QRect middle(0, 0, side, side);
         middle.moveCenter(rect().center());
-        icon(u"picture").paint(&painter, middle);
+        if (side > 0)
+            icon(u"picture").paint(&painter, middle);
         painter.setOpacity(1);
     } else {
         const qreal ratio = devicePixelRatioF();

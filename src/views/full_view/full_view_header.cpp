@@ -62,6 +62,8 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     ix1->setObjectName(u"ix1"_s);
     ix1->setFixedSize(76, 76);
     ix1->setAccessibleName(tr("Picture"));
+    connect(ix1, &widgets::PictureBox::pictureRead, this,
+        [this] { ix1->setCursor(ix1->hasPicture() ? Qt::PointingHandCursor : Qt::ArrowCursor); });
     SSCommand8->setObjectName(u"SSCommand8"_s);
     SSCommand8->setFlat(true);
     SSCommand8->setToolTip(tr("View all linked data"));
@@ -121,7 +123,6 @@ FullViewHeader::FullViewHeader(QWidget* parent)
 void FullViewHeader::showPicture(const QString& path)
 {
     ix1->setPath(path);
-    ix1->setCursor(ix1->hasPicture() ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 void FullViewHeader::showPlainName(const QString& name)
