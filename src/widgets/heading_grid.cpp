@@ -436,20 +436,33 @@ QString HeadingGrid::currentText(const QString& column) const
 void HeadingGrid::keyboardSearch(const QString& typed)
 {
     const int column = searchColumn();
-    if (column < 0 || rowCount() == 0 || typed.isEmpty())
+    if (column < 0 || recordCount() == 0 || typed.isEmpty())
         return;
     if (m_sinceTyped.isValid() && m_sinceTyped.elapsed() > QApplication::keyboardInputInterval())
         m_typed.clear();
     m_sinceTyped.start();
 
-    // The same letter again walks through the rows that begin with it; a longer text may stay where it is.
-    const bool again = m_typed.compare(typed, Qt::CaseInsensitive) == 0;
-    if (!again)
-        m_typed += typed;
-    const bool next = again || m_typed.size() == typed.size();
-    const int from = currentRow() < 0 ? 0 : currentRow() + (next ? 1 : 0);
-    if (const int found = m_model->findText(column, m_typed, from % rowCount()); found >= 0)
-        setCurrentRow(found);
+    const int here = m_model->rowAtOrBelow(currentRow());
+    const auto find = [&](const QString& begin, int row) {
+        return m_model->findRow(column, begin, std::max(0, row) % m_model->recordCount());
+    };
+    m_typed += typed;
+    // A first letter goes on from the row, a longer text may stay at it. The same letter again walks through
+    // the rows that begin with it, where no text begins with it twice.
+    const bool isFirst = m_typed.size() == typed.size();
+    int found = find(m_typed, isFirst && !isHeading(currentRow()) ? here + 1 : here);
+    if (found < 0 && m_typed.count(m_typed.front(), Qt::CaseInsensitive) == m_typed.size())
+        found = find(m_typed.first(1), here + 1);
+    if (found >= 0)
+        setCurrentSourceRow(found);
+}
+
+void HeadingGrid::setCurrentSourceRow(int row)
+{
+    const int line = m_model->lineOfSource(row);
+    if (isHeading(line))
+        setFolded(line, false);
+    setCurrentRow(m_model->lineOfSource(row));
 }
 
 void HeadingGrid::keyPressEvent(QKeyEvent* event)
@@ -507,13 +520,18 @@ void HeadingGrid::applyHiddenColumns()
     }
 }
 
+// The texts of the groups stand in the headings, so rows are told apart by the next column, if there is one.
 int HeadingGrid::searchColumn() const
 {
+    int found = -1;
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        if (!isColumnHidden(column) && !m_model->showsNothing(column))
+        if (isColumnHidden(column) || m_model->showsNothing(column))
+            continue;
+        if (column != m_model->groupColumn())
             return column;
+        found = column;
     }
-    return -1;
+    return found;
 }
 
 } // namespace widgets

@@ -110,6 +110,7 @@ private:
     void applyWidths();
     void applyHiddenColumns();
     int searchColumn() const;
+    void setCurrentSourceRow(int row); ///< unfolds its group
 
     RowsModel* m_model;
     QString m_emptyText;

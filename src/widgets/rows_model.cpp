@@ -200,24 +200,29 @@ bool RowsModel::repeatsAbove(const QModelIndex& index) const
 
 // The engine looks through the texts of a recordset without fetching its rows one by one. What a wording
 // shows in another way is compared as it is shown.
-int RowsModel::findText(int column, const QString& begin, int fromLine)
+int RowsModel::findRow(int column, const QString& begin, int fromRow)
 {
     const int source = m_sources.value(column, -1);
     const bool isFetchedText
         = !m_fromList && !m_recordset.holdsRows() && m_recordset.columnType(source) == jet::ColumnType::Text;
-    if (isFetchedText && !m_outline.isActive() && !m_wordingsBySource.contains(source)) {
+    if (isFetchedText && !m_wordingsBySource.contains(source)) {
         const QString criterion
             = u'[' + m_recordset.columns().value(source) + u"] like '"_s + beginsPattern(begin) + u'\'';
-        const bool behind
-            = fromLine > 0 && m_recordset.moveTo(fromLine - 1) && m_recordset.findNext(criterion);
+        const bool behind = fromRow > 0 && m_recordset.moveTo(fromRow - 1) && m_recordset.findNext(criterion);
         return behind || m_recordset.findFirst(criterion) ? m_recordset.position() : -1;
     }
-    for (int i = 0; i < rowCount(); ++i) {
-        const int line = (fromLine + i) % rowCount();
-        if (index(line, column).data().toString().startsWith(begin, Qt::CaseInsensitive))
-            return line;
+    const int rows = recordCount();
+    for (int i = 0; i < rows; ++i) {
+        const int row = (fromRow + i) % rows;
+        if (shownText(row, source).startsWith(begin, Qt::CaseInsensitive))
+            return row;
     }
     return -1;
+}
+
+int RowsModel::rowAtOrBelow(int line) const
+{
+    return isHeading(line) ? m_outline.firstRow(groupOf(line)) : sourceRow(line);
 }
 
 void RowsModel::setOutline(const QString& name)

@@ -34,9 +34,11 @@ public:
     int recordCount() const;
     /// Whether a cell shows the same as the cell above it, and both are rows.
     bool repeatsAbove(const QModelIndex& index) const;
-    /// The next line, in a circle from the given one, whose text in a column begins so; -1 when there is
-    /// none.
-    int findText(int column, const QString& begin, int fromLine);
+    /// The next row, in a circle from the given one, whose text in a column begins so; -1 when there is none.
+    /// Folded groups are looked through, headings are not.
+    int findRow(int column, const QString& begin, int fromRow);
+    /// The row of a line; of a heading, the first one below it.
+    int rowAtOrBelow(int line) const;
 
     // Groups. A fill makes one group of all rows; the steps that follow find where each text ends.
     void setOutline(const QString& name);

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void keysAndHiddenColumns();
     void failedSelectionIsAnEmptyList();
     void typingLooksForARow();
+    void typedLetters_data();
+    void typedLetters();
     void enterAndDoubleClickChoose();
     void listShowsTheNameOnly();
     void outlineFindsItsGroupsInSteps();
@@ -218,6 +220,33 @@ void HeadingGridTest::typingLooksForARow()
     QTest::keyClick(&grid, Qt::Key_X);
     QCOMPARE(grid.currentText(u"Name"_s), u"Bimal"_s);
     QApplication::setKeyboardInputInterval(usual);
+}
+
+void HeadingGridTest::typedLetters_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("name"); // of the row that is current then
+    QTest::newRow("a letter twice, as a name has it") << u"aar"_s << u"Aarti"_s;
+    QTest::newRow("a letter twice that no name has: next") << u"bb"_s << u"Bina"_s;
+    QTest::newRow("what no name begins with changes nothing") << u"atma"_s << u"Atul"_s;
+    QTest::newRow("a doubled letter is not forgotten") << u"bbi"_s << u"Bina"_s;
+    QTest::newRow("contacts only, also in a folded group") << u"d"_s << u"Dev"_s;
+}
+
+void HeadingGridTest::typedLetters()
+{
+    QFETCH(QString, typed);
+    HeadingGrid grid;
+    grid.setHeadings(u"City|Name", {u"city"_s, u"name"_s});
+    grid.setOutline(u"city"_s);
+    grid.setRows({{u"Agra"_s, u"Atul"_s}, {u"Agra"_s, u"Bimal"_s}, {u"Agra"_s, u"Bina"_s},
+                     {u"Delhi"_s, u"Aarti"_s}, {u"Delhi"_s, u"Dev"_s}},
+        {u"city"_s, u"name"_s});
+    QTRY_COMPARE(grid.rowCount(), 7);
+    grid.foldAll(true);
+    QTest::keyClicks(&grid, typed);
+    QVERIFY(!grid.isHeading(grid.currentRow()));
+    QTEST(grid.currentText(u"name"_s), "name");
 }
 
 void HeadingGridTest::enterAndDoubleClickChoose()
