@@ -9,6 +9,9 @@
 #include <QSysInfo>
 #include <QThread>
 
+#include <cerrno>
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace platform {
@@ -34,6 +37,20 @@ QString socketName(const QString& folder)
     return u"orvane-"_s + QString::fromLatin1(hash);
 }
 
+bool isHeldByALivingProgram(const QLockFile& lock)
+{
+    qint64 pid = 0;
+    QString host;
+    QString name;
+    if (!lock.getLockInfo(&pid, &host, &name) || host != QSysInfo::machineHostName())
+        return false;
+    if (::kill(pid_t(pid), 0) != 0 && errno == ESRCH)
+        return false;
+    // The number may have gone to another program since.
+    const QString program = QFileInfo(u"/proc/%1/exe"_s.arg(pid)).symLinkTarget();
+    return program.isEmpty() || QFileInfo(program).fileName().startsWith(name);
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(const QString& programFolder, QObject* parent)
@@ -53,7 +70,8 @@ SingleInstance::~SingleInstance() = default;
 
 bool SingleInstance::takeLock()
 {
-    if (m_lock.tryLock(0))
+    m_hasLock = m_lock.tryLock(0);
+    if (m_hasLock)
         return true;
     // In a folder where no lock can be made, only the socket tells.
     if (m_lock.error() != QLockFile::LockFailedError)
@@ -64,18 +82,19 @@ bool SingleInstance::takeLock()
     while (!deadline.hasExpired()) {
         if (askFirst(int(qMax<qint64>(1, deadline.remainingTime()))))
             return false;
-        if (m_lock.tryLock(0))
+        m_hasLock = m_lock.tryLock(0);
+        if (m_hasLock)
             return true;
-        // A lock that can't be read, or comes from a computer that has this folder no more, and no one to
-        // answer.
-        qint64 pid = 0;
-        QString host;
-        QString name;
-        if (!m_lock.getLockInfo(&pid, &host, &name) || host != QSysInfo::machineHostName()) {
+        // A lock that can't be read, or comes from a computer that has this folder no more, or from a program
+        // that is dead, and no one to answer.
+        if (!isHeldByALivingProgram(m_lock)) {
             QThread::msleep(retryMs);
             if (askFirst(retryMs))
                 return false;
-            return (m_lock.removeStaleLockFile() || QFile::remove(m_lock.fileName())) && m_lock.tryLock(0);
+            // On a full disk, or in a folder that can't be written, it can't be replaced: that ends nobody.
+            if (m_lock.removeStaleLockFile() || QFile::remove(m_lock.fileName()))
+                m_hasLock = m_lock.tryLock(0);
+            return m_hasLock || !askFirst(retryMs);
         }
         QThread::msleep(retryMs);
     }

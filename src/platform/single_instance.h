@@ -19,6 +19,9 @@ public:
     ~SingleInstance() override;
 
     bool isFirst() const { return m_isFirst; }
+    /// False when the first could not mark the folder as its own: the disk is full, or the folder can't be
+    /// written. It was made sure as far as possible that no other program works there.
+    bool hasLock() const { return m_hasLock; }
 
 Q_SIGNALS:
     void raiseRequested();
@@ -33,6 +36,7 @@ private:
     QLockFile m_lock;
     QLocalServer m_server;
     bool m_isFirst = false;
+    bool m_hasLock = false;
 };
 
 } // namespace platform

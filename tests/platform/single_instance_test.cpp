@@ -1,4 +1,5 @@
-#include <signal.h>
+#include <csignal>
+#include <sys/resource.h>
 
 #include <QProcess>
 #include <QtTest>
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void secondRaisesTheFirst();
     void afterACrash();
     void unreadableLock();
+    void lockThatCanNotBeRenewed();
     void firstThatDoesNotAnswer();
     void oneForEachFolder();
 
@@ -94,6 +96,30 @@ void SingleInstanceTest::unreadableLock()
     lock.close();
     const SingleInstance first(m_folder->path());
     QVERIFY(first.isFirst());
+}
+
+// What can not be renewed, as on a full disk or when something else bears the name, keeps nobody out.
+void SingleInstanceTest::lockThatCanNotBeRenewed()
+{
+    const QString name = m_folder->filePath(u".orvane.lock"_s);
+    QVERIFY(QDir().mkpath(name + u"/in the way"_s));
+    QVERIFY(SingleInstance(m_folder->path()).isFirst());
+    QVERIFY(QDir(name).removeRecursively());
+
+    QProcess other;
+    QCOMPARE(start(other), "first");
+    other.kill();
+    QVERIFY(other.waitForFinished());
+    // As root would write anywhere, the room is taken from the process instead of the rights from the folder.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    const SingleInstance first(m_folder->path());
+    setrlimit(RLIMIT_FSIZE, &before);
+    QVERIFY(first.isFirst());
+    QVERIFY(!first.hasLock());
 }
 
 void SingleInstanceTest::firstThatDoesNotAnswer()

@@ -6,6 +6,7 @@
 #include "core/shell/start_up.h"
 #include "core/shell/storage_notice.h"
 #include "core/store/backups.h"
+#include "platform/desktop_boxes.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void firstStartAndSecond();
     void emailShell();
     void escapeWithEmailShell();
+    void escapeWithDueMails();
     void damagedBook_data();
     void damagedBook();
     void restoreFromTheFrame();
@@ -150,6 +152,36 @@ void StartUpTest::escapeWithEmailShell()
     QTRY_VERIFY_WITH_TIMEOUT(Program::shown(u"FrmEmailSuite"_s), 1000);
     QVERIFY(p.window.isVisible());
     QTRY_VERIFY(!Program::shown(u"frmSplash"_s));
+    QCOMPARE(p.verify(), QString());
+}
+
+// The question about due mails stands above the splash, whose timer goes on all the while.
+void StartUpTest::escapeWithDueMails()
+{
+    Program p;
+    p.makeBook(false);
+    {
+        jet::Database book;
+        book.open(p.files.dataFile());
+        QVERIFY(book.execute(u"insert into time_email ([date],confirm) values (#01-mar-2024#,true)"));
+    }
+    platform::DesktopBoxes real;
+    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
+        {p.drive, real, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
+    p.registry.setContext(own);
+    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
+    startUp.begin(true);
+    QWidget* splash = Program::shown(u"frmSplash"_s);
+    bool answered = false;
+    QTimer::singleShot(400, &p.window, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box && !p.window.isVisible());
+        answered = true;
+        QTest::mouseClick(box->button(QMessageBox::No), Qt::LeftButton);
+    });
+    QTest::keyClick(splash, Qt::Key_Escape);
+    QVERIFY(answered);
+    QTRY_VERIFY(p.window.isVisible() && !Program::shown(u"frmSplash"_s));
     QCOMPARE(p.verify(), QString());
 }
 

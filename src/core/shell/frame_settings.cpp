@@ -89,7 +89,9 @@ QString takeDeferredKey(jet::Database& data)
 {
     const auto setup = data.openRecordset(u"select * from OV_SETUP"_s);
     const QString key = setup.textOrEmpty(u"key").toLower();
-    data.execute(u"Update ov_setup set key=''"_s);
+    // This runs each time the window comes to the front, also over a book that can only be read.
+    if (!key.isEmpty())
+        data.execute(u"Update ov_setup set key=''"_s);
     return key;
 }
 

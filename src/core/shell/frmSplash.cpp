@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -110,17 +111,25 @@ void frmSplash::tick()
         Q_EMIT bookUnreadable();
         return;
     }
-    if (SetupRecordset.flag(u"Email"))
-        Q_EMIT emailShellWanted();
-    else
-        Q_EMIT mainShellWanted();
+    handOver(SetupRecordset.flag(u"Email") ? &frmSplash::emailShellWanted : &frmSplash::mainShellWanted);
+}
+
+// A shell may have a question when it comes up, which stands above this window: no tick meanwhile, since it
+// would bring the shell in front and take the window away below the question.
+void frmSplash::handOver(void (frmSplash::*wanted)())
+{
+    Timer1.stop();
+    const QPointer<frmSplash> self(this);
+    Q_EMIT(this->*wanted)();
+    if (self)
+        Timer1.start();
 }
 
 // Kept: Esc brings the main shell at once, whatever the setting says, and the tick goes on as before.
 void frmSplash::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
-        Q_EMIT mainShellWanted();
+        handOver(&frmSplash::mainShellWanted);
     else
         QWidget::keyPressEvent(event);
 }

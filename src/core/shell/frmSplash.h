@@ -36,6 +36,7 @@ protected:
 private:
     void layOut();
     void tick();
+    void handOver(void (frmSplash::*wanted)());
     void logIn();
     void animate();
 
