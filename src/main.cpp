@@ -107,7 +107,7 @@ int main(int argc, char** argv)
     shell::StartUp startUp(context, frame, files, backupFolder);
     QObject::connect(
         &instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
-    startUp.begin(QLocale::system().territory() == QLocale::India);
+    startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
     const int result = QApplication::exec();
     // Screens read the books, so they go first.
     screens.unloadAll();

@@ -12,10 +12,11 @@ class BackupsTest final : public QObject {
 
 private Q_SLOTS:
     void init();
-    void onceADay();
+    void onlyWhenSomethingChanged();
     void rotationKeepsTenAndTouchesNothingElse();
     void copyBeforeADeletion();
-    void clockSetBack();
+    void wrongClocks_data();
+    void wrongClocks();
     void damagedBookIsNoBackup();
     void noRoom();
     void lastGood();
@@ -40,6 +41,7 @@ private:
     {
         m_book.execute(u"insert into cnt_main (name) values ('"_s + name + u"')"_s);
     }
+    BackupResult backUp(QDate day, const QString& newName = {});
     static QByteArray bytes(const QString& path);
     static void put(const QString& path, const QByteArray& bytes);
     static QStringList names(const QString& database);
@@ -88,16 +90,32 @@ QStringList BackupsTest::names(const QString& path)
     return all;
 }
 
-void BackupsTest::onceADay()
+BackupResult BackupsTest::backUp(QDate day, const QString& newName)
 {
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Made);
-    add(u"Bela"_s);
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::NotNeeded);
+    if (!newName.isEmpty())
+        add(newName);
+    return backUpIfChanged(m_book, path(u"backup"_s), QDateTime(day, QTime(9, 0)));
+}
+
+void BackupsTest::onlyWhenSomethingChanged()
+{
+    QCOMPARE(backUp(m_today), BackupResult::Made);
+    QCOMPARE(backUp(m_today.addDays(1)), BackupResult::NotNeeded);
+    QCOMPARE(backUp(m_today, u"Bela"_s), BackupResult::Made);
     QCOMPARE(names(daily(m_today)), QStringList{u"Asha"_s});
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(1)), BackupResult::Made);
-    QCOMPARE(names(daily(m_today.addDays(1))), (QStringList{u"Asha"_s, u"Bela"_s}));
     // One file each: no log, no unfinished copy.
-    QCOMPARE(backups(), (QStringList{u"Orvanedata-2026-06-15.dll"_s, u"Orvanedata-2026-06-16.dll"_s}));
+    QCOMPARE(backups(), (QStringList{u"Orvanedata-2026-06-15-2.dll"_s, u"Orvanedata-2026-06-15.dll"_s}));
+    const Backup newest = listBackups(path(u"backup"_s)).first();
+    QCOMPARE(newest.contacts, 2);
+    QCOMPARE(newest.bytes, QFileInfo(newest.path).size());
+    QVERIFY(describedBackup(newest).contains(u"2 contacts"));
+    // A restored book is as it was, and the next copy is the newest all the same.
+    m_book.close();
+    QVERIFY(restore(daily(m_today), m_file, m_now));
+    QCOMPARE(m_book.open(m_file), jet::Database::OpenResult::Opened);
+    QVERIFY(!m_book.tables().contains(u"OV_Copy"_s));
+    QCOMPARE(backUp(m_today, u"Chand"_s), BackupResult::Made);
+    QVERIFY(listBackups(path(u"backup"_s)).first().path.endsWith(u"-3.dll"));
 }
 
 void BackupsTest::rotationKeepsTenAndTouchesNothingElse()
@@ -108,65 +126,87 @@ void BackupsTest::rotationKeepsTenAndTouchesNothingElse()
     for (const QString& name : foreign)
         put(path(u"backup/"_s + name), "mine");
     for (int i = 0; i < 14; ++i)
-        QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i * 3)), BackupResult::Made);
+        QCOMPARE(backUp(m_today.addDays(i * 3), u"B"_s), BackupResult::Made);
     for (const QString& name : foreign)
         QCOMPARE(bytes(path(u"backup/"_s + name)), "mine");
     QCOMPARE(backups().size(), foreign.size() + 10);
     const QList<Backup> listed = listBackups(path(u"backup"_s));
     QCOMPARE(listed.size(), 10);
-    QCOMPARE(listed.first().day, m_today.addDays(13 * 3));
-    QCOMPARE(listed.last().day, m_today.addDays(4 * 3));
+    QCOMPARE(listed.first().made.date(), m_today.addDays(13 * 3));
+    QCOMPARE(listed.last().made.date(), m_today.addDays(4 * 3));
 }
 
 // The two kinds do not push one another out, and both can be restored.
 void BackupsTest::copyBeforeADeletion()
 {
     const QString folder = path(u"backup"_s);
-    QVERIFY(backUpOnceADay(m_book, folder, m_today) == BackupResult::Made);
+    QVERIFY(backUp(m_today) == BackupResult::Made);
     for (int i = 0; i < 7; ++i)
         QVERIFY(keepBeforeDeletion(m_book, folder, m_now)); // all within a second
     QCOMPARE(backups().size(), 1 + 5);
     for (int day = 1; day <= 12; ++day)
-        backUpOnceADay(m_book, folder, m_today.addDays(day));
+        backUp(m_today.addDays(day), u"B"_s);
     QCOMPARE(backups().filter(u"before-deletion"_s).size(), 5);
-    QVERIFY(backUpOnceADay(m_book, folder, m_today) == BackupResult::Made);
+    QCOMPARE(backups().size(), 10 + 5);
 
-    const QList<Backup> listed = listBackups(folder);
-    QCOMPARE(listed.last().path, daily(m_today));
-    const Backup& newest = listed[listed.size() - 6];
-    QCOMPARE(newest.time, QTime(10, 30, 6));
+    const Backup newest = listBackups(folder)[10];
+    QVERIFY(newest.beforeDeletion && newest.number == 8);
     m_book.close();
     QVERIFY(restore(newest.path, m_file, m_now));
     QCOMPARE(names(m_file), QStringList{u"Asha"_s});
 }
 
-void BackupsTest::clockSetBack()
+void BackupsTest::wrongClocks_data()
 {
-    for (int i = 0; i < 10; ++i)
-        backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i));
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today.addYears(-5)), BackupResult::Made);
-    QVERIFY(QFileInfo::exists(daily(m_today.addYears(-5))));
+    QTest::addColumn<QList<int>>("days"); // of each start with a change, from the first day on
+    QTest::addColumn<int>("copies");
+    QTest::newRow("set back by years") << QList<int>{0, 1, 2, -2000} << 4;
+    QTest::newRow("one start in ten years' time") << QList<int>{0, 3650, 1, 2} << 4;
+    QTest::newRow("it stands still") << QList<int>(14, 0) << 10;
+    QTest::newRow("one a month stays")
+        << QList<int>{0, 1, 31, 62, 92, 93, 94, 95, 96, 97, 98, 99, 100, 101, 102} << 13;
+    QTest::newRow("ten starts in a day leave the days before")
+        << QList<int>{0, 1, 2, 3, 4, 5, 5, 5, 5, 5, 5, 5, 5, 5} << 10;
+}
+
+void BackupsTest::wrongClocks()
+{
+    QFETCH(const QList<int>, days);
+    for (qsizetype i = 0; i < days.size(); ++i)
+        QCOMPARE(backUp(m_today.addDays(days[i]), u"start %1"_s.arg(i)), BackupResult::Made);
+    const QList<Backup> listed = listBackups(path(u"backup"_s));
+    QTEST(int(listed.size()), "copies");
+    // The newest is the last that was made, and the first of all days but the oldest ones is there.
+    QCOMPARE(names(listed.first().path).last(), u"start %1"_s.arg(days.size() - 1));
+    QVERIFY(names(listed[1].path).size() < names(listed[0].path).size());
+    if (days.contains(5))
+        QCOMPARE(listed.last().made.date(), m_today);
 }
 
 // Damage in the book must not push the good copies out, one a day.
 void BackupsTest::damagedBookIsNoBackup()
 {
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Made);
+    QCOMPARE(backUp(m_today), BackupResult::Made);
     m_book.close();
     QByteArray damaged = bytes(m_file);
     constexpr int kTail = 6 * 4096;
     damaged.replace(damaged.size() - kTail, kTail, QByteArray(kTail, 'Z'));
     put(m_file, damaged);
     QCOMPARE(m_book.open(m_file), jet::Database::OpenResult::Opened);
-    const BackupResult result = backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(1));
+    const BackupResult result = backUp(m_today.addDays(1));
     QCOMPARE(result, BackupResult::BookUnsound);
-    QCOMPARE(backups(), QStringList{u"Orvanedata-2026-06-15.dll"_s});
+    // What can be read stands beside, once for the same damage, and is no backup.
+    QCOMPARE(backUp(m_today.addDays(2)), BackupResult::BookUnsound);
+    QCOMPARE(backups(),
+        (QStringList{u"Orvanedata-2026-06-15.dll"_s, u"Orvanedata-damaged-2026-06-16-090000.dll"_s}));
+    QVERIFY(damagedCopy(path(u"backup"_s)).endsWith(backups().last()));
+    QCOMPARE(listBackups(path(u"backup"_s)).size(), 1);
 }
 
 void BackupsTest::noRoom()
 {
     put(path(u"backup"_s), "a file where the folder should be");
-    QCOMPARE(backUpOnceADay(m_book, path(u"backup"_s), m_today), BackupResult::Failed);
+    QCOMPARE(backUp(m_today), BackupResult::Failed);
     QCOMPARE(bytes(path(u"backup"_s)), "a file where the folder should be");
     QVERIFY(listBackups(path(u"backup"_s)).isEmpty());
 }
@@ -176,20 +216,19 @@ void BackupsTest::lastGood()
 {
     QVERIFY(!lastGoodBackup(path(u"backup"_s)));
     for (int i = 0; i < 3; ++i)
-        backUpOnceADay(m_book, path(u"backup"_s), m_today.addDays(i));
+        backUp(m_today.addDays(i), u"B"_s);
     const QByteArray whole = bytes(daily(m_today));
     put(daily(m_today.addDays(3)), whole.left(whole.size() / 3));
     QByteArray rotten = whole;
     rotten.replace(3 * 4096, 9 * 4096, QByteArray(9 * 4096, 'Z'));
     put(daily(m_today.addDays(2)), rotten);
-    QCOMPARE(listBackups(path(u"backup"_s)).first().day, m_today.addDays(2));
-    QCOMPARE(lastGoodBackup(path(u"backup"_s)).value().day, m_today.addDays(1));
+    QCOMPARE(lastGoodBackup(path(u"backup"_s)).value().path, daily(m_today.addDays(1)));
     QCOMPARE(bytes(daily(m_today.addDays(2))), rotten);
 }
 
 void BackupsTest::restoreKeepsThePresentFile()
 {
-    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    backUp(m_today);
     add(u"Bela"_s);
     m_book.close();
     for (int round = 1; round <= 2; ++round) {
@@ -210,7 +249,7 @@ void BackupsTest::restoreKeepsThePresentFile()
 // The log of the replaced book holds its newest rows: it goes with it and is not played into the copy.
 void BackupsTest::restoreOverDamageWithALog()
 {
-    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    backUp(m_today);
     add(u"Bela"_s);
     const QByteArray file = bytes(m_file);
     const QByteArray log = bytes(m_file + u"-wal"_s);
@@ -229,7 +268,7 @@ void BackupsTest::restoreOverDamageWithALog()
 
 void BackupsTest::restoreWithoutAPresentFile()
 {
-    backUpOnceADay(m_book, path(u"backup"_s), m_today);
+    backUp(m_today);
     m_book.close();
     QVERIFY(QFile::remove(m_file));
     // The log of a lost book is all that is left of it.
@@ -256,7 +295,7 @@ void BackupsTest::restoreFails()
     QFETCH(const QByteArray, backup);
     QFETCH(const bool, copyFails);
     if (backup == "whole")
-        backUpOnceADay(m_book, path(u"backup"_s), m_today);
+        backUp(m_today);
     else if (!backup.isEmpty())
         put(daily(m_today), backup);
     m_book.close();

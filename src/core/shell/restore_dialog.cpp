@@ -4,10 +4,8 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -27,15 +25,8 @@ std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Back
     auto* list = new QListWidget;
     list->setObjectName(u"lstBackups"_s);
     list->setAccessibleName(QObject::tr("Backups"));
-    for (const core::Backup& backup : backups) {
-        const double megabytes = double(QFileInfo(backup.path).size()) / (1024 * 1024);
-        const QString day = QLocale().toString(backup.day, QLocale::LongFormat);
-        const QString when = backup.time.isValid()
-            ? QObject::tr("%1, %2, before a deletion")
-                  .arg(day, QLocale().toString(backup.time, QLocale::ShortFormat))
-            : day;
-        list->addItem(QObject::tr("%1   (%2 MB)").arg(when, QLocale().toString(megabytes, 'f', 1)));
-    }
+    for (const core::Backup& backup : backups)
+        list->addItem(core::describedBackup(backup));
     list->setCurrentRow(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     QPushButton* restore = buttons->addButton(QObject::tr("&Restore"), QDialogButtonBox::AcceptRole);
@@ -48,7 +39,7 @@ std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Back
     layout->addWidget(text);
     layout->addWidget(list);
     layout->addWidget(buttons);
-    dialog.resize(420, 320);
+    dialog.resize(520, 340);
     if (dialog.exec() != QDialog::Accepted || list->currentRow() < 0)
         return {};
     return backups.at(list->currentRow());

@@ -8,7 +8,7 @@ class QWidget;
 
 namespace shell {
 
-/// Lets the person choose one of the daily backups; nothing when cancelled.
+/// Lets the person choose one of the backups; nothing when cancelled.
 std::optional<core::Backup> chooseBackup(QWidget* parent, const QList<core::Backup>& backups);
 
 } // namespace shell

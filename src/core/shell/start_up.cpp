@@ -6,14 +6,13 @@
 #include "core/shell/frmSplash.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/restore_dialog.h"
-#include "core/store/backups.h"
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QThread>
 #include <QTimer>
 
@@ -41,16 +40,20 @@ StartUp::~StartUp()
     delete m_wait;
 }
 
-void StartUp::begin(bool inHomeCountry)
+void StartUp::begin(bool inHomeCountry, bool hasLock)
 {
+    m_inHomeCountry = inHomeCountry;
     if (!QFileInfo::exists(m_files.dataFile()) || !QFileInfo::exists(m_files.infoFile())) {
         m_wait = new Form3;
         m_wait->show();
         QApplication::processEvents();
     }
-    m_files.makeMissing(inHomeCountry);
-    m_report = m_files.openData(m_context.data);
-    m_files.openInfo(m_context.info);
+    m_report = m_files.makeMissing(inHomeCountry);
+    if (const core::BookReport opened = m_files.openData(m_context.data);
+        m_report.fault != core::BookReport::Fault::NotMade || opened)
+        m_report = opened;
+    openInformation();
+    noteWhatIsWrong(hasLock);
 
     m_splash = new frmSplash(m_context);
     connect(m_splash, &frmSplash::activated, this, &StartUp::unloadWaitNotice);
@@ -91,6 +94,7 @@ void StartUp::showMainShell()
     m_frame.show();
     m_frame.raise();
     m_frame.activateWindow();
+    tellNotices();
     backUpLater();
 }
 
@@ -103,6 +107,7 @@ void StartUp::showEmailShell()
     m_emailSuite->show();
     m_emailSuite->raise();
     m_emailSuite->activateWindow();
+    tellNotices();
     backUpLater();
 }
 
@@ -129,7 +134,7 @@ void StartUp::unloadSplash()
 // Load said nothing; here, at the first look at the settings, is where a missing or damaged book shows.
 void StartUp::bookFailed()
 {
-    if (restoreBackup(m_report) && (m_report = m_files.openData(m_context.data))) {
+    if (mend(m_report) && (m_report = m_files.openData(m_context.data))) {
         m_splash->load();
         return;
     }
@@ -137,50 +142,151 @@ void StartUp::bookFailed()
     m_context.services.shell.endProgram();
 }
 
-bool StartUp::restoreBackup(const core::BookReport& report)
+bool StartUp::mend(const core::BookReport& report)
 {
+    using Fault = core::BookReport::Fault;
     platform::MessageBoxes& boxes = m_context.services.boxes;
     const QString& title = m_context.shared.AppTitle;
     const QString what = report.text.isEmpty()
         ? tr("The database \"%1\" can not be read.").arg(m_files.dataFile())
         : report.text;
-    const auto backup = report.fault == core::BookReport::Fault::NewerVersion
+    const auto backup = report.fault == Fault::NewerVersion || report.fault == Fault::NotMade
         ? std::nullopt
         : core::lastGoodBackup(m_backupFolder);
+    if (!backup && report.fault == Fault::Missing)
+        return makeNewBook(what);
     if (!backup) {
         boxes.warning(what, title);
         return false;
     }
-    const QString day = QLocale().toString(backup->day, QLocale::LongFormat);
     const QString question = what + u"\n\n"_s
-        + tr("Shall the backup of %1 be put in its place? The file itself is kept.").arg(day);
-    if (boxes.ask(question, title, platform::Icon::Warning) == platform::Answer::No)
+        + tr("Shall the backup of %1 be put in its place? The file itself is kept.")
+              .arg(core::describedBackup(*backup));
+    return boxes.ask(question, title, platform::Icon::Warning) == platform::Answer::Yes && putBack(*backup);
+}
+
+bool StartUp::makeNewBook(const QString& what)
+{
+    platform::MessageBoxes& boxes = m_context.services.boxes;
+    const QString& title = m_context.shared.AppTitle;
+    const QString question = what + u"\n\n"_s
+        + tr("There is no backup of it in \"%1\". Shall a new, empty address book be made?")
+              .arg(QDir::toNativeSeparators(m_backupFolder));
+    if (boxes.ask(question, title, platform::Icon::Warning) != platform::Answer::Yes)
         return false;
+    const bool made = m_files.makeNewBook(m_inHomeCountry);
+    if (!made) {
+        const QString folder = QFileInfo(m_files.dataFile()).absolutePath();
+        boxes.warning(tr("No address book could be made in the folder \"%1\": %2.")
+                          .arg(QDir::toNativeSeparators(folder), core::BookFiles::whyNotWritable(folder)),
+            title);
+    }
+    return made;
+}
+
+bool StartUp::putBack(const core::Backup& backup)
+{
     m_context.data.close();
-    const auto restored = core::restore(backup->path, m_files.dataFile(), m_context.services.clock.now());
+    const auto restored = core::restore(backup.path, m_files.dataFile(), m_context.services.clock.now());
     if (!restored)
-        boxes.warning(restored.reason, title);
+        m_context.services.boxes.warning(restored.reason, m_context.shared.AppTitle);
     return bool(restored);
+}
+
+void StartUp::openInformation()
+{
+    if (m_report.fault != core::BookReport::Fault::NotMade && !m_files.openInfo(m_context.info))
+        remakeInformation();
+}
+
+void StartUp::remakeInformation()
+{
+    m_context.info.close();
+    const bool done = m_files.remakeInfo(m_inHomeCountry) && m_files.openInfo(m_context.info);
+    const QString file = QDir::toNativeSeparators(m_files.infoFile());
+    m_notices << (done
+            ? tr(
+                "The file of names and places \"%1\" was damaged. It was made anew. Your address book is not "
+                "touched by this.")
+                  .arg(file)
+            : tr("The file of names and places \"%1\" is damaged and could not be made anew. Its lists stay "
+                 "empty. Your address book is not touched by this.")
+                  .arg(file));
+}
+
+void StartUp::noteWhatIsWrong(bool hasLock)
+{
+    if (!m_report)
+        return;
+    const QString folder = QFileInfo(m_files.dataFile()).absolutePath();
+    if (m_context.data.isReadOnly())
+        m_notices << tr(
+            "The address book can only be looked at: %1. What you change will not be stored.\n\n%2")
+                         .arg(core::BookFiles::whyNotWritable(folder), QDir::toNativeSeparators(folder));
+    else if (!hasLock)
+        m_notices << tr(
+            "The folder \"%1\" could not be marked as in use. Do not start Orvane Contacts a second "
+            "time on this address book.")
+                         .arg(QDir::toNativeSeparators(folder));
+}
+
+// Behind the shell's own coming up, with its window below the box.
+void StartUp::tellNotices()
+{
+    QTimer::singleShot(0, this, [this] {
+        for (const QString& notice : std::exchange(m_notices, {}))
+            m_context.services.boxes.warning(notice, m_context.shared.AppTitle);
+    });
+}
+
+void StartUp::bookIsDamaged()
+{
+    if (std::exchange(m_toldOfDamage, true))
+        return;
+    platform::MessageBoxes& boxes = m_context.services.boxes;
+    const QString& title = m_context.shared.AppTitle;
+    QString what = tr("The address book \"%1\" is damaged: a part of it can not be read.")
+                       .arg(QDir::toNativeSeparators(m_files.dataFile()));
+    if (const QString copy = core::damagedCopy(m_backupFolder); !copy.isEmpty())
+        what += u' ' + tr("What can be read is kept as \"%1\".").arg(QDir::toNativeSeparators(copy));
+    const auto backup = core::lastGoodBackup(m_backupFolder);
+    if (!backup) {
+        boxes.warning(what + u"\n\n"_s
+                + tr("There is no sound backup of it in \"%1\".")
+                      .arg(QDir::toNativeSeparators(m_backupFolder)),
+            title);
+        return;
+    }
+    const QString question = what + u"\n\n"_s
+        + tr("Shall the backup of %1 be put in its place? The file itself is kept.")
+              .arg(core::describedBackup(*backup));
+    if (boxes.ask(question, title, platform::Icon::Warning) == platform::Answer::Yes)
+        restoreNow(*backup);
 }
 
 void StartUp::chooseAndRestore()
 {
-    platform::MessageBoxes& boxes = m_context.services.boxes;
-    const QString& title = m_context.shared.AppTitle;
     const auto backups = core::listBackups(m_backupFolder);
     if (backups.isEmpty()) {
-        boxes.information(
-            tr("There is no backup yet. One is made each day that the program is started."), title);
+        m_context.services.boxes.information(
+            tr("There is no backup yet. One is made at the start, when something was changed since the last "
+               "one."),
+            m_context.shared.AppTitle);
         return;
     }
-    const auto chosen = chooseBackup(&m_frame, backups);
-    if (!chosen)
-        return;
+    if (const auto chosen = chooseBackup(&m_frame, backups))
+        restoreNow(*chosen);
+}
+
+void StartUp::restoreNow(const core::Backup& backup)
+{
+    platform::MessageBoxes& boxes = m_context.services.boxes;
+    const QString& title = m_context.shared.AppTitle;
     if (m_backup)
         m_backup->wait();
     m_context.screens.unloadAll();
     m_context.data.close();
-    const auto restored = core::restore(chosen->path, m_files.dataFile(), m_context.services.clock.now());
+    const auto restored = core::restore(backup.path, m_files.dataFile(), m_context.services.clock.now());
     m_report = m_files.openData(m_context.data);
     m_frame.reloadFrame();
     if (restored && m_report)
@@ -196,14 +302,33 @@ void StartUp::backUpLater()
     QTimer::singleShot(3000, this, [this] {
         if (m_backup || !m_context.data.isOpen())
             return;
-        const QDate today = m_context.services.clock.today();
-        m_backup.reset(QThread::create([file = m_files.dataFile(), folder = m_backupFolder, today] {
+        m_backup.reset(QThread::create([this, file = m_files.dataFile(), names = m_files.infoFile(),
+                                           folder = m_backupFolder, now = m_context.services.clock.now()] {
+            using Opened = jet::Database::OpenResult;
             jet::Database book;
-            if (book.open(file) == jet::Database::OpenResult::Opened)
-                core::backUpOnceADay(book, folder, today);
+            auto result = core::BackupResult::Failed;
+            if (book.open(file) == Opened::Opened)
+                result = core::backUpIfChanged(book, folder, now);
+            if (result == core::BackupResult::Failed && book.isOpen() && !book.checkSoundness().isEmpty())
+                result = core::BackupResult::BookUnsound;
+            jet::Database info;
+            const bool infoIsSound = info.open(names, jet::Database::Kind::Information) == Opened::Opened
+                && info.checkSoundness().isEmpty();
+            QMetaObject::invokeMethod(
+                this, [this, result, infoIsSound] { backedUp(result, infoIsSound); }, Qt::QueuedConnection);
         }));
         m_backup->start(QThread::IdlePriority);
     });
+}
+
+void StartUp::backedUp(core::BackupResult result, bool infoIsSound)
+{
+    if (!infoIsSound && m_context.info.isOpen()) {
+        remakeInformation();
+        tellNotices();
+    }
+    if (result == core::BackupResult::BookUnsound)
+        bookIsDamaged();
 }
 
 } // namespace shell

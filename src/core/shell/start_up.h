@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/context.h"
+#include "core/store/backups.h"
 #include "core/store/book_files.h"
 
 #include <QObject>
@@ -27,8 +28,11 @@ public:
         QObject* parent = nullptr);
     ~StartUp() override;
 
-    void begin(bool inHomeCountry);
+    /// hasLock: whether it is sure that no other program works in this folder.
+    void begin(bool inHomeCountry, bool hasLock = true);
     void bringToFront();
+    /// Somebody met a damaged piece of the book: the person is told, once, and offered the last backup.
+    void bookIsDamaged();
 
 private:
     void buildFrame();
@@ -37,9 +41,17 @@ private:
     void unloadWaitNotice();
     void unloadSplash();
     void bookFailed();
-    bool restoreBackup(const core::BookReport& report);
+    bool mend(const core::BookReport& report);
+    bool makeNewBook(const QString& what);
+    bool putBack(const core::Backup& backup);
     void chooseAndRestore();
+    void restoreNow(const core::Backup& backup);
+    void openInformation();
+    void remakeInformation();
+    void noteWhatIsWrong(bool hasLock);
+    void tellNotices();
     void backUpLater();
+    void backedUp(core::BackupResult result, bool infoIsSound);
 
     core::Context& m_context;
     MDIForm1& m_frame;
@@ -50,7 +62,10 @@ private:
     QPointer<Form3> m_wait;
     std::unique_ptr<FrmEmailSuite> m_emailSuite;
     std::unique_ptr<QThread> m_backup;
+    QStringList m_notices; ///< to be told when a shell has come up
+    bool m_inHomeCountry = false;
     bool m_frameBuilt = false;
+    bool m_toldOfDamage = false;
 };
 
 } // namespace shell

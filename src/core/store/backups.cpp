@@ -4,10 +4,13 @@
 #include "core/store/durable_files.h"
 #include "jet/database.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -19,93 +22,211 @@ namespace {
 
 constexpr int kBackupsKept = 10;
 constexpr int kDeletionsKept = 5;
+constexpr int kDamagedKept = 3;
 
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(core::Backups)
 };
 
-/// The daily copy is made at the start of a day, before anything is deleted; its time is not valid.
+// The note in a copy, in a table of its own, which a restore takes out again.
+const QString kNote = u"OV_Copy"_s;
+constexpr auto kNoteSchema = "database,table,column,type,size\n"
+                             "copy,OV_Copy,number,number,\n"
+                             "copy,OV_Copy,made,text,40\n"
+                             "copy,OV_Copy,content,text,80\n";
+
 bool isNewer(const Backup& a, const Backup& b)
 {
-    return a.day != b.day ? a.day > b.day : a.time.isValid() && (!b.time.isValid() || a.time > b.time);
+    if (a.number != b.number)
+        return a.number > b.number;
+    return a.made != b.made ? a.made > b.made : a.path > b.path;
 }
 
-/// All files of exactly the pattern, newest first. The first group is the day, the second the time.
-QList<Backup> filesOf(const QString& folder, const QRegularExpression& pattern)
+/// What the file tells of itself: only its name where it is of an earlier version or can not be read.
+Backup readBackup(const QFileInfo& file, const QDateTime& madeByName, bool beforeDeletion)
 {
+    Backup backup{file.absoluteFilePath(), 0, madeByName, beforeDeletion, 0, file.size(), {}};
+    jet::Database copy;
+    // As shipped rows are opened: no log is begun beside a file that is only looked at.
+    if (!BookFiles::inspect(backup.path)
+        || copy.open(backup.path, jet::Database::Kind::Information) != jet::Database::OpenResult::Opened)
+        return backup;
+    backup.contacts = int(copy.openRecordset(u"select count(id) as n from cnt_main"_s).number(u"n"));
+    if (!copy.tables().contains(kNote, Qt::CaseInsensitive))
+        return backup;
+    const auto note = copy.openRecordset(u"select * from "_s + kNote);
+    const QDateTime made = QDateTime::fromString(note.textOrEmpty(u"made"), Qt::ISODate);
+    backup.number = note.number(u"number");
+    backup.made = made.isValid() ? made : madeByName;
+    backup.content = note.textOrEmpty(u"content");
+    return backup;
+}
+
+/// The files of exactly the names that this program gives, newest first. What is beside them is not ours.
+QList<Backup> allBackups(const QString& folder)
+{
+    static const QRegularExpression pattern(
+        u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})(-[0-9]{1,4}|-before-deletion-([0-9]{6}))?\\.dll\\z"_s);
     QList<Backup> found;
     for (const QFileInfo& entry : QDir(folder).entryInfoList({u"Orvanedata-*.dll"_s}, QDir::Files)) {
         const auto match = pattern.match(entry.fileName());
         const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
-        const QTime time = QTime::fromString(match.captured(2), u"HHmmss"_s);
-        const bool timeFits = match.captured(2).isEmpty() || time.isValid();
-        if (match.hasMatch() && day.isValid() && timeFits && !entry.isSymLink())
-            found << Backup{entry.absoluteFilePath(), day, time};
+        const bool beforeDeletion = !match.captured(3).isEmpty();
+        const QTime time = beforeDeletion ? QTime::fromString(match.captured(3), u"HHmmss"_s) : QTime(0, 0);
+        if (match.hasMatch() && day.isValid() && time.isValid() && !entry.isSymLink())
+            found << readBackup(entry, QDateTime(day, time), beforeDeletion);
     }
     std::sort(found.begin(), found.end(), isNewer);
     return found;
 }
 
-QList<Backup> dailyFiles(const QString& folder)
-{
-    static const QRegularExpression pattern(u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})\\.dll\\z"_s);
-    return filesOf(folder, pattern);
-}
-
-QList<Backup> deletionFiles(const QString& folder)
-{
-    static const QRegularExpression pattern(
-        u"\\AOrvanedata-([0-9]{4}-[0-9]{2}-[0-9]{2})-before-deletion-([0-9]{6})\\.dll\\z"_s);
-    return filesOf(folder, pattern);
-}
-
 bool isSound(const QString& path)
 {
     jet::Database copy;
-    // As shipped rows are opened: no log is begun beside a file that is only looked at.
     return BookFiles::inspect(path)
         && copy.open(path, jet::Database::Kind::Information) == jet::Database::OpenResult::Opened
         && copy.checkSoundness().isEmpty() && copy.tables().contains(u"cnt_main"_s, Qt::CaseInsensitive);
 }
 
-} // namespace
+/// The same for two copies between which nothing was stored.
+QString contentOf(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray head = file.read(100);
+    // The counters of changes in the head move by themselves, also when nothing was stored.
+    for (const auto& [from, length] : {std::pair(24, 4), std::pair(92, 8)}) {
+        if (head.size() >= from + length)
+            head.replace(from, length, QByteArray(length, '\0'));
+    }
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(head);
+    return hash.addData(&file) ? QString::fromLatin1(hash.result().toHex()) : QString();
+}
 
-namespace {
+bool writeNote(const QString& path, qint64 number, const QDateTime& made, const QString& content)
+{
+    jet::Database copy;
+    if (copy.open(path, jet::Database::Kind::Information) != jet::Database::OpenResult::Opened)
+        return false;
+    // A restored book may hold one, when it was put in its place by hand.
+    if (copy.tables().contains(kNote, Qt::CaseInsensitive))
+        copy.execute(u"drop table "_s + kNote);
+    return copy.applySchema(jet::Schema::fromCsv(kNoteSchema), u"copy"_s)
+        && copy.appendRows(kNote, {u"number"_s, u"made"_s, u"content"_s},
+            {{QString::number(number), made.toString(Qt::ISODate), content}});
+}
 
-BackupResult copyTo(jet::Database& database, const QString& folder, const QString& path)
+void takeNoteOut(const QString& path)
+{
+    jet::Database copy;
+    if (copy.open(path, jet::Database::Kind::Information) == jet::Database::OpenResult::Opened
+        && copy.tables().contains(kNote, Qt::CaseInsensitive))
+        copy.execute(u"drop table "_s + kNote);
+}
+
+QStringList damagedFiles(const QString& folder)
+{
+    QStringList paths;
+    for (const QFileInfo& entry :
+        QDir(folder).entryInfoList({u"Orvanedata-damaged-*.dll"_s}, QDir::Files, QDir::Time))
+        paths << entry.absoluteFilePath();
+    return paths;
+}
+
+// What can be read of a damaged book is in its copy as well; each day may take more of the book away.
+void keepDamaged(const QString& unchecked, const QString& folder, const QDateTime& now)
+{
+    const QStringList before = damagedFiles(folder);
+    if (!before.isEmpty() && contentOf(before.first()) == contentOf(unchecked)) {
+        QFile::remove(unchecked);
+        return;
+    }
+    const QString path
+        = QDir(folder).filePath(now.toString(u"'Orvanedata-damaged-'yyyy-MM-dd-HHmmss'.dll'"_s));
+    if (!putInPlace(unchecked, path))
+        QFile::remove(unchecked);
+    for (qsizetype i = kDamagedKept - 1; i < before.size(); ++i)
+        QFile::remove(before[i]);
+}
+
+struct NewCopy {
+    QString folder;
+    QString path;
+    QDateTime now;
+    bool evenIfUnchanged = false;
+};
+
+BackupResult makeCopy(jet::Database& database, const NewCopy& wanted, const QList<Backup>& before)
 {
     // Checked under another name, so that damage is never found under the name of a backup.
-    const QString unchecked = path + u".new"_s;
+    const QString unchecked = wanted.path + u".new"_s;
     QFile::remove(unchecked);
-    if (!QDir().mkpath(folder) || !database.backUpTo(unchecked))
+    if (!QDir().mkpath(wanted.folder) || !database.backUpTo(unchecked))
         return BackupResult::Failed;
-    if (!isSound(unchecked)) {
+    const auto drop = [&unchecked](BackupResult result) {
         QFile::remove(unchecked);
+        return result;
+    };
+    if (!isSound(unchecked)) {
+        keepDamaged(unchecked, wanted.folder, wanted.now);
         return BackupResult::BookUnsound;
     }
-    if (!putInPlace(unchecked, path)) {
-        QFile::remove(unchecked);
-        return BackupResult::Failed;
-    }
+    const QString content = contentOf(unchecked);
+    const qint64 number = before.isEmpty() ? 0 : before.first().number;
+    if (!wanted.evenIfUnchanged && !before.isEmpty() && before.first().content == content
+        && isSound(before.first().path))
+        return drop(BackupResult::NotNeeded);
+    if (!writeNote(unchecked, number + 1, wanted.now, content) || !putInPlace(unchecked, wanted.path))
+        return drop(BackupResult::Failed);
     return BackupResult::Made;
+}
+
+/// Of copies in their order, newest first, those that may go.
+QStringList superfluous(QList<Backup> copies)
+{
+    QStringList paths;
+    QSet<QString> months;
+    qsizetype older = 0; // of the last ten, but the last of their month
+    QSet<QString> lastOfMonth;
+    for (qsizetype i = 0; i < copies.size(); ++i) {
+        const QString month = copies[i].made.toString(u"yyyy-MM"_s);
+        if (months.contains(month))
+            continue;
+        months << month;
+        lastOfMonth << copies[i].path;
+        older += i >= kBackupsKept ? 1 : 0;
+    }
+    // First those between the first and the last of one day, so that ten starts in a day leave the days
+    // before.
+    const auto dayOf = [&copies](qsizetype i) { return copies[i].made.date(); };
+    for (qsizetype i = copies.size() - 2; i > 0 && copies.size() > kBackupsKept + older; --i) {
+        if (dayOf(i) == dayOf(i - 1) && dayOf(i) == dayOf(i + 1))
+            paths << copies.takeAt(i).path;
+    }
+    for (qsizetype i = kBackupsKept; i < copies.size(); ++i) {
+        if (!lastOfMonth.contains(copies[i].path))
+            paths << copies[i].path;
+    }
+    return paths;
 }
 
 } // namespace
 
-BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDate today)
+BackupResult backUpIfChanged(jet::Database& database, const QString& folder, const QDateTime& now)
 {
-    const QString path = QDir(folder).filePath(u"Orvanedata-"_s + today.toString(Qt::ISODate) + u".dll"_s);
-    if (QFileInfo::exists(path))
-        return BackupResult::NotNeeded;
-    const BackupResult result = copyTo(database, folder, path);
+    const QString stem = QDir(folder).filePath(u"Orvanedata-"_s + now.date().toString(Qt::ISODate));
+    QString path = stem + u".dll"_s;
+    for (int i = 2; QFileInfo::exists(path); ++i)
+        path = u"%1-%2.dll"_s.arg(stem).arg(i);
+    const BackupResult result = makeCopy(database, {folder, path, now}, allBackups(folder));
     if (result != BackupResult::Made)
         return result;
-    const QList<Backup> all = dailyFiles(folder);
-    for (qsizetype i = kBackupsKept; i < all.size(); ++i) {
-        // With a clock that was set back the new one may be the oldest by its name.
-        if (all[i].day != today)
-            QFile::remove(all[i].path);
-    }
+    QList<Backup> all = allBackups(folder);
+    all.removeIf([](const Backup& backup) { return backup.beforeDeletion; });
+    for (const QString& superseded : superfluous(all))
+        QFile::remove(superseded);
     return BackupResult::Made;
 }
 
@@ -116,29 +237,20 @@ bool keepBeforeDeletion(jet::Database& database, const QString& folder, const QD
             time.toString(u"'Orvanedata-'yyyy-MM-dd'-before-deletion-'HHmmss'.dll'"_s));
     };
     QDateTime time = now;
-    // Several within one second stand in their order.
-    if (const QList<Backup> before = deletionFiles(folder); !before.isEmpty()) {
-        const QDateTime newest(before.first().day, before.first().time);
-        if (newest >= now && newest < now.addSecs(60))
-            time = newest.addSecs(1);
-    }
     while (QFileInfo::exists(pathAt(time)))
         time = time.addSecs(1);
-    const QString path = pathAt(time);
-    if (copyTo(database, folder, path) != BackupResult::Made)
+    if (makeCopy(database, {folder, pathAt(time), now, true}, allBackups(folder)) != BackupResult::Made)
         return false;
-    const QList<Backup> all = deletionFiles(folder);
-    for (qsizetype i = kDeletionsKept; i < all.size(); ++i) {
-        if (QFileInfo(all[i].path) != QFileInfo(path))
-            QFile::remove(all[i].path);
-    }
+    QList<Backup> all = allBackups(folder);
+    all.removeIf([](const Backup& backup) { return !backup.beforeDeletion; });
+    for (qsizetype i = kDeletionsKept; i < all.size(); ++i)
+        QFile::remove(all[i].path);
     return true;
 }
 
 QList<Backup> listBackups(const QString& folder)
 {
-    QList<Backup> found = dailyFiles(folder) + deletionFiles(folder);
-    std::sort(found.begin(), found.end(), isNewer);
+    QList<Backup> found = allBackups(folder);
     found.removeIf([](const Backup& backup) { return !BookFiles::inspect(backup.path); });
     return found;
 }
@@ -150,6 +262,26 @@ std::optional<Backup> lastGoodBackup(const QString& folder)
             return backup;
     }
     return {};
+}
+
+QString describedBackup(const Backup& backup)
+{
+    const QLocale locale;
+    const QString day = locale.toString(backup.made.date(), QLocale::LongFormat);
+    const QString time = locale.toString(backup.made.time(), QLocale::ShortFormat);
+    const QString when = backup.beforeDeletion ? Text::tr("%1, %2, before a deletion").arg(day, time)
+        : backup.number > 0                    ? Text::tr("%1, %2").arg(day, time)
+                                               : day;
+    const QString contacts = backup.contacts == 1
+        ? Text::tr("1 contact")
+        : Text::tr("%1 contacts").arg(locale.toString(backup.contacts));
+    const QString size = locale.toString(double(backup.bytes) / (1024 * 1024), 'f', 1);
+    return Text::tr("%1   (%2, %3 MB)").arg(when, contacts, size);
+}
+
+QString damagedCopy(const QString& folder)
+{
+    return damagedFiles(folder).value(0);
 }
 
 bool keepBeforeUpgrade(jet::Database& database, const QString& folder, int version)
@@ -178,6 +310,7 @@ Restored restore(const QString& backup, const QString& dataFile, const QDateTime
         return {false, {}, failure};
     }
     QFile::setPermissions(incoming, QFile::permissions(incoming) | QFile::WriteOwner);
+    takeNoteOut(incoming);
 
     const QFileInfo present(dataFile);
     const QString stem = present.absoluteDir().filePath(

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDate>
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -13,34 +12,48 @@ class Database;
 
 namespace core {
 
-/// A daily copy of the data database: `Orvanedata-2026-06-15.dll`. Or one that was made just before many
-/// contacts were deleted: `Orvanedata-2026-06-15-before-deletion-143005.dll`.
+/// A copy of the data database: `Orvanedata-2026-06-15.dll`, a second one of the day with `-2`. Or one that
+/// was made just before many contacts were deleted: `Orvanedata-2026-06-15-before-deletion-143005.dll`.
+///
+/// Which is newer is told by a number in the copy itself, since the clock of a computer may be wrong and a
+/// name can be changed. Copies of earlier versions have no number; they count as the oldest, in the order of
+/// names.
 struct Backup {
     QString path;
-    QDate day;
-    QTime time = {}; ///< only of a copy before a deletion
+    qint64 number = 0;
+    QDateTime made; ///< by the clock of that time
+    bool beforeDeletion = false;
+    int contacts = 0;
+    qint64 bytes = 0;
+    QString content; ///< a fingerprint of the book that was copied
 };
 
 enum class BackupResult {
     Made,
-    NotNeeded, ///< there is one of today
+    NotNeeded, ///< nothing was changed since the last copy
     Failed, ///< no room, no right to write; nothing was changed
-    BookUnsound, ///< the copy shows damage; it was dropped, and the older backups stay
+    BookUnsound, ///< the copy shows damage; it stands beside the backups as `Orvanedata-damaged-...`
 };
 
-/// Copies the book to the folder, at most once a day, and removes what is older than the last ten daily
-/// copies. Other files in the folder are never touched. The whole book is read, so this is best done when the
-/// person looks at something already; a thread of its own needs a Database of its own.
-BackupResult backUpOnceADay(jet::Database& database, const QString& folder, QDate today);
+/// Copies the book to the folder if it holds anything else than the last copy. The last ten stay, of one day
+/// the first and the last ones, and the last of each month. Other files in the folder are never touched. The
+/// whole book is read, so this is best done when the person looks at something already; a thread of its own
+/// needs a Database of its own.
+BackupResult backUpIfChanged(jet::Database& database, const QString& folder, const QDateTime& now);
 
-/// Copies the book before a deletion that the person may regret. The daily rotation leaves these copies
-/// alone; of their own the last five stay. False when there is no sound copy: then nothing should be deleted.
+/// Copies the book before a deletion that the person may regret. The rotation of the others leaves these
+/// copies alone; of their own the last five stay. False when there is no sound copy: then nothing should be
+/// deleted.
 bool keepBeforeDeletion(jet::Database& database, const QString& folder, const QDateTime& now);
 
 /// The copies that look complete, newest first.
 QList<Backup> listBackups(const QString& folder);
 /// The newest copy that proves sound when it is read as a whole.
 std::optional<Backup> lastGoodBackup(const QString& folder);
+/// What a person chooses a backup by: when it was made, how many contacts are in it, its size.
+QString describedBackup(const Backup& backup);
+/// The newest copy of a book that showed damage; empty when there is none.
+QString damagedCopy(const QString& folder);
 
 /// Keeps a copy that no rotation removes, named by the version that the book had.
 bool keepBeforeUpgrade(jet::Database& database, const QString& folder, int version);

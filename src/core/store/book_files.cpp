@@ -3,6 +3,7 @@
 #include "core/store/backups.h"
 #include "core/store/durable_files.h"
 #include "jet/database.h"
+#include "platform/storage.h"
 
 #include <QDir>
 #include <QFile>
@@ -81,14 +82,14 @@ bool BookFiles::hadABook() const
     return QFileInfo::exists(markerFile()) || !listBackups(m_backupFolder).isEmpty();
 }
 
-bool BookFiles::makeMissing(bool national)
+BookReport BookFiles::makeMissing(bool national)
 {
     QDir().mkpath(m_programFolder);
-    bool done = true;
-    if (!QFileInfo::exists(infoFile()))
-        done = makeNew(infoFile(), BookPart::Information, national);
-    if (!QFileInfo::exists(dataFile()) && !hadABook())
-        done = makeNew(dataFile(), BookPart::Data, national) && done;
+    BookReport report;
+    if (!QFileInfo::exists(infoFile()) && !makeNew(infoFile(), BookPart::Information, national))
+        report = notMade(infoFile());
+    if (!QFileInfo::exists(dataFile()) && !hadABook() && !makeNew(dataFile(), BookPart::Data, national))
+        report = notMade(dataFile());
     // Also for a book that came here by a copy, or when the program ended between the two steps.
     if (QFileInfo::exists(dataFile()) && !QFileInfo::exists(markerFile())) {
         QSaveFile marker(markerFile());
@@ -98,7 +99,46 @@ bool BookFiles::makeMissing(bool national)
             marker.commit();
         }
     }
-    return done;
+    return report;
+}
+
+BookReport BookFiles::notMade(const QString& path) const
+{
+    const QString folder = QDir::toNativeSeparators(m_programFolder);
+    const QString text = tr("No address book could be made in the folder \"%1\": %2.")
+                             .arg(folder, whyNotWritable(m_programFolder));
+    return {Fault::NotMade, path, text};
+}
+
+QString BookFiles::whyNotWritable(const QString& folder)
+{
+    constexpr qint64 kNoRoom = 1024 * 1024;
+    if (!QFileInfo(folder).isDir())
+        return tr("the folder could not be made");
+    const qint64 room = platform::freeBytes(folder);
+    if (room >= 0 && room < kNoRoom)
+        return tr("the disk is full");
+    return platform::isWritable(folder) ? tr("there is not enough room on the disk")
+                                        : tr("nothing may be written in this folder");
+}
+
+bool BookFiles::makeNewBook(bool national) const
+{
+    return makeNew(dataFile(), BookPart::Data, national);
+}
+
+bool BookFiles::remakeInfo(bool national) const
+{
+    const QString path = infoFile();
+    const QString stem = QDir(m_programFolder).filePath(QFileInfo(path).completeBaseName() + u"-damaged"_s);
+    QString aside = stem + u".dll"_s;
+    for (int i = 2; QFileInfo::exists(aside); ++i)
+        aside = u"%1-%2.dll"_s.arg(stem).arg(i);
+    if (QFileInfo::exists(path) && !QFile::rename(path, aside))
+        return false;
+    for (const auto& ending : {u"-journal"_s, u"-wal"_s, u"-shm"_s})
+        QFile::remove(path + ending);
+    return makeNew(path, BookPart::Information, national);
 }
 
 bool BookFiles::makeNew(const QString& path, BookPart part, bool national)
@@ -147,6 +187,10 @@ BookReport BookFiles::inspect(const QString& path)
     QFile file(path);
     if (!file.exists())
         return report(Fault::Missing, tr("The database \"%1\" is missing.").arg(shown));
+    // Reading from a pipe would wait for somebody to write to it.
+    if (!QFileInfo(path).isFile())
+        return report(Fault::NotADatabase,
+            tr("\"%1\" is no file, so it can not be the database. It was left as it is.").arg(shown));
     if (!file.open(QIODevice::ReadOnly))
         return report(
             Fault::Damaged, tr("The database \"%1\" can not be read: %2.").arg(shown, file.errorString()));

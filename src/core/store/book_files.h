@@ -20,6 +20,7 @@ struct BookReport {
         NotADatabase, ///< something else, or a database that is no address book
         NewerVersion, ///< made by a later version of this program
         Damaged, ///< a whole database that can not be read
+        NotMade, ///< there was none yet, and none could be made
         NotUpgraded, ///< of an older version, and a copy or the change itself failed; it is as it was
     };
     Fault fault = Fault::None;
@@ -48,7 +49,11 @@ public:
     /// anew at any time. The data database is made only for somebody who never had one: a book that was there
     /// and is gone must not be covered up by an empty one. national: whether this user lives in the home
     /// country.
-    bool makeMissing(bool national);
+    BookReport makeMissing(bool national);
+    /// An empty book in the place of one that is gone, when the person wants that.
+    bool makeNewBook(bool national) const;
+    /// Puts the information database aside, whatever is wrong with it, and makes it anew.
+    bool remakeInfo(bool national) const;
 
     /// Opens a database if it is sound, after adding what a later version of the schema has. A copy of the
     /// older file is kept in the backup folder before that.
@@ -59,10 +64,13 @@ public:
     static bool makeNew(const QString& path, BookPart part, bool national);
     /// Looks at a file without opening it as a database, so nothing is written, not even a log beside it.
     static BookReport inspect(const QString& path);
+    /// A piece of a sentence: why no file can be made or changed in a folder.
+    static QString whyNotWritable(const QString& folder);
 
 private:
     BookReport open(jet::Database& database, BookPart part) const;
     bool hadABook() const;
+    BookReport notMade(const QString& path) const;
     QString markerFile() const;
 
     QString m_programFolder;
