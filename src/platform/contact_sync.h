@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -71,6 +72,9 @@ struct MailContact {
     bool operator==(const MailContact&) const = default;
 };
 
+/// Writes what a form holds of a contact into it, and leaves the rest.
+using MailChange = std::function<void(MailContact& contact)>;
+
 /// The contacts of the mail client. A call that the client can't serve answers false and changes nothing.
 class MailContacts {
 public:
@@ -81,8 +85,8 @@ public:
 
     /// Always makes a new item, also when one has that key already.
     virtual bool add(const MailContact& contact) = 0;
-    /// Rewrites the item with the contact's key; false when there is none.
-    virtual bool update(const MailContact& contact) = 0;
+    /// Changes the item with that key; false when there is none. What the change leaves stays as it is.
+    virtual bool update(const QString& key, const MailChange& change) = 0;
     /// Gives an item of list() a key, and leaves all else of it.
     virtual bool assignKey(const QString& item, const QString& key) = 0;
     virtual bool remove(const QString& key) = 0;

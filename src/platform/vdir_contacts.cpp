@@ -51,12 +51,14 @@ bool VdirContacts::add(const MailContact& contact)
     return write(name + u".vcf"_s, card);
 }
 
-bool VdirContacts::update(const MailContact& contact)
+bool VdirContacts::update(const QString& key, const MailChange& change)
 {
-    const QString file = fileOf(contact.key);
+    const QString file = fileOf(key);
     std::optional<ContactCard> card = file.isEmpty() ? std::nullopt : read(file);
     if (!card)
         return false;
+    MailContact contact = card->contact();
+    change(contact);
     card->setContact(contact);
     return write(file, *card);
 }

@@ -19,7 +19,7 @@ public:
     explicit VdirContacts(const QString& folder);
 
     bool add(const MailContact& contact) override;
-    bool update(const MailContact& contact) override;
+    bool update(const QString& key, const MailChange& change) override;
     bool assignKey(const QString& item, const QString& key) override;
     bool remove(const QString& key) override;
     bool contains(const QString& key) override;

@@ -353,6 +353,9 @@ void SaveTest::sideEffects()
     f.addContact(u"id,name,first"_s, u"7,'Old','Old'"_s);
     f.mailContacts.contacts.resize(1);
     f.mailContacts.contacts[0].key = u"7OV"_s;
+    f.mailContacts.contacts[0].categories = u"Tennis"_s;
+    f.mailContacts.contacts[0].kids = u"Nia,Om"_s;
+    f.mailContacts.contacts[0].user4 = u"ours alone"_s;
     f.start();
     if (editing)
         QVERIFY(f.form()->showContact(7));
@@ -373,6 +376,9 @@ void SaveTest::sideEffects()
         QCOMPARE(item.fullName, u"Asha Rao"_s);
         QCOMPARE(item.email1, u"asha@mail.example"_s);
         QCOMPARE(item.birthday, QDate(1990, 2, 1));
+        // What the form has no field for stays.
+        if (editing)
+            QCOMPARE(item.categories + item.kids + item.user4, u"TennisNia,Omours alone"_s);
     }
     QTEST(int(f.book.rows(u"select * from ovs_schedular"_s).size()), "scheduled");
     QStringList names;

@@ -88,15 +88,13 @@ bool RecordingMailContacts::add(const MailContact& contact)
     return true;
 }
 
-bool RecordingMailContacts::update(const MailContact& contact)
+bool RecordingMailContacts::update(const QString& key, const platform::MailChange& change)
 {
-    calls << u"update "_s + contact.key;
-    const auto found = find(contact.key);
+    calls << u"update "_s + key;
+    const auto found = find(key);
     if (found == contacts.end())
         return false;
-    const QString item = found->item;
-    *found = contact;
-    found->item = item;
+    change(*found);
     return true;
 }
 

@@ -80,7 +80,7 @@ public:
 class RecordingMailContacts final : public platform::MailContacts {
 public:
     bool add(const platform::MailContact& contact) override;
-    bool update(const platform::MailContact& contact) override;
+    bool update(const QString& key, const platform::MailChange& change) override;
     bool assignKey(const QString& item, const QString& key) override;
     bool remove(const QString& key) override;
     bool contains(const QString& key) override;

@@ -15,8 +15,10 @@ public:
     /// Whether what was entered can be saved; where not, the person has been told why.
     virtual bool mayBeSaved() = 0;
     virtual formats::CardValues cardValues() const = 0;
-    /// With the key of the stored contact, if there is one.
-    virtual platform::MailContact mailContact() const = 0;
+    /// The link of the stored contact to the mail client's item; empty for one that is not stored.
+    virtual QString mailKey() const = 0;
+    /// Writes what the form holds, as it stands now, into an item.
+    virtual platform::MailChange mailChange() const = 0;
     /// Stores the contact in the book, as the form's own button does, and gives its id; 0 when it is not
     /// stored.
     virtual qint64 saveContact() = 0;

@@ -4,6 +4,7 @@
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
 #include "core/frame.h"
+#include "core/mail_key.h"
 #include "core/photo_file.h"
 #include "core/record_steps.h"
 #include "core/screens.h"
@@ -469,14 +470,16 @@ formats::CardValues FormMain::cardValues() const
     return cardValuesOf(now, composedName(now));
 }
 
-platform::MailContact FormMain::mailContact() const
+QString FormMain::mailKey() const
+{
+    const qint64 id = widgets::textOf(control(u"lblid"_s)).toLongLong();
+    return id == 0 ? QString() : core::mailKeyOf(id);
+}
+
+platform::MailChange FormMain::mailChange() const
 {
     const FormValues now = values();
-    const qint64 id = widgets::textOf(control(u"lblid"_s)).toLongLong();
-    platform::MailContact contact = mailContactOf(now, composedName(now), id);
-    if (id == 0)
-        contact.key.clear();
-    return contact;
+    return [now, name = composedName(now)](platform::MailContact& item) { fillMailContact(item, now, name); };
 }
 
 void FormMain::save()

@@ -36,7 +36,8 @@ public:
 
     bool mayBeSaved() override;
     formats::CardValues cardValues() const override;
-    platform::MailContact mailContact() const override;
+    QString mailKey() const override;
+    platform::MailChange mailChange() const override;
     qint64 saveContact() override;
     /// Category and subcategory may have become one entry, or two.
     void vocabulariesChanged() override;

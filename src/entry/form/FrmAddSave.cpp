@@ -39,7 +39,8 @@ QString translated(const char* text)
 struct FrmAddSave::Entered {
     core::SaveSource& source;
     formats::CardValues card;
-    platform::MailContact mail;
+    QString mailKey;
+    platform::MailChange mailChange;
 };
 
 struct FrmAddSave::TargetRow {
@@ -116,7 +117,7 @@ void FrmAddSave::save()
         Q_EMIT closeRequested();
         return;
     }
-    Entered entered{*source, source->cardValues(), source->mailContact()};
+    Entered entered{*source, source->cardValues(), source->mailKey(), source->mailChange()};
     bool allSaved = true;
     auto box = m_boxes.constBegin();
     for (const TargetRow& target : kTargets) {
@@ -140,15 +141,18 @@ bool FrmAddSave::toBook(Entered& entered)
 {
     const qint64 id = entered.source.saveContact();
     if (id != 0)
-        entered.mail.key = core::mailKeyOf(id);
+        entered.mailKey = core::mailKeyOf(id);
     return id != 0;
 }
 
 bool FrmAddSave::toMailClient(Entered& entered)
 {
     platform::MailContacts& contacts = context().services.mailContacts;
-    const bool known = !entered.mail.key.isEmpty() && contacts.contains(entered.mail.key);
-    const bool saved = known ? contacts.update(entered.mail) : contacts.add(entered.mail);
+    const bool known = !entered.mailKey.isEmpty() && contacts.contains(entered.mailKey);
+    platform::MailContact item;
+    item.key = entered.mailKey;
+    entered.mailChange(item);
+    const bool saved = known ? contacts.update(entered.mailKey, entered.mailChange) : contacts.add(item);
     if (!saved)
         warn(tr("The mail client did not take the contact."));
     return saved;

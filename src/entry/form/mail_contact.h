@@ -5,7 +5,8 @@
 
 namespace entry {
 
-/// The item of the mail client for what stands in an entry form.
-platform::MailContact mailContactOf(const FormValues& values, const QString& name, qint64 id);
+/// Writes what stands in an entry form into an item of the mail client. What the form has no control for
+/// stays.
+void fillMailContact(platform::MailContact& item, const FormValues& values, const QString& name);
 
 } // namespace entry

@@ -48,7 +48,7 @@ void applyAddEffects(
 {
     NewContact contact;
     contact.name = name;
-    contact.mail = mailContactOf(values, name, 0);
+    fillMailContact(contact.mail, values, name);
     contact.dates
         = {0, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"), values.trimmed(u"dtcspouse"),
             {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
@@ -64,7 +64,8 @@ void applyEditEffects(core::Context& context, const FormVariant& variant, const 
 {
     const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
     if (variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
-        context.services.mailContacts.update(mailContactOf(values, name, id));
+        context.services.mailContacts.update(
+            core::mailKeyOf(id), [&](platform::MailContact& item) { fillMailContact(item, values, name); });
     if (setup.flag(u"AddFav"))
         addFavourites(context.services.favourites, name,
             favouritesOf(values, variant.homeSuffixOnEdit, variant.workSuffixOnEdit));

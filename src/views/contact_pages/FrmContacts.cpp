@@ -451,14 +451,7 @@ void FrmContacts::tellOthers(const SimpleValues& now, bool isNew)
             context().data, core::schedulerRows(dates, context().services.clock.today().year()));
         return;
     }
-    for (const platform::MailContact& each : client.list()) {
-        if (each.key == item.key) {
-            item = each;
-            fillMailItem(item, now);
-            client.update(item);
-            return;
-        }
-    }
+    client.update(item.key, [&now](platform::MailContact& stored) { fillMailItem(stored, now); });
 }
 
 void FrmContacts::cancel()
