@@ -39,6 +39,19 @@ std::unique_ptr<QProgressDialog> progressDialog(int contacts, QWidget* over)
     return dialog;
 }
 
+/// Nothing, or a paragraph that names the contacts of which only the last one has a file.
+QString aboutSharedNames(const CardsWritten& result)
+{
+    if (result.shared.isEmpty())
+        return {};
+    constexpr qsizetype kNamesShown = 10;
+    QString names = result.shared.mid(0, kNamesShown).join(u", "_s);
+    if (result.shared.size() > kNamesShown)
+        names = translated("%1 and %2 more").arg(names).arg(result.shared.size() - kNamesShown);
+    return u"\n\n"_s
+        + translated("Contacts of one name share a file, which holds the last of them: %1").arg(names);
+}
+
 } // namespace
 
 void saveCards(Context& context, const QString& idList, const QString& folder, QWidget* over)
@@ -54,18 +67,34 @@ void saveCards(Context& context, const QString& idList, const QString& folder, Q
     dialog.reset();
     platform::MessageBoxes& boxes = context.services.boxes;
     const QString title = context.shared.AppTitle;
-    if (result.stopped)
+    const QString sharing = aboutSharedNames(result);
+    const QString saved = QString::number(result.written);
+    if (!result.stoppedBy.isEmpty())
+        boxes.warning(translated("%1 of %2 VCF files were saved on %3. No more could be written: %4.")
+                          .arg(saved, QString::number(contacts), folder, result.stoppedBy)
+                + sharing,
+            title);
+    else if (result.stopped)
         boxes.information(translated("Stopped. %1 of %2 VCF files were saved on %3")
-                              .arg(QString::number(result.written), QString::number(contacts), folder),
+                              .arg(saved, QString::number(contacts), folder)
+                + sharing,
             title);
     else if (result.written > 0)
-        boxes.information(translated("VCF File Saved on %1").arg(folder), title);
-    if (result.refused > 0)
+        boxes.information(translated("VCF File Saved on %1").arg(folder)
+                + (contacts > 1
+                        ? u"\n\n"_s + translated("Files written: %1").arg(result.written - result.overwritten)
+                        : QString())
+                + sharing,
+            title);
+    if (result.badNames > 0)
         boxes.warning(
             translated("%1 VCF files could not be written. A contact whose name can not be the name "
                        "of a file has none.")
-                .arg(result.refused),
+                .arg(result.badNames),
             title);
+    if (result.failed > 0 && result.stoppedBy.isEmpty())
+        boxes.warning(
+            translated("%1 VCF files could not be written in %2.").arg(result.failed).arg(folder), title);
 }
 
 } // namespace core

@@ -95,16 +95,18 @@ QByteArray CardFolder::bytes(const QString& file, qint64 most) const
     return card.read(most);
 }
 
-bool CardFolder::write(const QString& name, const QStringList& lines)
+CardFolder::Written CardFolder::write(const QString& name, const QStringList& lines)
 {
     const QString file = name + u".vcf"_s;
-    if (!Drive::isLegalName(file) || !makeReady())
-        return false;
+    if (!Drive::isLegalName(file))
+        return Written::BadName;
+    if (!makeReady())
+        return Written::Failed;
     const QString spelling = m_spellings.value(file.toLower(), file);
     if (!replaceFile(m_local, spelling, toCp1252(lines.join("\r\n"_L1) + u"\r\n"_s)))
-        return false;
+        return Written::Failed;
     m_spellings.insert(file.toLower(), spelling);
-    return true;
+    return Written::Yes;
 }
 
 // The folder is looked at once and not for every file, which for a whole book would take hours.

@@ -23,9 +23,14 @@ public:
     /// The first few thousand characters of it, which cost one read.
     QString beginning(const QString& file) const;
 
-    /// Writes lines to a card of that name, in place of one there is by the same letters in any case. False
-    /// for a name that is no file name, as one that would lie elsewhere. Makes the folder.
-    bool write(const QString& name, const QStringList& lines);
+    enum class Written {
+        Yes,
+        BadName, ///< no file name, as one that would lie elsewhere
+        Failed, ///< no room, no right to write, or something that is no file has the name
+    };
+    /// Writes lines to a card of that name, in place of one there is by the same letters in any case. Makes
+    /// the folder.
+    Written write(const QString& name, const QStringList& lines);
 
 private:
     QByteArray bytes(const QString& file, qint64 most) const;

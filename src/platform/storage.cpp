@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -27,6 +28,19 @@ bool isWritable(const QString& folder)
         return false;
     QTemporaryFile file(folder + u"/.orvane-XXXXXX"_s);
     return file.open() && file.write("x") == 1 && file.flush();
+}
+
+QString whyNotWritable(const QString& folder)
+{
+    constexpr qint64 kNoRoom = 1024 * 1024;
+    const auto tr = [](const char* text) { return QCoreApplication::translate("platform", text); };
+    if (!QFileInfo(folder).isDir())
+        return tr("the folder could not be made");
+    const qint64 room = freeBytes(folder);
+    if (room >= 0 && room < kNoRoom)
+        return tr("the disk is full");
+    return isWritable(folder) ? tr("there is not enough room on the disk")
+                              : tr("nothing may be written in this folder");
 }
 
 } // namespace platform

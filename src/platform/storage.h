@@ -11,4 +11,7 @@ qint64 freeBytes(const QString& folder);
 /// user and file system.
 bool isWritable(const QString& folder);
 
+/// A piece of a sentence for a person: why no file can be made or changed in the folder.
+QString whyNotWritable(const QString& folder);
+
 } // namespace platform

@@ -5,6 +5,9 @@
 #include "platform/folder_drive.h"
 #include "support/test_book.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 using namespace core;
 
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void namesStayInTheirFolder_data();
     void namesStayInTheirFolder();
     void fileOfTheNameIsReplacedInAnyCase();
+    void fullDisk();
     void longListsAreWrittenWhole();
     void foldersAreReadInEitherEncoding();
     void folderListsCardsOnly();
@@ -68,7 +72,7 @@ void VcardExportTest::oneFileAContact()
     add(u"Name, Nview"_s, u"'Ann', 'Company'"_s);
     const CardsWritten result = write(u"3,1"_s);
     QCOMPARE(result.written, 2);
-    QVERIFY(!result.stopped && result.refused == 0);
+    QVERIFY(!result.stopped && result.badNames + result.failed == 0);
     QCOMPARE(files(), (QStringList{u"Ann.vcf"_s, u"Zoé.vcf"_s}));
     const QByteArray card = file(u"Zoé.vcf"_s);
     QVERIFY(card.startsWith("BEGIN:VCARD\r\nVERSION:2.1\r\nN:;;\r\nFN:Zo\xe9\r\n"));
@@ -111,7 +115,7 @@ void VcardExportTest::namesStayInTheirFolder()
     add(u"Name"_s, u'\'' + name + u'\'');
     const CardsWritten result = write(u"1"_s);
     QCOMPARE(result.written, 0);
-    QCOMPARE(result.refused, 1);
+    QCOMPARE(result.badNames, 1);
     QCOMPARE(files(), QStringList());
     QCOMPARE(QDir(m_root->path()).entryList(QDir::Files), QStringList());
 }
@@ -125,18 +129,37 @@ void VcardExportTest::fileOfTheNameIsReplacedInAnyCase()
     QCOMPARE(write(u"1"_s).written, 1);
     QVERIFY(file(u"Ann Lee.vcf"_s).contains("NICKNAME:new"));
     // Of two with one name the later wins.
-    QCOMPARE(write(u"1,2"_s).written, 2);
+    const CardsWritten two = write(u"1,2"_s);
+    QCOMPARE(two.written - two.overwritten, 1);
+    QCOMPARE(two.shared, QStringList{u"Ann Lee"_s});
     QCOMPARE(files(), QStringList{u"Ann Lee.vcf"_s});
     QVERIFY(file(u"Ann Lee.vcf"_s).contains("NICKNAME:second"));
     // Where a folder has the name, nothing can be written, and nothing is left behind.
     QVERIFY(QDir(m_root->filePath(u"VCF"_s)).mkdir(u"Bob.vcf"_s));
     add(u"Name"_s, u"'Bob'"_s);
-    QCOMPARE(write(u"3"_s).refused, 1);
+    QCOMPARE(write(u"3"_s).failed, 1);
     QCOMPARE(files().size(), 1);
     // No list, nobody, no ids.
     m_book->expectFailure(u"in ( 1,x y)"_s);
     for (const QString& ids : {QString(), u"99"_s, u"1,x y"_s})
         QCOMPARE(write(ids).written, 0);
+}
+
+// A full disk is no bad name, and is not tried for all the others.
+void VcardExportTest::fullDisk()
+{
+    for (const auto& name : {u"'Ann'"_s, u"'Bob'"_s, u"'Cyd'"_s})
+        add(u"Name"_s, name);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    const CardsWritten result = write(u"1,2,3"_s);
+    setrlimit(RLIMIT_FSIZE, &before);
+    QCOMPARE(result.failed + result.badNames + result.written, 1);
+    QVERIFY(!result.stoppedBy.isEmpty());
+    QCOMPARE(files(), QStringList());
 }
 
 void VcardExportTest::longListsAreWrittenWhole()

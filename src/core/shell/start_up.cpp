@@ -9,6 +9,7 @@
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "platform/storage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -178,7 +179,7 @@ bool StartUp::makeNewBook(const QString& what)
     if (!made) {
         const QString folder = QFileInfo(m_files.dataFile()).absolutePath();
         boxes.warning(tr("No address book could be made in the folder \"%1\": %2.")
-                          .arg(QDir::toNativeSeparators(folder), core::BookFiles::whyNotWritable(folder)),
+                          .arg(QDir::toNativeSeparators(folder), platform::whyNotWritable(folder)),
             title);
     }
     return made;
@@ -222,7 +223,7 @@ void StartUp::noteWhatIsWrong(bool hasLock)
     if (m_context.data.isReadOnly())
         m_notices << tr(
             "The address book can only be looked at: %1. What you change will not be stored.\n\n%2")
-                         .arg(core::BookFiles::whyNotWritable(folder), QDir::toNativeSeparators(folder));
+                         .arg(platform::whyNotWritable(folder), QDir::toNativeSeparators(folder));
     else if (!hasLock)
         m_notices << tr(
             "The folder \"%1\" could not be marked as in use. Do not start Orvane Contacts a second "

@@ -106,20 +106,8 @@ BookReport BookFiles::notMade(const QString& path) const
 {
     const QString folder = QDir::toNativeSeparators(m_programFolder);
     const QString text = tr("No address book could be made in the folder \"%1\": %2.")
-                             .arg(folder, whyNotWritable(m_programFolder));
+                             .arg(folder, platform::whyNotWritable(m_programFolder));
     return {Fault::NotMade, path, text};
-}
-
-QString BookFiles::whyNotWritable(const QString& folder)
-{
-    constexpr qint64 kNoRoom = 1024 * 1024;
-    if (!QFileInfo(folder).isDir())
-        return tr("the folder could not be made");
-    const qint64 room = platform::freeBytes(folder);
-    if (room >= 0 && room < kNoRoom)
-        return tr("the disk is full");
-    return platform::isWritable(folder) ? tr("there is not enough room on the disk")
-                                        : tr("nothing may be written in this folder");
 }
 
 bool BookFiles::makeNewBook(bool national) const

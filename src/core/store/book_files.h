@@ -64,8 +64,6 @@ public:
     static bool makeNew(const QString& path, BookPart part, bool national);
     /// Looks at a file without opening it as a database, so nothing is written, not even a log beside it.
     static BookReport inspect(const QString& path);
-    /// A piece of a sentence: why no file can be made or changed in a folder.
-    static QString whyNotWritable(const QString& folder);
 
 private:
     BookReport open(jet::Database& database, BookPart part) const;
