@@ -107,6 +107,8 @@ int main(int argc, char** argv)
     shell::StartUp startUp(context, frame, files, backupFolder);
     QObject::connect(
         &instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
+    QObject::connect(
+        &storageNotice, &shell::StorageNotice::damageFound, &startUp, &shell::StartUp::bookIsDamaged);
     startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
     const int result = QApplication::exec();
     // Screens read the books, so they go first.

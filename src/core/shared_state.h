@@ -24,6 +24,7 @@ struct SharedState {
     qint64 selectedContactId = 0; ///< the row last chosen in any list
     QString selectedContactName;
     QString selectorMdiFlag; ///< "MDI" while a child screen holds the frame
+    bool failedSaveIsTold = false; ///< the person hears of a failed write from the save itself
 };
 
 } // namespace core

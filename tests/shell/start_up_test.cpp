@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "core/save_failure.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
 #include "core/shell/start_up.h"
@@ -109,7 +110,7 @@ private Q_SLOTS:
     void damagedBook();
     void damageInTheMiddle();
     void restoreFromTheFrame();
-    void fullDiskIsToldOnce();
+    void fullDiskIsToldAtEachSave();
 };
 
 void StartUpTest::firstStartAndSecond()
@@ -323,7 +324,7 @@ void StartUpTest::restoreFromTheFrame()
     p.boxes.verify();
 }
 
-void StartUpTest::fullDiskIsToldOnce()
+void StartUpTest::fullDiskIsToldAtEachSave()
 {
     support::ScreenFixture f;
     const shell::StorageNotice notice(f.context);
@@ -335,14 +336,23 @@ void StartUpTest::fullDiskIsToldOnce()
     getrlimit(RLIMIT_FSIZE, &before);
     const rlimit none{4096, before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &none);
-    const QString text(200000, u'n');
+    const QString sql = u"insert into cnt_main (memo1) values ('"_s + QString(200000, u'n') + u"')"_s;
+    for (int i = 1; i <= 2; ++i) {
+        QVERIFY(!f.context.data.execute(sql));
+        core::tellFailedSave(f.context);
+        QTest::qWait(10);
+        QCOMPARE(f.boxes.shown.size(), i);
+        QVERIFY(f.boxes.shown.last().startsWith(u"warning: This was not stored: the disk is full."));
+    }
     for (int i = 0; i < 2; ++i)
-        QVERIFY(!f.context.data.execute(u"insert into cnt_main (memo1) values ('"_s + text + u"')"_s));
-    setrlimit(RLIMIT_FSIZE, &before);
-    QCOMPARE(f.boxes.shown, QStringList()); // not in the middle of a save
+        QVERIFY(!f.context.data.execute(sql));
+    QCOMPARE(f.boxes.shown.size(), 2); // not in the middle of a save
     QTest::qWait(10);
-    QCOMPARE(f.boxes.shown.size(), 1);
-    QVERIFY(f.boxes.shown[0].startsWith(u"warning: The address book could not be written: "));
+    QVERIFY(!f.context.data.execute(sql));
+    QTest::qWait(10);
+    setrlimit(RLIMIT_FSIZE, &before);
+    QCOMPARE(f.boxes.shown.size(), 3);
+    QVERIFY(f.boxes.shown[2].contains(u"written to the address book: the disk is full."));
     f.boxes.verify();
     QVERIFY(f.context.data.execute(u"insert into cnt_main (memo1) values ('short')"));
 }

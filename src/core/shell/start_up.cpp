@@ -221,8 +221,8 @@ void StartUp::noteWhatIsWrong(bool hasLock)
         return;
     const QString folder = QFileInfo(m_files.dataFile()).absolutePath();
     if (m_context.data.isReadOnly())
-        m_notices << tr(
-            "The address book can only be looked at: %1. What you change will not be stored.\n\n%2")
+        m_notices << tr("The address book can only be looked at: %1. What you change can not be stored until "
+                        "that is mended.\n\n%2")
                          .arg(platform::whyNotWritable(folder), QDir::toNativeSeparators(folder));
     else if (!hasLock)
         m_notices << tr(
@@ -283,6 +283,8 @@ void StartUp::restoreNow(const core::Backup& backup)
 {
     platform::MessageBoxes& boxes = m_context.services.boxes;
     const QString& title = m_context.shared.AppTitle;
+    if (!m_context.screens.mayCloseAll())
+        return;
     if (m_backup)
         m_backup->wait();
     m_context.screens.unloadAll();
