@@ -56,11 +56,11 @@ QString savingFailed(const jet::Failure& failure)
 void tellFailedSave(Context& context)
 {
     const auto failure = context.data.lastFailure();
-    context.shared.failedSaveIsTold = true;
+    *context.shared.failedSaveIsTold = true;
     context.services.boxes.warning(
         failure ? savingFailed(*failure) : translated("This was not stored."), context.shared.AppTitle);
     // Behind the notice that may have been queued by the failure itself.
-    QTimer::singleShot(0, qApp, [&context] { context.shared.failedSaveIsTold = false; });
+    QTimer::singleShot(0, qApp, [told = context.shared.failedSaveIsTold] { *told = false; });
 }
 
 } // namespace core

@@ -10,11 +10,11 @@ namespace {
 
 constexpr int kYears = 3;
 
-/// Day and month of a date in another year; empty without a date, and for 29 February in a year that has
-/// none.
+/// Day and month of a date in another year, 28 February for the 29th in a year that has none; empty without
+/// a date.
 QString inYear(const std::optional<QDate>& date, int year)
 {
-    const QDate day = date ? QDate(year, date->month(), date->day()) : QDate();
+    const QDate day = date ? date->addYears(year - date->year()) : QDate();
     return day.isValid() ? jet::formatIsoDate(jet::isoDate(day), u"dd-mmm-yyyy") : QString();
 }
 

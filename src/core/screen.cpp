@@ -1,5 +1,6 @@
 #include "core/screen.h"
 
+#include "core/frame.h"
 #include "platform/message_boxes.h"
 #include "platform/sounds.h"
 #include "widgets/filled_combo.h"
@@ -65,6 +66,13 @@ bool Screen::mayDiscard() const
     return m_context.services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
                shared().AppTitle, platform::Icon::Warning)
         == platform::Answer::Yes;
+}
+
+void Screen::tellSaved(const QString& name) const
+{
+    Frame& frame = m_context.frame;
+    frame.showNotice(
+        tr("Saved %1").arg(name.simplified()), tr("&Undo"), [&frame] { frame.undoLastChange(); });
 }
 
 void Screen::showEvent(QShowEvent* event)

@@ -25,6 +25,8 @@ public:
     virtual bool isTouched() const { return false; }
     /// Called when the screen is about to close; false keeps it open. Asks when something was typed.
     virtual bool mayClose();
+    /// The same before the program ends.
+    virtual bool mayEndProgram() { return mayClose(); }
     /// Another part of the program, or another program, has changed the book: reads anew what is shown, and
     /// keeps what is being entered and, where it can, the contact that is shown. A screen out of sight is
     /// told when it is seen again.
@@ -51,6 +53,8 @@ protected:
     SharedState& shared() const { return m_context.shared; }
     void setFrameTitle(const QString& title);
     void setPosition(const QString& position);
+    /// Says that a contact was saved, with the way to take it back.
+    void tellSaved(const QString& name) const;
     /// Asks whether what was typed may go; true without a question when nothing was.
     bool mayDiscard() const;
     void playSound(QStringView path) const;

@@ -72,10 +72,12 @@ void Screens::tellVocabulariesChanged()
 
 bool Screens::mayCloseAll()
 {
+    for (const QString& form : m_context->shared.unsavedEntries.keys())
+        show(form);
     for (Screen* screen : openOnes<Screen>()) {
         if (screen->isTouched())
             m_context->frame.bringForward(screen);
-        if (!screen->mayClose())
+        if (!screen->mayEndProgram())
             return false;
     }
     return true;

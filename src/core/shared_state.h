@@ -1,6 +1,10 @@
 #pragma once
 
+#include "widgets/field_values.h"
+
 #include <QString>
+
+#include <memory>
 
 namespace core {
 
@@ -23,8 +27,11 @@ struct SharedState {
     QString TableName; ///< the operation under way, such as "Contact-AddData"
     qint64 selectedContactId = 0; ///< the row last chosen in any list
     QString selectedContactName;
+    /// What stood unsaved in a form that closes without a question, by form name, until it is opened again.
+    QHash<QString, widgets::FieldValues> unsavedEntries;
     QString selectorMdiFlag; ///< "MDI" while a child screen holds the frame
-    bool failedSaveIsTold = false; ///< the person hears of a failed write from the save itself
+    /// Set while a save is being told of as failed, so that nobody tells of it again.
+    std::shared_ptr<bool> failedSaveIsTold = std::make_shared<bool>(false);
 };
 
 } // namespace core

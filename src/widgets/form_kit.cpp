@@ -139,7 +139,7 @@ FormKit& FormKit::line(const QString& name, const QString& label, const QString&
     setKeyFilter(edit, filter);
     guardLine(edit);
     QLineEdit* above = label.isEmpty() && m_beside == 0 ? m_lastLine : nullptr;
-    widget(name, label, edit, column);
+    field(name, label, edit, column);
     if (above)
         continueIn(above, edit);
     m_lastLine = edit;
@@ -153,17 +153,17 @@ FormKit& FormKit::combo(const QString& name, const QString& label, const QString
     combo->setMinimumWidth(56);
     combo->lineEdit()->setMaxLength(sizeOf(column));
     setKeyFilter(combo, filter);
-    return widget(name, label, combo, column);
+    return field(name, label, combo, column);
 }
 
 FormKit& FormKit::fixedCombo(const QString& name, const QString& label, const QString& column)
 {
-    return widget(name, label, new FilledCombo(m_page, FilledCombo::Typing::ListOnly), column);
+    return field(name, label, new FilledCombo(m_page, FilledCombo::Typing::ListOnly), column);
 }
 
 FormKit& FormKit::date(const QString& name, const QString& label, const QString& column)
 {
-    return widget(name, label, new DateBox(m_page), column);
+    return field(name, label, new DateBox(m_page), column);
 }
 
 FormKit& FormKit::memo(const QString& name, const QString& label, const QString& column, int rows)
@@ -173,9 +173,16 @@ FormKit& FormKit::memo(const QString& name, const QString& label, const QString&
     box->setMinimumHeight(heightOfRows(box, rows));
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     box->setMaximumHeight(heightOfRows(box, rows) * 3 / 2);
+    box->setProperty(kFieldColumn, column);
     place(box, label, Qt::AlignTop);
     keep(name, box, column);
     return *this;
+}
+
+FormKit& FormKit::field(const QString& name, const QString& label, QWidget* control, const QString& column)
+{
+    control->setProperty(kFieldColumn, column);
+    return widget(name, label, control, column);
 }
 
 FormKit& FormKit::check(const QString& name, const QString& label, const QString& column)

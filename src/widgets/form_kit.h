@@ -25,6 +25,10 @@ struct Control {
     QWidget* widget = nullptr;
 };
 
+/// Under this property each field that a person enters something into keeps the column it shows, for
+/// FieldSet.
+inline constexpr char kFieldColumn[] = "fieldColumn";
+
 /// Lays out the controls of a page, one call a control, in the order in which Tab walks through them.
 ///
 /// A call says the control's name, its label (with & for the mnemonic) and its column; the kit sets object
@@ -84,6 +88,7 @@ private:
     void place(QWidget* control, const QString& label, Qt::Alignment labelAlignment = Qt::AlignVCenter);
     void newRow(QLabel* label, Qt::Alignment labelAlignment);
     void keep(const QString& name, QWidget* control, const QString& column);
+    FormKit& field(const QString& name, const QString& label, QWidget* control, const QString& column);
     void describe(QWidget* control, const QString& label, QLabel* shown);
     int sizeOf(const QString& column) const;
 

@@ -34,6 +34,12 @@ constexpr Field kDates[] = {{u"kid1_bd", u"Datekid1"}, {u"kid2_bd", u"datekid2"}
     {u"m_bd", u"dtpBirtday"}, {u"anniv", u"SSDateAnn"}};
 
 const QString kSaved = u"Record Saved.\r\nDo you want to add new record ?"_s;
+const QString kDiskFull
+    = u"This was not stored: the disk is full.\n\nMake room on the disk and save again. What was "
+      "stored before is not lost."_s;
+const QString kNameless
+    = u"This contact has no first name, no last name and no company. Do you want to save it "
+      "without a name?"_s;
 const QString kSounds = u"\\UserFiles\\Misc\\sound\\"_s;
 
 /// The turbo form on a book with a few names, cities and words.
@@ -212,6 +218,10 @@ void TurboAddTest::emptyEntryIsStored()
 {
     TurboForm& f = *m_fixture;
     f.start();
+    f.boxes.expect(kNameless, Answer::No);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select id from cnt_main"_s), QStringList());
+    f.boxes.expect(kNameless, Answer::Yes);
     f.boxes.expect(kSaved, Answer::No);
     f.click(u"Command1"_s);
     auto expected = blankRow(f.schema);
@@ -227,6 +237,7 @@ void TurboAddTest::emptyEntryIsStored()
     expected[u"dateenter"_s] = expected[u"datemodi"_s] = u"2024-03-15"_s;
     QCOMPARE(storedRow(f.context.data, u"1"_s), expected);
     f.set(u"txtCat"_s, u"Clients"_s);
+    f.boxes.expect(kNameless, Answer::Yes);
     f.boxes.expect(kSaved, Answer::No);
     f.click(u"Command1"_s);
     QCOMPARE(f.book.rows(u"select category1,category2 from cnt_main where id=2"_s),
@@ -533,7 +544,8 @@ void TurboAddTest::failingSaveKeepsTheEntry()
     f.set(u"TxtBusiness"_s, QString(200000, u'n'));
     {
         const FullDisk full;
-        f.book.expectFailure(u"cnt_main"_s);
+        f.book.expectFailure(u"commit"_s);
+        f.boxes.expect(kDiskFull);
         f.click(u"Command1"_s);
     }
     QCOMPARE(f.book.unexpected(), QString());
@@ -557,13 +569,22 @@ void TurboAddTest::leaving()
     QCOMPARE(f.fieldName(), u"First"_s);
     QCOMPARE(f.sounds.played.constLast(), kSounds + u"Cancel.wav"_s);
     f.set(u"txtfirst"_s, u"Bina"_s);
-    QSignalSpy closing(f.form(), &core::Screen::closeRequested);
-    QVERIFY(f.form()->mayClose());
-    f.key(Qt::Key_Escape);
     f.enter(u"txtHweb"_s);
+    f.set(u"txtHweb"_s, u"b.example"_s);
+    QSignalSpy closing(f.form(), &core::Screen::closeRequested);
+    f.key(Qt::Key_Escape); // blanks the box, and never closes the form
+    QCOMPARE(f.text(u"txtHweb"_s), QString());
     f.key(Qt::Key_Escape);
+    QCOMPARE(closing.size(), 0);
     f.click(u"CmdExit"_s);
-    QCOMPARE(closing.size(), 3);
+    QCOMPARE(closing.size(), 1);
+    // Closing asks nothing and loses nothing; the end of the program asks.
+    QVERIFY(f.form()->mayClose());
+    f.screens.unload(u"TurboAdd");
+    f.boxes.expect(u"What you entered was not saved. Do you want to discard it?"_s, Answer::No);
+    QVERIFY(!f.screens.mayCloseAll());
+    auto* again = f.screens.find(u"TurboAdd");
+    QCOMPARE(widgets::textOf(widgets::child<QWidget>(again, u"txtfirst"_s)), u"Bina"_s);
     QCOMPARE(f.book.rows(u"select id from cnt_main"_s), QStringList());
 }
 

@@ -261,13 +261,27 @@ void EntryRulesTest::photos()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("picture");
     file.close();
-    QCOMPARE(storePhoto(drive, path, mode), stored);
+    const bool goesWithTheSave = mode != u"Link" && chosen.startsWith(u"in/");
+    {
+        const StoredPhoto failed(drive, path, mode);
+        QCOMPARE(failed.path(), stored);
+        QVERIFY(QFile::exists(core::photoFile(drive, stored)));
+    }
+    // A save that failed leaves the picture where it was, and no copy.
+    QVERIFY(QFile::exists(path));
+    QCOMPARE(QFile::exists(core::photoFile(drive, stored)), !goesWithTheSave);
+    StoredPhoto(drive, path, mode).keep();
     QTEST(QFile::exists(path), "stays");
     QVERIFY(QFile::exists(core::photoFile(drive, stored)));
 }
 
 void EntryRulesTest::photoNeverOverwrites()
 {
+    const auto storePhoto = [](const platform::Drive& on, const QString& chosen, const QString& mode) {
+        StoredPhoto photo(on, chosen, mode);
+        photo.keep();
+        return photo.path();
+    };
     QTemporaryDir root;
     const platform::FolderDrive drive(root.path(), root.filePath(u"program"_s));
     QStringList stored;

@@ -93,6 +93,11 @@ private Q_SLOTS:
     void longStoredTextIsNotCut();
     void wrongDateStaysInTheBox();
     void failingSaveKeepsTheForm();
+    void changeMeetsAnotherChange();
+    void nothingToChangeIsSaid();
+    void editRequestOfAnotherForm();
+    void suffixOfALoadedCompany();
+    void pictureGoesWithTheSave();
 
 private:
     void fillAll(QChar ending, int year);
@@ -600,7 +605,11 @@ void SaveTest::wrongDateStaysInTheBox()
     QCOMPARE(f.text(u"DateAnn"_s), u"Feb 01-1990"_s);
     fillName(u"Asha"_s, {}, {}, u"First,Last"_s);
     f.click(u"Command1"_s);
-    QCOMPARE(f.book.rows(u"select m_bd,anniv from cnt_main"_s), QStringList{u"null|1990-02-01"_s});
+    QCOMPARE(f.contacts(), 0);
+    QVERIFY(f.child<QWidget>(u"DateBday"_s)->hasFocus());
+    f.type(u"DateBday"_s, u"28 Feb 1990"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select m_bd,anniv from cnt_main"_s), QStringList{u"1990-02-28|1990-02-01"_s});
 }
 
 void SaveTest::failingSaveKeepsTheForm()
@@ -613,7 +622,10 @@ void SaveTest::failingSaveKeepsTheForm()
     f.set(u"txtMemo"_s, QString(200000, u'n'));
     {
         const FullDisk full;
-        f.book.expectFailure(u"cnt_main"_s);
+        f.book.expectFailure(u"commit"_s);
+        f.boxes.expect(
+            u"This was not stored: the disk is full.\n\nMake room on the disk and save again. What was "
+            "stored before is not lost."_s);
         f.click(u"Command1"_s);
     }
     QCOMPARE(f.book.unexpected(), QString());
@@ -624,6 +636,98 @@ void SaveTest::failingSaveKeepsTheForm()
     QCOMPARE(f.book.rows(u"select name from cnt_main"_s), QStringList{u"Asha"_s});
     f.click(u"Command1"_s);
     QCOMPARE(f.book.rows(u"select name from cnt_main order by id"_s), (QStringList{u"Asha"_s, u"Bina "_s}));
+}
+
+// What another screen stored meanwhile stays where the person changed nothing; where both changed it, the
+// person is asked.
+void SaveTest::changeMeetsAnotherChange()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first,last,nview,h_ph1,mobile,category1,datemodi"_s,
+        u"'Asha Rao','Asha','Rao','First,Last','111','222','Old',#01-Jan-2020#"_s);
+    f.start();
+    QVERIFY(f.form()->showContact(1));
+    f.execute(u"update cnt_main set h_ph1='333',mobile='444',category1='New' where id=1"_s);
+    f.type(u"txtMobile"_s, u"555"_s);
+    f.type(u"dtcmbnick"_s, u"Ash"_s);
+    const QString question
+        = u"This contact was changed elsewhere while you were changing it:\n\nMobile: you entered "
+          "\"555\", stored is \"444\"\n\nDo you want to replace what is stored by what you "
+          "entered? With No nothing is stored yet, and the form stays as it is."_s;
+    f.boxes.expect(question, Answer::No);
+    f.click(u"Command1"_s);
+    const QString stored = u"select name,h_ph1,mobile,category1,nick,datemodi from cnt_main"_s;
+    QCOMPARE(f.book.rows(stored), QStringList{u"Asha Rao|333|444|New|null|2020-01-01"_s});
+    QCOMPARE(f.text(u"txtMobile"_s), u"555"_s);
+    f.boxes.expect(question, Answer::Yes);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(stored), QStringList{u"Asha Rao|333|555|New|Ash|2024-03-15"_s});
+    QCOMPARE(f.frame.notices.constLast(), u"Saved Asha Rao [&Undo]"_s);
+}
+
+void SaveTest::nothingToChangeIsSaid()
+{
+    EntryForm& f = *m_fixture;
+    f.addContact(u"name,first,nview"_s, u"'Asha','Asha','First,Last'"_s);
+    f.start();
+    f.click(u"SSCommand10"_s);
+    f.boxes.expect(u"Record not selected"_s);
+    QVERIFY(!f.form()->mayBeSaved());
+    QVERIFY(f.form()->showContact(1));
+    f.execute(u"delete * from cnt_main"_s);
+    f.set(u"dtcmbnick"_s, u"Ash"_s);
+    const QString question
+        = u"This contact was deleted while you were changing it. Do you want to store what stands "
+          "in the form as a new contact?"_s;
+    f.boxes.expect(question, Answer::No);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.text(u"dtcmbnick"_s), u"Ash"_s);
+    f.boxes.expect(question, Answer::Yes);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select name,nick from cnt_main"_s), QStringList{u"Asha |Ash"_s});
+}
+
+// A request to edit counts for the form that it was made for.
+void SaveTest::editRequestOfAnotherForm()
+{
+    EntryForm& f = *m_fixture;
+    f.start();
+    f.shared.EditRequested = true;
+    f.click(u"SSCommand3"_s);
+    f.type(u"dtcmbfname"_s, u"Bina"_s); // the view of a first contact comes by itself
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select name,nview from cnt_main"_s), QStringList{u"Bina |First,Last"_s});
+}
+
+void SaveTest::suffixOfALoadedCompany()
+{
+    EntryForm& f = *m_fixture;
+    f.execute(u"insert into cntb_setup (cmpnysuffix) values ('Ltd.')"_s);
+    f.addContact(u"name,first,nview,company"_s, u"'Asha','Asha','First,Last','Firm Cyd'"_s);
+    f.start();
+    QVERIFY(f.form()->showContact(1));
+    QCOMPARE(f.text(u"txtcmpnySuffix"_s), QString());
+    f.type(u"txtcmpnySuffix"_s, u"GmbH"_s);
+    f.click(u"Command1"_s);
+    QCOMPARE(f.book.rows(u"select company from cnt_main"_s), QStringList{u"Firm Cyd GmbH"_s});
+}
+
+void SaveTest::pictureGoesWithTheSave()
+{
+    EntryForm& f = *m_fixture;
+    f.shared.PhotoStoreMode = u"Move"_s;
+    const QString chosen = f.root.filePath(u"me.png"_s);
+    QImage(8, 8, QImage::Format_RGB32).save(chosen);
+    f.start();
+    f.click(u"SSCommand3"_s);
+    f.type(u"dtcmbfname"_s, u"Asha"_s);
+    f.boxes.expectChoice(u"Select Picture"_s, chosen);
+    f.click(u"SSCommand9"_s);
+    QVERIFY(QFile::exists(chosen));
+    f.click(u"Command1"_s);
+    QVERIFY(!QFile::exists(chosen));
+    QCOMPARE(
+        f.book.rows(u"select photloc from cnt_main"_s), QStringList{u"C:\\OVUserFiles\\Photos\\me.png"_s});
 }
 
 QTEST_MAIN(SaveTest)

@@ -73,10 +73,11 @@ QStringList FullViewSaveTest::save()
     const QStringList before = row();
     jet::Recordset contact = m_book->data().openRecordset(contactForEditSql(1));
     const QStringList columns = contact.columns();
+    const core::LoadedRow loaded(contact);
     contact.edit();
-    writeEditPage(contact,
-        {.text = [this](const QString& control) { return m_texts.value(control); },
-            .date = [this](const QString& control) { return m_dates.value(control); }});
+    loaded.assign(contact,
+        editPageColumns({m_texts, m_dates},
+            {[](const QString&) { return true; }, [](const QString& control) { return control; }}));
     if (!contact.update())
         return {u"not stored"_s};
     const QStringList after = row();

@@ -396,6 +396,11 @@ void MDIForm1::showNotice(const QString& text, const QString&, std::function<voi
     statusBar()->showMessage(text, kNoticeMs);
 }
 
+void MDIForm1::undoLastChange()
+{
+    findChild<QAction*>(u"Undo"_s)->trigger();
+}
+
 bool MDIForm1::perform(const core::Action& action)
 {
     return m_performer->perform(action);

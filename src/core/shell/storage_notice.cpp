@@ -38,7 +38,7 @@ void StorageNotice::tell(const jet::Failure& failure)
         Q_EMIT damageFound();
         return;
     }
-    if (m_context.shared.failedSaveIsTold || m_told.contains(int(failure.cause)))
+    if (*m_context.shared.failedSaveIsTold || m_told.contains(int(failure.cause)))
         return;
     m_told << int(failure.cause);
     m_context.services.boxes.warning(

@@ -7,6 +7,7 @@
 #include "core/mail_key.h"
 #include "core/photo_file.h"
 #include "core/record_steps.h"
+#include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "core/text_pieces.h"
@@ -50,10 +51,9 @@ QString caption(const char* text)
     return QCoreApplication::translate("entry", text);
 }
 
-/// Which column each field shows when a record is put on the form; the fields not listed show theirs as it
-/// is.
-constexpr QStringView kNotFromColumn[]
-    = {u"txtcmpnyPrefix", u"dtcmbcity1", u"DtcmbCate", u"DtcmbSubCate", u"txtemail1"};
+/// Fields that do not show their column as it is when a record is put on the form.
+const QSet<QString> kNotFromColumn{
+    u"txtcmpnyPrefix"_s, u"dtcmbcity1"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"txtemail1"_s};
 
 /// The name of what is entered, by a view of names that a check has found to be one.
 QString composedName(const FormValues& values)
@@ -118,16 +118,7 @@ void FormMain::layOut()
     Photo = widgets::child<widgets::PictureBox>(this, u"Photo"_s);
     widgets::child<QLabel>(this, u"lblPhoto"_s)->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    // Every control that a save reads or a clearing blanks.
-    for (const ColumnRow& row : m_variant.addColumns) {
-        const QString name = row.control.toString();
-        if (!name.isEmpty() && name != u"Photo" && control(name))
-            m_fields.append({name, row.column.toString(), control(name)});
-    }
-    for (const QString& name : {u"dtcmbwstate"_s, u"cboemail1"_s, u"txtcmpnyPrefix"_s, u"txtcmpnySuffix"_s}) {
-        if (QWidget* extra = control(name))
-            m_fields.append({name, name == u"dtcmbwstate" ? u"w_State"_s : QString(), extra});
-    }
+    m_fields = widgets::FieldSet(sstab1);
 }
 
 void FormMain::wire()
@@ -156,6 +147,9 @@ void FormMain::wire()
             &FormMain::showNameLabel);
     connect(widgets::child<QLineEdit>(this, u"txtcmpny"_s), &QLineEdit::textChanged, this,
         &FormMain::showNameLabel);
+    for (const QString& name : {u"dtcmbfname"_s, u"dtcmblname"_s})
+        connect(widgets::child<QComboBox>(this, name)->lineEdit(), &QLineEdit::textEdited, this,
+            &FormMain::takeUsualNameView);
 
     const auto chooseRow = [this](int row) { chooseRecord(grdEditList->textAt(row, u"ID"_s)); };
     connect(grdEditList, &widgets::HeadingGrid::chosen, this, chooseRow);
@@ -173,7 +167,6 @@ void FormMain::wire()
 
 void FormMain::load()
 {
-    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
     for (widgets::DateBox* box : findChildren<widgets::DateBox*>())
         box->setFormat(core::datePattern(shared().NationalMode));
     const jet::Upkeep clearing(context().data);
@@ -230,7 +223,7 @@ void FormMain::vocabulariesChanged()
     }
     showSubcategory(!m_isMerged);
     if (!wasTouched)
-        m_untouched = values().texts;
+        m_fields.keepAsLoaded();
 }
 
 void FormMain::go(Mode mode)
@@ -251,7 +244,7 @@ void FormMain::go(Mode mode)
     // Without a record there is nothing that a change could be written to.
     control(u"Command1"_s)
         ->setEnabled(mode != Mode::Editing || !widgets::textOf(control(u"lblid"_s)).isEmpty());
-    m_untouched = values().texts;
+    m_fields.keepAsLoaded();
 }
 
 void FormMain::startAdding()
@@ -276,7 +269,6 @@ void FormMain::startEditing()
 
 void FormMain::cancel()
 {
-    Adodc1.cancelUpdate();
     clearForm();
     shared().EditRequested = false;
     m_assist->hide();
@@ -285,19 +277,26 @@ void FormMain::cancel()
     playSound(core::sounds::Cancel);
 }
 
+jet::Recordset& FormMain::contacts()
+{
+    if (!Adodc1.isValid())
+        Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
+    return Adodc1;
+}
+
 bool FormMain::showContact(qint64 id)
 {
-    if (!Adodc1.findFirst(u"id=%1"_s.arg(id))) {
-        // Another screen may have added it since this one was opened.
-        Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
-        if (!Adodc1.findFirst(u"id=%1"_s.arg(id)))
+    // The request was for this form, and is heard now.
+    shared().EditRequested = false;
+    if (!contacts().findFirst(u"id=%1"_s.arg(id))) {
+        // Another screen may have added it since the list was read.
+        Adodc1 = {};
+        if (!contacts().findFirst(u"id=%1"_s.arg(id)))
             return false;
     }
-    if (!mayDiscard()) {
-        // What is being entered stays, and is saved as what it is.
-        shared().EditRequested = false;
+    // What is being entered stays, and is saved as what it is.
+    if (!mayDiscard())
         return true;
-    }
     if (!showRecord(QString::number(id)))
         return false;
     go(Mode::Editing);
@@ -309,11 +308,12 @@ bool FormMain::showContact(qint64 id)
 void FormMain::clearForm()
 {
     m_assists->setQuiet(true);
-    for (const widgets::Control& field : m_fields)
-        widgets::clear(field.widget);
+    m_fields.clear();
+    m_loaded = {};
     setText(u"lblid"_s, {});
     setText(u"LblStateFull"_s, {});
     setText(u"Photo"_s, {});
+    m_loadedPhoto.clear();
     setText(u"Cmbtitle"_s, u"Mr."_s);
     const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
     if (setup.hasRow()) {
@@ -342,21 +342,16 @@ bool FormMain::showRecord(const QString& id)
         return false;
     clearForm();
     m_assists->setQuiet(true);
-    for (const widgets::Control& field : m_fields) {
-        if (field.column.isEmpty()
-            || std::ranges::find(kNotFromColumn, field.name) != std::end(kNotFromColumn))
-            continue;
-        if (auto* box = qobject_cast<widgets::DateBox*>(field.widget)) {
-            const QDate date = row.date(field.column);
-            box->setDate(date.isValid() ? std::optional(date) : std::nullopt);
-        } else {
-            widgets::setTextOf(field.widget, row.textOrEmpty(field.column));
-        }
-    }
+    m_loaded = core::LoadedRow(row);
+    m_fields.showRow(row, kNotFromColumn);
     for (const ChangedColumn& changed : m_variant.changedColumns) {
-        if (const QString text = row.textOrEmpty(changed.column); !text.isEmpty())
-            setText(changed.control.toString(), text);
+        if (!row.value(changed.column).isNull())
+            setText(changed.control.toString(), row.textOrEmpty(changed.column));
     }
+    // The company as it is, without a suffix of its own: one that is chosen now is added to it.
+    setText(u"txtcmpnyPrefix"_s, row.textOrEmpty(u"Company"));
+    setText(u"txtcmpnySuffix"_s, {});
+    setText(u"dtcmbcity1"_s, row.textOrEmpty(u"h_city"));
     const core::Category category{row.textOrEmpty(u"category1"), row.textOrEmpty(u"category2")};
     setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
     setText(u"DtcmbSubCate"_s, category.subcategory);
@@ -369,7 +364,8 @@ bool FormMain::showRecord(const QString& id)
     m_assists->setQuiet(false);
     showNameLabel();
     control(u"Command1"_s)->setEnabled(true);
-    m_untouched = values().texts;
+    m_loadedPhoto = m_photoPath;
+    m_fields.keepAsLoaded();
     return true;
 }
 
@@ -378,6 +374,17 @@ void FormMain::showNameLabel()
     const FormValues now = values();
     const auto view = core::nameViewOf(now.text(u"cmbnview"));
     setText(u"lblname"_s, view ? core::nameForLabel(*view, namePartsOf(now)) : QString());
+}
+
+// A view that is blank when a name is typed becomes the one used last, so that a first contact can be saved.
+void FormMain::takeUsualNameView()
+{
+    if (!m_fields.text(u"cmbnview"_s).trimmed().isEmpty())
+        return;
+    const auto last = context().data.openRecordset(
+        u"select top 1 nview from cnt_main where nview like '*Last*' order by id desc"_s);
+    const auto view = core::nameViewOf(last.textOrEmpty(u"nview"));
+    setText(u"cmbnview"_s, view ? last.textOrEmpty(u"nview") : core::nameViews().constFirst());
 }
 
 void FormMain::toggleAssist()
@@ -396,31 +403,21 @@ void FormMain::turnPage(bool simple)
 
 // ---- reading the form
 
-QWidget* FormMain::control(const QString& name) const
-{
-    return findChild<QWidget*>(name);
-}
-
 void FormMain::setText(const QString& name, const QString& text)
 {
     if (name == u"Photo") {
         m_photoPath = text;
+        m_photoIsChosen = false;
         Photo->setPath(core::photoFile(context().services.drive, text));
-        setText(u"lblPhoto"_s, text);
-        return;
+        return setText(u"lblPhoto"_s, text);
     }
-    if (QWidget* widget = control(name))
+    if (auto* widget = findChild<QWidget*>(name))
         widgets::setTextOf(widget, text);
 }
 
 FormValues FormMain::values() const
 {
-    FormValues result;
-    for (const widgets::Control& field : m_fields) {
-        result.texts.insert(field.name, widgets::textOf(field.widget));
-        if (const auto* box = qobject_cast<const widgets::DateBox*>(field.widget))
-            result.dates.insert(field.name, box->date());
-    }
+    FormValues result = m_fields.values();
     result.texts.insert(u"Photo"_s, m_photoPath);
     return result;
 }
@@ -435,7 +432,7 @@ bool FormMain::event(QEvent* event)
 
 bool FormMain::isTouched() const
 {
-    return m_mode != Mode::Idle && values().texts != m_untouched;
+    return m_mode != Mode::Idle && (m_fields.isTouched() || m_photoPath != m_loadedPhoto);
 }
 
 // ---- save
@@ -448,16 +445,35 @@ void FormMain::refuse(int refusal)
         sstab1->setCurrentIndex(0);
         control(u"dtcmbfname"_s)->setFocus();
         break;
-    case Refusal::NoNameView: warn(tr("Not a Valid Name View")); break;
-    case Refusal::NeitherNameNorCompany: warn(tr("Either Name or Company should be entered")); break;
+    case Refusal::NoNameView: {
+        warn(tr("Not a Valid Name View"));
+        sstab1->setCurrentIndex(0);
+        auto* views = m_fields.control<QComboBox>(u"cmbnview"_s);
+        views->setFocus();
+        views->showPopup();
+        break;
+    }
+    case Refusal::NeitherNameNorCompany:
+        warn(tr("Either Name or Company should be entered"));
+        sstab1->setCurrentIndex(0);
+        control(u"dtcmbfname"_s)->setFocus();
+        break;
     }
 }
 
 bool FormMain::mayBeSaved()
 {
+    if (widgets::DateBox* bad = m_fields.firstBadDate()) {
+        bad->askToMend();
+        return false;
+    }
+    if (IsEditing && widgets::textOf(control(u"lblid"_s)).isEmpty()) {
+        inform(tr("Record not selected"));
+        return false;
+    }
     const FormValues now = values();
     auto refusal = refusalOfSave(now);
-    if (!refusal && isEdit())
+    if (!refusal && IsEditing)
         refusal = refusalOfEdit(now);
     if (refusal)
         refuse(int(*refusal));
@@ -495,30 +511,35 @@ qint64 FormMain::saveContact()
     auto* progress = widgets::child<QProgressBar>(this, u"ProgressBar1"_s);
     progress->setValue(0);
     progress->show();
-    const bool editing = isEdit();
-    const qint64 id = editing ? edit(now, name) : add(now, name);
     // What could not be stored stays on the form, so that it can be saved again.
-    if (id == 0) {
-        progress->hide();
-        return 0;
+    const qint64 id = IsEditing ? edit(now, name) : add(now, name);
+    if (id != 0) {
+        progress->setValue(50);
+        endSave(name);
     }
-    progress->setValue(45);
-    if (editing)
-        applyEditEffects(context(), m_variant, now, name, id);
-    else
-        applyAddEffects(context(), m_variant, now, name);
-    progress->setValue(50);
-    endSave();
+    progress->hide();
     return id;
+}
+
+SaveOptions FormMain::saveOptions(const QString& name) const
+{
+    return {name, context().services.clock.today(), shared().ContMerge};
 }
 
 qint64 FormMain::add(const FormValues& values, const QString& name)
 {
     shared().TableName = u"Contact-AddData"_s;
-    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2"_s);
-    rows.addNew();
-    assign(rows, m_variant.addColumns, values, {name, context().services.clock.today(), shared().ContMerge});
-    return rows.update() ? rows.lastAddedKey() : 0;
+    StoredPhoto photo(context().services.drive, m_photoIsChosen ? m_photoPath : QString(), photoMode());
+    FormValues stored = values;
+    if (m_photoIsChosen)
+        stored.texts[u"Photo"_s] = photo.path();
+    const qint64 id = addContact(
+        context(), newContactOf(m_variant, values, name), [this, &stored, &name](jet::Recordset& rows) {
+            assign(rows, m_variant.addColumns, stored, saveOptions(name));
+        });
+    if (id != 0)
+        photo.keep();
+    return id;
 }
 
 qint64 FormMain::edit(const FormValues& values, const QString& name)
@@ -526,23 +547,70 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
     const QString id = widgets::textOf(control(u"lblid"_s));
     jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
     if (!rows.hasRow())
+        return addAgain(rows, values, name);
+    StoredPhoto photo(context().services.drive, m_photoIsChosen ? m_photoPath : QString(), photoMode());
+    FormValues stored = values;
+    if (m_photoIsChosen)
+        stored.texts[u"Photo"_s] = photo.path();
+    const auto edits = columnEdits(m_variant.editColumns, stored, saveOptions(name),
+        {.isTouched =
+                [this](const QString& control) {
+                    return m_fields.has(control) ? m_fields.isTouched(control) : m_photoPath != m_loadedPhoto;
+                },
+            .label =
+                [this](const QString& control) {
+                    return m_fields.has(control) ? m_fields.label(control) : tr("Picture");
+                }});
+    if (!mayOverwrite(rows, edits))
         return 0;
     rows.edit();
-    assign(rows, m_variant.editColumns, values, {name, context().services.clock.today(), shared().ContMerge});
-    return rows.update() ? id.toLongLong() : 0;
+    m_loaded.assign(rows, edits);
+    if (!rows.update()) {
+        core::tellFailedSave(context());
+        return 0;
+    }
+    photo.keep();
+    applyEditEffects(context(), m_variant, values, name, id.toLongLong());
+    return id.toLongLong();
 }
 
-void FormMain::endSave()
+// Somebody deleted the contact while it was being changed here.
+qint64 FormMain::addAgain(const jet::Recordset& read, const FormValues& values, const QString& name)
+{
+    if (!read.isValid()) {
+        core::tellFailedSave(context());
+        return 0;
+    }
+    const auto answer = context().services.boxes.ask(
+        tr("This contact was deleted while you were changing it. Do you want to store what stands in the "
+           "form as a new contact?"),
+        shared().AppTitle, platform::Icon::Warning);
+    return answer == platform::Answer::Yes ? add(values, name) : 0;
+}
+
+bool FormMain::mayOverwrite(const jet::Recordset& stored, const QList<core::ColumnEdit>& edits) const
+{
+    const auto clashes = m_loaded.clashes(stored, edits);
+    return clashes.isEmpty()
+        || context().services.boxes.ask(
+               core::clashQuestion(clashes), shared().AppTitle, platform::Icon::Warning)
+        == platform::Answer::Yes;
+}
+
+void FormMain::endSave(const QString& name)
 {
     shared().EditRequested = false;
-    Adodc1 = context().data.openRecordset(u"select * from CNT_MAIN order by name"_s, jet::Way::Ado);
-    setPosition(core::positionText(Adodc1));
+    Adodc1 = {};
+    const auto count = context().data.openRecordset(u"select count(*) as contacts from cnt_main"_s);
+    setPosition(u"1 of %1"_s.arg(count.number(u"contacts")));
     clearForm();
-    widgets::child<QProgressBar>(this, u"ProgressBar1"_s)->hide();
     go(Mode::Idle);
     sstab1->setCurrentIndex(0);
     context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
+    tellSaved(name);
+    // The next step is another contact.
+    control(u"SSCommand3"_s)->setFocus();
 }
 
 void FormMain::saveAs()
@@ -563,7 +631,14 @@ void FormMain::selectPhoto()
         warn(tr("This file is no picture that can be shown."));
         return;
     }
-    setText(u"Photo"_s, storePhoto(context().services.drive, *chosen, shared().PhotoStoreMode));
+    setText(u"Photo"_s, *chosen);
+    m_photoIsChosen = true;
+}
+
+// Nothing is copied or moved where nothing was chosen.
+QString FormMain::photoMode() const
+{
+    return m_photoIsChosen ? shared().PhotoStoreMode : QString();
 }
 
 } // namespace entry

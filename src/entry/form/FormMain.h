@@ -4,7 +4,8 @@
 #include "core/handover/save_source.h"
 #include "core/screen.h"
 #include "entry/form/form_variant.h"
-#include "widgets/form_kit.h"
+#include "widgets/field_set.h"
+#include "widgets/fields.h"
 
 class QTabWidget;
 
@@ -52,7 +53,7 @@ private:
     void wire();
 
     FormValues values() const;
-    QWidget* control(const QString& name) const;
+    QWidget* control(const QString& name) const { return widgets::child<QWidget>(this, name); }
     void setText(const QString& name, const QString& text);
 
     void go(Mode mode);
@@ -68,17 +69,23 @@ private:
     void turnPage(bool simple);
 
     void save();
-    bool isEdit() const { return IsEditing || shared().EditRequested; }
     qint64 add(const FormValues& values, const QString& name);
     qint64 edit(const FormValues& values, const QString& name);
-    void endSave();
+    /// What the columns get, the picture where it was put by now.
+    SaveOptions saveOptions(const QString& name) const;
+    bool mayOverwrite(const jet::Recordset& stored, const QList<core::ColumnEdit>& edits) const;
+    qint64 addAgain(const jet::Recordset& read, const FormValues& values, const QString& name);
+    QString photoMode() const;
+    void endSave(const QString& name);
+    jet::Recordset& contacts();
+    void takeUsualNameView();
     void refuse(int refusal);
 
     void selectPhoto();
     void saveAs();
 
     const FormVariant& m_variant;
-    jet::Recordset Adodc1; ///< all contacts in order, for the position
+    jet::Recordset Adodc1; ///< all contacts in order, for the position; opened when one is looked for
     bool m_isMerged = false; ///< category and subcategory stand in one list
     bool IsEditing = false;
     Mode m_mode = Mode::Idle;
@@ -88,9 +95,11 @@ private:
     EntryAssists* m_assists = nullptr;
     UserFields* m_userFields = nullptr;
     widgets::PictureBox* Photo = nullptr;
-    QList<widgets::Control> m_fields;
-    QString m_photoPath; ///< as the contact stores it
-    QHash<QString, QString> m_untouched; ///< what the form held when its mode began
+    widgets::FieldSet m_fields;
+    core::LoadedRow m_loaded; ///< the contact that is changed
+    QString m_photoPath; ///< as the contact stores it, or of this computer while it is only chosen
+    QString m_loadedPhoto;
+    bool m_photoIsChosen = false; ///< and put where it belongs by the save
 };
 
 } // namespace entry

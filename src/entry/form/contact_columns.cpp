@@ -336,4 +336,34 @@ void assign(jet::Recordset& rows, std::span<const ColumnRow> columns, const Form
         rows.set(row.column, valueOf(row, values, options));
 }
 
+namespace {
+
+/// The controls that a column is made of.
+QStringList controlsOf(const ColumnRow& row)
+{
+    if (row.rule == Rule::Name)
+        return {u"dtcmbfname"_s, u"dtcmblname"_s, u"txtcmpny"_s, u"cmbnview"_s};
+    QStringList controls;
+    for (const QStringView control : {row.control, row.second}) {
+        if (!control.isEmpty())
+            controls << control.toString();
+    }
+    return controls;
+}
+
+} // namespace
+
+QList<core::ColumnEdit> columnEdits(std::span<const ColumnRow> columns, const FormValues& values,
+    const SaveOptions& options, const core::TouchedFields& fields)
+{
+    QList<core::ColumnEdit> edits;
+    for (const ColumnRow& row : columns) {
+        const QStringList controls = controlsOf(row);
+        edits.append({row.column.toString(), valueOf(row, values, options),
+            std::ranges::any_of(controls, fields.isTouched), controls.isEmpty(),
+            controls.isEmpty() ? QString() : fields.label(controls.constFirst())});
+    }
+    return edits;
+}
+
 } // namespace entry

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/loaded_row.h"
 #include "entry/form/form_values.h"
 #include "jet/recordset.h"
 
@@ -56,5 +57,9 @@ QVariant valueOf(const ColumnRow& row, const FormValues& values, const SaveOptio
 /// Assigns the columns one after the other; one that does not fit is skipped alone.
 void assign(jet::Recordset& rows, std::span<const ColumnRow> columns, const FormValues& values,
     const SaveOptions& options);
+
+/// What a change writes, told for each column whether the person touched a control that it is made of.
+QList<core::ColumnEdit> columnEdits(std::span<const ColumnRow> columns, const FormValues& values,
+    const SaveOptions& options, const core::TouchedFields& fields);
 
 } // namespace entry

@@ -28,23 +28,34 @@ QString freeName(const QString& folder, const QFileInfo& file)
 
 } // namespace
 
-QString storePhoto(const platform::Drive& drive, const QString& chosen, const QString& mode)
+StoredPhoto::StoredPhoto(const platform::Drive& drive, const QString& chosen, const QString& mode)
+    : m_chosen(chosen)
+    , m_isMoved(mode == u"Move")
 {
     const QString own = drive.named(chosen);
-    const QString linked = own.isEmpty() ? chosen : own;
-    if (mode != u"Copy" && mode != u"Move")
-        return linked;
-    if (!drive.ensureFolder(kFolder))
-        return linked;
+    m_path = own.isEmpty() ? chosen : own;
+    if ((!m_isMoved && mode != u"Copy") || !drive.ensureFolder(kFolder))
+        return;
     const QString folder = drive.local(kFolder);
     // A picture that lies there already needs no second copy.
     if (QFileInfo(chosen).canonicalPath() == QFileInfo(folder).canonicalFilePath())
-        return linked;
+        return;
     const QString name = freeName(folder, QFileInfo(chosen));
     const QString target = QDir(folder).filePath(name);
-    const bool done
-        = !name.isEmpty() && (mode == u"Move" ? QFile::rename(chosen, target) : QFile::copy(chosen, target));
-    return done ? kFolder.toString() + u'\\' + name : linked;
+    if (name.isEmpty() || !(m_isMoved ? QFile::rename(chosen, target) : QFile::copy(chosen, target)))
+        return;
+    m_copy = target;
+    m_path = kFolder.toString() + u'\\' + name;
+}
+
+StoredPhoto::~StoredPhoto()
+{
+    if (m_copy.isEmpty())
+        return;
+    if (m_isMoved)
+        QFile::rename(m_copy, m_chosen);
+    else
+        QFile::remove(m_copy);
 }
 
 } // namespace entry

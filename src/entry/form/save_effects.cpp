@@ -1,6 +1,7 @@
 #include "entry/form/save_effects.h"
 
 #include "core/mail_key.h"
+#include "core/save_failure.h"
 #include "entry/form/mail_contact.h"
 #include "platform/clock.h"
 #include "platform/favourites.h"
@@ -27,24 +28,7 @@ void addFavourites(
 
 } // namespace
 
-void applyAddEffects(core::Context& context, NewContact contact)
-{
-    const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
-    if (setup.flag(u"UpdOutllook")) {
-        const auto newest = context.data.openRecordset(u"Select * from cnt_main order by ID desc"_s);
-        const qint64 id = newest.hasRow() ? newest.number(u"id") : 1;
-        contact.mail.key = core::mailKeyOf(id);
-        context.services.mailContacts.add(contact.mail);
-        contact.dates.id = id;
-        core::addSchedulerRows(context.data,
-            core::schedulerRows(contact.dates, context.services.clock.today().year(), contact.family));
-    }
-    if (setup.flag(u"AddFav"))
-        addFavourites(context.services.favourites, contact.name, contact.favourites);
-}
-
-void applyAddEffects(
-    core::Context& context, const FormVariant& variant, const FormValues& values, const QString& name)
+NewContact newContactOf(const FormVariant& variant, const FormValues& values, const QString& name)
 {
     NewContact contact;
     contact.name = name;
@@ -56,7 +40,35 @@ void applyAddEffects(
             {values.date(u"Datekid1"), values.date(u"datekid2"), values.date(u"datekid3")},
             values.date(u"DateAnn")};
     contact.favourites = favouritesOf(values, variant.homeSuffixOnAdd, variant.workSuffixOnAdd);
-    applyAddEffects(context, std::move(contact));
+    return contact;
+}
+
+qint64 addContact(
+    core::Context& context, NewContact contact, const std::function<void(jet::Recordset&)>& assign)
+{
+    const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
+    const bool reachesOthers = setup.flag(u"UpdOutllook");
+    jet::Batch batch(context.data);
+    jet::Recordset rows = context.data.openRecordset(u"Select * from cnt_main where 1>2"_s);
+    rows.addNew();
+    assign(rows);
+    const qint64 id = rows.update() ? rows.lastAddedKey() : 0;
+    if (id != 0 && reachesOthers) {
+        contact.dates.id = id;
+        core::addSchedulerRows(context.data,
+            core::schedulerRows(contact.dates, context.services.clock.today().year(), contact.family));
+    }
+    if (!batch.commit() || id == 0) {
+        core::tellFailedSave(context);
+        return 0;
+    }
+    if (reachesOthers) {
+        contact.mail.key = core::mailKeyOf(id);
+        context.services.mailContacts.add(contact.mail);
+    }
+    if (setup.flag(u"AddFav"))
+        addFavourites(context.services.favourites, contact.name, contact.favourites);
+    return id;
 }
 
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,

@@ -6,6 +6,8 @@
 #include "entry/form/form_variant.h"
 #include "platform/contact_sync.h"
 
+#include <functional>
+
 namespace entry {
 
 /// A web address of a contact, and the end of its favourite's name.
@@ -14,8 +16,9 @@ struct WebFavourite {
     QString suffix;
 };
 
-/// What a new contact may bring with it, as its form holds it. The number of the contact is put in when it is
-/// known.
+/// What a new contact may bring with it where the set-up asks for it, as its form holds it: the mail client's
+/// contact, the rows of the scheduler, the favourites for its web addresses. The number of the contact is put
+/// in when it is known.
 struct NewContact {
     QString name;
     platform::MailContact mail;
@@ -23,13 +26,16 @@ struct NewContact {
     core::FamilyRows family = core::FamilyRows::SpouseAndKids;
     QList<WebFavourite> favourites;
 };
+NewContact newContactOf(const FormVariant& variant, const FormValues& values, const QString& name);
 
-/// What a stored contact brings with it where the set-up asks for it: the mail client's contact, the rows of
-/// the scheduler, the favourites for its web addresses.
-void applyAddEffects(core::Context& context, NewContact contact);
-void applyAddEffects(
-    core::Context& context, const FormVariant& variant, const FormValues& values, const QString& name);
-/// A change makes no scheduler rows.
+/// Stores a new contact and its rows of the scheduler, all or nothing, then what it brings outside the book.
+/// A failure is told to the person.
+/// @param assign fills the columns of the new row
+/// @return the number of the contact, 0 when it was not stored
+qint64 addContact(
+    core::Context& context, NewContact contact, const std::function<void(jet::Recordset&)>& assign);
+
+/// What a changed contact brings outside the book. A change makes no scheduler rows.
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,
     const QString& name, qint64 id);
 

@@ -136,6 +136,8 @@ void TurboAdd::load()
         list1->setRows(rows, {u"Name"_s});
     }
     startEntry();
+    if (const auto kept = shared().unsavedEntries.take(objectName()); !kept.texts.isEmpty())
+        m_boxes->show(kept);
     setFrameTitle(tr("Contacts Turbo Add"));
     setPosition(tr("Contacts Turbo Add"));
 }
@@ -251,9 +253,9 @@ void TurboAdd::cancel()
 void TurboAdd::save()
 {
     // What could not be stored stays in the boxes, so that it can be saved again.
-    if (!store())
+    if (!m_boxes->mendDates() || !mayBeNameless() || !store())
         return;
-    applyAddEffects(context(), newTurboContact(m_boxes->values()));
+    m_boxes->keepAsLoaded();
     context().screens.tellBookChanged(this);
     const auto answer = context().services.boxes.ask(
         tr("Record Saved.\r\nDo you want to add new record ?"), shared().AppTitle, platform::Icon::Question);
@@ -262,14 +264,42 @@ void TurboAdd::save()
     playSound(core::sounds::Save);
 }
 
-// Kept: nothing is checked; a contact without any entry is stored too.
+// Such a contact is in no list by name, and goes when an entry form clears blank contacts away.
+bool TurboAdd::mayBeNameless()
+{
+    const FormValues values = m_boxes->values();
+    for (const QStringView box : {u"txtfirst", u"txtlast", u"txtcompany", u"txtcompsuffix"}) {
+        if (!values.trimmed(box).isEmpty())
+            return true;
+    }
+    const auto answer = context().services.boxes.ask(
+        tr("This contact has no first name, no last name and no company. Do you want to save it without a "
+           "name?"),
+        shared().AppTitle, platform::Icon::Warning);
+    if (answer == platform::Answer::No)
+        m_boxes->focusBox(u"txtfirst");
+    return answer == platform::Answer::Yes;
+}
+
+// Kept: nothing but the name is checked; a contact without any entry is stored too.
 bool TurboAdd::store()
 {
     const FormValues values = m_boxes->values();
-    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2"_s);
-    rows.addNew();
-    assign(rows, turboColumns(), values, {turboName(values), context().services.clock.today(), true});
-    return rows.update();
+    return addContact(context(), newTurboContact(values), [this, &values](jet::Recordset& rows) {
+        assign(rows, turboColumns(), values, {turboName(values), context().services.clock.today(), true});
+    }) != 0;
+}
+
+bool TurboAdd::isTouched() const
+{
+    return m_boxes->isTouched();
+}
+
+bool TurboAdd::mayClose()
+{
+    if (isTouched())
+        shared().unsavedEntries.insert(objectName(), m_boxes->values());
+    return true;
 }
 
 // ---- keys
@@ -287,7 +317,7 @@ bool TurboAdd::eventFilter(QObject* watched, QEvent* event)
 void TurboAdd::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
-    case Qt::Key_Escape: Q_EMIT closeRequested(); break;
+    case Qt::Key_Escape: m_boxes->clearFocused(); break;
     case Qt::Key_F2: m_boxes->focusBox(target()); break;
     default: Screen::keyPressEvent(event);
     }

@@ -13,7 +13,8 @@ class TurboBoxes;
 class TurboValues;
 
 /// Enters a contact almost without typing: the list of fields at the left, what the current field can be in
-/// the middle, what has been entered at the right. Each save adds a row; closing asks nothing.
+/// the middle, what has been entered at the right. Each save adds a row; closing asks nothing, and what was
+/// entered is there again when the form is opened next.
 class TurboAdd : public core::Screen {
     Q_OBJECT
 
@@ -21,6 +22,9 @@ public:
     explicit TurboAdd(core::Context& context, QWidget* parent = nullptr);
 
     void load() override;
+    bool isTouched() const override;
+    bool mayClose() override;
+    bool mayEndProgram() override { return mayDiscard(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,6 +49,7 @@ private:
     void startEntry();
     void cancel();
     void save();
+    bool mayBeNameless();
     bool store();
 
     widgets::RecordList* list1;

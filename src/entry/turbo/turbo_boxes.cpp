@@ -156,8 +156,8 @@ void TurboBoxes::layOut(QWidget* page, const FormKit::SizeOf& sizeOf)
     homeColumn(kit);
     workColumn(kit);
     page->layout()->setContentsMargins(0, 0, 0, 0);
-    m_boxes = kit.controls();
-    for (const widgets::Control& control : m_boxes) {
+    m_boxes = widgets::FieldSet(page);
+    for (const widgets::Control& control : m_boxes.controls()) {
         const bool isDate = qobject_cast<widgets::DateBox*>(control.widget) != nullptr;
         control.widget->setMinimumWidth(isDate ? kDateWidth : kLeastWidth);
         control.widget->installEventFilter(this);
@@ -177,7 +177,7 @@ QWidget* TurboBoxes::box(QStringView name) const
 
 void TurboBoxes::setDateFormat(const QString& pattern)
 {
-    for (const widgets::Control& control : m_boxes) {
+    for (const widgets::Control& control : m_boxes.controls()) {
         if (auto* date = qobject_cast<widgets::DateBox*>(control.widget))
             date->setFormat(pattern);
     }
@@ -185,21 +185,26 @@ void TurboBoxes::setDateFormat(const QString& pattern)
 
 void TurboBoxes::clear()
 {
-    for (const widgets::Control& control : m_boxes)
-        widgets::clear(control.widget);
+    m_boxes.clear();
+    m_boxes.keepAsLoaded();
     m_lastPhone.clear();
     activate(Block::Home);
 }
 
-FormValues TurboBoxes::values() const
+bool TurboBoxes::mendDates() const
 {
-    FormValues result;
-    for (const widgets::Control& control : m_boxes) {
-        result.texts.insert(control.name, widgets::textOf(control.widget));
-        if (const auto* date = qobject_cast<const widgets::DateBox*>(control.widget))
-            result.dates.insert(control.name, date->date());
+    widgets::DateBox* bad = m_boxes.firstBadDate();
+    if (bad)
+        bad->askToMend();
+    return !bad;
+}
+
+void TurboBoxes::clearFocused()
+{
+    for (const widgets::Control& control : m_boxes.controls()) {
+        if (control.widget->hasFocus())
+            widgets::clear(control.widget);
     }
-    return result;
 }
 
 QString TurboBoxes::text(QStringView name) const
@@ -226,9 +231,10 @@ void TurboBoxes::setDate(QStringView name, QDate date)
 QLabel* TurboBoxes::labelOf(QStringView name) const
 {
     const QList<QLabel*> labels = findChildren<QLabel*>();
-    const auto found = std::ranges::find(m_boxes, name, &widgets::Control::name);
-    for (qsizetype at = found - m_boxes.begin(); at >= 0; --at) {
-        const auto label = std::ranges::find(labels, m_boxes[at].widget, &QLabel::buddy);
+    const QList<widgets::Control>& boxes = m_boxes.controls();
+    const auto found = std::ranges::find(boxes, name, &widgets::Control::name);
+    for (qsizetype at = found - boxes.begin(); at >= 0; --at) {
+        const auto label = std::ranges::find(labels, boxes[at].widget, &QLabel::buddy);
         if (label != labels.end())
             return *label;
     }

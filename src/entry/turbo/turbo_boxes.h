@@ -2,7 +2,7 @@
 
 #include "entry/form/form_values.h"
 #include "entry/turbo/turbo_fields.h"
-#include "widgets/form_kit.h"
+#include "widgets/field_set.h"
 
 #include <QScrollArea>
 
@@ -22,7 +22,14 @@ public:
     void setDateFormat(const QString& pattern);
     /// Blanks all boxes; the home address is the active one again.
     void clear();
-    FormValues values() const;
+    FormValues values() const { return m_boxes.values(); }
+    void show(const FormValues& values) { m_boxes.show(values); }
+    bool isTouched() const { return m_boxes.isTouched(); }
+    void keepAsLoaded() { m_boxes.keepAsLoaded(); }
+    /// False when a date is none; the person is shown which.
+    bool mendDates() const;
+    /// Blanks the box that has the focus, if it holds something.
+    void clearFocused();
 
     QString text(QStringView box) const;
     void setText(QStringView box, const QString& text);
@@ -55,7 +62,7 @@ private:
     QWidget* box(QStringView name) const;
     QLabel* labelOf(QStringView name) const;
 
-    QList<widgets::Control> m_boxes;
+    widgets::FieldSet m_boxes;
     QGroupBox* m_homeGroup = nullptr;
     QGroupBox* m_workGroup = nullptr;
     QLabel* m_marked = nullptr;

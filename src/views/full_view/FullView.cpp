@@ -1,6 +1,7 @@
 #include "views/full_view/FullView.h"
 
 #include "core/photo_file.h"
+#include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "platform/drive.h"
@@ -204,6 +205,8 @@ void FullView::connectControls()
     connect(DBList1, &widgets::RecordList::currentRowChanged, this, &FullView::rowChanged);
     connect(tvwdb, &CategoryTree::contactChosen, this, &FullView::chooseInTree);
     connect(frmkeyword, &KeywordPanel::searched, this, [this](const QString& keyword) {
+        if (!mayLeaveEdit())
+            return;
         openFound(keywordSql(keyword));
         frmkeyword->hide();
     });
@@ -244,6 +247,8 @@ bool FullView::showContact(qint64 id)
         = context().data.openRecordset(u"select * from [cnt_main] where id=%1"_s.arg(id));
     if (id == 0 || !contact.hasRow())
         return false;
+    if (!mayLeaveEdit())
+        return true;
     if (m_source)
         browse(nullptr);
     if (DBList1->rowOf(id) < 0)
@@ -261,6 +266,8 @@ bool FullView::showContact(qint64 id)
 
 void FullView::applyFilter(const QString& whereClause)
 {
+    if (!mayLeaveEdit())
+        return;
     if (m_source)
         browse(nullptr);
     openFound(contactListSql(whereClause));
@@ -268,11 +275,29 @@ void FullView::applyFilter(const QString& whereClause)
 
 void FullView::bookChanged()
 {
-    // What is being edited stays until it is saved or left.
-    if (TabsEdit->currentIndex() == kEditPage)
+    // What is being entered stays until it is saved or left.
+    if (isTouched())
         return;
     reopenList();
     tvwdb->rebuild();
+    if (TabsEdit->currentIndex() == kEditPage)
+        m_edit->loadContact(m_id);
+}
+
+bool FullView::isTouched() const
+{
+    return TabsEdit->currentIndex() == kEditPage && m_edit->isTouched();
+}
+
+// What was typed is gone only after a Yes.
+bool FullView::mayLeaveEdit()
+{
+    if (!isTouched())
+        return true;
+    if (!mayDiscard())
+        return false;
+    m_edit->loadContact(m_id);
+    return true;
 }
 
 void FullView::openList(const QString& sql)
@@ -384,6 +409,8 @@ void FullView::rowChanged(int row)
 
 void FullView::moveBy(int step)
 {
+    if (!mayLeaveEdit())
+        return;
     const int row = DBList1->currentRow() + step;
     if (row >= 0 && row < DBList1->rowCount())
         DBList1->setCurrentRow(row);
@@ -461,6 +488,8 @@ void FullView::chooseInTree(qint64 id)
 
 void FullView::refresh()
 {
+    if (!mayLeaveEdit())
+        return;
     if (m_source)
         return reopenList();
     openList(contactListSql());
@@ -475,8 +504,15 @@ void FullView::refresh()
 
 void FullView::pageChanged(int page)
 {
+    if (page != kEditPage && m_edit->isTouched()) {
+        if (!mayDiscard())
+            return TabsEdit->setCurrentIndex(kEditPage);
+        m_edit->loadContact(m_id);
+    }
+    const bool wasHidden = m_browser->isHidden();
     m_browser->setVisible(page != kEditPage);
-    if (page == kEditPage) {
+    // Back on the page after a No, it is as it was left.
+    if (page == kEditPage && !wasHidden) {
         m_edit->loadContact(m_id);
         playSound(core::sounds::Edit);
     }
@@ -490,13 +526,14 @@ void FullView::save()
     context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
     m_edit->tell(tr("Saved"));
+    tellSaved(shownName());
     QTimer::singleShot(kSavedNoteMs, m_edit, [this] { m_edit->tell({}); });
 }
 
 void FullView::goToAssociate(const QString& name)
 {
     const jet::Recordset contact = context().data.openRecordset(associateSql(name));
-    if (!contact.hasRow())
+    if (!contact.hasRow() || !mayLeaveEdit())
         return;
     const qint64 id = contact.number(u"id");
     if (DBList1->rowOf(id) < 0)
@@ -511,9 +548,12 @@ void FullView::storeName(qint64 id, const QString& name)
         return;
     row.edit();
     row.set(u"name", name);
-    row.update();
+    const bool isStored = row.update();
     reopenList();
+    if (!isStored)
+        return core::tellFailedSave(context());
     context().screens.tellBookChanged(this);
+    tellSaved(name);
 }
 
 // While there is no screen for it, the button offers the same menu as its right button.

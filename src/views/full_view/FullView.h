@@ -52,6 +52,7 @@ public:
     bool showContact(qint64 id) override;
     void applyFilter(const QString& whereClause) override;
     void bookChanged() override;
+    bool isTouched() const override;
 
 Q_SIGNALS:
     void bookChosen(bool own); ///< another address book is listed, the program's own or one to read only
@@ -87,6 +88,7 @@ private:
     void chooseInTree(qint64 id);
     void refresh();
     void pageChanged(int page);
+    bool mayLeaveEdit();
     void save();
     void goToAssociate(const QString& name);
     void storeName(qint64 id, const QString& name);

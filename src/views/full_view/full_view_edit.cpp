@@ -1,7 +1,10 @@
 #include "views/full_view/full_view_edit.h"
 
 #include "core/date_patterns.h"
+#include "core/save_failure.h"
+#include "core/touched_fields.h"
 #include "core/vocabularies.h"
+#include "platform/message_boxes.h"
 #include "views/full_view/full_view_save.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/date_box.h"
@@ -98,6 +101,7 @@ FullViewEdit::FullViewEdit(core::Context& context, QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(tabs, 1);
     layout->addWidget(commands);
+    m_fields = widgets::FieldSet(tabs);
     m_note = child<QLabel>(this, u"LblESaved"_s);
     connect(
         child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this, &FullViewEdit::saveRequested);
@@ -278,19 +282,43 @@ void FullViewEdit::loadContact(qint64 id)
             ->setDate(date.isValid() ? std::optional(date) : std::nullopt);
     }
     child<QPushButton>(this, u"CmdSave"_s)->setEnabled(m_id != 0);
+    m_loaded = row.hasRow() ? core::LoadedRow(row) : core::LoadedRow();
+    m_fields.keepAsLoaded();
 }
 
 bool FullViewEdit::saveContact()
 {
+    m_note->clear();
+    if (widgets::DateBox* bad = m_fields.firstBadDate()) {
+        bad->askToMend();
+        return false;
+    }
     jet::Recordset row = m_context.data.openRecordset(contactForEditSql(m_id));
-    if (!row.hasRow())
+    if (!row.isValid()) {
+        core::tellFailedSave(m_context);
+        return false;
+    }
+    platform::MessageBoxes& boxes = m_context.services.boxes;
+    const QString& title = m_context.shared.AppTitle;
+    if (!row.hasRow()) {
+        boxes.warning(
+            tr("This contact was deleted while you were changing it. What you entered is still here."),
+            title);
+        return false;
+    }
+    const auto edits = editPageColumns(m_fields.values(), core::touchedFieldsOf(m_fields));
+    const auto clashes = m_loaded.clashes(row, edits);
+    if (!clashes.isEmpty()
+        && boxes.ask(core::clashQuestion(clashes), title, platform::Icon::Warning) != platform::Answer::Yes)
         return false;
     row.edit();
-    writeEditPage(row,
-        {.text = [this](const QString& control) { return widgets::textOf(child<QWidget>(this, control)); },
-            .date
-            = [this](const QString& control) { return child<widgets::DateBox>(this, control)->date(); }});
-    return row.update();
+    m_loaded.assign(row, edits);
+    if (!row.update()) {
+        core::tellFailedSave(m_context);
+        return false;
+    }
+    loadContact(m_id);
+    return true;
 }
 
 void FullViewEdit::tell(const QString& text)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/context.h"
+#include "core/loaded_row.h"
+#include "widgets/field_set.h"
 
 #include <QWidget>
 
@@ -23,7 +25,8 @@ public:
     /// Fills the fields from the contact; without one they are blank.
     void loadContact(qint64 id);
     qint64 contact() const { return m_id; }
-    /// Writes the contact back; false when there is none or it could not be stored.
+    bool isTouched() const { return m_fields.isTouched(); }
+    /// Writes what was changed; false when it was not stored, which the person has been told.
     bool saveContact();
     void tell(const QString& text); ///< beside the save button, until something changes
 
@@ -40,6 +43,8 @@ private:
     widgets::FormKit kit(QWidget* page) const;
 
     core::Context& m_context;
+    widgets::FieldSet m_fields;
+    core::LoadedRow m_loaded;
     qint64 m_id = 0;
     QLabel* m_note = nullptr;
 };

@@ -183,14 +183,14 @@ constexpr EditSource kDates[] = {
     {u"DtpEKid3", u"Kid3_BD"},
 };
 
-QVariant valueOf(const SaveColumn& saved, const EditPage& page)
+QVariant valueOf(const SaveColumn& saved, const widgets::FieldValues& page)
 {
     const QString control = saved.control.toString();
     switch (saved.how) {
     case Stored::AsTyped: return page.text(control);
     case Stored::Trimmed: return page.text(control).trimmed();
     case Stored::OrUndefined: return core::orUndefined(page.text(control));
-    case Stored::FullName: return page.text(u"CmbEFirst"_s) + u' ' + page.text(u"CmbELast"_s);
+    case Stored::FullName: return QString(page.text(u"CmbEFirst") + u' ' + page.text(u"CmbELast"));
     case Stored::Date:
         if (const auto date = page.date(control))
             return *date;
@@ -211,10 +211,17 @@ std::span<const EditSource> editDates()
     return kDates;
 }
 
-void writeEditPage(jet::Recordset& row, const EditPage& page)
+QList<core::ColumnEdit> editPageColumns(const widgets::FieldValues& page, const core::TouchedFields& fields)
 {
-    for (const SaveColumn& saved : kSaved)
-        row.set(saved.column, valueOf(saved, page));
+    QList<core::ColumnEdit> edits;
+    for (const SaveColumn& saved : kSaved) {
+        const QString control = saved.how == Stored::FullName ? u"CmbEFirst"_s : saved.control.toString();
+        const bool isTouched
+            = fields.isTouched(control) || (saved.how == Stored::FullName && fields.isTouched(u"CmbELast"_s));
+        edits.append(
+            {saved.column.toString(), valueOf(saved, page), isTouched, false, fields.label(control)});
+    }
+    return edits;
 }
 
 } // namespace views

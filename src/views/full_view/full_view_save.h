@@ -1,11 +1,8 @@
 #pragma once
 
-#include "jet/recordset.h"
+#include "core/loaded_row.h"
+#include "widgets/field_values.h"
 
-#include <QDate>
-
-#include <functional>
-#include <optional>
 #include <span>
 
 namespace views {
@@ -21,13 +18,7 @@ struct EditSource {
 std::span<const EditSource> editTexts();
 std::span<const EditSource> editDates();
 
-/// Reads the controls of the edit page by name.
-struct EditPage {
-    std::function<QString(const QString& control)> text;
-    std::function<std::optional<QDate>(const QString& control)> date;
-};
-
-/// Assigns the columns that the edit page writes to a row that is being edited.
-void writeEditPage(jet::Recordset& row, const EditPage& page);
+/// What the edit page writes, column by column.
+QList<core::ColumnEdit> editPageColumns(const widgets::FieldValues& page, const core::TouchedFields& fields);
 
 } // namespace views
