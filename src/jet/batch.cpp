@@ -35,6 +35,23 @@ bool Batch::end(bool keep)
     return m_isCommitted;
 }
 
+Step::Step(Database& database, const QString& name)
+    : m_engine(database.m_engine)
+{
+    m_engine->beginStep(name);
+}
+
+Step::~Step()
+{
+    m_engine->endStep();
+}
+
+void Step::follow(StepFollower follower)
+{
+    if (m_engine->undoLog())
+        m_engine->undoLog()->follow(std::move(follower));
+}
+
 Upkeep::Upkeep(Database& database)
     : m_engine(database.m_engine)
 {

@@ -175,9 +175,9 @@ QString Database::state() const
         QString::number(sqlite3_total_changes(m_engine->connection())));
 }
 
-void Database::keepChanges(const QString& table, const QString& labelColumn)
+void Database::keepChanges(const QList<ChangeLabel>& labels)
 {
-    m_engine->keepChanges(table, labelColumn);
+    m_engine->keepChanges(labels);
 }
 
 std::optional<ChangeStep> Database::lastChange() const
@@ -186,9 +186,20 @@ std::optional<ChangeStep> Database::lastChange() const
     return last ? std::optional(*last) : std::nullopt;
 }
 
-bool Database::undoLastChange()
+std::optional<ChangeStep> Database::lastUndone() const
 {
-    return m_engine->undoLog() && m_engine->undoLog()->undoLast();
+    const ChangeStep* last = m_engine->undoLog() ? m_engine->undoLog()->lastUndone() : nullptr;
+    return last ? std::optional(*last) : std::nullopt;
+}
+
+TakenBack Database::undoLastChange()
+{
+    return m_engine->moveStep(StepDirection::Back);
+}
+
+TakenBack Database::redoLastChange()
+{
+    return m_engine->moveStep(StepDirection::Again);
 }
 
 size_t Database::searchMemory() const

@@ -59,13 +59,15 @@ public:
     /// Another text after any change of the file, by whomever; for work that need not be done twice.
     QString state() const;
 
-    /// From now on the last changes of a table can be taken back, one statement, recordset update or batch
-    /// after the other; see UndoLog. The label column holds what a person calls a row.
-    void keepChanges(const QString& table, const QString& labelColumn);
+    /// From now on the last changes of all tables can be taken back, one statement, recordset update, batch
+    /// or Step after the other; see UndoLog. What a change is called stands in the first of the labelled
+    /// tables that it touched.
+    void keepChanges(const QList<ChangeLabel>& labels);
     std::optional<ChangeStep> lastChange() const;
-    /// All of the step or nothing: false when its rows have been changed by somebody else since. The step is
-    /// gone in either case.
-    bool undoLastChange();
+    std::optional<ChangeStep> lastUndone() const; ///< until the next change
+    /// All of the step or nothing.
+    TakenBack undoLastChange();
+    TakenBack redoLastChange();
 
     /// What is kept in memory so that searches for a piece of text are quick, in bytes.
     size_t searchMemory() const;
@@ -89,6 +91,7 @@ public:
 
 private:
     friend class Batch;
+    friend class Step;
     friend class Upkeep;
     std::shared_ptr<Engine> m_engine;
 };
@@ -121,7 +124,23 @@ private:
     bool m_isCommitted = false;
 };
 
-/// What is changed during its life is the program's own doing and no step for a person to take back.
+/// All that is written during its life, in several batches or none, is one step to a person, who knows it by
+/// that name ("renaming the category Friends"). A step within another is a part of it.
+class Step {
+public:
+    Step(Database& database, const QString& name);
+    ~Step();
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+    /// For what the step does outside of the book. The follower may outlive the caller.
+    void follow(StepFollower follower);
+
+private:
+    std::shared_ptr<Engine> m_engine;
+};
+
+/// What is changed during its life is the program's own doing and no step for a person to take back. Only
+/// rows of the first labelled table that it deletes come back.
 class Upkeep {
 public:
     explicit Upkeep(Database& database);

@@ -124,8 +124,8 @@ void Engine::takeUp()
 {
     m_isOpen = std::make_shared<bool>(true);
     m_search = std::make_unique<TextSearch>(connection());
-    if (!m_keptTable.isEmpty())
-        keepChanges(m_keptTable, m_keptLabel);
+    if (m_labels)
+        keepChanges(QList<ChangeLabel>(*m_labels));
 }
 
 void Engine::takeHandlers(const Engine& other)
@@ -220,12 +220,14 @@ void Engine::beginBatch()
 {
     if (m_batch.depth > 0) {
         ++m_batch.depth;
+        m_batch.changesBefore.push_back(m_undo ? m_undo->pendingRows() : 0);
         if (!m_batch.isGone)
             m_file.run("SAVEPOINT part");
         return;
     }
     const bool begun = mayWrite(u"begin") && m_file.runWaiting("BEGIN IMMEDIATE");
-    m_batch = {.depth = 1};
+    m_batch = {};
+    m_batch.depth = 1;
     if (begun)
         return;
     reportLast(u"begin");
@@ -240,6 +242,8 @@ bool Engine::endBatch(bool keep)
         return false;
     const OpenBatch batch = m_batch;
     --m_batch.depth;
+    if (batch.depth > 1)
+        m_batch.changesBefore.pop_back();
     const bool isGone = batch.isGone || sqlite3_get_autocommit(connection()) != 0;
     if (batch.depth > 1) {
         m_batch.isGone = isGone;
@@ -248,7 +252,8 @@ bool Engine::endBatch(bool keep)
         if (!keep) {
             m_file.run("ROLLBACK TO part");
             ++m_batch.failures;
-            dropChanges();
+            if (m_undo)
+                m_undo->rollBack(batch.changesBefore.back());
             forgetTables();
         }
         m_file.run("RELEASE part");
@@ -256,7 +261,7 @@ bool Engine::endBatch(bool keep)
     }
     if (keep && !isGone && m_file.runWaiting("COMMIT")) {
         if (m_undo)
-            m_undo->endStatement(true);
+            m_undo->endTransaction();
         if (batch.failures == 0)
             m_lastFailure.reset();
         return true;
@@ -267,7 +272,8 @@ bool Engine::endBatch(bool keep)
     }
     if (sqlite3_get_autocommit(connection()) == 0)
         m_file.run("ROLLBACK");
-    dropChanges();
+    if (m_undo)
+        m_undo->rollBack();
     forgetTables(); // one may have been made or dropped inside
     return false;
 }
@@ -510,35 +516,50 @@ void Engine::forgetTables()
 
 // ---- steps to take back
 
-void Engine::keepChanges(const QString& tableName, const QString& labelColumn)
+void Engine::keepChanges(const QList<ChangeLabel>& labels)
 {
-    m_keptTable = tableName;
-    m_keptLabel = labelColumn;
-    const CatalogTable* known = isReadOnly() ? nullptr : table(tableName);
-    if (!known)
-        return;
-    QStringList columns;
-    for (const CatalogColumn& column : known->columns)
-        columns << column.name;
-    m_undo = std::make_unique<UndoLog>(connection(), known->name, columns, labelColumn);
+    m_labels = labels;
+    m_undo = isOpen() && !isReadOnly() ? std::make_unique<UndoLog>(*this, labels) : nullptr;
+    if (m_undo)
+        m_undo->setUpkeep(m_upkeeps > 0);
 }
 
-void Engine::dropChanges()
+TakenBack Engine::moveStep(StepDirection direction)
 {
+    if (!m_undo || isInBatch() || m_openSteps > 0)
+        return TakenBack::Nothing;
+    beginBatch();
+    TakenBack result = m_batch.isGone ? TakenBack::NotWritten : m_undo->write(direction);
+    if (!endBatch(result == TakenBack::Done) && result == TakenBack::Done)
+        result = TakenBack::NotWritten;
+    m_undo->settle(direction, result);
+    return result;
+}
+
+void Engine::beginStep(const QString& name)
+{
+    ++m_openSteps;
     if (m_undo)
-        m_undo->skip();
+        m_undo->beginStep(name);
+}
+
+void Engine::endStep()
+{
+    --m_openSteps;
+    if (m_undo)
+        m_undo->endStep();
 }
 
 void Engine::beginUpkeep()
 {
     if (++m_upkeeps == 1 && m_undo)
-        m_undo->pause(true);
+        m_undo->setUpkeep(true);
 }
 
 void Engine::endUpkeep()
 {
     if (--m_upkeeps == 0 && m_undo)
-        m_undo->pause(false);
+        m_undo->setUpkeep(false);
 }
 
 // ---- failures

@@ -142,6 +142,7 @@ public:
     bool isInBatch() const { return m_batch.depth > 0; }
     int failuresOfBatch() const { return m_batch.failures; }
     std::optional<Failure> lastFailure() const { return m_lastFailure; }
+    bool isStorageFault() const { return m_file.lastError().isOfStorage(); }
 
     const CatalogTable* table(QStringView name);
     Catalog catalog()
@@ -150,9 +151,11 @@ public:
     }
     void forgetTables();
     // What a person may take back.
-    void keepChanges(const QString& table, const QString& labelColumn);
+    void keepChanges(const QList<ChangeLabel>& labels);
     UndoLog* undoLog() { return m_undo.get(); }
-    void dropChanges(); ///< they were rolled back
+    TakenBack moveStep(StepDirection direction);
+    void beginStep(const QString& name);
+    void endStep();
     void beginUpkeep();
     void endUpkeep();
 
@@ -174,6 +177,7 @@ private:
         int failures = 0;
         bool isGone = false; ///< its transaction ended by itself or never began
         Failure::Cause whyGone = Failure::Cause::Storage;
+        std::vector<size_t> changesBefore; ///< rows of the step when each part began
     };
     void letGo();
     void takeUp();
@@ -183,9 +187,9 @@ private:
     OpenBatch m_batch;
     std::unique_ptr<TextSearch> m_search; ///< of an open file
     std::unique_ptr<UndoLog> m_undo; ///< of an open file whose changes are kept
-    QString m_keptTable;
-    QString m_keptLabel;
+    std::optional<QList<ChangeLabel>> m_labels; ///< of the changes that are kept
     int m_upkeeps = 0;
+    int m_openSteps = 0;
     std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true); ///< shared with the pools of statements
     int m_generation = 0;
     FailureHandler m_failureHandler;

@@ -31,13 +31,37 @@ struct Failure {
     QString reason;
 };
 
+/// The column that holds what a person calls a row of a table.
+struct ChangeLabel {
+    QString table;
+    QString column;
+};
+
 /// One change that can be taken back.
 struct ChangeStep {
     enum class Kind { Added, Changed, Deleted };
-    Kind kind = Kind::Changed; ///< of the first row
+    qint64 id = 0;
+    QString name; ///< as the Step was called that it was made in, or blank
+    // Of the rows that it is called after, those of the first label that it touched.
+    Kind kind = Kind::Changed;
     int rows = 0;
-    QString label; ///< what a person calls the first row
+    QString label; ///< of the first row
+    QString table;
+    qint64 rowId = 0;
+    bool isKept = true; ///< false when there was no room for what its rows held
 };
+
+enum class StepDirection { Back, Again };
+/// How it went to take a step back, or to do it again.
+enum class TakenBack {
+    Done,
+    Nothing, ///< there is no step
+    ChangedSince, ///< somebody else changed its rows; the step is gone
+    NotKept, ///< there was no room for it; the step is gone
+    NotWritten, ///< the file could not be written; it may be possible another time
+};
+/// Told when the step it was given to was taken back or done again, for what it did outside of the book.
+using StepFollower = std::function<void(StepDirection)>;
 
 using FailureHandler = std::function<void(const Failure&)>;
 /// Called about every 50 milliseconds while a write waits for another program; false gives up. It may paint

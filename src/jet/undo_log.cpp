@@ -1,7 +1,13 @@
 #include "jet/undo_log.h"
 
+#include "jet/engine.h"
 #include "jet/same_name.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
 #include <cstring>
 
 namespace jet {
@@ -9,8 +15,6 @@ namespace jet {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t kBytesOfACell = 96; ///< beside its text, about
 
 bool isSame(sqlite3_value* a, sqlite3_value* b)
 {
@@ -24,48 +28,35 @@ bool isSame(sqlite3_value* a, sqlite3_value* b)
     default: {
         const int size = sqlite3_value_bytes(a);
         return size == sqlite3_value_bytes(b)
-            && std::memcmp(sqlite3_value_blob(a), sqlite3_value_blob(b), size_t(size)) == 0;
+            && (size == 0 || std::memcmp(sqlite3_value_blob(a), sqlite3_value_blob(b), size_t(size)) == 0);
     }
     }
 }
 
-/// Of a whole row what is null goes without saying. Blank texts of a new row are not held against it either,
-/// since lists of classes have them filled in.
-bool isBlank(sqlite3_value* value, int operation)
+QString textOf(sqlite3_value* value)
 {
-    const int type = sqlite3_value_type(value);
-    return type == SQLITE_NULL
-        || (operation == SQLITE_INSERT && type == SQLITE_TEXT && sqlite3_value_bytes(value) == 0);
-}
-
-sqlite3_value* copied(sqlite3_value* value)
-{
-    return !value || sqlite3_value_type(value) == SQLITE_NULL ? nullptr : sqlite3_value_dup(value);
-}
-
-void bind(sqlite3_stmt* statement, int place, sqlite3_value* value)
-{
-    value ? sqlite3_bind_value(statement, place, value) : sqlite3_bind_null(statement, place);
-}
-
-bool run(sqlite3* connection, const char* sql)
-{
-    return sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+    const int size = sqlite3_value_bytes(value);
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_value_text(value)), size);
 }
 
 } // namespace
 
-UndoLog::UndoLog(
-    sqlite3* connection, const QString& table, const QStringList& columns, const QString& labelColumn)
-    : m_connection(connection)
-    , m_table(table.toUtf8())
-    , m_labelColumn(-1)
+UndoLog::UndoLog(Engine& engine, const QList<ChangeLabel>& labels)
+    : m_engine(engine)
+    , m_connection(engine.connection())
+    , m_fileBeside(
+          QFileInfo(engine.path()).path() + u'/' + QFileInfo(engine.path()).completeBaseName() + u".undo"_s)
+    , m_current(emptyStep())
 {
-    for (const QString& column : columns) {
-        if (sameName(column, labelColumn))
-            m_labelColumn = int(m_columns.size());
-        m_columns << u'[' + column + u']';
+    for (const ChangeLabel& label : labels) {
+        const CatalogTable* table = engine.table(label.table);
+        const CatalogColumn* column = table ? table->column(label.column) : nullptr;
+        m_labels.push_back({label.table, column ? int(column - table->columns.data()) : -1});
     }
+    // What a run that was killed left behind.
+    const QFileInfo beside(m_fileBeside);
+    for (const QString& left : QDir(beside.path()).entryList({beside.fileName() + u".??????"_s}, QDir::Files))
+        QFile::remove(beside.dir().filePath(left));
     sqlite3_preupdate_hook(m_connection, &UndoLog::beforeChange, this);
 }
 
@@ -74,152 +65,301 @@ UndoLog::~UndoLog()
     sqlite3_preupdate_hook(m_connection, nullptr, nullptr);
 }
 
+UndoLog::Step UndoLog::emptyStep() const
+{
+    return Step{{}, StepRows(m_fileBeside)};
+}
+
+// ---- what is changed
+
 void UndoLog::beforeChange(void* self, sqlite3*, int operation, const char*, const char* table,
     sqlite3_int64 oldId, sqlite3_int64 newId)
 {
     auto* log = static_cast<UndoLog*>(self);
-    if (!log->m_isUndoing && !log->m_isPaused && !log->m_isTooMuch && log->m_table == table)
-        log->note(operation, operation == SQLITE_INSERT ? newId : oldId);
+    if (log->m_isWriting)
+        return;
+    const int number = log->tableNumber(table);
+    // What the program does by itself is nothing to take back, but for contacts that it deletes.
+    if (log->m_isUpkeep && operation == SQLITE_UPDATE)
+        log->noteUpkeep(number, oldId);
+    if (!log->m_isUpkeep || (operation == SQLITE_DELETE && log->m_tables[size_t(number)].label == 0))
+        log->note(operation, number, oldId, newId);
 }
 
-void UndoLog::note(int operation, sqlite3_int64 id)
+int UndoLog::tableNumber(const char* name)
 {
-    Row row{operation == SQLITE_INSERT   ? ChangeStep::Kind::Added
-            : operation == SQLITE_DELETE ? ChangeStep::Kind::Deleted
-                                         : ChangeStep::Kind::Changed,
-        id, {}};
-    QString label;
+    if (m_lastTable >= 0 && m_tables[size_t(m_lastTable)].name == name)
+        return m_lastTable;
+    for (size_t i = 0; i < m_tables.size(); ++i) {
+        if (m_tables[i].name == name)
+            return m_lastTable = int(i);
+    }
+    Table table{.name = name};
+    for (size_t i = 0; i < m_labels.size() && table.label < 0; ++i) {
+        if (sameName(m_labels[i].table, QString::fromUtf8(name))) {
+            table.label = int(i);
+            table.labelColumn = m_labels[i].column;
+        }
+    }
+    m_tables.push_back(table);
+    return m_lastTable = int(m_tables.size()) - 1;
+}
+
+void UndoLog::note(int operation, int table, sqlite3_int64 oldId, sqlite3_int64 newId)
+{
+    const auto kind = operation == SQLITE_INSERT ? ChangeStep::Kind::Added
+        : operation == SQLITE_DELETE             ? ChangeStep::Kind::Deleted
+                                                 : ChangeStep::Kind::Changed;
+    const bool isWhole = kind != ChangeStep::Kind::Changed;
+    const size_t row = m_current.rows.rows().size();
+    m_current.rows.begin({kind, table, kind == ChangeStep::Kind::Added ? newId : oldId,
+        kind == ChangeStep::Kind::Deleted ? oldId : newId});
+    bool isChanged = isWhole;
     for (int column = 0; column < sqlite3_preupdate_count(m_connection); ++column) {
         sqlite3_value* before = nullptr;
         sqlite3_value* after = nullptr;
-        if (operation != SQLITE_INSERT)
+        if (kind != ChangeStep::Kind::Added)
             sqlite3_preupdate_old(m_connection, column, &before);
-        if (operation != SQLITE_DELETE)
+        if (kind != ChangeStep::Kind::Deleted)
             sqlite3_preupdate_new(m_connection, column, &after);
-        if (column == m_labelColumn) {
-            sqlite3_value* name = before ? before : after;
-            label = QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_value_text(name)), sqlite3_value_bytes(name));
-        }
-        if (before && after ? isSame(before, after) : isBlank(before ? before : after, operation))
+        if (column == m_tables[size_t(table)].labelColumn)
+            noteName(table, before, after);
+        // Of a whole row nulls are noted as well: the columns may have defaults.
+        if (!isWhole && isSame(before, after))
             continue;
-        m_pending.bytes += kBytesOfACell + size_t(before ? sqlite3_value_bytes(before) : 0)
-            + size_t(after ? sqlite3_value_bytes(after) : 0);
-        row.cells.push_back(Cell{column, {}, {}});
-        row.cells.back().before.reset(copied(before));
-        row.cells.back().after.reset(copied(after));
+        m_current.rows.add(column, before, after);
+        isChanged = true;
     }
-    if (row.cells.empty()) // nothing new
+    if (isChanged)
         return;
-    if (m_pending.rows.empty())
-        m_pending.change = {row.kind, 0, label};
-    m_pending.rows.push_back(std::move(row));
-    if (m_pending.bytes > kMostBytes) {
-        m_pending = {};
-        m_isTooMuch = true;
+    m_current.rows.cutAt(row);
+    if (!m_names.empty() && m_names.back().row == row)
+        m_names.pop_back();
+}
+
+void UndoLog::noteName(int table, sqlite3_value* before, sqlite3_value* after)
+{
+    const int label = m_tables[size_t(table)].label;
+    if (m_names.empty() || label < m_names.back().label)
+        m_names.push_back({m_current.rows.rows().size() - 1, label, textOf(before ? before : after)});
+}
+
+void UndoLog::noteUpkeep(int table, sqlite3_int64 id)
+{
+    if (m_done.empty() && m_undone.empty())
+        return;
+    for (int column = 0; column < sqlite3_preupdate_count(m_connection); ++column) {
+        sqlite3_value* before = nullptr;
+        sqlite3_value* after = nullptr;
+        sqlite3_preupdate_old(m_connection, column, &before);
+        sqlite3_preupdate_new(m_connection, column, &after);
+        if (before && after && !isSame(before, after))
+            m_upkept.push_back({table, id, column, CellValue::of(after)});
     }
 }
 
+// ---- the end of what belongs together
+
 void UndoLog::endStatement(bool succeeded)
 {
-    if (!succeeded && m_pending.rows.size() > m_pendingOfSucceeded)
-        m_pending.rows.erase(
-            m_pending.rows.begin() + std::ptrdiff_t(m_pendingOfSucceeded), m_pending.rows.end());
-    if (m_pending.rows.empty())
-        m_pending = {}; // what it would have been called goes as well
-    m_pendingOfSucceeded = m_pending.rows.size();
+    if (!succeeded) {
+        rollBack(m_sureRows);
+        m_upkept.resize(std::min(m_sureUpkept, m_upkept.size()));
+    }
+    m_sureRows = pendingRows();
+    m_sureUpkept = m_upkept.size();
     if (sqlite3_get_autocommit(m_connection) != 0)
+        endTransaction();
+}
+
+void UndoLog::endTransaction()
+{
+    m_committedRows = m_sureRows = pendingRows();
+    applyUpkeep();
+    if (m_openSteps == 0)
         closeStep();
+}
+
+void UndoLog::rollBack(size_t toRows)
+{
+    m_current.rows.cutAt(toRows);
+    while (!m_names.empty() && m_names.back().row >= toRows)
+        m_names.pop_back();
+    m_sureRows = std::min(m_sureRows, pendingRows());
+    if (toRows == m_committedRows) {
+        m_upkept.clear();
+        m_sureUpkept = 0;
+    }
+}
+
+/// A column that the program itself filled in since must not stand in the way of the steps before.
+void UndoLog::applyUpkeep()
+{
+    const auto replaceLast = [](std::deque<Step>& steps, StepRows::Side side, const Upkept& cell) {
+        for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
+            if (step->rows.replace(side, cell.table, cell.id, cell.column, cell.value))
+                return;
+        }
+    };
+    for (const Upkept& cell : m_upkept) {
+        replaceLast(m_done, StepRows::Side::After, cell);
+        replaceLast(m_undone, StepRows::Side::Before, cell);
+    }
+    m_upkept.clear();
+    m_sureUpkept = 0;
+}
+
+void UndoLog::beginStep(const QString& name)
+{
+    if (++m_openSteps == 1)
+        m_current.change.name = name;
+}
+
+void UndoLog::endStep()
+{
+    if (--m_openSteps == 0 && sqlite3_get_autocommit(m_connection) != 0)
+        closeStep();
+}
+
+void UndoLog::follow(StepFollower follower)
+{
+    m_current.followers.push_back(std::move(follower));
 }
 
 void UndoLog::closeStep()
 {
-    // The order of the steps must have no gap.
-    if (m_isTooMuch || m_bytes + m_pending.bytes > kMostBytes) {
-        m_steps.clear();
-        m_bytes = 0;
+    Step step = std::exchange(m_current, emptyStep());
+    if (!step.rows.rows().empty()) {
+        describe(step);
+        step.change.id = m_nextId++;
+        m_undone.clear();
+        m_done.push_back(std::move(step));
     }
-    if (!m_isTooMuch && !m_pending.rows.empty()) {
-        m_pending.change.rows = int(m_pending.rows.size());
-        m_bytes += m_pending.bytes;
-        m_steps.push_back(std::move(m_pending));
-    }
-    if (m_steps.size() > kMostSteps) {
-        m_bytes -= m_steps.front().bytes;
-        m_steps.pop_front();
-    }
-    skip();
+    if (m_done.size() > kMostSteps)
+        m_done.pop_front();
+    m_names.clear();
+    m_sureRows = m_committedRows = 0;
 }
 
-void UndoLog::skip()
+void UndoLog::describe(Step& step) const
 {
-    m_pending = {};
-    m_pendingOfSucceeded = 0;
-    m_isTooMuch = false;
+    const auto& rows = step.rows.rows();
+    const StepRows::Row& named = rows[m_names.empty() ? 0 : m_names.back().row];
+    step.change.kind = named.kind;
+    step.change.table = QString::fromUtf8(m_tables[size_t(named.table)].name);
+    step.change.rowId = named.kind == ChangeStep::Kind::Deleted ? named.idBefore : named.idAfter;
+    step.change.label = m_names.empty() ? QString() : m_names.back().text;
+    step.change.isKept = step.rows.isKept();
+    // A row that was written twice counts once, and so do the rows that other tables have for it.
+    std::vector<sqlite3_int64> ids;
+    for (const StepRows::Row& row : rows) {
+        if (row.table == named.table)
+            ids.push_back(row.idAfter);
+    }
+    std::sort(ids.begin(), ids.end());
+    step.change.rows = int(std::unique(ids.begin(), ids.end()) - ids.begin());
 }
 
-// A row is only touched while it is as the step left it.
-QString UndoLog::undoSql(const Row& row) const
+// ---- back and forth
+
+TakenBack UndoLog::write(StepDirection direction)
 {
+    const bool isBack = direction == StepDirection::Back;
+    const auto& steps = isBack ? m_done : m_undone;
+    if (steps.empty())
+        return TakenBack::Nothing;
+    const StepRows& rows = steps.back().rows;
+    if (!rows.isKept())
+        return TakenBack::NotKept;
+    m_isWriting = true;
+    bool isDone = true;
+    bool isStorageFault = false;
+    const size_t count = rows.rows().size();
+    for (size_t i = 0; isDone && i < count; ++i)
+        isDone = writeRow(rows, isBack ? count - 1 - i : i, direction, &isStorageFault);
+    m_isWriting = false;
+    return isDone ? TakenBack::Done : isStorageFault ? TakenBack::NotWritten : TakenBack::ChangedSince;
+}
+
+void UndoLog::settle(StepDirection direction, TakenBack result)
+{
+    const bool isBack = direction == StepDirection::Back;
+    auto& from = isBack ? m_done : m_undone;
+    auto& to = isBack ? m_undone : m_done;
+    if (from.empty() || result == TakenBack::NotWritten)
+        return; // another time it may be possible
+    Step step = std::move(from.back());
+    from.pop_back();
+    if (result != TakenBack::Done)
+        return;
+    const std::vector<StepFollower> followers = step.followers;
+    to.push_back(std::move(step));
+    for (const StepFollower& follower : followers)
+        follower(direction);
+}
+
+// A row is only touched while it is as the step left it. What is blank may have become null or an empty text:
+// lists and saves make no difference there.
+bool UndoLog::writeRow(const StepRows& rows, size_t index, StepDirection direction, bool* isStorageFault)
+{
+    const StepRows::Row& row = rows.rows()[index];
+    const CatalogTable* table = m_engine.table(QString::fromUtf8(m_tables[size_t(row.table)].name));
+    const bool isBack = direction == StepDirection::Back;
+    const bool isThere = row.kind != (isBack ? ChangeStep::Kind::Deleted : ChangeStep::Kind::Added);
+    const bool stays = row.kind != (isBack ? ChangeStep::Kind::Added : ChangeStep::Kind::Deleted);
+    const auto cells = rows.cells(index);
     QStringList names;
     QStringList marks;
     QStringList changes;
-    QStringList asLeft{u"rowid = ?"_s};
-    for (const Cell& cell : row.cells) {
-        const QString& name = m_columns[cell.column];
-        names << name;
+    std::vector<const CellValue*> found;
+    std::vector<const CellValue*> wanted;
+    for (const StepRows::Cell& cell : cells) {
+        if (!table || size_t(cell.column) >= table->columns.size())
+            return false;
+        const CatalogColumn& column = table->columns[size_t(cell.column)];
+        if (column.type == ColumnType::AutoNumber && !(isThere && stays))
+            continue; // the row's own id says it
+        names << u'[' + column.name + u']';
         marks << u"?"_s;
-        changes << name + u" = ?"_s;
-        asLeft << name + u" COLLATE BINARY IS ?"_s;
+        changes << names.constLast() + u" = ?"_s;
+        found.push_back(isBack ? &cell.after : &cell.before);
+        wanted.push_back(isBack ? &cell.before : &cell.after);
     }
-    const QString table = u'[' + QString::fromUtf8(m_table) + u']';
-    switch (row.kind) {
-    case ChangeStep::Kind::Added: return u"DELETE FROM "_s + table + u" WHERE "_s + asLeft.join(u" AND "_s);
-    case ChangeStep::Kind::Deleted:
-        return u"INSERT INTO "_s + table + u" ("_s + names.join(u", "_s) + u") VALUES ("_s
-            + marks.join(u", "_s) + u')';
-    case ChangeStep::Kind::Changed: break;
-    }
-    return u"UPDATE "_s + table + u" SET "_s + changes.join(u", "_s) + u" WHERE "_s + asLeft.join(u" AND "_s);
-}
-
-bool UndoLog::undo(const Row& row)
-{
-    const QByteArray sql = undoSql(row).toUtf8();
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(m_connection, sql.constData(), int(sql.size()), &statement, nullptr) != SQLITE_OK)
+    if (names.isEmpty())
         return false;
-    int place = 0;
-    if (row.kind != ChangeStep::Kind::Added) {
-        for (const Cell& cell : row.cells)
-            bind(statement, ++place, cell.before.get());
+    const QString name = u'[' + table->name + u']';
+    const sqlite3_int64 id = isBack ? row.idAfter : row.idBefore;
+    const auto run = [&](const QString& sql, const std::vector<const CellValue*>& values) {
+        const Prepared statement = m_engine.prepareKept(sql);
+        int place = 0;
+        for (const CellValue* value : values)
+            value->bind(statement.get(), ++place);
+        sqlite3_bind_int64(statement.get(), ++place, id);
+        const int result = statement ? sqlite3_step(statement.get()) : SQLITE_ERROR;
+        *isStorageFault = result != SQLITE_DONE && m_engine.isStorageFault();
+        return result == SQLITE_DONE && sqlite3_changes(m_connection) == 1;
+    };
+    if (!isThere)
+        return run(u"INSERT INTO "_s + name + u" ("_s + names.join(u", "_s) + u", rowid) VALUES ("_s
+                + marks.join(u", "_s) + u", ?)"_s,
+            wanted);
+    {
+        const Prepared look = m_engine.prepareKept(
+            u"SELECT "_s + names.join(u", "_s) + u" FROM "_s + name + u" WHERE rowid = ?"_s);
+        sqlite3_bind_int64(look.get(), 1, id);
+        if (!look || sqlite3_step(look.get()) != SQLITE_ROW) {
+            *isStorageFault = m_engine.isStorageFault();
+            return false;
+        }
+        for (size_t i = 0; i < found.size(); ++i) {
+            const CellValue now = CellValue::of(look.get(), int(i));
+            if (now != *found[i] && !(now.isBlank() && found[i]->isBlank()))
+                return false;
+        }
     }
-    if (row.kind != ChangeStep::Kind::Deleted) {
-        sqlite3_bind_int64(statement, ++place, row.id);
-        for (const Cell& cell : row.cells)
-            bind(statement, ++place, cell.after.get());
-    }
-    const bool done = sqlite3_step(statement) == SQLITE_DONE && sqlite3_changes(m_connection) == 1;
-    sqlite3_finalize(statement);
-    return done;
-}
-
-bool UndoLog::undoLast()
-{
-    if (m_steps.empty() || sqlite3_get_autocommit(m_connection) == 0)
-        return false;
-    const Step step = std::move(m_steps.back());
-    m_steps.pop_back();
-    m_bytes -= step.bytes;
-    m_isUndoing = true;
-    bool done = run(m_connection, "BEGIN IMMEDIATE");
-    for (auto row = step.rows.rbegin(); done && row != step.rows.rend(); ++row)
-        done = undo(*row);
-    done = done && run(m_connection, "COMMIT");
-    if (!done && sqlite3_get_autocommit(m_connection) == 0)
-        run(m_connection, "ROLLBACK");
-    m_isUndoing = false;
-    return done;
+    if (!stays)
+        return run(u"DELETE FROM "_s + name + u" WHERE rowid = ?"_s, {});
+    return run(u"UPDATE "_s + name + u" SET "_s + changes.join(u", "_s) + u" WHERE rowid = ?"_s, wanted);
 }
 
 } // namespace jet

@@ -1,231 +1,364 @@
-#include "jet/database.h"
+#include "support/test_book.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-/// Whether a change can be taken back as a whole, whatever made it, nothing else is touched, and any change
-/// shows.
+using jet::TakenBack;
+using support::TestBook;
+
+/// Whether a change of any tables can be taken back and done again as a whole, whatever made it, and nothing
+/// else is touched.
 class UndoLogTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void takesBack_data();
-    void takesBack();
+    void cleanup() { QCOMPARE(m_book->unexpected(), QString()); }
+    void backAndAgain_data();
+    void backAndAgain();
+    void allInTurn();
     void namesTheChange();
-    void stepsComeBackInTurn();
-    void batchIsOneStep();
     void whatFailsIsNoStep();
-    void upkeepIsNoStep();
-    void anotherProgramsChangeIsKept();
+    void upkeepIsNotInTheWay();
+    void strangersChangeIsKept_data();
+    void strangersChangeIsKept();
     void oldStepsAreLetGo();
-    void tooMuchIsNoStep();
+    void changesOutsideFollow();
     void stateTellsOfAnyChange();
 
 private:
-    QStringList all();
-    bool execute(const QString& sql) { return bool(m_book.execute(sql)); }
+    jet::Database& data() { return m_book->data(); }
+    /// All rows of all tables, null told from an empty text.
+    QStringList dump();
+    bool execute(const QString& sql) { return bool(data().execute(sql)); }
+    QString nameOf(int id) { return m_book->firstText(u"select name from cnt_main where id=%1"_s.arg(id)); }
+    qsizetype openFilesBeside();
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    jet::Database m_book;
+    std::unique_ptr<TestBook> m_book;
 };
+
+namespace {
+
+struct Action {
+    const char* name;
+    std::function<void(jet::Database&)> perform;
+};
+
+void addImages(jet::Database& data, int count)
+{
+    jet::Batch batch(data);
+    jet::Recordset rows = data.openRecordset(u"select * from cnt_main where 1>2");
+    for (int i = 0; i < count; ++i) {
+        rows.addNew();
+        rows.set(u"name", u"Image %1"_s.arg(i));
+        rows.set(u"memo", QString(400'000 + i, u'i'));
+        rows.update();
+    }
+}
+
+/// One after the other; each stands also alone.
+const std::vector<Action>& actions()
+{
+    static const auto sql
+        = [](const QString& text) { return [text](jet::Database& data) { data.execute(text); }; };
+    static const std::vector<Action> all{
+        {"a row of nulls and defaults", sql(u"insert into cnt_main (Name) values ('New')"_s)},
+        {"a row of empty texts", sql(u"insert into cnt_main (Name,First,gen_id) values ('','',null)"_s)},
+        {"several rows", sql(u"update cnt_main set Name='X', m_bd=#01/Jan/2000#, h_city=''"_s)},
+        {"null to empty", sql(u"update cnt_main set nick='' where nick is null"_s)},
+        {"letters only", sql(u"update cnt_main set Name='x'"_s)},
+        {"a row gets another id", sql(u"update cnt_main set id=900 where id=3"_s)},
+        {"one row twice",
+            [](jet::Database& data) {
+                jet::Batch batch(data);
+                data.execute(u"update cnt_main set Name='One' where id=1");
+                data.execute(u"update cnt_main set Name='Two', h_city='Pune' where id=1");
+                data.execute(u"delete * from cnt_main where id=1");
+            }},
+        {"a record through a form",
+            [](jet::Database& data) {
+                jet::Recordset rows = data.openRecordset(u"select * from cnt_main where id=2");
+                rows.edit();
+                rows.set(u"first", QVariant());
+                rows.set(u"M_BD", QDate(2001, 2, 3));
+                rows.update();
+            }},
+        {"a set-up",
+            [](jet::Database& data) {
+                const jet::Step step(data, u"renaming the category"_s);
+                jet::Batch batch(data);
+                data.execute(u"update cntb_categories set category1='Allies'");
+                data.execute(u"update cnt_main set category1='Allies'");
+                data.execute(u"update cnt_filter set category1='Allies'");
+                batch.commit();
+                data.execute(u"update cntb_setup set lbluse1='x'");
+                data.execute(u"insert into cnt_topcities (city) values ('Goa')");
+            }},
+        {"tables without a number of their own", sql(u"insert into ov_setup (key) values ('x')"_s)},
+        {"blank contacts go by themselves",
+            [](jet::Database& data) {
+                const jet::Upkeep upkeep(data);
+                data.execute(u"delete * from cnt_main where id > 3");
+            }},
+        {"many images come", [](jet::Database& data) { addImages(data, 8); }},
+        {"all goes", sql(u"delete * from cnt_main"_s)},
+    };
+    return all;
+}
+
+} // namespace
 
 void UndoLogTest::init()
 {
-    m_book.close();
-    m_folder = std::make_unique<QTemporaryDir>();
-    const QString path = m_folder->filePath(u"book.db"_s);
-    QVERIFY(jet::Database::create(path));
-    QCOMPARE(m_book.open(path), jet::Database::OpenResult::Opened);
-    QVERIFY(m_book.applySchema(jet::Schema::fromCsv("database,table,column,type,size\n"
-                                                    "data,person,id,autonumber,\n"
-                                                    "data,person,born,date,\n"
-                                                    "data,person,Name,text,60\n"
-                                                    "data,person,marked,yesno,\n"
-                                                    "data,call,id,autonumber,\n"
-                                                    "data,call,Name,text,60\n"),
-        u"data"_s));
-    QVERIFY(m_book.appendRows(u"person"_s, {u"Name"_s, u"born"_s, u"marked"_s},
-        {{u"Asha"_s, u"1990-02-01"_s, u"true"_s}, {u"Émile"_s, {}, u"false"_s},
-            {u"Bina"_s, {}, u"false"_s}}));
-    m_book.keepChanges(u"person"_s, u"name"_s);
+    m_book = std::make_unique<TestBook>(TestBook::Rows::Sample);
+    data().keepChanges({{u"cnt_main"_s, u"name"_s}, {u"cntb_categories"_s, u"category1"_s}});
 }
 
-QStringList UndoLogTest::all()
+QStringList UndoLogTest::dump()
 {
-    QStringList texts;
-    const jet::Recordset rows = m_book.openRecordset(u"select * from person order by id");
-    for (int row = 0; row < rows.count(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < rows.columns().size(); ++column)
-            cells << (rows.valueAt(row, column).isValid() ? rows.textAt(row, column) : u"null"_s);
-        texts << cells.join(u'|');
+    QStringList lines;
+    for (const QString& table : data().tables()) {
+        QStringList rows = m_book->rows(u"select * from ["_s + table + u']');
+        rows.sort();
+        lines += u'*' + table;
+        lines += rows;
     }
-    return texts;
+    return lines;
 }
 
-void UndoLogTest::takesBack_data()
+qsizetype UndoLogTest::openFilesBeside()
 {
-    QTest::addColumn<QString>("sql");
-    QTest::newRow("update") << u"update person set Name='X', born=#01/Jan/2000#, marked=false where id=1"_s;
-    QTest::newRow("to null") << u"update person set born=null where id=1"_s;
-    QTest::newRow("update of all") << u"update person set marked=true"_s;
-    QTest::newRow("delete of all") << u"delete * from person"_s;
-    QTest::newRow("insert") << u"insert into person (Name) values ('New')"_s;
+    qsizetype count = 0;
+    const QString folder = QFileInfo(m_book->path()).canonicalPath();
+    for (const QFileInfo& open : QDir(u"/proc/self/fd"_s).entryInfoList(QDir::Files | QDir::System)) {
+        const QString target = open.symLinkTarget();
+        if (target.startsWith(folder) && !target.contains(QFileInfo(m_book->path()).fileName()))
+            ++count;
+    }
+    return count;
 }
 
-void UndoLogTest::takesBack()
+void UndoLogTest::backAndAgain_data()
 {
-    QFETCH(QString, sql);
-    const QStringList before = all();
-    QVERIFY(execute(sql));
-    QVERIFY(all() != before);
-    QVERIFY(m_book.undoLastChange());
-    QCOMPARE(all(), before);
-    QVERIFY(!m_book.lastChange());
-    QVERIFY(!m_book.undoLastChange());
+    QTest::addColumn<int>("index");
+    for (size_t i = 0; i < actions().size(); ++i)
+        QTest::newRow(actions()[i].name) << int(i);
+}
+
+void UndoLogTest::backAndAgain()
+{
+    QFETCH(const int, index);
+    const QStringList before = dump();
+    actions()[size_t(index)].perform(data());
+    const QStringList after = dump();
+    QVERIFY(after != before);
+    for (int round = 0; round < 2; ++round) {
+        QCOMPARE(data().undoLastChange(), TakenBack::Done);
+        QCOMPARE(dump(), before);
+        QVERIFY(!data().lastChange() && data().undoLastChange() == TakenBack::Nothing);
+        QCOMPARE(data().redoLastChange(), TakenBack::Done);
+        QCOMPARE(dump(), after);
+        QVERIFY(!data().lastUndone() && data().redoLastChange() == TakenBack::Nothing);
+    }
+}
+
+void UndoLogTest::allInTurn()
+{
+    QList<QStringList> states{dump()};
+    for (const Action& action : actions()) {
+        action.perform(data());
+        if (states << dump(); states.at(states.size() - 2) == states.constLast())
+            states.removeLast(); // nothing left to do for it
+    }
+    for (int round = 0; round < 2; ++round) {
+        for (qsizetype at = states.size() - 2; at >= 0; --at) {
+            QCOMPARE(data().undoLastChange(), TakenBack::Done);
+            QVERIFY2(dump() == states.at(at), qPrintable(QString::number(at)));
+        }
+        QVERIFY(!data().lastChange());
+        for (qsizetype at = 1; round == 0 && at < states.size(); ++at) {
+            QCOMPARE(data().redoLastChange(), TakenBack::Done);
+            QVERIFY2(dump() == states.at(at), qPrintable(QString::number(at)));
+        }
+    }
+    QVERIFY(data().lastUndone());
+    QVERIFY(execute(u"update cnt_main set nick='Z' where id=1"_s));
+    QVERIFY(!data().lastUndone()); // a new change ends what could be done again
 }
 
 void UndoLogTest::namesTheChange()
 {
     const auto last = [this] {
-        const auto change = m_book.lastChange();
-        return change ? u"%1 %2 %3"_s.arg(int(change->kind)).arg(change->rows).arg(change->label) : QString();
+        const auto change = data().lastChange();
+        return change ? u"%1%2 %3 %4 %5"_s.arg(change->name, QString::number(int(change->kind)))
+                            .arg(change->rows)
+                            .arg(change->rowId)
+                            .arg(change->label)
+                      : QString();
     };
-    jet::Recordset rows = m_book.openRecordset(u"select * from person where id=2");
-    rows.edit();
-    rows.set(u"born", QDate(2001, 2, 3));
-    QVERIFY(rows.update());
-    QCOMPARE(last(), u"1 1 Émile"_s);
-    QVERIFY(rows.removeCurrent());
-    QCOMPARE(last(), u"2 1 Émile"_s);
-    rows.addNew();
-    rows.set(u"Name", u"Chand"_s);
-    QVERIFY(rows.update());
-    QCOMPARE(rows.lastAddedKey(), 4);
-    QCOMPARE(last(), u"0 1 Chand"_s);
-    QVERIFY(execute(u"update person set Name='All'"_s));
-    QCOMPARE(last(), u"1 3 Asha"_s);
-}
-
-void UndoLogTest::stepsComeBackInTurn()
-{
-    const QStringList first = all();
-    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
-    const QStringList second = all();
-    QVERIFY(execute(u"delete * from person where id=1"_s));
-    QVERIFY(execute(u"update person set Name='One' where id=9"_s)); // no row, no step
-    QVERIFY(execute(u"update person set Name='Bina' where id=3"_s)); // nothing new, no step
-    QVERIFY(execute(u"insert into call (Name) values ('other table')"_s));
-    QVERIFY(m_book.undoLastChange());
-    QCOMPARE(all(), second);
-    QVERIFY(m_book.undoLastChange());
-    QCOMPARE(all(), first);
-    QVERIFY(!m_book.lastChange());
-    QCOMPARE(m_book.openRecordset(u"select * from call").count(), 1);
-}
-
-void UndoLogTest::batchIsOneStep()
-{
-    const QStringList before = all();
+    QVERIFY(execute(u"update cntb_categories set category2='x' where catid=1"_s));
+    QVERIFY(last().startsWith(u"1 1 1 "_s));
+    QVERIFY(execute(u"insert into cnt_main (id,name) values (50,'Émile')"_s));
+    QCOMPARE(last(), u"0 1 50 Émile"_s);
     {
-        jet::Batch batch(m_book);
-        QVERIFY(execute(u"update person set Name='One' where id=1"_s));
-        QVERIFY(!m_book.lastChange());
-        QVERIFY(execute(u"delete * from person where id=2"_s));
+        jet::Batch batch(data());
+        QVERIFY(execute(u"update cntb_categories set category2='y'"_s));
+        QVERIFY(execute(u"update cnt_main set nick='a' where id>49"_s));
+        QVERIFY(execute(u"update cnt_main set nick='b' where id>49"_s));
+        QCOMPARE(last(), u"0 1 50 Émile"_s);
     }
-    QCOMPARE(m_book.lastChange()->rows, 2);
-    QVERIFY(m_book.undoLastChange());
-    QCOMPARE(all(), before);
+    QCOMPARE(last(), u"1 1 50 Émile"_s);
+    {
+        const jet::Step outer(data(), u"sorting "_s);
+        const jet::Step inner(data(), u"not told "_s);
+        QVERIFY(execute(u"delete * from cnt_main where id>49"_s));
+        QVERIFY(execute(u"update cnt_user set user1='x'"_s));
+        QCOMPARE(data().undoLastChange(), TakenBack::Nothing);
+    }
+    QCOMPARE(last(), u"sorting 2 1 50 Émile"_s);
+    QVERIFY(execute(u"update cnt_main set Name='All' where id<4"_s));
+    QVERIFY(last().startsWith(u"1 3 "_s));
+    QVERIFY(execute(u"update cnt_main set Name='All' where id<4"_s)); // nothing new, no step
+    QVERIFY(last().startsWith(u"1 3 "_s));
 }
 
 void UndoLogTest::whatFailsIsNoStep()
 {
+    for (int i = 0; i < 3; ++i)
+        m_book->expectFailure(u"id=9"_s);
+    QVERIFY(!execute(u"update cnt_main set id=9"_s));
     {
-        jet::Batch batch(m_book);
-        QVERIFY(execute(u"delete * from person"_s));
-        batch.rollBack();
+        jet::Batch batch(data());
+        QVERIFY(execute(u"delete * from cnt_main"_s));
+        QVERIFY(!execute(u"update cnt_user set id=9, name=1, x=2"_s));
     }
-    QVERIFY(!execute(u"update person set Nme='One'"_s));
+    QVERIFY(!data().lastChange());
+    const QStringList before = dump();
     {
-        // One that fails on its way, after a row was touched; the step is called after what was done.
-        jet::Batch batch(m_book, jet::Batch::Mode::KeepWhatSucceeds);
-        QVERIFY(!execute(u"update person set id=9"_s));
-        QVERIFY(execute(u"update person set Name='Chand' where id=2"_s));
+        // A failure on the way, after a row was touched, and a part that is given up.
+        jet::Batch batch(data(), jet::Batch::Mode::KeepWhatSucceeds);
+        QVERIFY(execute(u"update cnt_main set nick='a' where id=2"_s));
+        QVERIFY(!execute(u"update cnt_main set id=9"_s));
+        jet::Batch part(data());
+        QVERIFY(execute(u"update cnt_main set nick='b' where id=1"_s));
+        part.rollBack();
+        QVERIFY(execute(u"update cnt_main set nick='c' where id=3"_s));
     }
-    QCOMPARE(m_book.lastChange()->label, u"Émile"_s);
-    QCOMPARE(m_book.lastChange()->rows, 1);
-    QVERIFY(m_book.undoLastChange());
-    QVERIFY(execute(u"insert into call (Name) values ('x')"_s));
-    QVERIFY(!m_book.lastChange());
+    QCOMPARE(data().lastChange()->rows, 2);
+    QCOMPARE(data().undoLastChange(), TakenBack::Done);
+    QCOMPARE(dump(), before);
 }
 
-void UndoLogTest::upkeepIsNoStep()
+void UndoLogTest::upkeepIsNotInTheWay()
 {
-    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
-    {
-        const jet::Upkeep upkeep(m_book);
-        QVERIFY(execute(u"update person set Name='Two' where id=2"_s));
-    }
-    QVERIFY(m_book.undoLastChange());
-    QVERIFY(all().at(0).contains(u"Asha"_s));
-    QVERIFY(all().at(1).contains(u"Two"_s));
-    QVERIFY(!m_book.lastChange());
+    const auto normalise = [this](const QString& word) {
+        const jet::Upkeep upkeep(data());
+        execute(u"update cnt_main set h_city='"_s + word + u"' where id<3"_s);
+        execute(u"insert into cnt_user (user1) values ('by itself')"_s);
+    };
+    QVERIFY(execute(u"update cnt_main set h_city='A', nick='n' where id=1"_s));
+    QVERIFY(execute(u"update cnt_main set h_city='B' where id=1"_s));
+    normalise(u"U"_s);
+    QCOMPARE(data().undoLastChange(), TakenBack::Done);
+    const auto city = [this] { return m_book->firstText(u"select h_city from cnt_main where id=1"_s); };
+    QCOMPARE(city(), u"A"_s);
+    normalise(u"V"_s);
+    QCOMPARE(data().redoLastChange(), TakenBack::Done);
+    QCOMPARE(city(), u"U"_s);
+    QCOMPARE(data().undoLastChange(), TakenBack::Done);
+    QCOMPARE(city(), u"V"_s);
+    QCOMPARE(data().undoLastChange(), TakenBack::Done);
+    QVERIFY(city() != u"V" && !data().lastChange());
+    QCOMPARE(m_book->firstText(u"select h_city from cnt_main where id=2"_s), u"V"_s);
 }
 
-void UndoLogTest::anotherProgramsChangeIsKept()
+void UndoLogTest::strangersChangeIsKept_data()
 {
-    QVERIFY(execute(u"update person set Name='Mine', marked=false where id=1"_s));
-    QVERIFY(execute(u"update person set Name='Mine too' where id=3"_s));
+    QTest::addColumn<QString>("theirs");
+    QTest::addColumn<TakenBack>("result");
+    QTest::newRow("another row") << u"update cnt_main set nick='t' where id=7"_s << TakenBack::Done;
+    QTest::newRow("another column") << u"update cnt_main set sms='t' where id=1"_s << TakenBack::Done;
+    QTest::newRow("null to empty") << u"update cnt_main set nick='' where id=2"_s << TakenBack::Done;
+    QTest::newRow("the last row") << u"update cnt_main set nick='t' where id=3"_s << TakenBack::ChangedSince;
+    QTest::newRow("the first row") << u"update cnt_main set nick='t' where id=1"_s << TakenBack::ChangedSince;
+    QTest::newRow("its letters") << u"update cnt_main set nick='MINE' where id=1"_s
+                                 << TakenBack::ChangedSince;
+    QTest::newRow("its accent") << u"update cnt_main set nick='mïne' where id=1"_s << TakenBack::ChangedSince;
+    QTest::newRow("the row is gone") << u"delete * from cnt_main where id=2"_s << TakenBack::ChangedSince;
+}
+
+void UndoLogTest::strangersChangeIsKept()
+{
+    QFETCH(const QString, theirs);
+    QFETCH(const TakenBack, result);
+    QVERIFY(execute(u"update cnt_main set hobbies='before' where id=1"_s));
+    {
+        jet::Batch batch(data());
+        QVERIFY(execute(u"update cnt_main set nick='mine' where id=1"_s));
+        QVERIFY(execute(u"update cnt_main set nick=null, sms='p' where id=2"_s));
+        QVERIFY(execute(u"update cnt_main set nick='mine' where id=3"_s));
+    }
     jet::Database other;
-    QCOMPARE(other.open(m_book.path()), jet::Database::OpenResult::Opened);
-    QVERIFY(other.execute(u"update person set Name='Theirs' where id=1"_s));
-    QVERIFY(m_book.undoLastChange());
-    const QStringList before = all();
-    QVERIFY(!m_book.undoLastChange());
-    QCOMPARE(all(), before);
+    QCOMPARE(other.open(m_book->path()), jet::Database::OpenResult::Opened);
+    QVERIFY(other.execute(theirs));
+    const QStringList before = dump();
+    QCOMPARE(data().undoLastChange(), result);
+    if (result == TakenBack::ChangedSince)
+        QCOMPARE(dump(), before);
+    QVERIFY(data().lastUndone().has_value() == (result == TakenBack::Done));
+    QCOMPARE(data().undoLastChange(), TakenBack::Done); // the one before is not lost by it
+    {
+        // Nor is a step that could not be written.
+        const jet::Batch theirBatch(other);
+        data().setWaitHandler([] { return false; });
+        QVERIFY(data().redoLastChange() == TakenBack::NotWritten && data().lastUndone());
+        m_book->expectFailure(u"locked"_s);
+    }
+    QCOMPARE(data().redoLastChange(), TakenBack::Done);
 }
 
 void UndoLogTest::oldStepsAreLetGo()
 {
-    for (int i = 0; i < 30; ++i)
-        QVERIFY(execute(u"update person set Name='%1' where id=1"_s.arg(i)));
+    addImages(data(), 4);
+    QCOMPARE(openFilesBeside(), 1);
+    for (int i = 0; i < 25; ++i)
+        QVERIFY(execute(u"update cnt_main set nick='%1' where id=1"_s.arg(i)));
+    QCOMPARE(openFilesBeside(), 0);
     int steps = 0;
-    while (m_book.undoLastChange())
+    while (data().undoLastChange() == TakenBack::Done)
         ++steps;
     QCOMPARE(steps, 20);
-    QVERIFY(all().constFirst().contains(u"|9|"_s));
+    QCOMPARE(m_book->firstText(u"select nick from cnt_main where id=1"_s), u"4"_s);
 }
 
-void UndoLogTest::tooMuchIsNoStep()
+void UndoLogTest::changesOutsideFollow()
 {
-    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
-    {
-        jet::Batch batch(m_book);
-        const QString name(1024 * 1024, u'x');
-        for (int i = 0; i < 33; ++i)
-            QVERIFY(execute(u"insert into person (Name) values ('%1')"_s.arg(name)));
+    QList<jet::StepDirection> told;
+    for (const bool isWritten : {false, true}) {
+        jet::Step step(data(), u"with a photo"_s);
+        step.follow([&told](jet::StepDirection direction) { told << direction; });
+        if (isWritten)
+            QVERIFY(execute(u"insert into cnt_main (name) values ('x')"_s));
     }
-    QVERIFY(!m_book.lastChange()); // nor is what came before
-    QVERIFY(execute(u"update person set Name='Two' where id=1"_s));
-    QVERIFY(m_book.undoLastChange());
-    QCOMPARE(m_book.openRecordset(u"select * from person").count(), 36);
+    data().undoLastChange();
+    data().redoLastChange();
+    data().redoLastChange();
+    QCOMPARE(told, (QList<jet::StepDirection>{jet::StepDirection::Back, jet::StepDirection::Again}));
 }
 
 void UndoLogTest::stateTellsOfAnyChange()
 {
-    const QString before = m_book.state();
-    QVERIFY(!before.isEmpty());
-    QCOMPARE(all().size(), 3);
-    QCOMPARE(m_book.state(), before);
-    QVERIFY(execute(u"update person set Name='One' where id=1"_s));
-    const QString own = m_book.state();
+    const QString before = data().state();
+    QVERIFY(!before.isEmpty() && !dump().isEmpty());
+    QCOMPARE(data().state(), before);
+    QVERIFY(execute(u"update cnt_main set Name='One' where id=1"_s));
+    const QString own = data().state();
     QVERIFY(own != before);
     jet::Database other;
-    QCOMPARE(other.open(m_book.path()), jet::Database::OpenResult::Opened);
-    QVERIFY(other.execute(u"update person set Name='Two' where id=1"_s));
-    QVERIFY(m_book.state() != own);
+    QCOMPARE(other.open(m_book->path()), jet::Database::OpenResult::Opened);
+    QVERIFY(other.execute(u"update cnt_main set Name='Two' where id=1"_s));
+    QVERIFY(data().state() != own);
 }
 
 QTEST_GUILESS_MAIN(UndoLogTest)
