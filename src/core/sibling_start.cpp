@@ -12,8 +12,11 @@ bool startSibling(Context& context, const SiblingStart& start)
     const bool isThere = desktop.siblingExists(file);
     if (isThere && !context.screens.mayCloseAll())
         return false;
-    for (const QString& statement : start.statements)
-        context.data.execute(statement);
+    {
+        const jet::Upkeep byItself(context.data);
+        for (const QString& statement : start.statements)
+            context.data.execute(statement);
+    }
     if (!isThere) {
         if (start.whenMissing == WhenMissing::ShowProductPages)
             context.screens.show(u"FrmProjectMsg", Shown::Modally);

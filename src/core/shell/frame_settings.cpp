@@ -48,6 +48,7 @@ QString photoStoreMode(jet::Database& data)
 {
     jet::Recordset setup = data.openRecordset(u"select * from cntb_setup"_s);
     if (setup.isValid() && setup.isEmpty()) {
+        const jet::Upkeep byItself(data);
         setup.addNew();
         setup.update();
         setup = data.openRecordset(u"select * from cntb_setup"_s);
@@ -90,8 +91,10 @@ QString takeDeferredKey(jet::Database& data)
     const auto setup = data.openRecordset(u"select * from OV_SETUP"_s);
     const QString key = setup.textOrEmpty(u"key").toLower();
     // This runs each time the window comes to the front, also over a book that can only be read.
-    if (!key.isEmpty())
+    if (!key.isEmpty()) {
+        const jet::Upkeep byItself(data);
         data.execute(u"Update ov_setup set key=''"_s);
+    }
     return key;
 }
 

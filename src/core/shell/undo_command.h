@@ -9,7 +9,7 @@ class QMenu;
 
 namespace shell {
 
-/// The Edit menu of the frame: takes back the last changes of contacts in this run, whatever screen made
+/// Undo and Redo of the Edit menu: the last changes of the address book in this run, whatever screen made
 /// them.
 class UndoCommand : public QObject {
     Q_OBJECT
@@ -19,10 +19,10 @@ public:
 
 private:
     void tellWhatComesNext();
-    void undo();
 
     core::Context& m_context;
     QAction* m_undo;
+    QAction* m_redo;
 };
 
 } // namespace shell

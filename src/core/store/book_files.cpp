@@ -156,7 +156,8 @@ BookReport BookFiles::openData(jet::Database& database) const
 {
     const BookReport report = open(database, BookPart::Data);
     if (report)
-        database.keepChanges(u"cnt_main"_s, u"Name"_s);
+        database.keepChanges({{u"cnt_main"_s, u"Name"_s}, {u"cntb_categories"_s, u"category1"_s},
+            {u"cnt_topcities"_s, u"city"_s}});
     return report;
 }
 BookReport BookFiles::openInfo(jet::Database& database) const
