@@ -164,7 +164,9 @@ bool TextSearch::read(const QString& name, Table& table)
 {
     table.index = {};
     table.changed.clear();
-    const QString sql = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u']';
+    // An index that holds all the columns would give the rows in another order than they are merged in.
+    const QString sql
+        = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u"] ORDER BY rowid"_s;
     const QByteArray utf8 = sql.toUtf8();
     sqlite3_stmt* rows = nullptr;
     const bool done

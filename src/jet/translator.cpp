@@ -159,11 +159,16 @@ private:
                 stretch ? whereInStretch(*stretch, arm) : whereOf(arm);
             }
             orderBy(arm.orderBy);
+            // A search may be run in several ways. Rows that are equal to its order come the same in each.
+            if (result.filter) {
+                m_out += arm.orderBy.empty() ? u" ORDER BY "_s : u", "_s;
+                rowKey(from);
+            }
             return takePiece();
         };
-        result.main = selectKeys(nullptr, false);
         if (arm.where && !isDescending(arm.orderBy))
             result.filter = textFilter(*arm.where);
+        result.main = selectKeys(nullptr, false);
         if (result.filter)
             result.narrowed = selectKeys(nullptr, true);
         if (const TextFilter* ordered = result.filter ? orderedBy(*result.filter, arm) : nullptr) {
