@@ -404,8 +404,7 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
     if (!translation.isOrdered && rows->sure.size() > kFewRows) {
         result.sure = std::move(rows->sure);
     } else {
-        const auto middle = rows->doubtful.insert(rows->doubtful.end(), rows->sure.begin(), rows->sure.end());
-        std::inplace_merge(rows->doubtful.begin(), middle, rows->doubtful.end());
+        rows->doubtful.insert(rows->doubtful.end(), rows->sure.begin(), rows->sure.end());
     }
     if (rows->doubtful.size() > rows->all / kWorthwhilePart)
         return {};

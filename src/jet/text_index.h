@@ -58,7 +58,7 @@ private:
         std::vector<std::uint32_t> numbers; ///< of the text, by row
     };
 
-    std::vector<sqlite3_int64> m_ids; ///< rising
+    std::vector<sqlite3_int64> m_ids;
     std::vector<Column> m_columns;
 };
 

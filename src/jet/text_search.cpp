@@ -133,7 +133,6 @@ std::optional<TextSearch::Rows> TextSearch::rows(
         if ((*marks)[row] && !table->changed.contains(id))
             fitting.push_back(id);
     }
-    std::sort(found.doubtful.begin(), found.doubtful.end());
     return found;
 }
 
@@ -164,9 +163,7 @@ bool TextSearch::read(const QString& name, Table& table)
 {
     table.index = {};
     table.changed.clear();
-    // An index that holds all the columns would give the rows in another order than they are merged in.
-    const QString sql
-        = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u"] ORDER BY rowid"_s;
+    const QString sql = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u']';
     const QByteArray utf8 = sql.toUtf8();
     sqlite3_stmt* rows = nullptr;
     const bool done

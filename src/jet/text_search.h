@@ -33,8 +33,8 @@ public:
         std::vector<sqlite3_int64> doubtful; ///< to which the condition is still to be put
         size_t all = 0; ///< how many rows there are to look at otherwise
     };
-    /// Both rising; no row that is in neither fits. Nothing when the search can not be helped. To be asked in
-    /// the same read transaction as the search.
+    /// In any order; no row that is in neither fits. Nothing when the search can not be helped. To be asked
+    /// in the same read transaction as the search.
     std::optional<Rows> rows(
         const QString& table, const TextFilter& filter, const std::vector<Literal>& literals, Way way);
     /// When tables were made, dropped or altered.
