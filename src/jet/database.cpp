@@ -131,6 +131,10 @@ void Database::setWaitHandler(WaitHandler handler)
 {
     m_engine->setWaitHandler(std::move(handler));
 }
+void Database::setLimits(const StatementLimits& limits)
+{
+    m_engine->setLimits(limits);
+}
 std::optional<Failure> Database::lastFailure() const
 {
     return m_engine->lastFailure();

@@ -19,6 +19,12 @@ struct Outcome {
     explicit operator bool() const { return ok; }
 };
 
+/// What one statement may take; 0 for as much as it wants.
+struct StatementLimits {
+    int seconds = 0;
+    qint64 bytes = 0;
+};
+
 /// One database file and the dialect in which the program speaks to it.
 ///
 /// No call throws. What fails changes nothing, gives back something harmless, and is told to the failure
@@ -52,6 +58,8 @@ public:
     void setFailureHandler(FailureHandler handler);
     /// Lets a window live while a write waits, up to five seconds, for another program.
     void setWaitHandler(WaitHandler handler);
+    /// What one statement may take, for those who run statements of others. Program-wide for the memory.
+    void setLimits(const StatementLimits& limits);
     /// Why the last write failed, or the first of a batch; nothing once a later one succeeded. Broken
     /// selections do not count, selections of a file that can not be read do.
     std::optional<Failure> lastFailure() const;

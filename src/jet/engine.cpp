@@ -286,6 +286,7 @@ std::optional<Request> Engine::request(QStringView sql, Way way)
         report(sql, u"no database is open"_s, Failure::Cause::Storage);
         return {};
     }
+    m_file.startClock();
     auto& byText = m_byText[size_t(way)];
     const QString key = QString::fromRawData(sql.data(), sql.size());
     if (const Request* kept = byText.object(key); kept && kept->plan->generation == m_generation)

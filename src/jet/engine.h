@@ -163,11 +163,14 @@ public:
 
     void report(
         QStringView statement, const QString& reason, Failure::Cause cause = Failure::Cause::Statement);
+    void refuse(const QString& reason) { m_refusal = reason; } ///< what the next reportLast() says
     void reportRead(QStringView statement); ///< a selection that failed
     void reportLast(QStringView statement); ///< what the file engine says
     void setFailureHandler(FailureHandler handler) { m_failureHandler = std::move(handler); }
     void setWaitHandler(WaitHandler handler) { m_file.setWaitHandler(std::move(handler)); }
     void takeHandlers(const Engine& other);
+    void setLimits(const StatementLimits& limits) { m_file.setLimits(limits); }
+    bool isTooMuch(qint64 bytes) const { return m_file.limits().bytes > 0 && bytes > m_file.limits().bytes; }
 
 private:
     std::shared_ptr<Plan> plan(const Lexed& lexed, Way way, QString* error);

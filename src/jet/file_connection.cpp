@@ -2,7 +2,6 @@
 
 #include "jet/sql_functions.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -184,11 +183,30 @@ int FileConnection::whileBusy(void* self, int count)
     return 1;
 }
 
+void FileConnection::setLimits(const StatementLimits& limits)
+{
+    constexpr int kStepsBetweenLooks = 10'000;
+    m_limits = limits;
+    sqlite3_hard_heap_limit64(limits.bytes);
+    if (!m_handle)
+        return;
+    const auto isOver = [](void* self) {
+        const auto* connection = static_cast<FileConnection*>(self);
+        return int(connection->m_clock.isValid()
+            && connection->m_clock.hasExpired(connection->m_limits.seconds * 1'000));
+    };
+    sqlite3_progress_handler(
+        m_handle, limits.seconds > 0 ? kStepsBetweenLooks : 0, limits.seconds > 0 ? +isOver : nullptr, this);
+}
+
 Failure FileConnection::lastError() const
 {
     if (!m_handle)
         return {Failure::Cause::Storage, {}, u"no database is open"_s};
-    return {causeOf(sqlite3_extended_errcode(m_handle)), {}, QString::fromUtf8(sqlite3_errmsg(m_handle))};
+    const int code = sqlite3_extended_errcode(m_handle);
+    if (code == SQLITE_INTERRUPT)
+        return {Failure::Cause::Statement, {}, u"it took longer than %1 s"_s.arg(m_limits.seconds)};
+    return {causeOf(code), {}, QString::fromUtf8(sqlite3_errmsg(m_handle))};
 }
 
 Failure::Cause FileConnection::causeOf(int code) const

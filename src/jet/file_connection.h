@@ -3,6 +3,8 @@
 #include "jet/database.h"
 #include "jet/types.h"
 
+#include <QElapsedTimer>
+
 #include <sqlite3.h>
 
 namespace jet {
@@ -40,6 +42,15 @@ public:
     void setWaitHandler(WaitHandler handler) { m_waitHandler = std::move(handler); }
     const WaitHandler& waitHandler() const { return m_waitHandler; }
 
+    void setLimits(const StatementLimits& limits);
+    const StatementLimits& limits() const { return m_limits; }
+    /// A statement begins, and has its time.
+    void startClock()
+    {
+        if (m_limits.seconds > 0)
+            m_clock.start();
+    }
+
     /// What the file engine says about the last call.
     Failure lastError() const;
 
@@ -59,6 +70,8 @@ private:
     bool m_waitsOutside = false; ///< the loop of stepWaiting() waits, not the file engine
     Failure::Cause m_whyReadOnly = Failure::Cause::ReadOnly;
     WaitHandler m_waitHandler;
+    StatementLimits m_limits;
+    QElapsedTimer m_clock;
 };
 
 } // namespace jet

@@ -56,6 +56,10 @@ bool RecordsetData::readRows(const Prepared& statement)
             look(0);
         if (m_rowsHeld && !m_held.append(statement.get(), m_isKeyset ? 1 : 0))
             break;
+        if (m_engine->isTooMuch(m_held.bytes() + qint64(m_keys.size() * sizeof(qint64)))) {
+            m_engine->refuse(u"the rows are too many"_s);
+            return false;
+        }
     }
     return result == SQLITE_DONE;
 }

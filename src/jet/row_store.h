@@ -19,6 +19,7 @@ public:
     /// Appends the statement's current row, from its given column on. False when the store is full (4 GB of
     /// text).
     bool append(sqlite3_stmt* statement, int firstColumn);
+    qint64 bytes() const { return qint64(m_cells.size() * sizeof(Cell) + m_bytes.size()); }
     int rows() const { return m_columns == 0 ? 0 : int(m_cells.size() / size_t(m_columns)); }
 
     bool isNull(int row, int column) const;

@@ -11,20 +11,32 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <cstdio>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr const char* kUsage
-    = "Usage: orvane-sql [--ado] FILE\n"
+    = "Usage: orvane-sql [OPTIONS] FILE\n"
       "       orvane-sql --create-all FILE\n"
       "\n"
       "Reads one statement a line, as a JSON string, and answers each with one JSON object.\n"
-      "  --ado         the wildcards of like are % and _ instead of * and ?\n"
-      "  --create-all  makes FILE with every table of the schema and no rows\n";
+      "Before a table is dropped a copy of FILE is kept beside it, as FILE.before-drop-1 and so on.\n"
+      "  --ado           the wildcards of like are % and _ instead of * and ?\n"
+      "  --seconds N     what a statement may take, 60 unless told; 0 for no limit\n"
+      "  --megabytes N   the memory for a statement, 512 unless told; 0 for no limit\n"
+      "  --create-all    makes FILE with every table of the schema and no rows\n";
+
+struct Options {
+    jet::Way way = jet::Way::Dao;
+    int seconds = 60;
+    int megabytes = 512;
+    QString file;
+};
 
 int fail(const QString& message)
 {
@@ -71,10 +83,11 @@ QJsonValue cell(const jet::Recordset& rows, int row, int column)
 /// Runs statements one by one and says how each went.
 class Session {
 public:
-    Session(const jet::Database& database, jet::Way way)
+    Session(const jet::Database& database, const Options& options)
         : m_database(database)
-        , m_way(way)
+        , m_way(options.way)
     {
+        m_database.setLimits({options.seconds, qint64(options.megabytes) * 1024 * 1024});
         m_database.setFailureHandler([this](const jet::Failure& failure) { m_reason = failure.reason; });
     }
 
@@ -90,6 +103,8 @@ public:
         if (!givesRows)
             return failed(m_reason);
         if (!*givesRows) {
+            if (dropsATable(sql) && !keepACopy())
+                return failed(u"no copy could be kept, so the table stays: "_s + m_reason);
             const jet::Outcome outcome = m_database.execute(sql, m_way);
             return outcome ? succeeded({}, {}, outcome.changed) : failed(m_reason);
         }
@@ -108,6 +123,19 @@ public:
     }
 
 private:
+    static bool dropsATable(const QString& sql)
+    {
+        static const QRegularExpression drop(u"^\\s*drop\\b"_s, QRegularExpression::CaseInsensitiveOption);
+        return drop.match(sql).hasMatch();
+    }
+    bool keepACopy()
+    {
+        const QString name = m_database.path() + u".before-drop-"_s;
+        int number = 1;
+        while (QFileInfo::exists(name + QString::number(number)))
+            ++number;
+        return m_database.backUpTo(name + QString::number(number));
+    }
     static QJsonObject succeeded(const QJsonArray& columns, const QJsonArray& rows, int changed)
     {
         return {{u"ok"_s, true}, {u"columns"_s, columns}, {u"rows"_s, rows}, {u"changed"_s, changed}};
@@ -119,8 +147,9 @@ private:
     QString m_reason;
 };
 
-int runStatements(const QString& path, jet::Way way)
+int runStatements(const Options& options)
 {
+    const QString& path = options.file;
     jet::Database database;
     switch (database.open(path)) {
     case jet::Database::OpenResult::Opened: break;
@@ -131,7 +160,7 @@ int runStatements(const QString& path, jet::Way way)
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         return fail(u"no standard input"_s);
-    Session session(database, way);
+    Session session(database, options);
     for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine()) {
         const QByteArray answer = QJsonDocument(session.answer(line)).toJson(QJsonDocument::Compact) + '\n';
         std::fwrite(answer.constData(), 1, size_t(answer.size()), stdout);
@@ -140,25 +169,41 @@ int runStatements(const QString& path, jet::Way way)
     return 0;
 }
 
+/// Nothing for a command line that can not be understood.
+std::optional<Options> read(QStringList arguments)
+{
+    Options options;
+    while (arguments.size() > 1) {
+        const QString option = arguments.takeFirst();
+        if (option == u"--ado") {
+            options.way = jet::Way::Ado;
+            continue;
+        }
+        const bool isSeconds = option == u"--seconds";
+        bool isNumber = false;
+        const int number = arguments.takeFirst().toInt(&isNumber);
+        if ((!isSeconds && option != u"--megabytes") || !isNumber || number < 0)
+            return {};
+        (isSeconds ? options.seconds : options.megabytes) = number;
+    }
+    options.file = arguments.value(0);
+    return options.file.isEmpty() || options.file.startsWith(u"--") ? std::nullopt : std::optional(options);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments == QStringList{u"--help"_s}) {
         std::fputs(kUsage, stdout);
         return 0;
     }
     if (arguments.size() == 2 && arguments.first() == u"--create-all")
         return createAll(arguments.last());
-    jet::Way way = jet::Way::Dao;
-    if (arguments.size() == 2 && arguments.first() == u"--ado") {
-        way = jet::Way::Ado;
-        arguments.removeFirst();
-    }
-    if (arguments.size() == 1 && !arguments.first().startsWith(u"--"))
-        return runStatements(arguments.first(), way);
+    if (const auto options = read(arguments))
+        return runStatements(*options);
     std::fputs(kUsage, stderr);
     return 2;
 }

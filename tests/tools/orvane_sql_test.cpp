@@ -24,6 +24,8 @@ private Q_SLOTS:
     void refused();
     void wildcards();
     void answersAtOnce();
+    void limits();
+    void dropKeepsACopy();
     void badCommandLine_data();
     void badCommandLine();
     void generatedBook();
@@ -202,12 +204,41 @@ void OrvaneSqlTest::answersAtOnce()
     QCOMPARE(process.exitCode(), 0);
 }
 
+void OrvaneSqlTest::limits()
+{
+    QStringList statements(20, u"insert into cnt_main (name) values ('Asha Oberoi')"_s);
+    const QString many = u"cnt_main a,cnt_main b,cnt_main c,cnt_main d,cnt_main e,cnt_main f"_s;
+    statements << u"select count(*) from "_s + many << u"select a.name,b.name,c.name,d.name from "_s + many
+               << u"select count(*) from cnt_main"_s;
+    const auto answers = ask(statements, {u"--seconds"_s, u"1"_s, u"--megabytes"_s, u"8"_s});
+    QCOMPARE(answers.size(), 23);
+    QVERIFY(answers[20][u"error"_s].toString().contains(u"longer than 1 s"_s));
+    QVERIFY(!answers[21][u"ok"_s].toBool());
+    QCOMPARE(answers[22][u"rows"_s].toArray(), QJsonArray({QJsonArray{20}}));
+}
+
+void OrvaneSqlTest::dropKeepsACopy()
+{
+    const auto answers = ask({u"insert into cnt_user (name) values ('Asha')"_s, u" DROP table cnt_user"_s,
+        u"drop table cnt_user"_s, u"select name from cnt_user"_s});
+    QCOMPARE(answers.value(1)[u"ok"_s], QJsonValue(true));
+    QCOMPARE(answers.value(3)[u"ok"_s], QJsonValue(false));
+    jet::Database copy;
+    QCOMPARE(copy.open(path(u"all.dll.before-drop-1"_s)), jet::Database::OpenResult::Opened);
+    QCOMPARE(copy.openRecordset(u"select name from cnt_user").textAt(0), u"Asha"_s);
+    // No copy, no drop.
+    QVERIFY(QDir().mkdir(path(u"all.dll.before-drop-2.part"_s)));
+    const auto refused = ask({u"drop table cnt_main"_s, u"select count(*) from cnt_main"_s});
+    QVERIFY(!refused.value(0)[u"ok"_s].toBool() && refused.value(1)[u"ok"_s].toBool());
+}
+
 void OrvaneSqlTest::badCommandLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
     QTest::newRow("nothing") << QStringList{} << 2;
     QTest::newRow("unknown option") << QStringList{u"--all"_s} << 2;
+    QTest::newRow("no number") << QStringList{u"--seconds"_s, u"soon"_s, u"x.dll"_s} << 2;
     QTest::newRow("option without a file") << QStringList{u"--create-all"_s} << 2;
     QTest::newRow("no such file") << QStringList{u"/no/such.dll"_s} << 1;
     QTest::newRow("not a database") << QStringList{QStringLiteral(ORVANE_SQL)} << 1;
