@@ -128,6 +128,8 @@ void TextSearchTest::sameRows_data()
     row(u"city like 'Pune' or city like '*agr*'"_s);
     row(u"city like '*[gq]ra*' and Name like '*[*]*'"_s);
     row(u"not city like '*pune*'"_s);
+    row(u"city not like '*pune*' or Name not like '*asha*'"_s);
+    row(u"Name not like '*asha*' and city like '*pune*'"_s);
     row(u"city like '*w  d*'"_s);
     row(u"note like '*no 3*second*'"_s);
     row(u"born like '*1950*'"_s);
