@@ -1,5 +1,6 @@
 #include "views/command_button.h"
 
+#include "widgets/button_key.h"
 #include "widgets/theme.h"
 
 #include <QToolButton>
@@ -17,7 +18,7 @@ QToolButton* commandButton(const QString& name, QStringView icon, const QString&
     button->setText(text);
     button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
-    button->setShortcut(key);
+    widgets::setKey(button, key);
     button->setToolTip(
         key.isEmpty() ? toolTip : u"%1 (%2)"_s.arg(toolTip, key.toString(QKeySequence::NativeText)));
     button->setAccessibleName(toolTip);

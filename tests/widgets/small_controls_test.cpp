@@ -1,5 +1,9 @@
 #include "widgets/alphabet_tabs.h"
+#include "widgets/button_key.h"
+#include "widgets/fields.h"
+#include "widgets/form_kit.h"
 #include "widgets/key_pad.h"
+#include "widgets/mnemonics.h"
 #include "widgets/tool_tip_box.h"
 
 #include <QtTest>
@@ -17,6 +21,8 @@ private Q_SLOTS:
     void balloonStaysInTheWindow_data();
     void balloonStaysInTheWindow();
     void escapeClosesTheBalloonOnly();
+    void lettersAreSettled();
+    void keyBesideALetter();
 };
 
 void SmallControlsTest::keyPadLeavesTheFocus()
@@ -92,6 +98,60 @@ void SmallControlsTest::escapeClosesTheBalloonOnly()
     QVERIFY(dialog.isVisible());
     QTest::keyClick(&help, Qt::Key_Escape);
     QVERIFY(!dialog.isVisible());
+}
+
+void SmallControlsTest::lettersAreSettled()
+{
+    QWidget form;
+    FormKit kit(&form);
+    QTabWidget tabs;
+    auto* first = new QWidget;
+    auto* second = new QWidget;
+    FormKit(first)
+        .group()
+        .line(u"city"_s, u"Cit&y"_s)
+        .line(u"state"_s, u"Stat&e"_s)
+        .check(u"same"_s, u"&Same"_s);
+    FormKit(second).group().line(u"web"_s, u"&Web"_s).line(u"year"_s, u"&Year"_s).line(u"bye"_s, u"b&y"_s);
+    tabs.addTab(first, u"&Home"_s);
+    tabs.addTab(second, u"&Work"_s);
+    kit.group()
+        .line(u"name"_s, u"&Sort as"_s)
+        .line(u"chat"_s, u"R&&D &chat"_s)
+        .wide(u"tabs"_s, {}, &tabs)
+        .buttonRow()
+        .button(u"save"_s, u"&Save"_s);
+    settleMnemonics(&form, u"ceh"_s);
+    QStringList letters;
+    for (const QString& name : {u"name"_s, u"chat"_s, u"city"_s, u"state"_s, u"web"_s, u"year"_s, u"bye"_s}) {
+        for (const auto* label : form.findChildren<QLabel*>()) {
+            if (label->buddy() && label->buddy()->objectName() == name)
+                letters += label->text();
+        }
+    }
+    letters << tabs.tabText(0) << tabs.tabText(1) << child<QAbstractButton>(&form, u"same"_s)->text()
+            << child<QAbstractButton>(&form, u"save"_s)->text();
+    QCOMPARE(letters,
+        (QStringList{u"Sort &as"_s, u"&R&&D chat"_s, u"Cit&y"_s, u"S&tate"_s, u"We&b"_s, u"&Year"_s, u"by"_s,
+            u"H&ome"_s, u"&Work"_s, u"Sa&me"_s, u"&Save"_s}));
+}
+
+void SmallControlsTest::keyBesideALetter()
+{
+    QPushButton button(u"&Save"_s);
+    setKey(&button, QKeySequence::Save);
+    QSignalSpy clicks(&button, &QPushButton::clicked);
+    button.show();
+    button.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&button));
+    for (int press = 0; press < 3; ++press)
+        QTest::keyClick(button.windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(clicks.size(), 3);
+    QTest::keyClick(button.windowHandle(), Qt::Key_S, Qt::AltModifier);
+    QTRY_COMPARE(clicks.size(), 4);
+    button.setEnabled(false);
+    QTest::keyClick(button.windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(clicks.size(), 4);
 }
 
 QTEST_MAIN(SmallControlsTest)

@@ -4,6 +4,7 @@
 #include "core/vocabularies.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
+#include "widgets/button_key.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -68,7 +69,7 @@ void DefaultPanel::layOutDefaults(widgets::FormKit& form)
         .group()
         .button(u"SSCommand12"_s, tr("&Save"), u"save", tr("Store the defaults above (Ctrl+S)"))
         .wide(m_hint->objectName(), tr("Hint"), m_hint);
-    child<QPushButton>(this, u"SSCommand12"_s)->setShortcut(QKeySequence::Save);
+    widgets::setKey(child<QPushButton>(this, u"SSCommand12"_s), QKeySequence::Save);
     for (const QString& name : {u"txtltcat"_s, u"TxtEMilCat"_s, u"CmbAsso"_s})
         combo(name)->setToolTip(tr("Category and subcategory with \"-\" between"));
     // What may hold two columns takes the length of both.

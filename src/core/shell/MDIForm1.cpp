@@ -15,6 +15,7 @@
 #include "platform/special_folders.h"
 #include "widgets/date_box.h"
 #include "widgets/heading_grid.h"
+#include "widgets/mnemonics.h"
 #include "widgets/theme.h"
 
 #include <QAction>
@@ -338,6 +339,7 @@ void MDIForm1::place(core::Screen* screen, core::Shown shown)
     }
     int index = m_tabs->indexOf(screen);
     if (index < 0) {
+        widgets::settleMnemonics(screen, menuLetters());
         index = m_tabs->addTab(screen, screen->windowTitle());
         connect(screen, &QWidget::windowTitleChanged, m_tabs, [this, screen](const QString& title) {
             m_tabs->setTabText(m_tabs->indexOf(screen), title);
@@ -358,6 +360,15 @@ void MDIForm1::bringForward(core::Screen* screen)
         m_tabs->setCurrentIndex(index);
     else
         screen->window()->activateWindow();
+}
+
+/// The letters that open the menus, whatever screen is in front.
+QString MDIForm1::menuLetters() const
+{
+    QString letters;
+    for (const QAction* menu : menuBar()->actions())
+        letters += widgets::mnemonicOf(menu->text());
+    return letters.remove(QChar());
 }
 
 void MDIForm1::closeTab(int index)

@@ -56,6 +56,7 @@ private:
     void addGoMenu();
     void activate();
     void dropDown(const QString& page);
+    QString menuLetters() const;
     void closeTab(int index);
     void showTabOrStartPage();
     void showHead(); ///< title and position of the screen in front

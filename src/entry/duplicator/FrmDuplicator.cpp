@@ -7,6 +7,7 @@
 #include "entry/duplicator/duplicate_columns.h"
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
+#include "widgets/button_key.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -128,7 +129,7 @@ QWidget* FrmDuplicator::layOutDuplicate()
     DBCSub = child<widgets::FilledCombo>(side, u"DBCSub"_s);
     m_coming = child<QLabel>(side, u"lblComing"_s);
     m_coming->setTextFormat(Qt::PlainText);
-    child<QPushButton>(side, u"CmdDuplicate"_s)->setShortcut(QKeySequence::Save);
+    widgets::setKey(child<QPushButton>(side, u"CmdDuplicate"_s), QKeySequence::Save);
     return side;
 }
 

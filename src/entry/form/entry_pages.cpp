@@ -1,5 +1,6 @@
 #include "entry/form/entry_pages.h"
 
+#include "widgets/button_key.h"
 #include "widgets/fields.h"
 #include "widgets/heading_grid.h"
 #include "widgets/picture_box.h"
@@ -352,7 +353,7 @@ QWidget* entryButtons()
         .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
         .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
     buttons->layout()->setContentsMargins(0, 0, 0, 0);
-    widgets::child<QPushButton>(buttons, u"Command1"_s)->setShortcut(QKeySequence::Save);
+    widgets::setKey(widgets::child<QPushButton>(buttons, u"Command1"_s), QKeySequence::Save);
     return buttons;
 }
 
