@@ -202,6 +202,17 @@ void DateBox::setToday(std::function<QDate()> today)
     todaysDate() = std::move(today);
 }
 
+QSize DateBox::minimumSizeHint() const
+{
+    ensurePolished();
+    constexpr int IconAndEdges = 42;
+    int widest = 0;
+    for (int month = 1; month <= 12; ++month)
+        widest
+            = std::max(widest, fontMetrics().horizontalAdvance(formatDate(QDate(2000, month, 28), m_format)));
+    return {widest + IconAndEdges, QLineEdit::minimumSizeHint().height()};
+}
+
 QString DateBox::complaint() const
 {
     return tr("This is not a date. Write it like %1.").arg(formatDate(QDate(1990, 2, 1), m_format));

@@ -37,6 +37,7 @@ public:
     void setDate(const std::optional<QDate>& date);
     bool holdsBadText() const; ///< neither a date nor nothing
     void showCalendar();
+    QSize minimumSizeHint() const override; ///< a whole date
 
     /// The first box of a form whose text is no date; none when there is nothing to mend.
     static DateBox* firstBad(const QWidget* form);

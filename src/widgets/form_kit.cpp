@@ -40,6 +40,28 @@ QString withoutMnemonic(const QString& label)
     return plain;
 }
 
+/// How many digits can be read of a number that is never to be cut off: 0 for any other column.
+int digitsOf(const QString& column)
+{
+    struct Kind {
+        QStringView part;
+        int digits;
+    };
+    constexpr Kind kinds[] = {
+        {u"_pin", 8}, {u"_ph", 15}, {u"mobile", 15}, {u"sms", 15}, {u"fax", 15}, {u"_std", 6}, {u"_xtn", 5}};
+    for (const Kind& kind : kinds) {
+        if (column.contains(kind.part, Qt::CaseInsensitive))
+            return kind.digits;
+    }
+    return 0;
+}
+
+int widthOfDigits(const QWidget* line, int digits)
+{
+    constexpr int Edges = 14;
+    return digits * line->fontMetrics().horizontalAdvance(u'0') + Edges;
+}
+
 bool growsDown(const QWidget* control)
 {
     return control->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
@@ -137,6 +159,8 @@ FormKit& FormKit::line(const QString& name, const QString& label, const QString&
     auto* edit = new QLineEdit(m_page);
     edit->setMaxLength(sizeOf(column));
     setKeyFilter(edit, filter);
+    if (const int digits = digitsOf(column))
+        edit->setMinimumWidth(widthOfDigits(edit, digits));
     guardLine(edit);
     QLineEdit* above = label.isEmpty() && m_beside == 0 ? m_lastLine : nullptr;
     field(name, label, edit, column);

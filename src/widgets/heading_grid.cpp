@@ -12,6 +12,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -162,6 +163,10 @@ HeadingGrid::HeadingGrid(QWidget* parent)
             if (!m_isRestoring)
                 Q_EMIT currentRowChanged(current.row());
         });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (QApplication::mouseButtons().testFlag(Qt::LeftButton))
+            m_mayFit = false;
+    });
     followFontSize();
     applyWidths();
 }
@@ -175,8 +180,12 @@ void HeadingGrid::followFontSize()
 
 void HeadingGrid::setHeadings(QStringView headings, const QStringList& columns)
 {
+    const QList<Heading> before = m_model->headings();
     m_model->setHeadings(parseHeadings(headings), columns);
-    applyWidths();
+    if (m_model->headings() != before) {
+        m_mayFit = true;
+        applyWidths();
+    }
     applyHiddenColumns();
 }
 
@@ -191,9 +200,11 @@ void HeadingGrid::fill(jet::Recordset rows)
 void HeadingGrid::fill(QStringView headings, jet::Recordset rows, const QStringList& columns)
 {
     m_model->setRows({}, {});
+    const QList<Heading> before = m_model->headings();
     setHeadings(headings, columns);
     fill(std::move(rows));
-    applyWidths();
+    if (m_model->headings() != before)
+        applyWidths(); // which columns show nothing is known now
 }
 
 void HeadingGrid::setRows(const QList<QStringList>& rows, const QStringList& names)
@@ -257,6 +268,7 @@ void HeadingGrid::mergeEqual(const QStringList& names)
 
 void HeadingGrid::startOutline()
 {
+    m_isFitDue = true;
     if (m_model->isOutlining())
         m_outlineTimer.start(0, this);
     else
@@ -282,6 +294,7 @@ void HeadingGrid::restoreLines(int row, int top)
 {
     m_isRestoring = true;
     applyHiddenColumns();
+    m_isFitDue = true;
     if (row >= 0)
         setCurrentRow(m_model->lineOfSource(row));
     if (top > 0)
@@ -479,6 +492,8 @@ void HeadingGrid::keyPressEvent(QKeyEvent* event)
 
 void HeadingGrid::paintEvent(QPaintEvent* event)
 {
+    if (std::exchange(m_isFitDue, false))
+        fitToContent();
     QTableView::paintEvent(event);
     if (rowCount() > 0 || m_emptyText.isEmpty())
         return;
@@ -497,6 +512,8 @@ void HeadingGrid::changeEvent(QEvent* event)
 
 void HeadingGrid::applyWidths()
 {
+    m_hasFitted = false;
+    m_isFitDue = true;
     const QFontMetrics metrics(font());
     verticalHeader()->setDefaultSectionSize(metrics.height() + RowPadding);
     const QList<Heading>& headings = m_model->headings();
@@ -510,6 +527,37 @@ void HeadingGrid::applyWidths()
                 ? std::max(CellPadding, characters * metrics.averageCharWidth())
                 : std::max(written, characters * metrics.averageCharWidth() + CellPadding));
     }
+}
+
+/// The rows in sight tell how wide the texts are; others would have to be read for that.
+void HeadingGrid::fitToContent()
+{
+    constexpr int MostLetters = 80;
+    constexpr int WidestColumn = 36; // characters
+    if (!m_mayFit || recordCount() == 0 || m_model->isOutlining())
+        return;
+    const int first = std::max(0, rowAt(0));
+    const int inSight = viewport()->height() / std::max(1, verticalHeader()->defaultSectionSize()) + 1;
+    const int last = std::min(rowCount(), first + inSight);
+    const QFontMetrics metrics(font());
+    const int widest = WidestColumn * metrics.averageCharWidth();
+    const QList<Heading>& headings = m_model->headings();
+    for (int column = 0; column < headings.size(); ++column) {
+        if (headings[column].text.isEmpty() || m_model->showsNothing(column) || isColumnHidden(column))
+            continue;
+        int content = 0;
+        const bool paintsTexts = column != m_model->groupColumn();
+        for (int line = first; paintsTexts && line < last; ++line) {
+            if (!isHeading(line)) {
+                const QString text = m_model->index(line, column).data().toString().left(MostLetters);
+                content = std::max(content, metrics.horizontalAdvance(text));
+            }
+        }
+        const int written = horizontalHeader()->sectionSizeHint(column);
+        const int wanted = std::max(written, std::min(content, widest) + CellPadding);
+        setColumnWidth(column, m_hasFitted ? std::max(wanted, columnWidth(column)) : wanted);
+    }
+    m_hasFitted = true;
 }
 
 void HeadingGrid::applyHiddenColumns()

@@ -33,8 +33,9 @@ QList<Heading> parseHeadings(QStringView headings);
 ///
 /// A recordset's rows are asked for only when they come in sight. Without column names, headings and columns
 /// pair off in order; blank headings in front that have no column, and a blank one over the key, are an empty
-/// margin. Columns beyond the headings are not shown but can be read by name. Typing looks for a row by its
-/// first visible text; Enter and double click choose a row.
+/// margin. When rows are seen first, columns become as wide as what stands in them asks for, so that names
+/// are in sight; a person may change that. Columns beyond the headings are not shown but can be read by name.
+/// Typing looks for a row by its first visible text; Enter and double click choose a row.
 class HeadingGrid : public QTableView {
     Q_OBJECT
 
@@ -108,6 +109,7 @@ private:
     friend void setGridFontSize(int size);
     void followFontSize();
     void applyWidths();
+    void fitToContent();
     void applyHiddenColumns();
     int searchColumn() const;
     void setCurrentSourceRow(int row); ///< unfolds its group
@@ -119,6 +121,9 @@ private:
     QElapsedTimer m_sinceTyped;
     QStringList m_merged;
     QBasicTimer m_outlineTimer;
+    bool m_mayFit = true; ///< until the person has made a column wider or narrower
+    bool m_hasFitted = false; ///< since the headings are these: columns only grow then
+    bool m_isFitDue = false; ///< rows came that have not been seen yet
     bool m_isRestoring = false; ///< the same row becomes current again, on another line
 };
 

@@ -395,6 +395,16 @@ void AssistsTest::commonWordsOfANote()
     QTest::keyClick(note, Qt::Key_Backspace);
     Q_EMIT words->chosen(0);
     QCOMPARE(note->toPlainText(), u"the gardener office gardener"_s);
+
+    f.execute(u"insert into OV_CmmWrds (word) values ('O''Brien *')"_s);
+    QTest::keyClicks(note, u" O'B"_s);
+    QCOMPARE(words->rowCount(), 1);
+    const QPoint row(20, words->rowViewportPosition(0) + words->rowHeight(0) / 2);
+    QTest::mouseClick(words->viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(words->viewport(), Qt::LeftButton, {}, row);
+    QCOMPARE(note->toPlainText(), u"the gardener office gardener O'Brien *"_s);
+    QTest::keyClicks(note, u" *"_s);
+    QVERIFY(words->isHidden()); // no word begins with it
 }
 
 void AssistsTest::userLabels()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void typingLooksForARow();
     void typedLetters_data();
     void typedLetters();
+    void namesAreInSight();
     void enterAndDoubleClickChoose();
     void listShowsTheNameOnly();
     void outlineFindsItsGroupsInSteps();
@@ -247,6 +248,31 @@ void HeadingGridTest::typedLetters()
     QTest::keyClicks(&grid, typed);
     QVERIFY(!grid.isHeading(grid.currentRow()));
     QTEST(grid.currentText(u"name"_s), "name");
+}
+
+void HeadingGridTest::namesAreInSight()
+{
+    HeadingGrid grid;
+    grid.resize(420, 300);
+    const QString wide
+        = u"|Category                                   |Sub                         |Name        "_s;
+    grid.fill(
+        wide, rows(u"select id,'Friends' as c,'' as s,city & ' ' & Name & ' and company' as n from person"));
+    grid.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&grid));
+    const int name = grid.model()->columnCount() - 1;
+    const QString text = grid.model()->index(0, name).data().toString();
+    const int room = grid.viewport()->width() - grid.columnViewportPosition(name);
+    QVERIFY(room > grid.fontMetrics().horizontalAdvance(text));
+    const int chosen = grid.columnWidth(1) + 60; // by the person
+    const QPoint edge(grid.columnViewportPosition(1) + grid.columnWidth(1) - 1, 5);
+    QTest::mousePress(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(grid.horizontalHeader()->viewport(), edge + QPoint(60, 0));
+    QTest::mouseRelease(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, edge + QPoint(60, 0));
+    QCOMPARE(grid.columnWidth(1), chosen);
+    grid.fill(rows(u"select id,'A much longer category of contacts' as c,'' as s,Name as n from person"));
+    grid.grab();
+    QCOMPARE(grid.columnWidth(1), chosen);
 }
 
 void HeadingGridTest::enterAndDoubleClickChoose()

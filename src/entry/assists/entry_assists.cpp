@@ -8,6 +8,7 @@
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -95,10 +96,15 @@ EntryAssists::EntryAssists(QWidget* form, QTabWidget* pages, core::Context& cont
     onText(u"dtcmbcity", [this] { setText(u"dtcmbcity1", text(u"dtcmbcity")); });
     onText(u"dtcmbcity1", [this] { setText(u"dtcmbcity", text(u"dtcmbcity1")); });
     if (auto* words = m_form->findChild<widgets::HeadingGrid*>(u"FG1"_s)) {
-        const auto take = [this, words](int row) { completeWord(words->textAt(row, u"word"_s)); };
-        connect(words, &widgets::HeadingGrid::chosen, this, take);
-        connect(words, &QAbstractItemView::clicked, this,
-            [take](const QModelIndex& index) { take(index.row()); });
+        // A click takes a word; the second one of a double click takes no other.
+        connect(words, &widgets::HeadingGrid::chosen, this, [this, words](int row) {
+            if (!m_sinceClick.isValid() || m_sinceClick.hasExpired(QApplication::doubleClickInterval()))
+                completeWord(words->textAt(row, u"word"_s));
+        });
+        connect(words, &QAbstractItemView::clicked, this, [this, words](const QModelIndex& index) {
+            completeWord(words->textAt(index.row(), u"word"_s));
+            m_sinceClick.start();
+        });
     }
 }
 

@@ -4,6 +4,7 @@
 #include "entry/assists/assist_panel.h"
 #include "entry/assists/typed_word.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 
@@ -64,6 +65,7 @@ private:
     QPointer<QWidget> m_wordField;
     QString m_textAtEntry; ///< of the field with the focus, to see whether it was changed
     TypedWord m_typedWord;
+    QElapsedTimer m_sinceClick; ///< on a common word
     bool m_quiet = false;
 };
 

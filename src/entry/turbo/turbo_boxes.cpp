@@ -23,7 +23,6 @@ namespace {
 // Three columns stand beside the lists also where the window is small.
 constexpr int kLeastWidth = 40;
 constexpr int kNameWidth = 54;
-constexpr int kDateWidth = 118;
 
 QString notStored()
 {
@@ -159,7 +158,8 @@ void TurboBoxes::layOut(QWidget* page, const FormKit::SizeOf& sizeOf)
     m_boxes = widgets::FieldSet(page);
     for (const widgets::Control& control : m_boxes.controls()) {
         const bool isDate = qobject_cast<widgets::DateBox*>(control.widget) != nullptr;
-        control.widget->setMinimumWidth(isDate ? kDateWidth : kLeastWidth);
+        if (!isDate && control.widget->minimumWidth() == 0)
+            control.widget->setMinimumWidth(kLeastWidth);
         control.widget->installEventFilter(this);
     }
     for (const QStringView kid : {u"Txtkid1", u"TxtKid2", u"TxtKid3"})
