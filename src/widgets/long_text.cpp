@@ -18,7 +18,7 @@ namespace {
 
 constexpr qsizetype MostLetters = 64 * 1024; ///< of a box, and of each part that is added to it
 constexpr qsizetype MostInALine = 2000;
-constexpr qsizetype MostOnAButton = 48;
+constexpr qsizetype MostOnAButton = 28;
 constexpr qsizetype MostInATip = 600;
 constexpr QChar Ellipsis = u'\u2026';
 

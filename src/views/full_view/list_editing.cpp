@@ -1,5 +1,6 @@
 #include "views/full_view/list_editing.h"
 
+#include "widgets/line_guard.h"
 #include "widgets/record_list.h"
 
 #include <QKeyEvent>
@@ -19,6 +20,7 @@ ListEditing::ListEditing(widgets::RecordList* list)
     m_editor->setObjectName(u"DBList1Editor"_s);
     m_editor->setAccessibleName(tr("Name"));
     m_editor->installEventFilter(this);
+    widgets::guardLine(m_editor);
     m_list->installEventFilter(this);
     connect(m_list, &QAbstractItemView::doubleClicked, this, &ListEditing::begin);
     connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { finish(true); });

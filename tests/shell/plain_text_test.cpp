@@ -1,0 +1,116 @@
+#include <QtTest>
+#include <QtWidgets>
+
+#include "core/handover/contact_screen.h"
+#include "core/setup/register_setup.h"
+#include "entry/register_entry.h"
+#include "support/screen_fixture.h"
+#include "views/register_views.h"
+#include "widgets/theme.h"
+
+using namespace Qt::StringLiterals;
+
+/// Stored text is text: whatever a contact holds, no label and no tool tip of any screen takes it for markup.
+class PlainTextTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyScreen();
+
+private:
+    void lookAtLabels(const QString& screen);
+    void lookAtTips(QWidget* screen);
+    void lookAtTip(const QString& tip, QWidget* owner);
+
+    int m_labels = 0;
+    int m_tips = 0;
+};
+
+namespace {
+
+const QString Markup = u"<b>x</b>"_s;
+
+/// A contact with markup in each column that has room for it.
+void addContact(support::ScreenFixture& fixture)
+{
+    QStringList columns;
+    for (const jet::SchemaColumn& column : fixture.schema.table(u"cnt_main")->columns) {
+        const bool isText = column.type == jet::ColumnType::Text || column.type == jet::ColumnType::Memo;
+        if (isText && fixture.schema.textSize(u"cnt_main", column.name) >= Markup.size())
+            columns += u'[' + column.name + u']';
+    }
+    const QStringList values(columns.size(), u'\'' + Markup + u'\'');
+    fixture.execute(u"insert into cnt_main (%1) values (%2)"_s.arg(columns.join(u','), values.join(u',')));
+}
+
+} // namespace
+
+void PlainTextTest::lookAtLabels(const QString& screen)
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        const auto* label = qobject_cast<QLabel*>(widget);
+        if (!label || !label->text().contains(Markup))
+            continue;
+        ++m_labels;
+        QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(screen + u": "_s + label->objectName()));
+    }
+}
+
+void PlainTextTest::lookAtTip(const QString& tip, QWidget* owner)
+{
+    if (!tip.contains(Markup))
+        return;
+    ++m_tips;
+    QToolTip::showText({}, tip, owner);
+    lookAtLabels(owner->objectName());
+    QToolTip::hideText();
+}
+
+void PlainTextTest::lookAtTips(QWidget* screen)
+{
+    for (QWidget* widget : screen->findChildren<QWidget*>())
+        lookAtTip(widget->toolTip(), widget);
+    for (auto* view : screen->findChildren<QAbstractItemView*>()) {
+        QModelIndexList open{QModelIndex()};
+        while (!open.isEmpty()) {
+            const QModelIndex parent = open.takeFirst();
+            for (int row = 0; view->model() && row < std::min(20, view->model()->rowCount(parent)); ++row) {
+                open += view->model()->index(row, 0, parent);
+                lookAtTip(open.constLast().data(Qt::ToolTipRole).toString(), view);
+            }
+        }
+    }
+}
+
+void PlainTextTest::everyScreen()
+{
+    widgets::apply(*qApp, widgets::Look::Light);
+    support::ScreenFixture fixture;
+    addContact(fixture);
+    fixture.shared.selectedContactId = 1;
+    fixture.shared.selectedContactName = Markup;
+    views::registerViews(fixture.screens);
+    entry::registerEntry(fixture.screens);
+    setup::registerSetup(fixture.screens);
+    for (const QString& name : fixture.screens.names()) {
+        core::Screen* screen = fixture.screens.load(name);
+        fixture.screens.show(name);
+        if (auto* ofContacts = dynamic_cast<core::ContactScreen*>(screen))
+            ofContacts->showContact(1);
+        for (auto* tree : screen->findChildren<QTreeView*>())
+            tree->expandAll();
+        for (auto* pages : screen->findChildren<QTabWidget*>()) {
+            for (int page = 0; page < pages->count(); ++page)
+                pages->setCurrentIndex(page);
+        }
+        QCoreApplication::processEvents();
+        lookAtLabels(name);
+        lookAtTips(screen);
+        for (const auto* page : screen->findChildren<QTextEdit*>())
+            QVERIFY2(page->toPlainText().isEmpty() || page->toPlainText().contains(Markup), qPrintable(name));
+    }
+    QVERIFY2(m_labels > 20 && m_tips > 5, qPrintable(u"%1 labels, %2 tips"_s.arg(m_labels).arg(m_tips)));
+}
+
+QTEST_MAIN(PlainTextTest)
+#include "plain_text_test.moc"
