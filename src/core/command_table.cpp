@@ -30,6 +30,8 @@ constexpr OpenScreen BusinessLetter{.form = u"FrmBusinessLetter", .letterKind = 
 
 constexpr Command Tools[] = {
     // Adding and changing contacts
+    {u"NewContact", NewContact{}},
+    {u"EditContact", EditContact{}},
     {u"Edit", OpenScreen{u"FormMain"}},
     {u"ID_Add3", OpenScreen{u"FormMain1"}},
     {u"AddBus", OpenScreen{u"FormMainBusiness"}},
@@ -210,7 +212,7 @@ constexpr Command Tools[] = {
     {u"ID_ViewOther", OpenLaunchPad{u"From View Other"}},
 
     // The other programs of the suite
-    {u"Diary", StartSibling{.program = Scheduler, .keystroke = u"^", .whenMissing = WhenMissing::Nothing}},
+    {u"Diary", StartSibling{.program = Scheduler, .keystroke = u"^"}},
     {u"Pr-CellPhone", StartSibling{.program = PersonalRecords, .key = u"userdefined1"}},
     {u"Pr-PhoneCard", StartSibling{.program = PersonalRecords, .key = u"userdefined1"}},
     {u"Pr-ClubMembership", StartSibling{.program = PersonalRecords, .key = u"userdefined1"}},
@@ -243,9 +245,9 @@ constexpr Command Tools[] = {
     {u"IndianCities", HideListBar{}},
 
     // Openers of a drop-down
-    {u"LTree", Inert{}},
-    {u"ID_Add1", Inert{}},
-    {u"DList", Inert{}},
+    {u"LTree", DropDown{u"ID_List"}},
+    {u"ID_Add1", DropDown{u"ID_AddBasic"}},
+    {u"DList", DropDown{u"ID_List"}},
 };
 
 constexpr Command Keys[] = {

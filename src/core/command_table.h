@@ -13,7 +13,6 @@ namespace core {
 enum class Shown { Modelessly, Modally };
 enum class ListBar { Stays, Hidden };
 enum class Ask { No, Yes };
-enum class WhenMissing { ShowProductPages, Nothing };
 
 /// Shows the screen of that form name, on a page if one is named. A title goes to the frame first.
 struct OpenScreen {
@@ -51,7 +50,6 @@ struct StartSibling {
     QStringView program = {};
     QStringView key = {};
     QStringView keystroke = {};
-    WhenMissing whenMissing = WhenMissing::ShowProductPages;
 };
 
 /// Leaves the request for a report in ov_setup and hands over to Orvane Link & Sync.
@@ -74,6 +72,10 @@ struct DropDown {
     QStringView toolBarPage = {};
 };
 
+/// Begins a new contact in the entry form at once.
+struct NewContact { };
+/// Shows the contact that was chosen last in the entry form, to be changed.
+struct EditContact { };
 struct OpenHelpFile { };
 struct ShowLinkedRecords { };
 struct EndProgram { };
@@ -86,7 +88,7 @@ struct Inert { };
 
 using Action = std::variant<Inert, OpenScreen, OpenLaunchPad, EditColumns, ListReport, LaunchLinkAndSync,
     StartSibling, RequestReport, TextReport, OpenFile, OpenHelpFile, ShowLinkedRecords, EndProgram,
-    CloseFrame, HideListBar, DropDown, Restore>;
+    CloseFrame, HideListBar, DropDown, Restore, NewContact, EditContact>;
 
 struct Command {
     QStringView id;

@@ -3,6 +3,8 @@
 #include "core/frame.h"
 #include "core/paint_timing.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <utility>
 
@@ -86,6 +88,9 @@ bool Screens::mayCloseAll()
 void Screens::unloadAll()
 {
     const auto open = std::exchange(m_open, {});
+    // What a field does when it is left it does while its form is whole.
+    if (QWidget* focus = QApplication::focusWidget())
+        focus->clearFocus();
     for (const QPointer<Screen>& screen : open)
         delete screen.data();
 }

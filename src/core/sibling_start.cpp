@@ -18,8 +18,7 @@ bool startSibling(Context& context, const SiblingStart& start)
             context.data.execute(statement);
     }
     if (!isThere) {
-        if (start.whenMissing == WhenMissing::ShowProductPages)
-            context.screens.show(u"FrmProjectMsg", Shown::Modally);
+        context.screens.show(u"FrmProjectMsg", Shown::Modally);
         return false;
     }
     if (!desktop.startSibling(file))

@@ -13,7 +13,6 @@ inline constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
 struct SiblingStart {
     QStringView program; ///< its file
     QStringList statements = {}; ///< that leave word for it in the book
-    WhenMissing whenMissing = WhenMissing::ShowProductPages;
 };
 
 /// Starts the sibling and ends this program, when no open screen objects for something typed. A sibling that

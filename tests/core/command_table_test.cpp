@@ -47,7 +47,7 @@ struct Describe {
             text += u" key "_s % sibling.key;
         if (!sibling.keystroke.isEmpty())
             text += u" keystroke "_s % sibling.keystroke;
-        return text + (sibling.whenMissing == core::WhenMissing::Nothing ? u" or nothing"_s : u" or pages"_s);
+        return text;
     }
     QString operator()(const core::RequestReport& report) const { return u"request "_s % report.subModule; }
     QString operator()(const core::TextReport& report) const
@@ -61,6 +61,8 @@ struct Describe {
     QString operator()(const core::EndProgram&) const { return u"end"_s; }
     QString operator()(const core::CloseFrame&) const { return u"close"_s; }
     QString operator()(const core::HideListBar&) const { return u"hide list bar"_s; }
+    QString operator()(const core::NewContact&) const { return u"new contact"_s; }
+    QString operator()(const core::EditContact&) const { return u"edit contact"_s; }
     QString operator()(const core::Restore&) const { return u"restore"_s; }
     QString operator()(const core::Inert&) const { return u"nothing"_s; }
 };
@@ -175,11 +177,11 @@ void CommandTableTest::toolDoes_data()
     QTest::newRow("report of the list") << u"Pdt1"_s << u"list report Pdt1"_s;
     QTest::newRow("a report asks") << u"Letter"_s << u"ask, then link and sync"_s;
     QTest::newRow("an import does not ask") << u"LS-OutlookImp/Exp"_s << u"link and sync"_s;
-    QTest::newRow("export to Access") << u"ExpAcc"_s << u"start Orvane Link & Sync.exe or pages"_s;
-    QTest::newRow("the scheduler") << u"Diary"_s << u"start Orvane Scheduler.exe keystroke ^ or nothing"_s;
+    QTest::newRow("export to Access") << u"ExpAcc"_s << u"start Orvane Link & Sync.exe"_s;
+    QTest::newRow("the scheduler") << u"Diary"_s << u"start Orvane Scheduler.exe keystroke ^"_s;
     QTest::newRow("personal records")
-        << u"Pr-PhoneCard"_s << u"start Orvane PersonalRecords.exe key userdefined1 or pages"_s;
-    QTest::newRow("cities") << u"Info-Cities"_s << u"start Orvane Utility.exe key fomwinfo1 or pages"_s;
+        << u"Pr-PhoneCard"_s << u"start Orvane PersonalRecords.exe key userdefined1"_s;
+    QTest::newRow("cities") << u"Info-Cities"_s << u"start Orvane Utility.exe key fomwinfo1"_s;
     QTest::newRow("text file") << u"GenerateTextFile"_s << u"text with labels"_s;
     QTest::newRow("text file, values only") << u"GenerateTextFilewolabel"_s << u"text without labels"_s;
     QTest::newRow("product page") << u"OrvaneSuiteProductDetails"_s
@@ -188,7 +190,8 @@ void CommandTableTest::toolDoes_data()
     QTest::newRow("Close ends at once") << u"Close"_s << u"end"_s;
     QTest::newRow("Exit closes the frame") << u"Exit"_s << u"close"_s;
     QTest::newRow("this program") << u"Contacts"_s << u"nothing"_s;
-    QTest::newRow("only a drop-down") << u"DList"_s << u"nothing"_s;
+    QTest::newRow("only a drop-down") << u"DList"_s << u"drop ID_List"_s;
+    QTest::newRow("a new contact at once") << u"NewContact"_s << u"new contact"_s;
     QTest::newRow("only hides the list bar") << u"IndianCities"_s << u"hide list bar"_s;
     QTest::newRow("restore") << u"RestoreBackup"_s << u"restore"_s;
     QTest::newRow("a group is no tool") << u"ProgramDrop"_s << u"not listed"_s;

@@ -1,13 +1,16 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "core/handover/entry_form.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/action_performer.h"
 #include "core/shell/frame_settings.h"
 #include "core/shell/frmSplash.h"
+#include "core/shell/key_arbiter.h"
 #include "core/shell/launch_pages.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
+#include "core/shell/window_state.h"
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
 #include "support/screen_fixture.h"
@@ -46,6 +49,14 @@ public:
     bool mayGo = true;
 };
 
+class EntryScreen final : public core::Screen, public core::EntryForm {
+public:
+    using Screen::Screen;
+    void load() override { }
+    bool beginNew() override { return ++begun > 0; }
+    int begun = 0;
+};
+
 /// The frame itself, on the recording services of a screen fixture.
 class FrameFixture : public ScreenFixture {
 public:
@@ -71,7 +82,19 @@ public:
         QEvent activate(QEvent::WindowActivate);
         QApplication::sendEvent(&window, &activate);
     }
+    void showWhatIsToCome()
+    {
+        tool(u"ShowWhatIsToCome"_s)->trigger();
+        window.resize(2000, 800); // the tool bar with all its groups
+        QCoreApplication::processEvents();
+    }
     QAction* tool(const QString& id) { return window.findChild<QAction*>(id); }
+    void addTargets()
+    {
+        registry.add<TargetScreen>(u"FullView"_s);
+        registry.add<EntryScreen>(u"FormMain"_s);
+    }
+    void bringForward(const QString& form) { window.bringForward(registry.find(form)); }
     QTabWidget* tabs() { return window.findChild<QTabWidget*>(u"ScreenTabs"_s); }
     QString pane(const QString& name) { return window.findChild<QLabel*>(name)->text(); }
 
@@ -108,6 +131,12 @@ private Q_SLOTS:
     void launchPages_data();
     void launchPages();
     void launchPadStarts();
+    void askedForBothWays();
+    void keyOfTheScreenInFront();
+    void keysHaveOneOwner();
+    void noticeWithAWayBack();
+    void tabsComeBack();
+    void startPage();
     void everyCommand_data();
     void everyCommand();
     void splashTicks_data();
@@ -151,9 +180,8 @@ void FrameTest::actions_data()
     row("sibling absent leaves no key",
         core::StartSibling{.program = u"Orvane PersonalRecords.exe", .key = u"userdefined1"}, {}, {},
         u"0;"_s + pages + u";;;0;//"_s);
-    row("scheduler absent does nothing",
-        core::StartSibling{.program = u"Orvane Scheduler.exe", .whenMissing = core::WhenMissing::Nothing}, {},
-        {}, u"0;;;;0;//"_s);
+    row("scheduler absent", core::StartSibling{.program = u"Orvane Scheduler.exe"}, {}, {},
+        u"0;"_s + pages + u";;;0;//"_s);
     row("report", core::RequestReport{u"Address Book-Short"}, {linkAndSync}, {},
         u"1;;;"_s + linkAndSync + u";1;report/Contacts/Address Book-Short"_s);
     row("end", core::EndProgram{}, {}, {}, u"1;;;;1;//"_s);
@@ -264,6 +292,7 @@ void FrameTest::businessEdition()
     f.execute(u"insert into ov_setup (national,Business) values (true,%1)"_s.arg(
         business ? u"true"_s : u"false"_s));
     f.start();
+    f.showWhatIsToCome();
     QStringList hidden;
     for (const core::Command& command : core::toolCommands()) {
         if (!f.tool(command.id.toString())->isVisible())
@@ -294,6 +323,7 @@ void FrameTest::cityTools()
     FrameFixture f;
     f.execute(u"insert into ov_setup (national) values (%1)"_s.arg(national));
     f.start();
+    f.showWhatIsToCome();
     QStringList shown;
     for (const auto& id : {u"CitypinStd"_s, u"CitypinStdI"_s, u"CityUtility"_s}) {
         if (f.tool(id)->isVisible())
@@ -333,10 +363,25 @@ void FrameTest::toolsOfAbsentScreens()
     FrameFixture f;
     f.registry.add<TargetScreen>(u"FullView"_s);
     f.start();
+    // What can not be used is out of sight, with the pages on which nothing else stands.
     for (const core::Command& command : core::toolCommands()) {
-        QAction* tool = f.tool(command.id.toString());
-        QCOMPARE(tool->isEnabled(), f.window.canPerform(command.action));
+        const QAction* tool = f.tool(command.id.toString());
+        QVERIFY2(tool->isEnabled() == tool->isVisible(), qPrintable(command.id.toString()));
     }
+    const auto isShown
+        = [&f](const QString& name) { return f.window.findChild<QWidget*>(name)->isVisibleTo(&f.window); };
+    QVERIFY(f.window.findChild<QMenu*>(u"page_ID_AddBook"_s)->menuAction()->isVisible());
+    QVERIFY(!f.window.findChild<QMenu*>(u"page_ID_Letter"_s)->menuAction()->isVisible());
+    QVERIFY(isShown(u"group_ID_View"_s) && !isShown(u"group_E=Mail"_s));
+    QVERIFY(isShown(u"start_FullView"_s) && !isShown(u"start_Phone"_s));
+    auto* bar = f.window.findChild<QTreeWidget*>(u"ListBar"_s);
+    const auto letters = bar->findItems(u"Letters"_s, Qt::MatchExactly).first();
+    QVERIFY(letters->isHidden());
+    QVERIFY(bar->width() >= 190);
+    f.showWhatIsToCome();
+    for (const core::Command& command : core::toolCommands())
+        QCOMPARE(f.tool(command.id.toString())->isEnabled(), f.window.canPerform(command.action));
+    QVERIFY(!letters->isHidden() && isShown(u"group_E=Mail"_s) && isShown(u"start_Phone"_s));
     QVERIFY(f.tool(u"FullView"_s)->isEnabled());
     QVERIFY(!f.tool(u"Edit"_s)->isEnabled());
     f.tool(u"Edit"_s)->trigger();
@@ -448,7 +493,7 @@ void FrameTest::deferredKeys()
     QCOMPARE(screen != nullptr, opens);
     if (opens)
         QCOMPARE(screen->keyAtLoad, QString()); // blanked before it opens, so that it can not come for ever
-    QCOMPARE(f.book.rows(u"select [key] from ov_setup"_s), QStringList{QString()});
+    QCOMPARE(f.book.firstText(u"select [key] from ov_setup"_s), QString());
     Q_EMIT f.tabs()->tabCloseRequested(0);
     f.comeBack();
     QVERIFY(!f.registry.find(u"FormMain1"));
@@ -517,6 +562,7 @@ void FrameTest::launchPages()
         }
     }
     f.start();
+    f.showWhatIsToCome();
     f.tool(tool)->trigger();
     QCOMPARE(f.shared.LaunchMode, mode);
     auto* pad = f.registry.find(u"FrmLaunchDisk");
@@ -548,6 +594,189 @@ void FrameTest::launchPadStarts()
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(detailed).center());
     QVERIFY(f.registry.find(u"FormMain"));
     QCOMPARE(f.tabs()->count(), 2);
+    f.window.perform(core::OpenLaunchPad{u"From Edit"});
+    QCOMPARE(f.window.findChild<QLabel*>(u"LblTitle"_s)->text(), QString());
+    QCOMPARE(f.verify(), QString());
+}
+
+// Open and asked for again, either way: there is one of it, in sight.
+void FrameTest::askedForBothWays()
+{
+    FrameFixture f;
+    for (const auto& form : {u"FrmOthers"_s, u"FullView"_s, u"FormSearch"_s})
+        f.registry.add<StubbornScreen>(form);
+    f.start();
+    QVERIFY(f.registry.show(u"FrmOthers"));
+    QVERIFY(f.registry.show(u"FullView"));
+    QVERIFY(f.registry.show(u"FrmOthers", core::Shown::Modally));
+    QVERIFY(f.registry.find(u"FrmOthers")->isVisible() && f.tabs()->currentIndex() == 0);
+    QVERIFY(!f.window.findChild<QDialog*>());
+    QVERIFY(f.registry.show(u"FormSearch", core::Shown::Modally));
+    auto* dialog = f.window.findChild<QDialog*>();
+    QVERIFY(f.registry.show(u"FormSearch"));
+    QVERIFY(dialog->isVisible() && f.registry.find(u"FormSearch")->window() == dialog);
+    QCOMPARE(f.tabs()->count(), 2);
+    // From within a dialog a tab is out of reach, so it comes forward as one.
+    QVERIFY(f.registry.show(u"FullView", core::Shown::Modally));
+    const core::Screen* view = f.registry.find(u"FullView");
+    QVERIFY(view->isVisible());
+    QVERIFY(qobject_cast<QDialog*>(view->window()));
+    QCOMPARE(f.tabs()->count(), 1);
+    QTest::keyClick(view->window(), Qt::Key_Escape);
+    QTRY_VERIFY(!f.registry.find(u"FullView"));
+    QCOMPARE(f.verify(), QString());
+}
+
+// A key that frame and screen both have is the screen's, while it is in front and can use it.
+void FrameTest::keyOfTheScreenInFront()
+{
+    FrameFixture f;
+    f.registry.add<StubbornScreen>(u"FullView"_s);
+    f.registry.add<StubbornScreen>(u"FormSearch"_s);
+    f.start();
+    f.window.perform(core::OpenScreen{u"FullView"});
+    core::Screen* view = f.registry.find(u"FullView");
+    auto* find = new QAction(view);
+    find->setShortcut(QKeySequence(u"Ctrl+F"_s));
+    find->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    view->addAction(find);
+    int found = 0;
+    connect(find, &QAction::triggered, this, [&found] { ++found; });
+    view->setFocusPolicy(Qt::StrongFocus);
+    for (int i = 1; i <= 3; ++i) {
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(found, i);
+    }
+    QVERIFY(!f.registry.find(u"FormSearch"));
+    find->setEnabled(false);
+    QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(f.registry.find(u"FormSearch"));
+    QCOMPARE(found, 3);
+    QCOMPARE(f.verify(), QString());
+}
+
+// In the frame with each of its screens, at each place where the focus may be, no key has two owners.
+void FrameTest::keysHaveOneOwner()
+{
+    FrameFixture f(TestBook::Rows::Sample);
+    f.execute(u"update time_email set confirm=false"_s);
+    setup::registerSetup(f.registry);
+    entry::registerEntry(f.registry);
+    views::registerViews(f.registry);
+    f.start();
+    QStringList doubled;
+    const auto look = [&](const core::Screen* screen, QWidget* focus) {
+        QSet<QKeySequence> keys;
+        for (const QAction* action : f.window.findChildren<QAction*>())
+            keys << action->shortcut();
+        for (const QShortcut* shortcut : f.window.findChildren<QShortcut*>())
+            keys << shortcut->key();
+        keys.remove({});
+        for (const QKeySequence& key : std::as_const(keys)) {
+            QKeyEvent press(QEvent::ShortcutOverride, key[0].key(), key[0].keyboardModifiers());
+            QCoreApplication::sendEvent(focus, &press);
+            if (shell::ownersOfKey(&f.window, key).size() > 1)
+                doubled << screen->objectName() + u' ' + key.toString();
+        }
+    };
+    for (const QString& form : f.registry.names()) {
+        QVERIFY(f.registry.show(form));
+        QCoreApplication::processEvents();
+        core::Screen* screen = f.registry.find(form);
+        for (auto* tabs : screen->findChildren<QTabWidget*>()) {
+            for (int page = 0; page < tabs->count(); ++page) {
+                tabs->setCurrentIndex(page);
+                look(screen, screen->focusWidget() ? screen->focusWidget() : screen);
+            }
+        }
+        look(screen, screen);
+    }
+    doubled.removeDuplicates();
+    QCOMPARE(doubled, QStringList());
+    f.boxes.verify();
+}
+
+void FrameTest::noticeWithAWayBack()
+{
+    FrameFixture f;
+    f.start();
+    auto* label = f.window.findChild<QLabel*>(u"lblNotice"_s);
+    int undone = 0;
+    const QString name = u"<b>Asha</b> "_s + QString(4000, u'x');
+    f.window.showNotice(u"Saved "_s + name, u"Undo"_s, [&] { ++undone; });
+    QVERIFY(label->isVisible() && label->textFormat() == Qt::PlainText);
+    QVERIFY(label->text().startsWith(u"Saved <b>Asha") && f.window.width() <= 1240);
+    QTest::keyClick(&f.window, Qt::Key_F8);
+    QCOMPARE(undone, 1);
+    QVERIFY(!label->isVisible());
+    f.window.showNotice(u"Saved"_s);
+    QVERIFY(label->isVisible() && !f.window.findChild<QToolButton*>(u"cmdNotice"_s)->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!label->isVisible(), 9500);
+}
+
+// Ctrl+W, the middle button, and the tabs of the last run.
+void FrameTest::tabsComeBack()
+{
+    FrameFixture f;
+    const auto add = [](core::Screens& registry) {
+        for (const auto& form : {u"FullView"_s, u"FormSearch"_s, u"frmNoteView"_s})
+            registry.add<StubbornScreen>(form);
+    };
+    add(f.registry);
+    f.start();
+    for (const auto& form : {u"FullView"_s, u"FormSearch"_s, u"frmNoteView"_s})
+        QVERIFY(f.registry.show(form));
+    f.bringForward(u"FullView"_s);
+    QVERIFY(f.window.close());
+    {
+        shell::MDIForm1 next;
+        core::Screens registry;
+        core::Context all{
+            f.book.data(), f.book.data(), f.schema, f.shared, registry, next, f.context.services};
+        registry.setContext(all);
+        add(registry);
+        next.build(all);
+        next.loadFrame();
+        next.show();
+        next.activateWindow();
+        auto* tabs = next.findChild<QTabWidget*>(u"ScreenTabs"_s);
+        // A note has nothing to show without somebody who says whose.
+        QTRY_COMPARE(tabs->count(), 2);
+        QCOMPARE(tabs->currentWidget()->objectName(), u"FullView"_s);
+        QTest::keyClick(&next, Qt::Key_W, Qt::ControlModifier);
+        QCOMPARE(tabs->count(), 1);
+        QTest::mouseClick(tabs->tabBar(), Qt::MiddleButton, {}, tabs->tabBar()->tabRect(0).center());
+        QCOMPARE(tabs->count(), 0);
+        registry.unloadAll();
+    }
+    QCOMPARE(shell::withinScreen({-500, 20, 3000, 600}, {0, 0, 1024, 768}), QRect(0, 20, 1024, 600));
+}
+
+void FrameTest::startPage()
+{
+    FrameFixture f;
+    f.addTargets();
+    f.start();
+    auto* first = f.window.findChild<QToolButton*>(u"cmdFirstContact"_s);
+    QTRY_VERIFY(first->isVisible());
+    QTest::mouseClick(first, Qt::LeftButton);
+    auto* form = dynamic_cast<EntryScreen*>(f.registry.find(u"FormMain"));
+    QVERIFY(form && form->begun == 1);
+    f.execute(
+        u"insert into cnt_main (name,mobile,datemodi) values ('Asha O''Hara','98 100',#01-feb-2023#)"_s);
+    f.execute(u"insert into cnt_main (name,datemodi) values ('<i>Bela</i>',#01-mar-2024#)"_s);
+    QTest::keyClick(&f.window, Qt::Key_W, Qt::ControlModifier);
+    auto* list = f.window.findChild<QListWidget*>(u"lstStartContacts"_s);
+    QTRY_COMPARE(list->count(), 1);
+    QCOMPARE(list->item(0)->text(), u"<i>Bela</i>"_s);
+    QVERIFY(!first->isVisible());
+    QCOMPARE(f.pane(u"lblContacts"_s), u"2 contacts"_s);
+    auto* search = f.window.findChild<QLineEdit*>(u"txtStartSearch"_s);
+    QTest::keyClicks(search, u"o'h"_s);
+    QTRY_COMPARE(list->item(0)->text(), u"Asha O'Hara"_s);
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(dynamic_cast<TargetScreen*>(f.registry.find(u"FullView"))->contacts, QList<qint64>{1});
     QCOMPARE(f.verify(), QString());
 }
 
@@ -582,6 +811,10 @@ void FrameTest::everyCommand()
             if (launch && launch->ask == core::Ask::Yes)
                 f.boxes.expect(
                     u"Do you wish to close  Orvane Contact and Open Orvane Link & Sync? "_s, Answer::Yes);
+            if (std::holds_alternative<core::EditContact>(command.action)) {
+                f.shared.selectedContactId = 0;
+                f.boxes.expect(u"Record not selected"_s);
+            }
             f.window.perform(command.action);
             ++performed;
             QCoreApplication::processEvents();

@@ -20,7 +20,9 @@ FrmLaunchDisk::FrmLaunchDisk(core::Context& context, QWidget* parent)
 {
     LblFrmDesc->setObjectName(u"LblFrmDesc"_s);
     LblFrmDesc->setWordWrap(true);
+    LblFrmDesc->setTextFormat(Qt::PlainText);
     LblTitle->setObjectName(u"LblTitle"_s);
+    LblTitle->setTextFormat(Qt::PlainText);
     LblTitle->setMinimumHeight(LblTitle->fontMetrics().lineSpacing());
     Grid1->setObjectName(u"Grid1"_s);
     Grid1->setAccessibleName(tr("Commands"));
@@ -55,6 +57,8 @@ void FrmLaunchDisk::showPage()
     setWindowTitle(QCoreApplication::translate("shell", page->title));
     LblFrmDesc->setText(
         context().data.openRecordset(launchDescriptionSql(*page)).textOrEmpty(u"Description"));
+    // The command that the mouse rested on is not on this page.
+    LblTitle->clear();
     Grid1->clearTiles();
     jet::Recordset rows = context().data.openRecordset(launchRowsSql(*page));
     for (; !rows.eof(); rows.moveNext()) {

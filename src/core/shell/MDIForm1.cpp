@@ -1,13 +1,19 @@
 #include "core/shell/MDIForm1.h"
 
 #include "core/date_patterns.h"
+#include "core/handover/contact_screen.h"
 #include "core/paint_timing.h"
 #include "core/screens.h"
 #include "core/shell/frame_settings.h"
+#include "core/shell/key_arbiter.h"
 #include "core/shell/list_bar.h"
+#include "core/shell/menu_table.h"
+#include "core/shell/notice_strip.h"
+#include "core/shell/screen_tabs.h"
 #include "core/shell/start_page.h"
 #include "core/shell/tool_actions.h"
 #include "core/shell/undo_command.h"
+#include "core/shell/window_state.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
@@ -26,13 +32,14 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
-#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -63,42 +70,30 @@ constexpr BarGroup kBarGroups[] = {
     {u"ID_Setup", u"Setup", u"setup", QT_TRANSLATE_NOOP("shell", "Setup")},
 };
 
-/// The menu bar: a few menus, each holding pages of the tool bar table.
-struct BarMenu {
-    const char* caption;
-    std::initializer_list<QStringView> pages;
-};
-const BarMenu kBarMenus[] = {
-    {QT_TRANSLATE_NOOP("shell", "&Contacts"),
-        {u"ID_AddM", u"ID_AddBasic", u"ID_Edit", u"AddressBook", u"Data", u"ID_DataTransfer"}},
-    {QT_TRANSLATE_NOOP("shell", "&View"),
-        {u"ID_AddBook", u"ID_ViewOther", u"ID_List", u"ID_Lookup", u"BirthdayList1"}},
-    {QT_TRANSLATE_NOOP("shell", "C&ommunicate"),
-        {u"ID_PDialer", u"ID_PhoneDialer", u"ID_Letter", u"ID_EMails"}},
-    {QT_TRANSLATE_NOOP("shell", "&Tools"),
-        {u"Functions", u"OtherFunctions", u"ID_Report", u"Setup", u"Programs"}},
-};
-
-/// Short ways to the most used tools.
-struct MenuItem {
-    QStringView name;
-    QStringView tool;
-};
-constexpr MenuItem kMenuItems[] = {
-    {u"addbook", u"Addbook"},
-    {u"blist", u"BirthdayList"},
-    {u"Email", u"EMails"},
-    {u"ftree", u"FamilyTree"},
-    {u"Letters", u"Letters"},
-    {u"Lk", u"Linked"},
-    {u"pdialer", u"Phone"},
-};
-
-constexpr int kNoticeMs = 8000;
-
 QString translated(const char* text)
 {
     return QCoreApplication::translate("shell", text);
+}
+
+/// An entry of a menu that does what a tool does, and is there when the tool is.
+void followTool(QAction* entry, QAction* tool)
+{
+    entry->setIcon(tool->icon());
+    entry->setToolTip(tool->toolTip());
+    entry->setEnabled(tool->isEnabled());
+    entry->setVisible(tool->isVisible());
+    // The key is the tool's; here it is only told.
+    entry->setText(entry->text() + u'\t' + tool->shortcut().toString(QKeySequence::NativeText));
+    QObject::connect(entry, &QAction::triggered, tool, &QAction::trigger);
+    QObject::connect(
+        tool, &QAction::visibleChanged, entry, [entry, tool] { entry->setVisible(tool->isVisible()); });
+}
+
+/// The tool by which the screen deletes what it shows, when it has something to delete.
+QAction* deletingTool(const core::Screen* screen)
+{
+    auto* tool = screen ? screen->findChild<QAction*>(u"Delete"_s) : nullptr;
+    return tool && tool->isEnabled() ? tool : nullptr;
 }
 
 /// Holds a screen that is shown modally, and asks it before it closes, by whatever way.
@@ -113,6 +108,7 @@ public:
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(screen);
+        screen->show(); // one that was a tab was hidden when it left
         // A dialog that sizes itself stays below two thirds of the display, which is too small for some.
         resize(sizeHint().boundedTo(parent->size()));
         connect(screen, &core::Screen::closeRequested, this, &QDialog::close);
@@ -128,6 +124,14 @@ public:
 private:
     core::Screen* m_screen;
 };
+
+bool isBehindADialog(const QWidget* frame)
+{
+    const auto dialogs = frame->findChildren<QDialog*>();
+    return QApplication::activeModalWidget() || std::ranges::any_of(dialogs, [](const QDialog* dialog) {
+        return dialog->isVisible() && dialog->isModal();
+    });
+}
 
 } // namespace
 
@@ -152,35 +156,41 @@ void MDIForm1::build(core::Context& context)
     connect(m_tools, &ToolActions::triggered, this,
         [this](const QString& id) { perform(*core::toolAction(id)); });
 
-    auto* listBar = new ListBar(isAvailable);
+    m_listBar = new ListBar(isAvailable);
     m_listBarDock = new QDockWidget(tr("Areas"), this);
     m_listBarDock->setObjectName(u"ListBarDock"_s);
-    m_listBarDock->setWidget(listBar);
+    m_listBarDock->setWidget(m_listBar);
     m_listBarDock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
     addDockWidget(Qt::LeftDockWidgetArea, m_listBarDock);
-    connect(listBar, &ListBar::chosen, this, [this](const core::Action& action) { perform(action); });
+    connect(m_listBar, &ListBar::chosen, this, [this](const core::Action& action) { perform(action); });
     connect(m_performer, &ActionPerformer::listBarHidden, m_listBarDock, &QWidget::hide);
 
-    m_startPage = new StartPage(isAvailable);
+    m_startPage = new StartPage(context, isAvailable);
     connect(m_startPage, &StartPage::toolWanted, this,
         [this](const QString& id) { perform(*core::toolAction(id)); });
-    m_tabs = new QTabWidget;
-    m_tabs->setObjectName(u"ScreenTabs"_s);
-    m_tabs->setDocumentMode(true);
-    m_tabs->setTabsClosable(true);
-    m_tabs->setMovable(true);
+    connect(m_startPage, &StartPage::contactWanted, this, &MDIForm1::showContact);
+    m_tabs = new ScreenTabs;
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MDIForm1::closeTab);
     connect(m_tabs, &QTabWidget::currentChanged, this, &MDIForm1::showHead);
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_startPage);
     m_pages->addWidget(m_tabs);
-    setCentralWidget(m_pages);
+    // A screen is as large as the frame lets it be; none makes the frame larger than the display.
+    m_pages->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    m_notice = new NoticeStrip;
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_notice);
+    setCentralWidget(centre);
 
     buildToolBar();
     buildMenus();
     buildPanes();
     resize(1240, 780);
-    recallWindow();
+    windowState().recallWindow(*this);
     core::reportFirstPaint(this);
 }
 
@@ -212,64 +222,101 @@ void MDIForm1::buildToolBar()
         QAction* placed = SSActiveToolBars1->addWidget(button);
         connect(tool, &QAction::visibleChanged, placed,
             [tool, placed] { placed->setVisible(tool->isVisible()); });
+        placed->setVisible(tool->isVisible());
+    }
+}
+
+void MDIForm1::fillMenu(QMenu* menu, std::span<const MenuRow> rows)
+{
+    for (const MenuRow& row : rows) {
+        if (row.kind == MenuRow::Kind::Line) {
+            menu->addSeparator();
+            continue;
+        }
+        if (row.kind == MenuRow::Kind::Page) {
+            QMenu* page = m_tools->page(row.id);
+            if (row.caption)
+                page->setTitle(translated(row.caption));
+            menu->addMenu(page);
+            continue;
+        }
+        QAction* tool = row.id.isEmpty() ? nullptr : m_tools->action(row.id);
+        if (tool && !row.caption) {
+            menu->addAction(tool);
+            continue;
+        }
+        QAction* entry = menu->addAction(translated(row.caption));
+        entry->setObjectName(row.name.isEmpty() ? u"menu_"_s + row.id.toString() : row.name.toString());
+        if (tool)
+            followTool(entry, tool);
     }
 }
 
 void MDIForm1::buildMenus()
 {
-    for (const BarMenu& bar : kBarMenus) {
-        QMenu* menu = menuBar()->addMenu(translated(bar.caption));
-        for (const QStringView page : bar.pages)
-            menu->addMenu(m_tools->page(page));
+    m_keys = new KeyArbiter([this]() -> QWidget* { return screenInFront(); }, this);
+    const auto add = [this](const QString& caption, std::span<const MenuRow> rows) {
+        QMenu* menu = menuBar()->addMenu(caption);
+        fillMenu(menu, rows);
+        return menu;
+    };
+    QMenu* contacts = add(tr("&Contacts"), contactsMenu());
+    auto* deleting = contacts->findChild<QAction*>(u"DeleteContact"_s);
+    widgets::setIcon(deleting, u"delete");
+    connect(deleting, &QAction::triggered, this, &MDIForm1::deleteInFront);
+    connect(contacts, &QMenu::aboutToShow, this,
+        [this, deleting] { deleting->setEnabled(deletingTool(screenInFront()) != nullptr); });
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    new UndoCommand(*m_context, edit);
+    edit->addSeparator();
+    followTool(edit->addAction(tr("&Find")), m_tools->action(u"Search"));
+    followTool(edit->addAction(tr("&Set-up")), m_tools->action(u"CSetup"));
+    buildViewMenu(add(tr("&View"), viewMenu()));
+    add(tr("C&ommunicate"), communicateMenu());
+    add(tr("&Tools"), toolsMenu());
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    for (QAction* action : m_tools->page(u"Help")->actions())
+        help->addAction(action);
+    help->addMenu(m_tools->page(u"ID_Inormation"));
+    // Shortcuts work also while their menu was never opened, unless the screen in front has the same.
+    for (const auto& command : core::toolCommands()) {
+        QAction* action = m_tools->action(command.id);
+        addAction(action);
+        if (!action->shortcut().isEmpty())
+            m_keys->add(action);
     }
-    QMenu* view = menuBar()->actions().at(1)->menu();
-    view->addSeparator();
+    for (QAction* action : edit->actions())
+        m_keys->add(action);
+}
+
+void MDIForm1::buildViewMenu(QMenu* view)
+{
     QAction* listBar = m_listBarDock->toggleViewAction();
     listBar->setObjectName(u"ShowListBar"_s);
-    listBar->setText(tr("&List bar"));
+    listBar->setText(tr("&Areas at the side"));
     view->addAction(listBar);
     QAction* dark = view->addAction(tr("&Dark colours"));
     dark->setObjectName(u"DarkLook"_s);
     dark->setCheckable(true);
     dark->setChecked(widgets::currentLook() == widgets::Look::Dark);
     connect(dark, &QAction::toggled, this, &MDIForm1::toggleLook);
-    QMenu* contacts = menuBar()->actions().at(0)->menu();
-    contacts->addSeparator();
-    contacts->addAction(m_tools->action(u"RestoreBackup"));
-    contacts->addAction(m_tools->action(u"Exit"));
-    QMenu* edit = new QMenu(tr("&Edit"), this);
-    new UndoCommand(*m_context, edit);
-    menuBar()->insertMenu(view->menuAction(), edit);
-    addGoMenu();
-    QMenu* help = menuBar()->addMenu(translated("&Help"));
-    for (QAction* action : m_tools->page(u"Help")->actions())
-        help->addAction(action);
-    help->addMenu(m_tools->page(u"ID_Inormation"));
-    // Shortcuts work also while their menu was never opened.
-    for (const auto& command : core::toolCommands()) {
-        if (QAction* action = m_tools->action(command.id))
-            addAction(action);
-    }
-}
-
-void MDIForm1::addGoMenu()
-{
-    QMenu* go = menuBar()->addMenu(tr("&Go"));
-    for (const MenuItem& item : kMenuItems) {
-        const QAction* tool = m_tools->action(item.tool);
-        QAction* action = go->addAction(tool->icon(), tool->text());
-        action->setObjectName(item.name.toString());
-        action->setEnabled(tool->isEnabled());
-        connect(action, &QAction::triggered, tool, &QAction::trigger);
-        connect(tool, &QAction::visibleChanged, action,
-            [tool, action] { action->setVisible(tool->isVisible()); });
-    }
+    QAction* toCome = view->addAction(tr("Show what is still to &come"));
+    toCome->setObjectName(u"ShowWhatIsToCome"_s);
+    toCome->setCheckable(true);
+    connect(toCome, &QAction::toggled, this, &MDIForm1::showWhatIsToCome);
+    toCome->setChecked(windowState().showsAll());
+    QAction* closing = view->addAction(tr("Close the &tab"));
+    closing->setObjectName(u"CloseTab"_s);
+    closing->setShortcut(QKeySequence(u"Ctrl+W"_s));
+    connect(closing, &QAction::triggered, this, [this] { closeTab(m_tabs->currentIndex()); });
+    m_keys->add(closing);
 }
 
 void MDIForm1::buildPanes()
 {
     m_positionPane = new QLabel;
     m_positionPane->setObjectName(u"PositionPane"_s);
+    m_positionPane->setTextFormat(Qt::PlainText);
     m_positionPane->setMinimumWidth(110);
     m_datePane = new QLabel;
     m_datePane->setObjectName(u"DatePane"_s);
@@ -326,32 +373,56 @@ void MDIForm1::activate()
 {
     if (!std::exchange(m_wasActivated, true))
         Q_EMIT firstActivated();
+    // Behind the first picture of the frame, which nobody should wait for.
+    if (std::exchange(m_hasLastScreens, false))
+        QTimer::singleShot(0, this, &MDIForm1::openLastScreens);
     const QString key = takeDeferredKey(m_context->data);
     if (const core::Action* action = core::keyAction(key))
         perform(*action);
 }
 
+// A screen that is open stays where it is, whichever way it is asked for. Only from within a dialog, which
+// lets nothing behind it be reached, a tab becomes a dialog too.
 void MDIForm1::place(core::Screen* screen, core::Shown shown)
 {
-    if (shown == core::Shown::Modally) {
+    const int index = m_tabs->indexOf(screen);
+    const bool isOutOfReach = index >= 0 && isBehindADialog(this);
+    if (index >= 0 && !isOutOfReach) {
+        m_tabs->setCurrentIndex(index);
+    } else if (auto* dialog = dynamic_cast<ScreenDialog*>(screen->window()); dialog && dialog->isVisible()) {
+        dialog->raise();
+        dialog->activateWindow();
+    } else if (shown == core::Shown::Modally || isOutOfReach) {
+        if (index >= 0) {
+            m_tabs->removeTab(index);
+            disconnect(screen, nullptr, this, nullptr);
+            showTabOrStartPage();
+        }
         (new ScreenDialog(screen, this))->open();
         return;
+    } else {
+        addTab(screen);
     }
-    int index = m_tabs->indexOf(screen);
-    if (index < 0) {
-        widgets::settleMnemonics(screen, menuLetters());
-        index = m_tabs->addTab(screen, screen->windowTitle());
-        connect(screen, &QWidget::windowTitleChanged, m_tabs, [this, screen](const QString& title) {
-            m_tabs->setTabText(m_tabs->indexOf(screen), title);
-            showHead();
-        });
-        connect(screen, &core::Screen::closeRequested, this,
-            [this, screen] { closeTab(m_tabs->indexOf(screen)); });
-        connect(screen, &core::Screen::headChanged, this, &MDIForm1::showHead);
-    }
-    m_tabs->setCurrentIndex(index);
     showTabOrStartPage();
     screen->setFocus();
+}
+
+void MDIForm1::addTab(core::Screen* screen)
+{
+    widgets::settleMnemonics(screen, menuLetters());
+    m_tabs->setCurrentIndex(m_tabs->addTab(screen, screen->windowTitle()));
+    connect(screen, &QWidget::windowTitleChanged, this, [this, screen](const QString& title) {
+        m_tabs->setTabText(m_tabs->indexOf(screen), title);
+        showHead();
+    });
+    connect(
+        screen, &core::Screen::closeRequested, this, [this, screen] { closeTab(m_tabs->indexOf(screen)); });
+    connect(screen, &core::Screen::headChanged, this, &MDIForm1::showHead);
+}
+
+core::Screen* MDIForm1::screenInFront() const
+{
+    return qobject_cast<core::Screen*>(m_tabs->currentWidget());
 }
 
 void MDIForm1::bringForward(core::Screen* screen)
@@ -390,7 +461,7 @@ void MDIForm1::showTabOrStartPage()
 
 void MDIForm1::showHead()
 {
-    const auto* screen = qobject_cast<core::Screen*>(m_tabs->currentWidget());
+    const core::Screen* screen = screenInFront();
     const QString title = screen ? screen->frameTitle() : QString();
     setWindowTitle(title.isEmpty() ? tr("Orvane Contacts") : title + u" - "_s + tr("Orvane Contacts"));
     m_positionPane->setText(screen ? screen->position() : QString());
@@ -402,9 +473,23 @@ void MDIForm1::showToday()
         m_context->services.clock.today(), core::datePattern(m_context->shared.NationalMode)));
 }
 
-void MDIForm1::showNotice(const QString& text, const QString&, std::function<void()>)
+void MDIForm1::showNotice(const QString& text, const QString& actionText, std::function<void()> action)
 {
-    statusBar()->showMessage(text, kNoticeMs);
+    m_notice->showNotice(text, actionText, std::move(action));
+}
+
+void MDIForm1::showContact(qint64 id)
+{
+    if (auto* view = m_context->screens.load<core::ContactScreen>(u"FullView")) {
+        view->showContact(id);
+        m_context->screens.show(u"FullView");
+    }
+}
+
+void MDIForm1::deleteInFront()
+{
+    if (QAction* tool = deletingTool(screenInFront()))
+        tool->trigger();
 }
 
 void MDIForm1::undoLastChange()
@@ -430,27 +515,49 @@ void MDIForm1::dropDown(const QString& page)
 void MDIForm1::toggleLook(bool dark)
 {
     widgets::apply(*qApp, dark ? widgets::Look::Dark : widgets::Look::Light);
-    QSettings(windowStateFile(), QSettings::IniFormat).setValue(u"look"_s, dark ? u"dark"_s : u"light"_s);
+    windowState().rememberLook(dark);
 }
 
-// Only how the window looks on this computer is kept here; what the program does is set in the book.
-QString MDIForm1::windowStateFile() const
+void MDIForm1::showWhatIsToCome(bool shown)
 {
-    return QDir(m_context->services.drive.programFolder()).filePath(u"window.ini"_s);
+    m_tools->showWhatIsToCome(shown);
+    m_listBar->showWhatIsToCome(shown);
+    m_startPage->showWhatIsToCome(shown);
+    windowState().rememberShowingAll(shown);
+}
+
+WindowState MDIForm1::windowState() const
+{
+    return WindowState(QDir(m_context->services.drive.programFolder()).filePath(u"window.ini"_s));
 }
 
 void MDIForm1::rememberWindow() const
 {
-    QSettings state(windowStateFile(), QSettings::IniFormat);
-    state.setValue(u"geometry"_s, saveGeometry());
-    state.setValue(u"panes"_s, saveState());
+    windowState().rememberWindow(*this);
+    QStringList forms;
+    for (int i = 0; i < m_tabs->count(); ++i)
+        forms << m_tabs->widget(i)->objectName();
+    const core::Screen* inFront = screenInFront();
+    windowState().rememberScreens(forms, inFront ? inFront->objectName() : QString());
 }
 
-void MDIForm1::recallWindow()
+// Those that a tool opens; others need somebody who tells them what to show.
+void MDIForm1::openLastScreens()
 {
-    const QSettings state(windowStateFile(), QSettings::IniFormat);
-    restoreGeometry(state.value(u"geometry"_s).toByteArray());
-    restoreState(state.value(u"panes"_s).toByteArray());
+    const auto opens = [](const core::Command& command, const QString& form) {
+        const auto* open = std::get_if<core::OpenScreen>(&command.action);
+        return open && open->form == form && open->page.isEmpty();
+    };
+    const auto commands = core::toolCommands();
+    const WindowState state = windowState();
+    for (const QString& form : state.screens()) {
+        const auto command
+            = std::ranges::find_if(commands, [&](const core::Command& each) { return opens(each, form); });
+        if (command != commands.end() && !m_context->screens.find(form))
+            perform(command->action);
+    }
+    if (core::Screen* inFront = m_context->screens.find(state.screenInFront()))
+        bringForward(inFront);
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event)

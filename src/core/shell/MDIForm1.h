@@ -5,17 +5,24 @@
 
 #include <QMainWindow>
 
+#include <span>
+
 class QDockWidget;
 class QLabel;
+class QMenu;
 class QStackedWidget;
-class QTabWidget;
 class QToolBar;
 
 namespace shell {
 
+class KeyArbiter;
 class ListBar;
+struct MenuRow;
+class NoticeStrip;
+class ScreenTabs;
 class StartPage;
 class ToolActions;
+class WindowState;
 
 /// The frame of the program: tool bar and menus from the tool bar table, the list bar, the status panes, and
 /// the screens as tabs. Built while the splash waits; reads nothing before loadFrame().
@@ -53,19 +60,25 @@ private:
     void buildToolBar();
     void buildMenus();
     void buildPanes();
-    void addGoMenu();
+    void buildViewMenu(QMenu* view);
+    void fillMenu(QMenu* menu, std::span<const MenuRow> rows);
     void activate();
     void dropDown(const QString& page);
     QString menuLetters() const;
+    void addTab(core::Screen* screen);
     void closeTab(int index);
+    void showContact(qint64 id);
+    void deleteInFront();
+    void openLastScreens();
+    core::Screen* screenInFront() const;
     void showTabOrStartPage();
     void showHead(); ///< title and position of the screen in front
     void showToday();
     void toggleLook(bool dark);
     void offerDueMails();
+    void showWhatIsToCome(bool shown);
     void rememberWindow() const;
-    void recallWindow();
-    QString windowStateFile() const;
+    WindowState windowState() const;
 
     core::Context* m_context = nullptr;
     ActionPerformer* m_performer = nullptr;
@@ -74,11 +87,15 @@ private:
     QDockWidget* m_listBarDock = nullptr;
     QStackedWidget* m_pages = nullptr;
     StartPage* m_startPage = nullptr;
-    QTabWidget* m_tabs = nullptr;
+    ScreenTabs* m_tabs = nullptr;
+    NoticeStrip* m_notice = nullptr;
+    ListBar* m_listBar = nullptr;
+    KeyArbiter* m_keys = nullptr;
     QLabel* m_positionPane = nullptr;
     QLabel* m_datePane = nullptr;
     bool m_loaded = false;
     bool m_wasActivated = false;
+    bool m_hasLastScreens = true; ///< of the last run, not yet opened again
 };
 
 } // namespace shell

@@ -1,6 +1,8 @@
 #include "core/shell/action_performer.h"
 
 #include "core/frame.h"
+#include "core/handover/contact_screen.h"
+#include "core/handover/entry_form.h"
 #include "core/handover/page_screen.h"
 #include "core/screens.h"
 #include "core/sibling_start.h"
@@ -15,6 +17,7 @@ namespace shell {
 
 namespace {
 
+constexpr QStringView kEntryForm = u"FormMain";
 constexpr QStringView kHelpFile = u"\\UserFiles\\Help\\OrvaneHelp.chm";
 
 /// The screen that an action needs; empty for an action that needs none.
@@ -24,6 +27,8 @@ struct ScreenNeeded {
     QStringView operator()(const core::EditColumns&) const { return u"FormUserEdit"; }
     QStringView operator()(const core::ListReport&) const { return u"FrmAddFullRptView"; }
     QStringView operator()(const core::ShowLinkedRecords&) const { return u"frmCntViewer"; }
+    QStringView operator()(const core::NewContact&) const { return kEntryForm; }
+    QStringView operator()(const core::EditContact&) const { return kEntryForm; }
     template <class Other> QStringView operator()(const Other&) const { return {}; }
 };
 
@@ -105,7 +110,7 @@ bool ActionPerformer::run(const core::StartSibling& start)
     QStringList statements;
     if (!start.key.isEmpty() && m_context.services.shell.siblingExists(u'\\' + start.program.toString()))
         statements << u"update ov_setup set key='"_s + start.key.toString() + u"'"_s;
-    return core::startSibling(m_context, {start.program, statements, start.whenMissing});
+    return core::startSibling(m_context, {start.program, statements});
 }
 
 bool ActionPerformer::run(const core::RequestReport& request)
@@ -163,6 +168,27 @@ bool ActionPerformer::run(const core::DropDown& drop)
 {
     Q_EMIT dropDownWanted(drop.toolBarPage.toString());
     return true;
+}
+
+bool ActionPerformer::run(const core::NewContact&)
+{
+    if (!m_context.screens.show(kEntryForm))
+        return false;
+    auto* form = m_context.screens.find<core::EntryForm>(kEntryForm);
+    return form && form->beginNew();
+}
+
+bool ActionPerformer::run(const core::EditContact&)
+{
+    const qint64 id = m_context.shared.selectedContactId;
+    auto* form = m_context.screens.load<core::ContactScreen>(kEntryForm);
+    if (!form)
+        return false;
+    if (id == 0 || !form->showContact(id)) {
+        m_context.services.boxes.information(tr("Record not selected"), m_context.shared.AppTitle);
+        return false;
+    }
+    return m_context.screens.show(kEntryForm);
 }
 
 bool ActionPerformer::run(const core::Restore&)

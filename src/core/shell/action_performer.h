@@ -42,6 +42,8 @@ private:
     bool run(const core::HideListBar& hide);
     bool run(const core::DropDown& drop);
     bool run(const core::Restore& restore);
+    bool run(const core::NewContact& create);
+    bool run(const core::EditContact& edit);
 
     bool openScreen(QStringView form, QStringView page, core::Shown shown = core::Shown::Modelessly);
 

@@ -7,12 +7,20 @@
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
+using namespace Qt::StringLiterals;
+
 namespace shell {
 
 namespace {
 
 constexpr int kDescription = Qt::UserRole + 1;
 constexpr QSize kTile(300, 100);
+
+/// A tip would read stored text as markup, unless it is markup itself.
+QString plainTip(const QString& text)
+{
+    return u"<span>"_s + text.toHtmlEscaped() + u"</span>"_s;
+}
 
 class TileDelegate final : public QStyledItemDelegate {
 public:
@@ -88,7 +96,7 @@ void LaunchGrid::addTile(
     tile->setEditable(false);
     tile->setEnabled(available);
     tile->setData(description, kDescription);
-    tile->setToolTip(available ? description : tr("Not available yet"));
+    tile->setToolTip(available ? plainTip(description) : tr("Not available yet"));
     m_tiles->appendRow(tile);
 }
 

@@ -59,12 +59,28 @@ ListBar::ListBar(const IsAvailable& isAvailable, QWidget* parent)
     }
     for (int area = 0; area < 3; ++area)
         topLevelItem(area)->setExpanded(true);
+    setMinimumWidth(minimumSizeHint().width());
+    showWhatIsToCome(false);
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { start(item); });
     connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
         // A click is enough for the mouse; this is the way of the keyboard.
         if (!(QGuiApplication::mouseButtons() & Qt::LeftButton) && hasFocus() && item->childCount() == 0)
             start(item);
     });
+}
+
+void ListBar::showWhatIsToCome(bool shown)
+{
+    for (int area = 0; area < topLevelItemCount(); ++area) {
+        QTreeWidgetItem* top = topLevelItem(area);
+        bool offersSomething = false;
+        for (int row = 0; row < top->childCount(); ++row) {
+            const bool isThere = shown || !top->child(row)->isDisabled();
+            top->child(row)->setHidden(!isThere);
+            offersSomething = offersSomething || isThere;
+        }
+        top->setHidden(!offersSomething);
+    }
 }
 
 void ListBar::start(const QTreeWidgetItem* item)

@@ -1,10 +1,15 @@
 #include "core/shell/start_page.h"
 
+#include "core/shell/start_page_rows.h"
+#include "platform/clock.h"
 #include "widgets/theme.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -15,6 +20,11 @@ namespace shell {
 
 namespace {
 
+constexpr int kTypedMs = 150;
+// One letter finds nearly everybody.
+constexpr int kLeastTyped = 2;
+constexpr int kMostShown = 10;
+
 struct Favourite {
     QStringView tool;
     const char* caption;
@@ -22,7 +32,7 @@ struct Favourite {
     QStringView icon;
 };
 constexpr Favourite kFavourites[] = {
-    {u"Edit", QT_TRANSLATE_NOOP("shell", "New contact"),
+    {u"NewContact", QT_TRANSLATE_NOOP("shell", "New contact"),
         QT_TRANSLATE_NOOP("shell", "Enter a contact with all its details"), u"person-add"},
     {u"FullView", QT_TRANSLATE_NOOP("shell", "Full view"),
         QT_TRANSLATE_NOOP("shell", "Look through the contacts one by one"), u"persons"},
@@ -42,9 +52,16 @@ constexpr Favourite kFavourites[] = {
 
 } // namespace
 
-StartPage::StartPage(const std::function<bool(const core::Action&)>& isAvailable, QWidget* parent)
+StartPage::StartPage(
+    core::Context& context, const std::function<bool(const core::Action&)>& isAvailable, QWidget* parent)
     : QWidget(parent)
+    , m_context(context)
     , m_day(new QLabel(this))
+    , m_count(new QLabel(this))
+    , m_search(new QLineEdit(this))
+    , m_heading(new QLabel(this))
+    , m_contacts(new QListWidget(this))
+    , m_first(new QToolButton(this))
 {
     setObjectName(u"StartPage"_s);
     m_day->setObjectName(u"lblToday"_s);
@@ -52,45 +69,174 @@ StartPage::StartPage(const std::function<bool(const core::Action&)>& isAvailable
     large.setPointSizeF(large.pointSizeF() * 1.9);
     large.setBold(true);
     m_day->setFont(large);
-    auto* hint = new QLabel(tr("What would you like to do?"), this);
-    hint->setEnabled(false);
+    m_count->setObjectName(u"lblContacts"_s);
+    m_count->setForegroundRole(QPalette::PlaceholderText);
+    m_search->setObjectName(u"txtStartSearch"_s);
+    m_search->setPlaceholderText(tr("Find a contact by name, company, mobile number or e-mail"));
+    m_search->setAccessibleName(tr("Find a contact"));
+    m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
+    m_heading->setObjectName(u"lblStartList"_s);
+    m_contacts->setObjectName(u"lstStartContacts"_s);
+    m_contacts->setAccessibleName(tr("Contacts"));
+    m_contacts->setFrameShape(QFrame::NoFrame);
+    m_contacts->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_contacts->setTextElideMode(Qt::ElideRight);
+    m_first->setObjectName(u"cmdFirstContact"_s);
+    m_first->setText(tr("Add your first contact"));
+    m_first->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    m_first->setIconSize({56, 56});
+    m_first->setMinimumSize(300, 150);
+    widgets::setIcon(m_first, u"person-add");
 
-    auto* buttons = new QGridLayout;
-    buttons->setSpacing(12);
-    int place = 0;
+    m_typed.setSingleShot(true);
+    m_typed.setInterval(kTypedMs);
+    connect(m_search, &QLineEdit::textChanged, &m_typed, qOverload<>(&QTimer::start));
+    connect(m_search, &QLineEdit::returnPressed, this, &StartPage::choose);
+    connect(&m_typed, &QTimer::timeout, this, &StartPage::search);
+    connect(m_contacts, &QListWidget::itemClicked, this, &StartPage::choose);
+    connect(m_contacts, &QListWidget::itemActivated, this, &StartPage::choose);
+    connect(m_first, &QToolButton::clicked, this, [this] { Q_EMIT toolWanted(u"NewContact"_s); });
+
+    auto* column = new QWidget(this);
+    column->setMaximumWidth(640);
+    auto* centre = new QVBoxLayout(column);
+    centre->setSpacing(8);
+    centre->addStretch(1);
+    centre->addWidget(m_day, 0, Qt::AlignHCenter);
+    centre->addWidget(m_count, 0, Qt::AlignHCenter);
+    centre->addSpacing(10);
+    centre->addWidget(m_first, 0, Qt::AlignHCenter);
+    centre->addWidget(m_search);
+    centre->addWidget(m_heading);
+    centre->addWidget(m_contacts, 4);
+    centre->addSpacing(10);
+    centre->addWidget(layOutTools(isAvailable), 0, Qt::AlignHCenter);
+    centre->addStretch(1);
+    auto* whole = new QHBoxLayout(this);
+    whole->addStretch(1);
+    whole->addWidget(column, 8);
+    whole->addStretch(1);
+}
+
+QWidget* StartPage::layOutTools(const std::function<bool(const core::Action&)>& isAvailable)
+{
+    auto* tools = new QWidget(this);
+    auto* grid = new QGridLayout(tools);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(10);
     for (const Favourite& favourite : kFavourites) {
         const core::Action* action = core::toolAction(favourite.tool);
-        auto* button = new QToolButton(this);
+        auto* button = new QToolButton(tools);
         const QString tool = favourite.tool.toString();
         button->setObjectName(u"start_"_s + tool);
         button->setText(QCoreApplication::translate("shell", favourite.caption));
         button->setToolTip(QCoreApplication::translate("shell", favourite.toolTip));
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        button->setIconSize({40, 40});
-        button->setFixedSize(140, 110);
+        button->setIconSize({32, 32});
+        button->setFixedSize(132, 84);
         widgets::setIcon(button, favourite.icon);
         button->setEnabled(action && isAvailable(*action));
         connect(button, &QToolButton::clicked, this, [this, tool] { Q_EMIT toolWanted(tool); });
-        buttons->addWidget(button, place / 4, place % 4);
-        ++place;
+        m_tools << button;
     }
-    auto* centre = new QVBoxLayout;
-    centre->setSpacing(8);
-    centre->addStretch(2);
-    centre->addWidget(m_day, 0, Qt::AlignHCenter);
-    centre->addWidget(hint, 0, Qt::AlignHCenter);
-    centre->addSpacing(18);
-    centre->addLayout(buttons);
-    centre->addStretch(3);
-    auto* whole = new QHBoxLayout(this);
-    whole->addStretch();
-    whole->addLayout(centre);
-    whole->addStretch();
+    placeTools();
+    return tools;
+}
+
+// Four in a row, without holes.
+void StartPage::placeTools()
+{
+    constexpr int kInARow = 4;
+    auto* grid = static_cast<QGridLayout*>(m_tools.first()->parentWidget()->layout());
+    int place = 0;
+    for (QToolButton* button : std::as_const(m_tools)) {
+        const bool shown = m_showsAll || button->isEnabled();
+        button->setVisible(shown);
+        grid->removeWidget(button);
+        if (shown) {
+            grid->addWidget(button, place / kInARow, place % kInARow);
+            ++place;
+        }
+    }
 }
 
 void StartPage::setToday(QDate today)
 {
     m_day->setText(QLocale().toString(today, QLocale::LongFormat));
+}
+
+void StartPage::showWhatIsToCome(bool shown)
+{
+    m_showsAll = shown;
+    placeTools();
+}
+
+// Behind the first picture of the page: a large book takes a moment.
+void StartPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    QTimer::singleShot(0, this, &StartPage::readBook);
+}
+
+void StartPage::readBook()
+{
+    if (!m_context.data.isOpen() || m_bookRead == m_context.data.state())
+        return;
+    m_bookRead = m_context.data.state();
+    const qint64 contacts = m_context.data.openRecordset(contactCountSql()).number(u"n");
+    m_count->setText(contacts == 1 ? tr("1 contact") : tr("%1 contacts").arg(QLocale().toString(contacts)));
+    m_first->setVisible(contacts == 0);
+    m_search->setVisible(contacts > 0);
+    search();
+}
+
+void StartPage::search()
+{
+    const QString typed = m_search->text().trimmed();
+    if (typed.size() < kLeastTyped)
+        fill(tr("Changed lately"), changedLatelySql(m_context.services.clock.today()));
+    else
+        fill(tr("Found"), startSearchSql(typed));
+}
+
+void StartPage::fill(const QString& heading, const QString& sql)
+{
+    m_contacts->clear();
+    for (auto rows = m_context.data.openRecordset(sql); rows.hasRow() && m_contacts->count() < kMostShown;
+         rows.moveNext()) {
+        const QString name = rows.textOrEmpty(u"name").simplified();
+        auto* item = new QListWidgetItem(name.isEmpty() ? tr("(without a name)") : name, m_contacts);
+        item->setData(Qt::UserRole, rows.number(u"id"));
+    }
+    const bool hasSome = m_contacts->count() > 0;
+    m_heading->setText(hasSome || m_search->text().isEmpty() ? heading : tr("Nothing found"));
+    m_heading->setVisible(hasSome || !m_search->text().isEmpty());
+    m_contacts->setVisible(hasSome);
+}
+
+// The one that is chosen in the list, else the first.
+void StartPage::choose()
+{
+    if (m_typed.isActive()) {
+        m_typed.stop();
+        search();
+    }
+    const QListWidgetItem* item = m_contacts->currentItem() ? m_contacts->currentItem() : m_contacts->item(0);
+    if (item && (m_contacts->hasFocus() || !m_search->text().trimmed().isEmpty()))
+        Q_EMIT contactWanted(item->data(Qt::UserRole).toLongLong());
+}
+
+// The arrow down goes from the box into the list.
+bool StartPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_search && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down && m_contacts->count() > 0) {
+        m_contacts->setFocus();
+        m_contacts->setCurrentRow(0);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace shell

@@ -11,6 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace shell {
 
+namespace {
+
+/// Tools of pages that are not there yet: they make room for them, and no more.
+bool givesRoomOnly(const core::Action& action)
+{
+    return std::holds_alternative<core::HideListBar>(action) || std::holds_alternative<core::Inert>(action);
+}
+
+} // namespace
+
 ToolActions::ToolActions(const IsAvailable& isAvailable, QWidget* window)
     : QObject(window)
 {
@@ -32,26 +42,62 @@ ToolActions::ToolActions(const IsAvailable& isAvailable, QWidget* window)
             const core::Action* what = core::toolAction(tool.id);
             Q_ASSERT(what);
             action->setEnabled(isAvailable(*what));
+            if (!isAvailable(*what) || givesRoomOnly(*what))
+                m_toCome.insert(id);
             connect(action, &QAction::triggered, this, [this, id] { Q_EMIT triggered(id); });
             m_actions.insert(id, action);
             menu->addAction(action);
         }
     }
+    showAndHide();
 }
 
 void ToolActions::showPersonalTools(bool shown)
 {
-    for (const QStringView id : core::personalTools()) {
-        if (QAction* tool = action(id))
-            tool->setVisible(shown);
-    }
+    for (const QStringView id : core::personalTools())
+        setForThisUser(id, shown);
+    showAndHide();
 }
 
 void ToolActions::showCityTools(bool nationalMode)
 {
-    action(u"CitypinStdI")->setVisible(true);
     for (const QStringView id : core::homeCountryTools())
-        action(id)->setVisible(nationalMode);
+        setForThisUser(id, nationalMode);
+    showAndHide();
+}
+
+void ToolActions::showWhatIsToCome(bool shown)
+{
+    m_showsAll = shown;
+    showAndHide();
+}
+
+void ToolActions::setForThisUser(QStringView id, bool isFor)
+{
+    if (isFor)
+        m_notForThisUser.remove(id.toString());
+    else
+        m_notForThisUser.insert(id.toString());
+}
+
+void ToolActions::showAndHide()
+{
+    const auto isLaunchPad
+        = [](QStringView id) { return std::holds_alternative<core::OpenLaunchPad>(*core::toolAction(id)); };
+    for (const ToolGroup& group : toolGroups()) {
+        bool offersSomething = m_showsAll;
+        for (const Tool& tool : group.tools) {
+            const QString id = tool.id.toString();
+            const bool shown = !m_notForThisUser.contains(id) && (m_showsAll || !m_toCome.contains(id));
+            action(tool.id)->setVisible(shown);
+            offersSomething = offersSomething || (shown && !isLaunchPad(tool.id));
+        }
+        for (const Tool& tool : group.tools) {
+            if (isLaunchPad(tool.id) && !offersSomething)
+                action(tool.id)->setVisible(false);
+        }
+        page(group.page)->menuAction()->setVisible(offersSomething);
+    }
 }
 
 } // namespace shell

@@ -6,13 +6,15 @@ namespace shell {
 namespace {
 
 constexpr Tool AddTools[] = {
+    {u"NewContact", QT_TRANSLATE_NOOP("shell", "New contact"),
+        QT_TRANSLATE_NOOP("shell", "Begin a new contact with all its details"), u"person-add", u"Ctrl+N"},
     {u"ID_Add", QT_TRANSLATE_NOOP("shell", "All ways to add"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad with every screen that adds contacts"), u"launch"},
     {u"ID_Add2", QT_TRANSLATE_NOOP("shell", "Add launch pad"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad on its add page"), u"launch"},
     {u"Edit", QT_TRANSLATE_NOOP("shell", "Detailed add and edit"),
         QT_TRANSLATE_NOOP("shell", "Every field of a contact on one form, for new contacts and for changes"),
-        u"person-add", u"Ctrl+N"},
+        u"person-add"},
     {u"M_Add", QT_TRANSLATE_NOOP("shell", "Add a list"),
         QT_TRANSLATE_NOOP("shell", "Type many contacts one below another, as in a table"), u"list"},
     {u"TurboAdd", QT_TRANSLATE_NOOP("shell", "Turbo add"),
@@ -46,6 +48,8 @@ constexpr Tool BasicAddTools[] = {
 };
 
 constexpr Tool EditTools[] = {
+    {u"EditContact", QT_TRANSLATE_NOOP("shell", "Edit contact"),
+        QT_TRANSLATE_NOOP("shell", "Change the contact that was chosen last"), u"person-edit", u"Ctrl+E"},
     {u"EditDD", QT_TRANSLATE_NOOP("shell", "All ways to edit"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad with every screen that changes contacts"),
         u"launch"},

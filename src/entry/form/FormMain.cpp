@@ -256,6 +256,14 @@ void FormMain::startAdding()
     control(u"dtcmbfname"_s)->setFocus();
 }
 
+bool FormMain::beginNew()
+{
+    if (!mayDiscard())
+        return false;
+    startAdding();
+    return true;
+}
+
 void FormMain::startEditing()
 {
     grdEditList->fill(u"|Name                    ",

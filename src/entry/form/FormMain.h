@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/handover/contact_screen.h"
+#include "core/handover/entry_form.h"
 #include "core/handover/save_source.h"
 #include "core/screen.h"
 #include "entry/form/form_variant.h"
@@ -22,7 +23,10 @@ class UserFields;
 
 /// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
 /// it. The shorter forms are the same class with another variant.
-class FormMain : public core::Screen, public core::ContactScreen, public core::SaveSource {
+class FormMain : public core::Screen,
+                 public core::ContactScreen,
+                 public core::SaveSource,
+                 public core::EntryForm {
     Q_OBJECT
 
 public:
@@ -34,6 +38,7 @@ public:
     bool isTouched() const override;
     /// Goes to the edit mode with this contact.
     bool showContact(qint64 id) override;
+    bool beginNew() override;
 
     bool mayBeSaved() override;
     formats::CardValues cardValues() const override;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QWidget;
+
+namespace shell {
+
+/// The actions and shortcuts below a widget that would answer a key now: enabled, in sight, and with the
+/// focus where they want it.
+QList<QObject*> ownersOfKey(QWidget* root, const QKeySequence& key);
+
+/// Two owners of one key would silence each other. While the screen in front has an owner of a key that the
+/// frame has too, the frame's own action stands back, for this press of the key.
+class KeyArbiter : public QObject {
+    Q_OBJECT
+
+public:
+    using FrontScreen = std::function<QWidget*()>;
+    KeyArbiter(FrontScreen frontScreen, QWidget* frame);
+
+    void add(QAction* action);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void standBack(const QKeySequence& key);
+    void comeBack();
+
+    FrontScreen m_frontScreen;
+    QWidget* m_frame;
+    QList<QAction*> m_actions;
+    QAction* m_standsBack = nullptr;
+};
+
+} // namespace shell
