@@ -22,7 +22,6 @@ public:
     virtual void showNotice(
         const QString& text, const QString& actionText = {}, std::function<void()> action = {})
         = 0;
-    virtual void undoLastChange() = 0; ///< as the menu does
     virtual bool perform(const Action& action)
         = 0; ///< false when nothing came of it, as with an absent screen
     virtual bool canPerform(

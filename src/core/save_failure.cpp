@@ -53,14 +53,19 @@ QString savingFailed(const jet::Failure& failure)
         + u' ' + translated("What was stored before is not lost.");
 }
 
+void noteFailedSaveIsTold(Context& context)
+{
+    *context.shared.failedSaveIsTold = true;
+    // Behind the notice that may have been queued by the failure itself.
+    QTimer::singleShot(0, qApp, [told = context.shared.failedSaveIsTold] { *told = false; });
+}
+
 void tellFailedSave(Context& context)
 {
     const auto failure = context.data.lastFailure();
-    *context.shared.failedSaveIsTold = true;
+    noteFailedSaveIsTold(context);
     context.services.boxes.warning(
         failure ? savingFailed(*failure) : translated("This was not stored."), context.shared.AppTitle);
-    // Behind the notice that may have been queued by the failure itself.
-    QTimer::singleShot(0, qApp, [told = context.shared.failedSaveIsTold] { *told = false; });
 }
 
 } // namespace core

@@ -1,6 +1,7 @@
 #include "core/screen.h"
 
 #include "core/frame.h"
+#include "core/take_back.h"
 #include "platform/message_boxes.h"
 #include "platform/sounds.h"
 #include "widgets/filled_combo.h"
@@ -70,9 +71,13 @@ bool Screen::mayDiscard() const
 
 void Screen::tellSaved(const QString& name) const
 {
-    Frame& frame = m_context.frame;
-    frame.showNotice(
-        tr("Saved %1").arg(name.simplified()), tr("&Undo"), [&frame] { frame.undoLastChange(); });
+    const auto step = m_context.data.lastChange();
+    const QString text = tr("Saved %1").arg(name.simplified());
+    if (!step)
+        return m_context.frame.showNotice(text);
+    m_context.frame.showNotice(text, tr("&Undo"), [&context = m_context, id = step->id] {
+        takeBack(context, jet::StepDirection::Back, id);
+    });
 }
 
 void Screen::showEvent(QShowEvent* event)

@@ -647,6 +647,7 @@ void SaveTest::changeMeetsAnotherChange()
         u"'Asha Rao','Asha','Rao','First,Last','111','222','Old',#01-Jan-2020#"_s);
     f.start();
     QVERIFY(f.form()->showContact(1));
+    f.book.data().keepChanges({{u"cnt_main"_s, u"Name"_s}});
     f.execute(u"update cnt_main set h_ph1='333',mobile='444',category1='New' where id=1"_s);
     f.type(u"txtMobile"_s, u"555"_s);
     f.type(u"dtcmbnick"_s, u"Ash"_s);
@@ -663,6 +664,8 @@ void SaveTest::changeMeetsAnotherChange()
     f.click(u"Command1"_s);
     QCOMPARE(f.book.rows(stored), QStringList{u"Asha Rao|333|555|New|Ash|2024-03-15"_s});
     QCOMPARE(f.frame.notices.constLast(), u"Saved Asha Rao [&Undo]"_s);
+    f.frame.noticeAction();
+    QCOMPARE(f.book.rows(stored), QStringList{u"Asha Rao|333|444|New|null|2020-01-01"_s});
 }
 
 void SaveTest::nothingToChangeIsSaid()

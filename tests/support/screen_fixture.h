@@ -23,12 +23,10 @@ public:
     void place(core::Screen* screen, core::Shown shown) override;
     void bringForward(core::Screen* screen) override;
     void showNotice(const QString& text, const QString& actionText, std::function<void()> action) override;
-    void undoLastChange() override { ++undone; }
     bool perform(const core::Action& action) override;
     bool canPerform(const core::Action& action) const override;
 
     QStringList placed; ///< form names, with " modally" behind a dialog
-    int undone = 0;
     QStringList broughtForward;
     QStringList notices; ///< with " [Undo]" and alike behind one that offers something
     std::function<void()> noticeAction;

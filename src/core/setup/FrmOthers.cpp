@@ -18,6 +18,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace setup {
@@ -163,6 +165,11 @@ void FrmOthers::load()
     readTab();
 }
 
+bool FrmOthers::isTouched() const
+{
+    return std::ranges::any_of(sstab1->findChildren<SetupPanel*>(), &SetupPanel::isTouched);
+}
+
 // Another screen may have changed a list or a setting.
 void FrmOthers::bookChanged()
 {
@@ -172,8 +179,11 @@ void FrmOthers::bookChanged()
 void FrmOthers::readTab()
 {
     QWidget* page = sstab1->currentWidget();
-    for (auto* panel : page->findChildren<SetupPanel*>())
-        panel->refresh();
+    // What is typed and not saved stays while other tabs are looked at.
+    for (auto* panel : page->findChildren<SetupPanel*>()) {
+        if (!panel->isTouched())
+            panel->refresh();
+    }
     if (m_addresses && page->isAncestorOf(m_addresses))
         m_addresses->fill(context().data.openRecordset(u"select * from CNT_ADDRESS"_s));
 }

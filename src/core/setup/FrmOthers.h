@@ -23,6 +23,7 @@ public:
 
     void load() override;
     void bookChanged() override;
+    bool isTouched() const override;
     QSize sizeHint() const override; ///< as a dialog: every tab without scrolling
 
 private:

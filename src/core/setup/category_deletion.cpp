@@ -132,8 +132,9 @@ void CategoryDeletion::carryOut()
         return;
     if (way == DeleteWay::DeleteContacts && !keepCopy())
         return;
+    const jet::Step step(data(), tr("deleting the category %1").arg(m_category.category));
     if (!deleteCategory(data(), way, m_category, target))
-        return m_hint->setText(tr("The category could not be deleted."));
+        return m_hint->setText(notStored(tr("The category could not be deleted.")));
     playSound(u"Del");
     hide();
     Q_EMIT deleted();

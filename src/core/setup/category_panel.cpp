@@ -231,9 +231,34 @@ void CategoryPanel::switchView()
     m_views->currentWidget()->setFocus();
 }
 
+bool CategoryPanel::isTouched() const
+{
+    return m_state != State::View
+        && (DBCcat->currentText() != m_old.category || DBCSubCat->currentText() != m_old.subcategory);
+}
+
+// Typed and not saved: where the person wants to keep it, list and tree go back behind the event that moved
+// them.
+bool CategoryPanel::mayShowAnother()
+{
+    if (!isTouched() || mayDiscard())
+        return true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QScopedValueRollback filling(m_isFilling, true);
+            FG->setCurrentRow(m_id == 0 ? -1 : FG->rowOf(m_id));
+            SSTree1->setCurrentItem(nullptr);
+            if (m_id != 0)
+                selectInTree(m_old, m_id);
+        },
+        Qt::QueuedConnection);
+    return false;
+}
+
 void CategoryPanel::rowChanged(int row)
 {
-    if (m_isFilling || row < 0)
+    if (m_isFilling || row < 0 || !mayShowAnother())
         return;
     const QScopedValueRollback filling(m_isFilling, true);
     const Category category{FG->textAt(row, u"category1"_s), FG->textAt(row, u"category2"_s)};
@@ -244,7 +269,7 @@ void CategoryPanel::rowChanged(int row)
 // A category without its subcategory is shown as well, but no row can be changed through it.
 void CategoryPanel::treeChanged(QTreeWidgetItem* item)
 {
-    if (m_isFilling || !item)
+    if (m_isFilling || !item || !mayShowAnother())
         return;
     const QScopedValueRollback filling(m_isFilling, true);
     const qint64 id = item->data(0, kIdRole).toLongLong();
@@ -284,6 +309,8 @@ void CategoryPanel::typed()
 
 void CategoryPanel::startNew()
 {
+    if (isTouched() && !mayDiscard())
+        return;
     const QScopedValueRollback filling(m_isFilling, true);
     const QString category = m_old.category;
     FG->setCurrentRow(-1);
@@ -331,9 +358,10 @@ void CategoryPanel::save()
 
 void CategoryPanel::add(const Category& category)
 {
+    const jet::Step step(data(), tr("adding the category %1").arg(category.category));
     const qint64 id = addCategory(data(), category);
     if (id == 0)
-        return m_hint->setText(tr("The category could not be stored."));
+        return m_hint->setText(notStored(tr("The category could not be stored.")));
     playSound(u"save");
     stored(id);
     Q_EMIT vocabulariesChanged();
@@ -345,8 +373,9 @@ void CategoryPanel::rename(const Category& category)
     if (answer != platform::Answer::Yes)
         return;
     const qint64 id = m_id;
+    const jet::Step step(data(), tr("renaming the category %1").arg(m_old.category));
     if (!renameCategory(data(), id, m_old, category))
-        return m_hint->setText(tr("The category could not be renamed."));
+        return m_hint->setText(notStored(tr("The category could not be renamed.")));
     playSound(u"save");
     stored(id);
     Q_EMIT vocabulariesChanged();

@@ -26,6 +26,7 @@ public:
     explicit CategoryPanel(core::Context& context, QWidget* parent = nullptr);
 
     void refresh() override;
+    bool isTouched() const override;
 
 private:
     enum class State { New, Edit, View };
@@ -38,6 +39,7 @@ private:
     void fillBranch(QTreeWidgetItem* branch);
     void selectInTree(const core::Category& category, qint64 id);
     void switchView();
+    bool mayShowAnother();
     void rowChanged(int row);
     void treeChanged(QTreeWidgetItem* item);
     void showCategory(qint64 id, const core::Category& category);

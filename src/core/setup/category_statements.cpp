@@ -13,9 +13,13 @@ QString bothColumns(const Category& to, const Category& from)
         to.category, to.subcategory, from.category, from.subcategory);
 }
 
+/// A category may stand alone; its rows then hold nothing in the second column, or "".
 QString ofCategory(const Category& category)
 {
-    return u" where [CATEGORY1]='%1' and [CATEGORY2]='%2'"_s.arg(category.category, category.subcategory);
+    const QString where = u" where [CATEGORY1]='%1' and "_s.arg(category.category);
+    return where
+        + (category.subcategory.isEmpty() ? u"([CATEGORY2] is null or [CATEGORY2]='')"_s
+                                          : u"[CATEGORY2]='%1'"_s.arg(category.subcategory));
 }
 
 } // namespace
@@ -109,8 +113,12 @@ bool renameCategory(jet::Database& data, qint64 id, const Category& from, const 
     if (!row.hasRow())
         return false;
     jet::Batch batch(data);
-    for (const QString& sql : renameStatements(from, to))
-        data.execute(sql);
+    for (const QString& sql : renameStatements(from, to)) {
+        if (!data.execute(sql)) {
+            batch.rollBack();
+            return false;
+        }
+    }
     row.edit();
     row.set(u"category1", to.category);
     row.set(u"category2", to.subcategory);
@@ -122,8 +130,10 @@ bool deleteCategory(jet::Database& data, DeleteWay way, const Category& category
 {
     jet::Batch batch(data);
     for (const QString& sql : deleteStatements(way, category, target)) {
-        if (!data.execute(sql))
-            break;
+        if (!data.execute(sql)) {
+            batch.rollBack();
+            return false;
+        }
     }
     return batch.commit();
 }

@@ -197,6 +197,7 @@ void CityPanel::add()
     const QString city = m_available->currentText(u"city"_s);
     if (city.isEmpty())
         return;
+    const jet::Step step(data(), tr("adding the city %1").arg(city));
     switch (addFrequentCity(data(), scope(), city)) {
     case CityAdded::Known: return m_hint->setText(tr("%1 is there already.").arg(city));
     case CityAdded::Failed: return m_hint->setText(tr("%1 could not be stored.").arg(city));
@@ -214,6 +215,7 @@ void CityPanel::remove()
     const QString city = DataGrid->currentText(u"city"_s);
     if (row < 0)
         return;
+    const jet::Step step(data(), tr("removing the city %1").arg(city));
     switch (removeFrequentCity(data(), scope(), row, city)) {
     case CityRemoved::IsDefault:
         return m_hint->setText(tr("%1 is the default city. Choose another default first.").arg(city));
@@ -235,8 +237,9 @@ void CityPanel::showDefault()
 void CityPanel::changeDefault()
 {
     const QString city = DBCombo1->currentText();
+    const jet::Step step(data(), tr("a change of the default city"));
     if (!setDefaultCity(data(), city)) {
-        m_hint->setText(tr("The default city could not be changed."));
+        m_hint->setText(notStored(tr("The default city could not be changed.")));
         return showDefault();
     }
     playSound(u"save");

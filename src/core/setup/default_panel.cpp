@@ -173,7 +173,14 @@ void DefaultPanel::refresh()
     m_rules->button(rule == 1 || rule == 2 ? int(rule) : storeRules().back().stored)->setChecked(true);
     if (QAbstractButton* font = m_fonts->button(context().shared.GridFontSize))
         font->setChecked(true);
+    m_shown = defaults();
+    m_isRead = true;
     tell({});
+}
+
+bool DefaultPanel::isTouched() const
+{
+    return m_isRead && defaults() != m_shown;
 }
 
 Defaults DefaultPanel::defaults() const
@@ -191,8 +198,9 @@ Defaults DefaultPanel::defaults() const
 
 void DefaultPanel::save()
 {
+    const jet::Step step(data(), tr("a change of the settings"));
     if (!saveDefaults(data(), defaults()))
-        return tell(tr("The defaults could not be stored."));
+        return tell(notStored(tr("The defaults could not be stored.")));
     playSound(u"save");
     refresh();
     tell(tr("Saved."));
@@ -202,8 +210,9 @@ void DefaultPanel::save()
 // The merged entry is known to all screens at once.
 void DefaultPanel::writeSwitch(const Switch& which, bool on)
 {
+    const jet::Step step(data(), tr("a change of the settings"));
     if (!data().execute(switchSql(which, on)))
-        return;
+        return tell(notStored(tr("The choice could not be stored.")));
     if (which.control == u"ChkMerge") {
         context().shared.ContMerge = on;
         Q_EMIT vocabulariesChanged();

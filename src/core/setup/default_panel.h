@@ -21,6 +21,7 @@ public:
     explicit DefaultPanel(core::Context& context, QWidget* parent = nullptr);
 
     void refresh() override;
+    bool isTouched() const override;
 
 private:
     void layOutDefaults(widgets::FormKit& form);
@@ -40,6 +41,8 @@ private:
     void saveFont();
     void tell(const QString& hint);
 
+    Defaults m_shown; ///< as they were read
+    bool m_isRead = false;
     QString m_suffix; ///< as it is stored
     QButtonGroup* m_rules;
     QButtonGroup* m_fonts;

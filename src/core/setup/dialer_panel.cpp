@@ -52,6 +52,7 @@ DialerPanel::DialerPanel(core::Context& context, QWidget* parent)
     setMaximumWidth(kWidth);
     chkDialerCity = child<QCheckBox>(this, city.control.toString());
     chkDialerCity->setToolTip(tr("Written at once"));
+    m_shown = texts();
     connect(child<QPushButton>(this, u"SSCommand37"_s), &QPushButton::clicked, this, &DialerPanel::save);
     connect(chkDialerCity, &QCheckBox::clicked, this, &DialerPanel::writeCitySwitch);
     for (const PrefixRow& row : kPrefixes) {
@@ -67,7 +68,21 @@ void DialerPanel::refresh()
     for (const PrefixRow& row : kPrefixes)
         widgets::setTextOf(child<QLineEdit>(this, row.control.toString()), settings.textOrEmpty(row.column));
     chkDialerCity->setChecked(settings.flag(u"DialerCity"));
+    m_shown = texts();
     m_hint->clear();
+}
+
+QStringList DialerPanel::texts() const
+{
+    QStringList all;
+    for (const PrefixRow& row : kPrefixes)
+        all << child<QLineEdit>(this, row.control.toString())->text();
+    return all;
+}
+
+bool DialerPanel::isTouched() const
+{
+    return texts() != m_shown;
 }
 
 QString DialerPanel::text(const QString& control) const
@@ -79,15 +94,19 @@ void DialerPanel::save()
 {
     const DialPrefixes prefixes{
         text(u"txtprefix1"_s), text(u"txtprefix2"_s), text(u"txtprefix3"_s), text(u"txtpbx"_s)};
+    const jet::Step step(data(), tr("a change of the settings"));
     if (data().execute(dialPrefixesSql(prefixes)).changed == 0)
-        return m_hint->setText(tr("The prefixes could not be stored."));
+        return m_hint->setText(notStored(tr("The prefixes could not be stored.")));
+    m_shown = texts();
     playSound(u"save");
     m_hint->setText(tr("Saved."));
 }
 
 void DialerPanel::writeCitySwitch(bool on)
 {
-    data().execute(switchSql(switchOf(u"chkDialerCity"), on));
+    const jet::Step step(data(), tr("a change of the settings"));
+    if (!data().execute(switchSql(switchOf(u"chkDialerCity"), on)))
+        m_hint->setText(notStored(tr("The choice could not be stored.")));
 }
 
 } // namespace setup

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -27,13 +28,16 @@ ListPanel::ListPanel(core::Context& context, const QList<const WordList*>& lists
     , m_hint(makeHint(u"lblHint"_s + lists.constFirst()->name.toString()))
 {
     layOut();
-    connect(m_words, &widgets::RecordList::currentRowChanged, this, &ListPanel::rowChanged);
+    connect(m_words, &widgets::RecordList::currentRowChanged, this, &ListPanel::wordChosen);
     connect(m_words, &widgets::RecordList::chosen, m_box, [this] {
         m_box->setFocus();
         m_box->selectAll();
     });
     connect(m_box, &QLineEdit::returnPressed, this, &ListPanel::save);
-    connect(m_box, &QLineEdit::textEdited, this, [this] { tell({}); });
+    connect(m_box, &QLineEdit::textEdited, this, [this] {
+        m_isOffered = false;
+        tell({});
+    });
     connect(m_save, &QPushButton::clicked, this, &ListPanel::save);
     connect(m_delete, &QPushButton::clicked, this, &ListPanel::remove);
     auto* deleteKey = new QShortcut(QKeySequence::Delete, m_words);
@@ -92,8 +96,18 @@ void ListPanel::refresh()
     readWords(m_old);
 }
 
+bool ListPanel::isTouched() const
+{
+    return !m_isOffered && m_box->text() != m_old;
+}
+
 void ListPanel::chooseList(const WordList* list)
 {
+    if (isTouched() && !mayDiscard()) {
+        m_choices[m_lists.indexOf(m_list)]->setChecked(true);
+        return;
+    }
+    m_box->clear();
     m_list = list;
     m_words->setHeadings(list->column, {list->column.toString()});
     m_words->setAccessibleName(caption(*list));
@@ -104,22 +118,46 @@ void ListPanel::chooseList(const WordList* list)
 
 void ListPanel::readWords(const QString& current)
 {
-    const QString column = m_list->column.toString();
     const QString typed = m_box->text();
+    const QScopedValueRollback reading(m_isReading, true);
     m_words->fill(data().openRecordset(listSql(*m_list)));
-    int found = -1;
-    for (int row = 0; found < 0 && !current.isEmpty() && row < m_words->rowCount(); ++row) {
-        if (m_words->textAt(row, column).compare(current, Qt::CaseInsensitive) == 0)
-            found = row;
-    }
+    const int found = rowOf(current);
     m_words->setCurrentRow(found);
     rowChanged();
     if (found < 0)
         m_box->setText(typed);
 }
 
+// Typed and not saved: the person says whether it may go, and the list goes back behind the event that moved
+// it.
+void ListPanel::wordChosen()
+{
+    if (m_isReading)
+        return;
+    if (!isTouched() || mayDiscard())
+        return rowChanged();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QScopedValueRollback reading(m_isReading, true);
+            m_words->setCurrentRow(rowOf(m_old));
+        },
+        Qt::QueuedConnection);
+}
+
+int ListPanel::rowOf(const QString& word) const
+{
+    const QString column = m_list->column.toString();
+    for (int row = 0; !word.isEmpty() && row < m_words->rowCount(); ++row) {
+        if (m_words->textAt(row, column).compare(word, Qt::CaseInsensitive) == 0)
+            return row;
+    }
+    return -1;
+}
+
 void ListPanel::rowChanged()
 {
+    m_isOffered = false;
     m_old = m_words->currentText(m_list->column.toString());
     m_delete->setEnabled(!m_old.isEmpty());
     if (!m_old.isEmpty())
@@ -129,6 +167,9 @@ void ListPanel::rowChanged()
 
 void ListPanel::startNew()
 {
+    if (isTouched() && !mayDiscard())
+        return;
+    const QScopedValueRollback reading(m_isReading, true);
     m_words->setCurrentRow(-1);
     rowChanged();
     m_box->clear();
@@ -144,10 +185,13 @@ void ListPanel::save()
     case WordFault::Unchanged: return tell(tr("Nothing was changed."));
     case WordFault::None: break;
     }
+    const jet::Step step(data(),
+        m_old.isEmpty() ? tr("adding \"%1\" to the list %2").arg(word, caption(*m_list))
+                        : tr("changing \"%1\" in the list %2").arg(m_old, caption(*m_list)));
     const bool stored
         = m_old.isEmpty() ? addWord(data(), *m_list, word) : renameWord(data(), *m_list, m_old, word);
     if (!stored)
-        return tell(tr("The word could not be stored."));
+        return tell(notStored(tr("The word could not be stored.")));
     playSound(u"save");
     readWords(word);
     tell(tr("Saved."));
@@ -160,11 +204,13 @@ void ListPanel::remove()
     const QString word = m_old;
     if (word.isEmpty())
         return;
+    const jet::Step step(data(), tr("deleting \"%1\" from the list %2").arg(word, caption(*m_list)));
     if (!deleteWord(data(), *m_list, word))
-        return tell(tr("The word could not be deleted."));
+        return tell(notStored(tr("The word could not be deleted.")));
     playSound(u"Del");
     readWords({});
     m_box->setText(word);
+    m_isOffered = true;
     tell(tr("Deleted. Save brings it back."));
     Q_EMIT vocabulariesChanged();
 }

@@ -24,11 +24,14 @@ public:
     ListPanel(core::Context& context, const QList<const WordList*>& lists, QWidget* parent = nullptr);
 
     void refresh() override;
+    bool isTouched() const override;
 
 private:
     void layOut();
     void chooseList(const WordList* list);
     void readWords(const QString& current);
+    void wordChosen();
+    int rowOf(const QString& word) const;
     void rowChanged();
     void startNew();
     void save();
@@ -39,6 +42,8 @@ private:
     QList<const WordList*> m_lists;
     const WordList* m_list;
     QString m_old; ///< the word that is being changed; empty while a new one is typed
+    bool m_isReading = false;
+    bool m_isOffered = false; ///< the word in the box was put there, after it was deleted
 
     QList<QRadioButton*> m_choices;
     widgets::RecordList* m_words;

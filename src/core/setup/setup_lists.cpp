@@ -112,18 +112,11 @@ bool renameWord(jet::Database& data, const WordList& list, const QString& from, 
     return data.execute(renameSql(list, from, to)).changed > 0;
 }
 
-// Kept: the whole row goes, with whatever other lists have in it.
+// Kept: the whole row goes, with whatever other lists have in it; of several rows with the word, the first.
 bool deleteWord(jet::Database& data, const WordList& list, const QString& word)
 {
     jet::Recordset rows = data.openRecordset(findSql(list, word));
-    jet::Batch batch(data);
-    int deleted = 0;
-    // The list shows a word once, however many rows hold it.
-    for (int row = rows.count() - 1; row >= 0; --row) {
-        if (rows.moveTo(row) && rows.removeCurrent())
-            ++deleted;
-    }
-    return batch.commit() && deleted > 0;
+    return rows.hasRow() && rows.removeCurrent();
 }
 
 } // namespace setup

@@ -1,5 +1,6 @@
 #include "core/setup/setup_panel.h"
 
+#include "core/save_failure.h"
 #include "platform/message_boxes.h"
 #include "platform/sounds.h"
 
@@ -23,6 +24,22 @@ void SetupPanel::playSound(QStringView name) const
 void SetupPanel::inform(const QString& text) const
 {
     m_context.services.boxes.information(text, m_context.shared.AppTitle);
+}
+
+bool SetupPanel::mayDiscard() const
+{
+    return m_context.services.boxes.ask(tr("What you entered was not saved. Do you want to discard it?"),
+               m_context.shared.AppTitle, platform::Icon::Warning)
+        == platform::Answer::Yes;
+}
+
+QString SetupPanel::notStored(const QString& hint) const
+{
+    const auto failure = data().lastFailure();
+    if (!failure)
+        return hint;
+    core::noteFailedSaveIsTold(m_context);
+    return hint + u' ' + core::savingFailed(*failure);
 }
 
 QLabel* makeHint(const QString& name)

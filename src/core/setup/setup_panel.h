@@ -17,6 +17,8 @@ public:
 
     /// Reads what the panel shows. Called each time when the tab comes in sight.
     virtual void refresh() = 0;
+    /// Whether something is typed here that is not saved.
+    virtual bool isTouched() const { return false; }
 
 Q_SIGNALS:
     /// What other screens offer or show is no longer what it was.
@@ -28,6 +30,10 @@ protected:
     jet::Database& data() const { return m_context.data; }
     void playSound(QStringView name) const; ///< "save", "Cancel", "Del"
     void inform(const QString& text) const;
+    /// Asks whether what was typed and not saved may go.
+    bool mayDiscard() const;
+    /// A hint about a write that failed, with the reason where the file gave one.
+    QString notStored(const QString& hint) const;
 
 private:
     core::Context& m_context;

@@ -492,11 +492,6 @@ void MDIForm1::deleteInFront()
         tool->trigger();
 }
 
-void MDIForm1::undoLastChange()
-{
-    findChild<QAction*>(u"Undo"_s)->trigger();
-}
-
 bool MDIForm1::perform(const core::Action& action)
 {
     return m_performer->perform(action);

@@ -44,7 +44,6 @@ public:
     void bringForward(core::Screen* screen) override;
     void showNotice(
         const QString& text, const QString& actionText = {}, std::function<void()> action = {}) override;
-    void undoLastChange() override;
     bool perform(const core::Action& action) override;
     bool canPerform(const core::Action& action) const override;
 

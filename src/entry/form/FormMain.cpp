@@ -390,7 +390,7 @@ void FormMain::takeUsualNameView()
     if (!m_fields.text(u"cmbnview"_s).trimmed().isEmpty())
         return;
     const auto last = context().data.openRecordset(
-        u"select top 1 nview from cnt_main where nview like '*Last*' order by id desc"_s);
+        u"select nview from cnt_main where id in (select max(id) from cnt_main)"_s);
     const auto view = core::nameViewOf(last.textOrEmpty(u"nview"));
     setText(u"cmbnview"_s, view ? last.textOrEmpty(u"nview") : core::nameViews().constFirst());
 }
