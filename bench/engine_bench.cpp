@@ -298,7 +298,7 @@ public:
     {
         list();
         screenLists();
-        m_book.keepChanges(u"cnt_main"_s, u"Name"_s);
+        m_book.keepChanges({{u"cnt_main"_s, u"Name"_s}});
         save();
         search();
         lookUp();

@@ -1,6 +1,8 @@
 #include "jet/same_name.h"
 #include "jet/translator.h"
 
+#include <bit>
+
 namespace jet {
 
 CatalogColumn::CatalogColumn(QString columnName, ColumnType columnType)
@@ -28,8 +30,19 @@ uint CatalogColumn::hashOf(QStringView text)
 
 const CatalogColumn* CatalogTable::column(QStringView columnName) const
 {
+    // Twice as many places as columns at the least, so that a name is found at the first or second look.
+    if (places.size() < 2 * columns.size() + 1) {
+        places.assign(std::bit_ceil(2 * columns.size() + 1), -1);
+        for (size_t i = 0; i < columns.size(); ++i) {
+            size_t place = columns[i].hash() % places.size();
+            while (places[place] >= 0)
+                place = (place + 1) % places.size();
+            places[place] = int(i);
+        }
+    }
     const uint hash = CatalogColumn::hashOf(columnName);
-    for (const CatalogColumn& candidate : columns) {
+    for (size_t place = hash % places.size(); places[place] >= 0; place = (place + 1) % places.size()) {
+        const CatalogColumn& candidate = columns[size_t(places[place])];
         if (candidate.isCalled(columnName, hash))
             return &candidate;
     }

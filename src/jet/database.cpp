@@ -49,6 +49,8 @@ constexpr Index kIndexes[] = {
     {u"wia_cntnames_first", u"wia_cntnames", u"[first]", u""},
     {u"wia_city_city", u"WIA_CITY", u"[city]", u""},
     {u"wia_india_city", u"WIA_INDIA", u"[city]", u""},
+    // The main cities of the home country, in order.
+    {u"wia_india_type", u"WIA_INDIA", u"[chtype], [city]", u""},
 };
 
 QString bracketed(QStringView name)

@@ -526,7 +526,7 @@ void ExpressionEmitter::rowKey(const TableName& from)
 
 Piece ExpressionEmitter::takePiece()
 {
-    Piece piece{std::move(m_out), std::move(m_slots)};
+    Piece piece{m_out.text(), std::move(m_slots)};
     m_out.clear();
     m_slots.clear();
     return piece;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/syntax_tree.h"
+#include "jet/text_builder.h"
 #include "jet/translator.h"
 
 #include <QString>
@@ -84,7 +85,7 @@ protected:
 
     const Catalog& m_catalog;
     Way m_way;
-    QString m_out;
+    TextBuilder m_out;
     std::vector<Slot> m_slots;
     std::vector<Scope> m_scopes;
 };

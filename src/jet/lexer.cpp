@@ -1,6 +1,7 @@
 #include "jet/lexer.h"
 
 #include "jet/date_text.h"
+#include "jet/text_builder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +33,7 @@ public:
     explicit Lexer(QStringView sql)
         : m_sql(sql)
     {
-        m_result.shape.reserve(sql.size() + sql.size() / 4);
+        m_shape.reserve(2 * sql.size() + 8);
         m_result.tokens.reserve(size_t(sql.size() / 4 + 8));
     }
 
@@ -43,6 +44,7 @@ public:
         while (m_result.error.isEmpty() && m_at < m_sql.size())
             next();
         m_result.tokens.push_back({});
+        m_result.shape = m_shape.text();
         return std::move(m_result);
     }
 
@@ -129,7 +131,9 @@ private:
         m_at = end + 1;
         // With its closing bracket: a name may hold anything else, even what looks like the rest of a
         // statement.
-        m_result.shape += u'[' + name.toString() + u']';
+        m_shape += u'[';
+        m_shape += name;
+        m_shape += u']';
         add(Token::Kind::Name, name.trimmed());
     }
 
@@ -167,19 +171,19 @@ private:
 
     void symbol()
     {
-        static constexpr QStringView twoCharacters[] = {u"<=", u">=", u"<>"};
-        for (const QStringView two : twoCharacters) {
-            if (m_sql.mid(m_at, 2) == two) {
-                m_at += 2;
-                mark(two);
-                return add(Token::Kind::Symbol, two);
-            }
-        }
         const QChar c = m_sql[m_at];
-        if (!QStringView(u"<>=+-*/\\^&(),.;").contains(c))
+        const QChar second = m_at + 1 < m_sql.size() ? m_sql[m_at + 1] : QChar();
+        if ((c == u'<' && (second == u'=' || second == u'>')) || (c == u'>' && second == u'=')) {
+            const QStringView two = m_sql.mid(m_at, 2);
+            m_at += 2;
+            mark(two);
+            return add(Token::Kind::Symbol, two);
+        }
+        static constexpr std::u16string_view kKnown = u",().=<>*+-/\\^&;";
+        if (kKnown.find(c.unicode()) == kKnown.npos)
             return fail(u"a character that the language does not know: "_s + c);
         // The comment mark of other dialects; a doubled sign has no use here.
-        if (c == u'-' && m_sql.mid(m_at, 2) == u"--")
+        if (c == u'-' && second == u'-')
             return fail(u"-- is no operator"_s);
         const QStringView text = m_sql.mid(m_at, 1);
         ++m_at;
@@ -189,8 +193,8 @@ private:
 
     void mark(QStringView text)
     {
-        m_result.shape += text;
-        m_result.shape += u' ';
+        m_shape += text;
+        m_shape += u' ';
     }
 
     void add(Token::Kind kind, QStringView text) { m_result.tokens.push_back({kind, text, -1}); }
@@ -201,7 +205,7 @@ private:
         // own, since a chain of terms with one pattern is translated into one call.
         const bool repeated = !m_result.literals.empty() && m_result.literals.back().kind == kind
             && m_result.literals.back().text == text;
-        m_result.shape += QChar(char16_t(1 + int(kind) + (repeated ? 3 : 0)));
+        m_shape += char16_t((1 + int(kind) + (repeated ? 3 : 0)));
         m_result.literals.push_back({kind, text});
         m_result.tokens.push_back(
             {tokenKind, m_result.literals.back().text, int(m_result.literals.size()) - 1});
@@ -215,6 +219,7 @@ private:
 
     QStringView m_sql;
     qsizetype m_at = 0;
+    TextBuilder m_shape;
     Lexed m_result;
 };
 

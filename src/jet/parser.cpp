@@ -172,6 +172,8 @@ private:
         result.distinct = takeWord(u"distinct");
         if (!result.distinct)
             takeWord(u"all");
+        constexpr size_t kUsualItems = 16;
+        result.items.reserve(kUsualItems);
         do
             result.items.push_back(selectItem());
         while (takeSymbol(u','));
@@ -501,6 +503,7 @@ private:
     {
         auto result = make(kind);
         result->op = op;
+        result->parts.reserve(2);
         adopt(*result, std::move(left));
         adopt(*result, std::move(right));
         return result;

@@ -47,6 +47,10 @@ struct Expression {
     QStringView name; ///< column, function, or the text of a number or value
     std::vector<std::unique_ptr<Expression>> parts;
     std::unique_ptr<Select> select;
+
+    // A statement has hundreds of these, and the next one can use them again.
+    static void* operator new(size_t size);
+    static void operator delete(void* node);
 };
 
 using ExpressionPtr = std::unique_ptr<Expression>;

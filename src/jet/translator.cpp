@@ -57,8 +57,9 @@ public:
             rows.columns.push_back({column.name, column.type});
         m_scopes.push_back({{&rows, rows.name}});
         m_slots = snapshot.main.values;
-        m_out = u"SELECT [position] FROM (SELECT *, row_number() OVER () - 1 AS [position] FROM ("_s
-            + snapshot.main.sql + u")) AS [rows] WHERE "_s;
+        m_out += u"SELECT [position] FROM (SELECT *, row_number() OVER () - 1 AS [position] FROM (";
+        m_out += snapshot.main.sql;
+        m_out += u")) AS [rows] WHERE ";
         truth(condition);
         m_out += u" ORDER BY [position]"_s;
         return takePiece();
@@ -130,12 +131,8 @@ private:
         result.tableAlias = from.shownAs().toString();
         openScope(arm);
 
-        QString list;
-        std::swap(list, m_out);
         itemList(arm, &result.columns);
-        std::swap(list, m_out);
-        const std::vector<Slot> listSlots = std::move(m_slots);
-        m_slots.clear();
+        const auto [list, listSlots] = takePiece();
 
         const bool hasMemo = std::any_of(result.columns.begin(), result.columns.end(),
             [](const ResultColumn& column) { return column.type == ColumnType::Memo; });
@@ -177,7 +174,9 @@ private:
         }
         result.isOrdered = !arm.orderBy.empty();
 
-        m_out = u"SELECT "_s + list + u" FROM "_s;
+        m_out += u"SELECT ";
+        m_out += list;
+        m_out += u" FROM ";
         m_slots = listSlots;
         tableAs(from);
         m_out += u" WHERE "_s;
@@ -245,18 +244,25 @@ private:
 
     void selection(const Select& s, std::vector<ResultColumn>* columns) override
     {
+        const bool wasNamed = std::exchange(m_isNamed, true); // outside of this one, which may stand inside
         if (s.arms.size() == 1)
-            return single(s.arms.front(), columns);
+            single(s.arms.front(), columns);
+        else
+            unionOf(s, columns);
+        m_isNamed = wasNamed;
+    }
+
+    void unionOf(const Select& s, std::vector<ResultColumn>* columns)
+    {
         std::vector<ResultColumn> armColumns;
         bool first = true;
         for (const SelectArm& arm : s.arms) {
             if (!first)
                 m_out += arm.keepsDoubles ? u" UNION ALL "_s : u" UNION "_s;
             armColumns.clear();
-            selectArm(arm, &armColumns);
-            if (first)
-                *columns = armColumns;
-            else if (armColumns.size() != columns->size())
+            m_isNamed = first; // the file engine takes the names of the first arm as well
+            selectArm(arm, first ? columns : &armColumns);
+            if (!first && armColumns.size() != columns->size())
                 throw Refusal{u"the arms of the union differ in width"_s};
             first = false;
         }
@@ -416,6 +422,11 @@ private:
     void selectItem(const SelectItem& item, std::vector<ResultColumn>* columns)
     {
         const Expression& e = *item.expression;
+        if (!m_isNamed) {
+            collated(e);
+            columns->push_back({});
+            return;
+        }
         ResultColumn column;
         if (e.kind == Expression::Kind::Column) {
             const Resolved found = resolve(e);
@@ -424,7 +435,8 @@ private:
             column.name = column.source == e.name ? column.source : e.name.toString();
         } else {
             column.type = columnTypeOf(typeOf(e));
-            column.name = u"Expr%1"_s.arg(1000 + columns->size());
+            if (item.alias.isEmpty())
+                column.name = u"Expr"_s + QString::number(1000 + columns->size());
         }
         if (!item.alias.isEmpty())
             column.name = item.alias.toString();
@@ -557,6 +569,8 @@ private:
         expression(e);
         m_out += u')';
     }
+
+    bool m_isNamed = true; ///< the columns of the arm that is written need names
 };
 
 template <class Result, class Run> std::optional<Result> guarded(Run run, QString* error)

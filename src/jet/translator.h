@@ -22,6 +22,7 @@ public:
     ColumnType type;
 
     bool isCalled(QStringView other, uint otherHash) const;
+    uint hash() const { return m_hash; }
     static uint hashOf(QStringView text);
 
 private:
@@ -32,6 +33,8 @@ struct CatalogTable {
     QString name;
     std::vector<CatalogColumn> columns;
     const CatalogColumn* column(QStringView columnName) const;
+
+    mutable std::vector<int> places = {}; ///< of the columns, by hash; made at the first look
 };
 
 /// Finds a table without regard to case; nullptr when there is none.
