@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
@@ -436,6 +437,9 @@ private:
             timer.start();
             const int rows = openList(m_book, mine);
             const double first = double(timer.nsecsElapsed()) / 1000;
+            // The texts are read on a thread of their own meanwhile.
+            while (m_count >= 5'000 && m_book.searchMemory() == 0)
+                QThread::msleep(1);
             same(u"search "_s + word, rows, m_plain->walk(theirs));
             const auto taken = inTurns(
                 m_times, [&] { openList(m_book, mine); }, [&] { m_plain->walk(theirs); });

@@ -123,7 +123,8 @@ void Engine::letGo()
 void Engine::takeUp()
 {
     m_isOpen = std::make_shared<bool>(true);
-    m_search = std::make_unique<TextSearch>(connection());
+    m_search
+        = std::make_unique<TextSearch>(connection(), m_file.isReadableAside() ? m_file.path() : QString());
     if (m_labels)
         keepChanges(QList<ChangeLabel>(*m_labels));
 }

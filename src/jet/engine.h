@@ -122,6 +122,11 @@ public:
         std::vector<sqlite3_int64> sure; ///< rows that fit, of a statement without an order
         Prepared rest; ///< the other rows that fit
     };
+    void readAhead()
+    {
+        if (m_search)
+            m_search->readAhead();
+    }
     /// Nothing when main has to look at all rows. To be asked and run within one ReadTransaction.
     std::optional<Narrowed> narrowed(const Request& request, Way way);
     Prepared prepareRow(const Request& request, qint64 key);

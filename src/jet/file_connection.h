@@ -27,6 +27,8 @@ public:
     sqlite3* handle() const { return m_handle; }
     bool isReadOnly() const { return m_isReadOnly; }
     const QString& path() const { return m_path; }
+    /// Whether other connections can read it and keep no write of this one waiting.
+    bool isReadableAside() const { return !m_isReadOnly && m_kind == Database::Kind::Data; }
 
     /// Whether a file that was opened for reading only can be written by now. Cheap enough for each write.
     bool isWritableByNow();

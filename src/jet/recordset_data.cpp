@@ -39,6 +39,8 @@ bool RecordsetData::load()
     }
     if (!done)
         m_engine->reportRead(m_text);
+    if (translation.filter)
+        m_engine->readAhead();
     return done;
 }
 

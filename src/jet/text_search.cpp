@@ -1,8 +1,11 @@
 #include "jet/text_search.h"
 
 #include "jet/like_pattern.h"
+#include "jet/sql_functions.h"
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
 
 namespace jet {
 
@@ -83,8 +86,63 @@ struct TextSearch::Query {
     bool isWhole = true; ///< every pattern was looked for
 };
 
-TextSearch::TextSearch(sqlite3* connection)
+/// The texts of a table on their way into memory. Ends the thread when it goes.
+class TextSearch::Reading {
+public:
+    Reading(const QString& file, const QByteArray& sql)
+    {
+        if (sqlite3_open_v2(file.toUtf8().constData(), &m_connection,
+                SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr)
+            == SQLITE_OK) {
+            registerDialect(m_connection); // its indexes are sorted by our own collation
+            m_thread = std::thread([this, sql] { read(m_connection, sql); });
+        } else {
+            m_isDone = true;
+        }
+    }
+    ~Reading()
+    {
+        if (m_thread.joinable()) {
+            m_isGivenUp = true;
+            sqlite3_interrupt(m_connection);
+            m_thread.join();
+        }
+        sqlite3_close_v2(m_connection);
+    }
+    Q_DISABLE_COPY_MOVE(Reading)
+
+    bool isDone() const { return m_isDone; }
+    /// Nothing when it failed, or was too much.
+    std::optional<TextIndex> result()
+    {
+        if (m_thread.joinable())
+            m_thread.join();
+        return std::move(m_result);
+    }
+
+private:
+    void read(sqlite3* connection, const QByteArray& sql)
+    {
+        sqlite3_stmt* rows = nullptr;
+        TextIndex index;
+        if (!m_isGivenUp
+            && sqlite3_prepare_v2(connection, sql.constData(), int(sql.size()), &rows, nullptr) == SQLITE_OK
+            && index.read(rows))
+            m_result = std::move(index);
+        sqlite3_finalize(rows);
+        m_isDone = true;
+    }
+
+    sqlite3* m_connection = nullptr;
+    std::thread m_thread;
+    std::atomic<bool> m_isDone = false;
+    std::atomic<bool> m_isGivenUp = false;
+    std::optional<TextIndex> m_result;
+};
+
+TextSearch::TextSearch(sqlite3* connection, const QString& fileAside)
     : m_connection(connection)
+    , m_fileAside(fileAside)
 {
     sqlite3_update_hook(m_connection, &TextSearch::rowChanged, this);
     // What was read within a transaction that is given up was never so.
@@ -98,6 +156,11 @@ TextSearch::~TextSearch()
     sqlite3_rollback_hook(m_connection, nullptr, nullptr);
 }
 
+void TextSearch::forget()
+{
+    m_tables.clear();
+}
+
 void TextSearch::rowChanged(void* self, int, const char*, const char* table, sqlite3_int64 id)
 {
     auto& tables = static_cast<TextSearch*>(self)->m_tables;
@@ -108,7 +171,8 @@ void TextSearch::rowChanged(void* self, int, const char*, const char* table, sql
         return;
     auto& changed = known->second->changed;
     changed.insert(id);
-    if (changed.size() * kMostChangedPart > known->second->index.rows())
+    if (!known->second->reading && !known->second->isWanted
+        && changed.size() * kMostChangedPart > known->second->index.rows())
         tables.erase(known);
 }
 
@@ -146,6 +210,9 @@ TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& 
         return nullptr;
     if (!table)
         table = m_tables.emplace(key, std::make_unique<Table>()).first->second.get();
+    takeWhatWasRead(*table);
+    if (table->reading || table->isWanted)
+        return nullptr;
     const bool hasAll = std::all_of(columns.cbegin(), columns.cend(),
         [table](const QString& column) { return table->columns.contains(column); });
     if (version && table->fileVersion == *version && hasAll)
@@ -154,25 +221,59 @@ TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& 
         if (!table->columns.contains(column))
             table->columns << column;
     }
-    table->fileVersion = version.value_or(0);
-    table->isTooMuch = !version || !read(name, *table);
-    return table->isTooMuch ? nullptr : table;
+    // What this connection has written and not committed can not be seen from aside.
+    if (!version || (!m_fileAside.isEmpty() && sqlite3_txn_state(m_connection, "main") == SQLITE_TXN_WRITE)) {
+        m_tables.erase(key);
+        return nullptr;
+    }
+    table->fileVersion = *version;
+    table->index = {};
+    table->changed.clear(); // from here on each change is noted
+    table->isWanted = !m_fileAside.isEmpty();
+    if (!table->isWanted)
+        readNow(key, *table);
+    return table->isWanted || table->isTooMuch ? nullptr : table;
 }
 
-bool TextSearch::read(const QString& name, Table& table)
+QByteArray TextSearch::readingSql(const std::string& name, const Table& table) const
 {
-    table.index = {};
-    table.changed.clear();
-    const QString sql = u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s + name + u']';
-    const QByteArray utf8 = sql.toUtf8();
+    return (u"SELECT rowid, ["_s + table.columns.join(u"], ["_s) + u"] FROM ["_s
+        + QString::fromStdString(name) + u']')
+        .toUtf8();
+}
+
+void TextSearch::readNow(const std::string& name, Table& table)
+{
+    const QByteArray sql = readingSql(name, table);
     sqlite3_stmt* rows = nullptr;
-    const bool done
-        = sqlite3_prepare_v2(m_connection, utf8.constData(), int(utf8.size()), &rows, nullptr) == SQLITE_OK
-        && table.index.read(rows);
+    table.isTooMuch
+        = sqlite3_prepare_v2(m_connection, sql.constData(), int(sql.size()), &rows, nullptr) != SQLITE_OK
+        || !table.index.read(rows);
     sqlite3_finalize(rows);
-    if (!done)
+    if (table.isTooMuch)
         table.index = {};
-    return done;
+}
+
+void TextSearch::readAhead()
+{
+    for (const auto& [name, table] : m_tables) {
+        if (std::exchange(table->isWanted, false))
+            table->reading = std::make_unique<Reading>(m_fileAside, readingSql(name, *table));
+    }
+}
+
+void TextSearch::takeWhatWasRead(Table& table)
+{
+    if (!table.reading || !table.reading->isDone())
+        return;
+    auto index = table.reading->result();
+    table.reading.reset();
+    table.isTooMuch = !index;
+    if (index)
+        table.index = std::move(*index);
+    // Nearly all was changed in the meantime: the next search has it read anew.
+    if (index && table.changed.size() * kMostChangedPart > table.index.rows())
+        table.fileVersion = -1;
 }
 
 bool TextSearch::isWorthwhile(const QString& name)
@@ -192,11 +293,13 @@ std::optional<sqlite3_int64> TextSearch::number(const QString& sql)
     return result;
 }
 
-size_t TextSearch::memory() const
+size_t TextSearch::memory()
 {
     size_t sum = 0;
-    for (const auto& [name, table] : m_tables)
+    for (const auto& [name, table] : m_tables) {
+        takeWhatWasRead(*table);
         sum += table->index.bytes();
+    }
     return sum;
 }
 

@@ -17,13 +17,16 @@ namespace jet {
 /// Finds the rows that a search for pieces of text is about, such as `city like '*wor*'`, without reading
 /// them.
 ///
-/// The first search of a large table reads the columns that it looks into; they are kept. The pattern is put
-/// to each different text once. A row that was changed since, through this connection, is looked at in the
-/// file; a change by another connection makes the next search read anew. Everything here is memory: the file
-/// and a save know nothing of it.
+/// The first search of a large table has the columns that it looks into read on a thread of their own; they
+/// are kept, and until they are there the searches look at the file. The pattern is put to each different
+/// text once. A row that was changed since, through this connection, is looked at in the file; a change by
+/// another connection makes the next search read anew. Everything here is memory: the file and a save know
+/// nothing of it.
 class TextSearch {
 public:
-    explicit TextSearch(sqlite3* connection);
+    /// `fileAside` is read through a connection of the thread's own. Where that could keep a write waiting
+    /// it is blank, and the first search reads by itself.
+    TextSearch(sqlite3* connection, const QString& fileAside);
     ~TextSearch();
     TextSearch(const TextSearch&) = delete;
     TextSearch& operator=(const TextSearch&) = delete;
@@ -37,14 +40,20 @@ public:
     /// in the same read transaction as the search.
     std::optional<Rows> rows(
         const QString& table, const TextFilter& filter, const std::vector<Literal>& literals, Way way);
+    /// Behind a search that looked at the file: reads what the next one can use, and does not keep this one
+    /// from its rows.
+    void readAhead();
     /// When tables were made, dropped or altered.
-    void forget() { m_tables.clear(); }
-    size_t memory() const;
+    void forget();
+    size_t memory();
 
 private:
+    class Reading;
     struct Table {
         QStringList columns;
         TextIndex index;
+        std::unique_ptr<Reading> reading; ///< while it goes on
+        bool isWanted = false; ///< to be read ahead
         std::unordered_set<sqlite3_int64> changed;
         sqlite3_int64 fileVersion = 0;
         bool isTooMuch = false;
@@ -52,12 +61,15 @@ private:
     struct Query;
 
     Table* prepared(const QString& name, const QStringList& columns);
-    bool read(const QString& name, Table& table);
+    QByteArray readingSql(const std::string& name, const Table& table) const;
+    void readNow(const std::string& name, Table& table);
+    static void takeWhatWasRead(Table& table);
     bool isWorthwhile(const QString& name);
     std::optional<sqlite3_int64> number(const QString& sql);
     static void rowChanged(void* self, int, const char*, const char* table, sqlite3_int64 id);
 
     sqlite3* m_connection;
+    QString m_fileAside;
     std::unordered_map<std::string, std::unique_ptr<Table>> m_tables; ///< by name as the file spells it
 };
 

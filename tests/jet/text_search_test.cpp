@@ -18,13 +18,16 @@ private Q_SLOTS:
     void sameRowsForAnyWord();
     void changedRowsAreSeen();
     void manyChangedRowsAreSeen();
+    void whatIsWrittenWhileItReads();
     void whatWasGivenUpNeverWas();
     void changesOfAnotherProgramAreSeen();
     void brokenPatternFailsAsEver();
     void fewRowsNeedNoMemory();
 
 private:
+    /// The same before the texts are in memory and with them, or the test fails.
     QList<qint64> found(const QString& where, jet::Way way = jet::Way::Dao);
+    void waitForTexts();
     /// A condition in this form is put to every row.
     QList<qint64> foundByLooking(const QString& where, jet::Way way = jet::Way::Dao);
     static QList<qint64> ids(const jet::Recordset& rows);
@@ -94,7 +97,20 @@ QList<qint64> TextSearchTest::ids(const jet::Recordset& rows)
 
 QList<qint64> TextSearchTest::found(const QString& where, jet::Way way)
 {
-    return ids(m_book.openRecordset(u"select id,Name from cnt_main where "_s + where, way));
+    const QString sql = u"select id,Name from cnt_main where "_s + where;
+    const QList<qint64> before = ids(m_book.openRecordset(sql, way));
+    waitForTexts();
+    const QList<qint64> after = ids(m_book.openRecordset(sql, way));
+    return before == after ? after : QList<qint64>{-1};
+}
+
+// Some searches have no use for them.
+void TextSearchTest::waitForTexts()
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (m_book.searchMemory() == 0 && waited.elapsed() < 400)
+        QThread::msleep(1);
 }
 
 QList<qint64> TextSearchTest::foundByLooking(const QString& where, jet::Way way)
@@ -201,6 +217,30 @@ void TextSearchTest::manyChangedRowsAreSeen()
     QVERIFY(m_book.execute(u"update cnt_main set city='Nagpur' where city='Pune'"_s));
     QCOMPARE(found(u"city like '*pune*'"_s), QList<qint64>());
     QCOMPARE(found(u"city like '*agp*'"_s).size(), kPeople / 3);
+}
+
+void TextSearchTest::whatIsWrittenWhileItReads()
+{
+    const auto begin
+        = [this] { m_book.openRecordset(u"select id from cnt_main where Name like '*quince*'"); };
+    begin();
+    QVERIFY(m_book.execute(u"update cnt_main set Name='Quince' where id=7"_s));
+    QCOMPARE(found(u"Name like '*quince*'"_s), QList<qint64>{7});
+    {
+        // What is not committed can not be seen by another thread.
+        jet::Batch batch(m_book);
+        QVERIFY(m_book.execute(u"update cnt_main set city='Quince' where id=8"_s));
+        QCOMPARE(found(u"city like '*quince*'"_s), QList<qint64>{8});
+        batch.rollBack();
+    }
+    QCOMPARE(found(u"city like '*quince*'"_s), QList<qint64>());
+    QVERIFY(m_book.execute(u"update cnt_main set note='x'"_s)); // nearly all: they are read anew
+    begin();
+    m_book.close();
+    init();
+    begin();
+    QVERIFY(m_book.execute(u"update cnt_main set Name='Quince'"_s));
+    QCOMPARE(found(u"Name like '*quince*'"_s).size(), kPeople);
 }
 
 void TextSearchTest::whatWasGivenUpNeverWas()
