@@ -270,7 +270,7 @@ void MDIForm1::buildMenus()
     new UndoCommand(*m_context, edit);
     edit->addSeparator();
     followTool(edit->addAction(tr("&Find")), m_tools->action(u"Search"));
-    followTool(edit->addAction(tr("&Set-up")), m_tools->action(u"CSetup"));
+    followTool(edit->addAction(tr("Address Book &Setup")), m_tools->action(u"CSetup"));
     buildViewMenu(add(tr("&View"), viewMenu()));
     add(tr("C&ommunicate"), communicateMenu());
     add(tr("&Tools"), toolsMenu());
@@ -410,14 +410,28 @@ void MDIForm1::place(core::Screen* screen, core::Shown shown)
 void MDIForm1::addTab(core::Screen* screen)
 {
     widgets::settleMnemonics(screen, menuLetters());
-    m_tabs->setCurrentIndex(m_tabs->addTab(screen, screen->windowTitle()));
-    connect(screen, &QWidget::windowTitleChanged, this, [this, screen](const QString& title) {
-        m_tabs->setTabText(m_tabs->indexOf(screen), title);
+    m_tabs->setCurrentIndex(m_tabs->addTab(screen, {}));
+    const auto name = [this, screen] {
+        m_tabs->setTabText(m_tabs->indexOf(screen), nameOfTab(screen));
         showHead();
-    });
+    };
+    name();
+    connect(screen, &QWidget::windowTitleChanged, this, name);
+    connect(screen, &core::Screen::headChanged, this, name);
     connect(
         screen, &core::Screen::closeRequested, this, [this, screen] { closeTab(m_tabs->indexOf(screen)); });
-    connect(screen, &core::Screen::headChanged, this, &MDIForm1::showHead);
+}
+
+// One name in tab and title, but where two screens share a title: there each has its own.
+QString MDIForm1::nameOfTab(core::Screen* screen) const
+{
+    QString name = screen->frameTitle();
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        const auto* other = qobject_cast<core::Screen*>(m_tabs->widget(i));
+        if (other && other != screen && other->frameTitle() == name)
+            name = screen->windowTitle();
+    }
+    return name.replace(u'&', u"&&"_s); // it is no mnemonic
 }
 
 core::Screen* MDIForm1::screenInFront() const

@@ -49,7 +49,7 @@ constexpr MenuRow kCommunicateMenu[] = {
 };
 constexpr MenuRow kToolsMenu[] = {
     {kTool, u"FamilyTree", QT_TRANSLATE_NOOP("shell", "Family tree"), u"ftree"},
-    {kTool, u"Linked", QT_TRANSLATE_NOOP("shell", "Linked records"), u"Lk"},
+    {kTool, u"Linked", QT_TRANSLATE_NOOP("shell", "Contacts Link Viewer"), u"Lk"},
     kLine,
     {kPage, u"Functions"},
     {kPage, u"OtherFunctions"},

@@ -34,7 +34,7 @@ struct Favourite {
 constexpr Favourite kFavourites[] = {
     {u"NewContact", QT_TRANSLATE_NOOP("shell", "New contact"),
         QT_TRANSLATE_NOOP("shell", "Enter a contact with all its details"), u"person-add"},
-    {u"FullView", QT_TRANSLATE_NOOP("shell", "Full view"),
+    {u"FullView", QT_TRANSLATE_NOOP("shell", "Contacts Full View"),
         QT_TRANSLATE_NOOP("shell", "Look through the contacts one by one"), u"persons"},
     {u"Search", QT_TRANSLATE_NOOP("shell", "Search"),
         QT_TRANSLATE_NOOP("shell", "Find contacts by any field"), u"search"},
@@ -46,7 +46,7 @@ constexpr Favourite kFavourites[] = {
         QT_TRANSLATE_NOOP("shell", "Write a letter to one contact or many"), u"letter"},
     {u"EMails", QT_TRANSLATE_NOOP("shell", "E-mail"),
         QT_TRANSLATE_NOOP("shell", "Write to one contact or many"), u"envelope"},
-    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Set-up"),
+    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Address Book Setup"),
         QT_TRANSLATE_NOOP("shell", "Categories, lists and defaults"), u"setup"},
 };
 

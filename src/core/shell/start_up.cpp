@@ -315,8 +315,8 @@ void StartUp::backUpLater()
             if (result == core::BackupResult::Failed && book.isOpen() && !book.checkSoundness().isEmpty())
                 result = core::BackupResult::BookUnsound;
             jet::Database info;
-            const bool infoIsSound = info.open(names, jet::Database::Kind::Information) == Opened::Opened
-                && info.checkSoundness().isEmpty();
+            const bool infoIsSound = info.open(names, jet::Database::Kind::Information) != Opened::Opened
+                || info.checkSoundness().isEmpty();
             QMetaObject::invokeMethod(
                 this, [this, result, infoIsSound] { backedUp(result, infoIsSound); }, Qt::QueuedConnection);
         }));

@@ -12,17 +12,17 @@ constexpr Tool AddTools[] = {
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad with every screen that adds contacts"), u"launch"},
     {u"ID_Add2", QT_TRANSLATE_NOOP("shell", "Add launch pad"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad on its add page"), u"launch"},
-    {u"Edit", QT_TRANSLATE_NOOP("shell", "Detailed add and edit"),
+    {u"Edit", QT_TRANSLATE_NOOP("shell", "Contacts Detailed Add/Edit"),
         QT_TRANSLATE_NOOP("shell", "Every field of a contact on one form, for new contacts and for changes"),
         u"person-add"},
     {u"M_Add", QT_TRANSLATE_NOOP("shell", "Add a list"),
         QT_TRANSLATE_NOOP("shell", "Type many contacts one below another, as in a table"), u"list"},
-    {u"TurboAdd", QT_TRANSLATE_NOOP("shell", "Turbo add"),
+    {u"TurboAdd", QT_TRANSLATE_NOOP("shell", "Contacts Turbo Add"),
         QT_TRANSLATE_NOOP("shell", "Add a contact with the fewest keys: autotext fills the rest"),
         u"person-add", u"Ctrl+Shift+N"},
-    {u"AddBus", QT_TRANSLATE_NOOP("shell", "Business add"),
+    {u"AddBus", QT_TRANSLATE_NOOP("shell", "Contacts Business Add/Edit"),
         QT_TRANSLATE_NOOP("shell", "A short form for firms and business contacts"), u"work"},
-    {u"RecDupe", QT_TRANSLATE_NOOP("shell", "Duplicate a record"),
+    {u"RecDupe", QT_TRANSLATE_NOOP("shell", "Record Duplicator"),
         QT_TRANSLATE_NOOP(
             "shell", "Make the spouse, a child or the firm of a contact a contact of their own"),
         u"persons"},
@@ -34,7 +34,7 @@ constexpr Tool AddTools[] = {
 };
 
 constexpr Tool BasicAddTools[] = {
-    {u"ID_Add3", QT_TRANSLATE_NOOP("shell", "Basic add"),
+    {u"ID_Add3", QT_TRANSLATE_NOOP("shell", "Contacts Basic Add"),
         QT_TRANSLATE_NOOP("shell", "Name, home address and telephone of a new contact, no more"),
         u"person-add"},
     {u"ID_SimpleAdd", QT_TRANSLATE_NOOP("shell", "Quick add"),
@@ -73,7 +73,7 @@ constexpr Tool EditTools[] = {
 constexpr Tool ViewTools[] = {
     {u"ID_View", QT_TRANSLATE_NOOP("shell", "All views"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad with the main views"), u"launch"},
-    {u"FullView", QT_TRANSLATE_NOOP("shell", "Full view"),
+    {u"FullView", QT_TRANSLATE_NOOP("shell", "Contacts Full View"),
         QT_TRANSLATE_NOOP("shell", "One contact at a time, with everything that is known"), u"card",
         u"Ctrl+L"},
     {u"QuickView", QT_TRANSLATE_NOOP("shell", "Quick view"),
@@ -111,7 +111,7 @@ constexpr Tool ViewOtherTools[] = {
         QT_TRANSLATE_NOOP("shell", "The contacts of each city and country"), u"location"},
     {u"Picture", QT_TRANSLATE_NOOP("shell", "View by picture"),
         QT_TRANSLATE_NOOP("shell", "The contacts with their photos"), u"picture"},
-    {u"Linked", QT_TRANSLATE_NOOP("shell", "Linked records"),
+    {u"Linked", QT_TRANSLATE_NOOP("shell", "Contacts Link Viewer"),
         QT_TRANSLATE_NOOP("shell", "Letters, e-mails and other records linked to a contact"), u"link"},
     {u"ID_Summary", QT_TRANSLATE_NOOP("shell", "Summary"),
         QT_TRANSLATE_NOOP("shell", "How many contacts there are of each kind"), u"report"},
@@ -438,7 +438,7 @@ constexpr Tool OtherFunctionsTools[] = {
 constexpr Tool SetupTools[] = {
     {u"ID_Setup", QT_TRANSLATE_NOOP("shell", "All of set-up"),
         QT_TRANSLATE_NOOP("shell", "Opens the launch pad with the set-up screens"), u"launch"},
-    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Address book set-up"),
+    {u"CSetup", QT_TRANSLATE_NOOP("shell", "Address Book Setup"),
         QT_TRANSLATE_NOOP("shell", "Categories, lists, cities and the defaults of a new contact"), u"setup",
         u"Ctrl+,"},
     {u"LSetup", QT_TRANSLATE_NOOP("shell", "Letter and e-mail set-up"),
@@ -515,23 +515,23 @@ constexpr ListBarRow AddressBookRows[] = {
     {Row::ShortCode, u"d", QT_TRANSLATE_NOOP("shell", "Diary view")},
     {Row::ShortCode, u"dd", QT_TRANSLATE_NOOP("shell", "Diary, single page")},
     {Row::Tool, u"ID_Summary", QT_TRANSLATE_NOOP("shell", "Summary")},
-    {Row::ShortCode, u"setupbook", QT_TRANSLATE_NOOP("shell", "Address book set-up")},
+    {Row::ShortCode, u"setupbook", QT_TRANSLATE_NOOP("shell", "Address Book Setup")},
 };
 
 constexpr ListBarRow AddAndEditRows[] = {
-    {Row::ShortCode, u"m", QT_TRANSLATE_NOOP("shell", "Detailed add")},
-    {Row::ShortCode, u"l", QT_TRANSLATE_NOOP("shell", "Basic add")},
-    {Row::ShortCode, u"n", QT_TRANSLATE_NOOP("shell", "Business add")},
-    {Row::ShortCode, u"p", QT_TRANSLATE_NOOP("shell", "Turbo add")},
+    {Row::ShortCode, u"m", QT_TRANSLATE_NOOP("shell", "Contacts Detailed Add/Edit")},
+    {Row::ShortCode, u"l", QT_TRANSLATE_NOOP("shell", "Contacts Basic Add")},
+    {Row::ShortCode, u"n", QT_TRANSLATE_NOOP("shell", "Contacts Business Add/Edit")},
+    {Row::ShortCode, u"p", QT_TRANSLATE_NOOP("shell", "Contacts Turbo Add")},
     {Row::ShortCode, u"o", QT_TRANSLATE_NOOP("shell", "Add a list")},
     {Row::ShortCode, u"s", QT_TRANSLATE_NOOP("shell", "Edit a list")},
     {Row::ShortCode, u"editfull", QT_TRANSLATE_NOOP("shell", "Edit in full view")},
-    {Row::Tool, u"RecDupe", QT_TRANSLATE_NOOP("shell", "Duplicate a record")},
+    {Row::Tool, u"RecDupe", QT_TRANSLATE_NOOP("shell", "Record Duplicator")},
     {Row::ShortCode, u"rep", QT_TRANSLATE_NOOP("shell", "Replace numbers and codes")},
 };
 
 constexpr ListBarRow ViewsAndSearchRows[] = {
-    {Row::ShortCode, u"c", QT_TRANSLATE_NOOP("shell", "Full view")},
+    {Row::ShortCode, u"c", QT_TRANSLATE_NOOP("shell", "Contacts Full View")},
     {Row::ShortCode, u"bb", QT_TRANSLATE_NOOP("shell", "Smart view")},
     {Row::ShortCode, u"lbrief", QT_TRANSLATE_NOOP("shell", "Brief page")},
     {Row::ShortCode, u"lpersonal", QT_TRANSLATE_NOOP("shell", "Personal page")},
@@ -539,7 +539,7 @@ constexpr ListBarRow ViewsAndSearchRows[] = {
     {Row::ShortCode, u"gcat", QT_TRANSLATE_NOOP("shell", "By category, place, picture")},
     {Row::Tool, u"Search", QT_TRANSLATE_NOOP("shell", "Search")},
     {Row::Tool, u"AdvanceSearch", QT_TRANSLATE_NOOP("shell", "Advanced search")},
-    {Row::ShortCode, u"linked", QT_TRANSLATE_NOOP("shell", "Linked records")},
+    {Row::ShortCode, u"linked", QT_TRANSLATE_NOOP("shell", "Contacts Link Viewer")},
 };
 
 constexpr ListBarRow BirthdaysRows[] = {
