@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "core/store/book_files.h"
+#include "core/store/book_schema.h"
 #include "jet/database.h"
 
 #include <csignal>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void firstStart_data();
     void firstStart();
     void everyShippedRowArrives();
+    void shippedPlacesFitTheirFields();
     void killedWhileMaking();
     void folderThatCanNotBeWritten();
     void neverOverwritten();
@@ -131,6 +133,30 @@ void BookFilesTest::everyShippedRowArrives()
 
 // Killed at several moments of the making, the folder holds no half database, and the next start makes it
 // whole.
+void BookFilesTest::shippedPlacesFitTheirFields()
+{
+    const QHash<QString, QStringList> fields{{u"country"_s, {u"h_country"_s, u"b_country"_s, u"w_country"_s}},
+        {u"state"_s, {u"h_state"_s, u"b_state"_s, u"w_State"_s}},
+        {u"city"_s, {u"h_city"_s, u"b_city"_s, u"w_city"_s}},
+        {u"std"_s, {u"h_std"_s, u"B_std"_s, u"W_std"_s}}, {u"jobtitle"_s, {u"Job_Title"_s, u"AltTitle"_s}}};
+    const jet::Schema schema = core::bookSchema();
+    int looked = 0;
+    for (const auto part : {core::BookPart::Data, core::BookPart::Information}) {
+        for (const core::ShippedRows& shipped : core::shippedRows(part)) {
+            for (const QStringList& row : shipped.rows) {
+                for (qsizetype i = 0; i < row.size(); ++i) {
+                    for (const QString& field : fields.value(shipped.columns[i].toLower())) {
+                        ++looked;
+                        if (row[i].size() > schema.textSize(u"cnt_main", field))
+                            QFAIL(qPrintable(row[i] + u" in "_s + field));
+                    }
+                }
+            }
+        }
+    }
+    QVERIFY(looked > 1000);
+}
+
 void BookFilesTest::killedWhileMaking()
 {
     for (const int milliseconds : {2, 10, 25, 60, 150}) {

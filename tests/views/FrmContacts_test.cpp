@@ -154,7 +154,7 @@ void FrmContactsTest::refuses_data()
     QTest::newRow("no view") << u"cmbnview"_s << u"nonsense"_s << u"Not a Valid Name View"_s;
     QTest::newRow("no name") << u"cmbnview"_s << u"Company"_s
                              << u"Either Name or Company should be entered"_s;
-    QTest::newRow("no date") << u"DateBday"_s << u"someday"_s << u"The birthday is no date."_s;
+    QTest::newRow("no date") << u"DateBday"_s << u"someday"_s << QString();
 }
 
 void FrmContactsTest::refuses()
@@ -168,8 +168,10 @@ void FrmContactsTest::refuses()
         QTest::keyClicks(child<QWidget>(m_form, control), text);
     else
         type(control, text);
-    m_fixture->boxes.expect(box);
+    if (!box.isEmpty())
+        m_fixture->boxes.expect(box);
     click(u"Command1"_s);
+    QCOMPARE(child<QWidget>(m_form, u"DateBday"_s)->hasFocus(), box.isEmpty());
     QCOMPARE(rows(u"select id from cnt_main"_s).size(), 12);
 }
 

@@ -52,8 +52,7 @@ QString caption(const char* text)
 }
 
 /// Fields that do not show their column as it is when a record is put on the form.
-const QSet<QString> kNotFromColumn{
-    u"txtcmpnyPrefix"_s, u"dtcmbcity1"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"txtemail1"_s};
+const QSet<QString> kNotFromColumn{u"dtcmbcity1"_s, u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"txtemail1"_s};
 
 /// The name of what is entered, by a view of names that a check has found to be one.
 QString composedName(const FormValues& values)

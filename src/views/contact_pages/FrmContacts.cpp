@@ -4,6 +4,7 @@
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
 #include "core/mail_key.h"
+#include "core/save_failure.h"
 #include "core/scheduler_rows.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
@@ -313,6 +314,7 @@ void FrmContacts::display(qint64 id)
     if (!contact.hasRow())
         return startNew();
     m_id = id;
+    m_loaded = core::LoadedRow(contact);
     shared().selectedContactId = id;
     shared().selectedContactName = contact.textOrEmpty(u"Name");
     showValues(simpleValuesOf(contact, shared().ContMerge));
@@ -394,64 +396,93 @@ void FrmContacts::save()
     const SimpleValues now = values();
     if (const auto refusal = refusalOf(now))
         return refuse(*refusal);
-    if (DateBday->holdsBadText()) {
-        warn(tr("The birthday is no date."));
-        DateBday->setFocus();
-        return;
-    }
+    if (DateBday->holdsBadText())
+        return DateBday->askToMend();
     // What could not be stored stays on the form, so that it can be saved again.
     const bool isNew = m_id == 0;
-    if (!store(now))
+    const qint64 id = isNew ? add(now) : change(now);
+    if (id == 0)
         return;
-    tellOthers(now, isNew);
+    m_id = id;
+    tellMailClient(now, isNew);
     readList();
     display(m_id);
     context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
+    tellSaved(shared().selectedContactName);
 }
 
-bool FrmContacts::store(const SimpleValues& now)
+SimpleSave FrmContacts::saveOptions() const
 {
     const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
-    const SimpleSave how{context().services.clock.today(), shared().ContMerge,
+    return {context().services.clock.today(), shared().ContMerge,
         setup.hasRow() ? setup.textOrEmpty(u"Priority") : QString()};
-    if (m_id == 0) {
-        jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2");
-        rows.addNew();
-        assignNew(rows, now, how);
-        if (!rows.update())
-            return false;
-        m_id = rows.lastAddedKey();
-        return true;
+}
+
+bool FrmContacts::reachesOthers() const
+{
+    const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
+    return setup.hasRow() && setup.flag(u"UpdOutllook");
+}
+
+// The contact and its rows of the scheduler, or neither.
+qint64 FrmContacts::add(const SimpleValues& now)
+{
+    jet::Batch batch(context().data);
+    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2");
+    rows.addNew();
+    assignNew(rows, now, saveOptions());
+    const qint64 id = rows.update() ? rows.lastAddedKey() : 0;
+    if (id != 0 && reachesOthers()) {
+        platform::MailContact item;
+        fillMailItem(item, now);
+        const core::ScheduledDates dates{id, item.first, item.last, {}, {}, now.birthday, {}, {}, {}};
+        core::addSchedulerRows(
+            context().data, core::schedulerRows(dates, context().services.clock.today().year()));
     }
+    if (batch.commit() && id != 0)
+        return id;
+    core::tellFailedSave(context());
+    return 0;
+}
+
+qint64 FrmContacts::change(const SimpleValues& now)
+{
     jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id=%1"_s.arg(m_id));
     if (!rows.hasRow()) {
         warn(tr("This contact is not there any more. Choose New to enter it again."));
-        return false;
+        return 0;
     }
+    const auto edits = changedColumns(now, saveOptions(),
+        {[this, &now](const QString& control) { return now.text(control) != m_untouched.text(control); },
+            [this](const QString& control) { return child<QWidget>(this, control)->accessibleName(); }});
+    const auto clashes = m_loaded.clashes(rows, edits);
+    if (!clashes.isEmpty()
+        && context().services.boxes.ask(
+               core::clashQuestion(clashes), shared().AppTitle, platform::Icon::Warning)
+            != platform::Answer::Yes)
+        return 0;
     rows.edit();
-    assignChange(rows, now, how);
-    return rows.update();
+    m_loaded.assign(rows, edits);
+    if (rows.update())
+        return m_id;
+    core::tellFailedSave(context());
+    return 0;
 }
 
-// When the set-up says so, the mail client and, for a new contact, the scheduler have it too.
-void FrmContacts::tellOthers(const SimpleValues& now, bool isNew)
+void FrmContacts::tellMailClient(const SimpleValues& now, bool isNew)
 {
-    const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
-    if (!setup.hasRow() || !setup.flag(u"UpdOutllook"))
+    if (!reachesOthers())
         return;
     platform::MailContacts& client = context().services.mailContacts;
     platform::MailContact item;
     item.key = core::mailKeyOf(m_id);
-    if (isNew) {
-        fillMailItem(item, now);
-        client.add(item);
-        const core::ScheduledDates dates{m_id, item.first, item.last, {}, {}, now.birthday, {}, {}, {}};
-        core::addSchedulerRows(
-            context().data, core::schedulerRows(dates, context().services.clock.today().year()));
+    if (!isNew) {
+        client.update(item.key, [&now](platform::MailContact& stored) { fillMailItem(stored, now); });
         return;
     }
-    client.update(item.key, [&now](platform::MailContact& stored) { fillMailItem(stored, now); });
+    fillMailItem(item, now);
+    client.add(item);
 }
 
 void FrmContacts::cancel()

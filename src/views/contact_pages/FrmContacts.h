@@ -24,6 +24,7 @@ public:
     explicit FrmContacts(core::Context& context, QWidget* parent = nullptr);
 
     void load() override;
+    bool isTouched() const override { return values() != m_untouched; }
     void bookChanged() override;
     bool showContact(qint64 id) override;
     /// Category and subcategory may have become one entry, or two.
@@ -41,12 +42,14 @@ private:
 
     SimpleValues values() const;
     void showValues(const SimpleValues& values);
-    bool isTouched() const { return values() != m_untouched; }
     void display(qint64 id);
     void startNew();
     void save();
-    bool store(const SimpleValues& values);
-    void tellOthers(const SimpleValues& values, bool isNew);
+    SimpleSave saveOptions() const;
+    bool reachesOthers() const;
+    qint64 add(const SimpleValues& now);
+    qint64 change(const SimpleValues& now);
+    void tellMailClient(const SimpleValues& now, bool isNew);
     void refuse(SimpleRefusal refusal);
     void cancel();
     void afterDelete();
@@ -55,6 +58,7 @@ private:
     void showHead();
 
     qint64 m_id = 0; ///< the contact on the form, 0 for a new one
+    core::LoadedRow m_loaded; ///< the contact that is changed
     SimpleValues m_untouched; ///< what stood on the form before anybody typed
     bool m_quiet = false; ///< the list moves by itself
     bool m_isMerged = false; ///< category and subcategory stand in one list

@@ -2,6 +2,8 @@
 
 #include "core/contact_category.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace views {
@@ -68,24 +70,35 @@ std::optional<SimpleRefusal> refusalOf(const SimpleValues& values)
     return {};
 }
 
-void assignChange(jet::Recordset& rows, const SimpleValues& values, const SimpleSave& save)
+QList<core::ColumnEdit> changedColumns(
+    const SimpleValues& values, const SimpleSave& save, const core::TouchedFields& fields)
 {
-    rows.set(u"Name", nameOf(values));
+    QList<core::ColumnEdit> edits;
+    const auto write = [&](QStringView column, const QVariant& value, const QStringList& controls) {
+        edits.append({column.toString(), value, std::ranges::any_of(controls, fields.isTouched), false,
+            fields.label(controls.constFirst())});
+    };
+    const QStringList classes{kCategory.toString(), kSubcategory.toString()};
     const core::Category category
         = core::storedCategory(values.text(kCategory), values.text(kSubcategory), save.mergedCategory);
-    rows.set(u"category1", category.category);
-    rows.set(u"category2", category.subcategory);
+    write(u"Name", nameOf(values), {u"dtcmbfname"_s, u"dtcmblname"_s, u"txtcmpny"_s, kNameView.toString()});
+    write(u"category1", category.category, classes);
+    write(u"category2", category.subcategory, classes);
     for (const SimpleField& field : kFields) {
         const QString text = values.text(field.control);
-        rows.set(field.column, field.trimmed ? text.trimmed() : text);
+        write(field.column, field.trimmed ? text.trimmed() : text, {field.control.toString()});
     }
-    rows.set(u"M_BD", values.birthday ? QVariant(*values.birthday) : QVariant());
-    rows.set(u"DateModi", save.today);
+    write(u"M_BD", values.birthday ? QVariant(*values.birthday) : QVariant(), {u"DateBday"_s});
+    edits.append({u"DateModi"_s, save.today, false, true, {}});
+    return edits;
 }
 
 void assignNew(jet::Recordset& rows, const SimpleValues& values, const SimpleSave& save)
 {
-    assignChange(rows, values, save);
+    const auto untouched = [](const QString&) { return false; };
+    const auto noLabel = [](const QString&) { return QString(); };
+    for (const core::ColumnEdit& edit : changedColumns(values, save, {untouched, noLabel}))
+        rows.set(edit.column, edit.value);
     const QString priority = save.newPriority.trimmed();
     rows.set(u"Priority", priority.isEmpty() ? u"2"_s : priority);
     for (const QStringView column : kUndefined)

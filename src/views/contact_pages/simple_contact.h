@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/contact_names.h"
+#include "core/loaded_row.h"
 #include "jet/recordset.h"
 #include "platform/contact_sync.h"
 
@@ -45,8 +46,9 @@ struct SimpleSave {
 
 /// Assigns the columns of a new contact, with what the other entry forms give it beside.
 void assignNew(jet::Recordset& rows, const SimpleValues& values, const SimpleSave& save);
-/// Assigns the columns of a change: those of the form, and no other.
-void assignChange(jet::Recordset& rows, const SimpleValues& values, const SimpleSave& save);
+/// What a change writes: the columns of the form, and no other.
+QList<core::ColumnEdit> changedColumns(
+    const SimpleValues& values, const SimpleSave& save, const core::TouchedFields& fields);
 
 /// Puts what stands in the form into the contact's item in the mail client; the rest of the item stays.
 void fillMailItem(platform::MailContact& item, const SimpleValues& values);
