@@ -14,51 +14,12 @@ namespace jet {
 
 namespace {
 
-/// What statements rely on to stand in a row that nobody set.
-struct Default {
-    QStringView table;
-    QStringView column;
-    QStringView value;
-};
-constexpr Default kDefaults[] = {
-    {u"cnt_main", u"gen_id", u"0"},
-    {u"GF_MAST", u"delst", u"N"},
-    {u"cnt_fmtree", u"PRIORITY", u"Low"},
-};
-
-/// The indexes of the data database. Each is there for one statement that must not read the whole book.
-struct Index {
-    QStringView name;
-    QStringView table;
-    QStringView columns;
-    QStringView condition;
-};
-constexpr Index kIndexes[] = {
-    // The list of all contacts, and every look-up of a person by name.
-    {u"cnt_main_name", u"cnt_main", u"[Name]", u""},
-    // The tree of categories: its branches, and the people of a branch in order.
-    {u"cnt_main_category", u"cnt_main", u"[category1], [category2]", u""},
-    {u"cnt_main_subcategory", u"cnt_main", u"[category2], [Name]", u""},
-    // The list of the search screen.
-    {u"cnt_main_category_name", u"cnt_main", u"[category1], [Name]", u""},
-    // The blank rows that entry forms clear away at each start: none, as a rule.
-    {u"cnt_main_blank", u"cnt_main", u"[id]",
-        u"length(trim([Name])) = 0 AND length(trim([First])) = 0 AND length(trim([Last])) = 0 AND "
-        u"length(trim([Company])) = 0"},
-    // By the name alone: the first of several rows is the one entered first.
-    {u"wia_cntnames_first", u"wia_cntnames", u"[first]", u""},
-    {u"wia_city_city", u"WIA_CITY", u"[city]", u""},
-    {u"wia_india_city", u"WIA_INDIA", u"[city]", u""},
-    // The main cities of the home country, in order.
-    {u"wia_india_type", u"WIA_INDIA", u"[chtype], [city]", u""},
-};
-
 QString bracketed(QStringView name)
 {
     return u'[' + name.toString() + u']';
 }
 
-QString columnDefinition(const SchemaTable& table, const SchemaColumn& column)
+QString columnDefinition(const SchemaColumn& column)
 {
     QString definition = bracketed(column.name);
     switch (column.type) {
@@ -69,11 +30,8 @@ QString columnDefinition(const SchemaTable& table, const SchemaColumn& column)
     case ColumnType::Date: definition += u" DATETEXT"_s; break;
     default: definition += u" TEXT COLLATE JET"_s; break;
     }
-    for (const Default& known : kDefaults) {
-        if (known.table.compare(table.name, Qt::CaseInsensitive) == 0
-            && known.column.compare(column.name, Qt::CaseInsensitive) == 0)
-            definition += u" DEFAULT '"_s + known.value.toString() + u'\'';
-    }
+    if (!column.defaultValue.isEmpty())
+        definition += u" DEFAULT '"_s + QString(column.defaultValue).replace(u'\'', u"''"_s) + u'\'';
     return definition;
 }
 
@@ -81,8 +39,15 @@ QString createTable(const SchemaTable& table)
 {
     QStringList definitions;
     for (const SchemaColumn& column : table.columns)
-        definitions << columnDefinition(table, column);
+        definitions << columnDefinition(column);
     return u"CREATE TABLE "_s + bracketed(table.name) + u" ("_s + definitions.join(u", "_s) + u')';
+}
+
+QString createIndex(const SchemaIndex& index)
+{
+    const QString sql = u"CREATE INDEX IF NOT EXISTS "_s + bracketed(index.name) + u" ON "_s
+        + bracketed(index.table) + u" (["_s + index.columns.join(u"], ["_s) + u"])"_s;
+    return index.condition.isEmpty() ? sql : sql + u" WHERE "_s + index.condition;
 }
 
 } // namespace
@@ -300,16 +265,13 @@ bool Database::applySchema(const Schema& schema, const QString& databaseName)
         }
         for (const SchemaColumn& column : table.columns) {
             if (!known->column(column.name))
-                step(u"ALTER TABLE "_s + bracketed(table.name) + u" ADD COLUMN "_s
-                    + columnDefinition(table, column));
+                step(
+                    u"ALTER TABLE "_s + bracketed(table.name) + u" ADD COLUMN "_s + columnDefinition(column));
         }
     }
-    for (const Index& index : kIndexes) {
-        if (!made.contains(index.table.toString().toLower()))
-            continue;
-        step(u"CREATE INDEX IF NOT EXISTS "_s + bracketed(index.name) + u" ON "_s + bracketed(index.table)
-            + u" ("_s + index.columns.toString() + u')'
-            + (index.condition.isEmpty() ? QString() : u" WHERE "_s + index.condition.toString()));
+    for (const SchemaIndex& index : schema.indexes) {
+        if (made.contains(index.table.toLower()))
+            step(createIndex(index));
     }
     done = batch.commit() && done;
     m_engine->forgetTables();

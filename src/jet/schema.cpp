@@ -1,7 +1,6 @@
 #include "jet/schema.h"
 
 #include <QHash>
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -71,9 +70,30 @@ Schema Schema::fromCsv(const QByteArray& csv)
             schema.tables.append(SchemaTable{row[0], row[1], {}});
         const int size = row.size() > 4 && row[4].toInt() > 0 ? row[4].toInt() : 255;
         schema.tables.last().columns.append(
-            SchemaColumn{row[2], types.value(row[3], ColumnType::Text), size});
+            SchemaColumn{row[2], types.value(row[3], ColumnType::Text), size, {}});
     }
     return schema;
+}
+
+void Schema::addIndexes(const QByteArray& csv)
+{
+    const auto rows = parseCsv(csv);
+    for (const QStringList& row : rows.sliced(1))
+        indexes.append(SchemaIndex{row.value(0), row.value(1), row.value(2).split(u' '), row.value(3)});
+}
+
+void Schema::addDefaults(const QByteArray& csv)
+{
+    const auto rows = parseCsv(csv);
+    for (const QStringList& row : rows.sliced(1)) {
+        for (SchemaTable& table : tables) {
+            for (SchemaColumn& column : table.columns) {
+                if (table.name.compare(row.value(0), Qt::CaseInsensitive) == 0
+                    && column.name.compare(row.value(1), Qt::CaseInsensitive) == 0)
+                    column.defaultValue = row.value(2);
+            }
+        }
+    }
 }
 
 const SchemaTable* Schema::table(QStringView name) const

@@ -29,7 +29,9 @@ jet::Schema smallSchema(int columns)
     QByteArray csv;
     for (int i = 0; i < columns; ++i)
         csv += lines[i] + '\n';
-    return jet::Schema::fromCsv(csv);
+    jet::Schema schema = jet::Schema::fromCsv(csv);
+    schema.indexes = TestBook::schema().indexes;
+    return schema;
 }
 
 bool makeBook(const QString& path, int lines = 9)

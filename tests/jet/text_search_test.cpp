@@ -1,4 +1,4 @@
-#include "jet/database.h"
+#include "support/test_book.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -47,20 +47,21 @@ void TextSearchTest::initTestCase()
     QVERIFY(jet::Database::create(m_original));
     jet::Database book;
     QCOMPARE(book.open(m_original), jet::Database::OpenResult::Opened);
-    QVERIFY(book.applySchema(jet::Schema::fromCsv("database,table,column,type,size\n"
-                                                  "data,cnt_main,id,autonumber,\n"
-                                                  "data,cnt_main,Name,text,60\n"
-                                                  "data,cnt_main,city,text,60\n"
-                                                  "data,cnt_main,note,memo,\n"
-                                                  "data,cnt_main,born,date,\n"
-                                                  "data,cnt_main,category1,text,\n"
-                                                  "data,cnt_main,category2,text,\n"
-                                                  "data,cnt_main,First,text,\n"
-                                                  "data,cnt_main,Last,text,\n"
-                                                  "data,cnt_main,Company,text,\n"
-                                                  "data,few,id,autonumber,\n"
-                                                  "data,few,Name,text,60\n"),
-        u"data"_s));
+    jet::Schema schema = jet::Schema::fromCsv("database,table,column,type,size\n"
+                                              "data,cnt_main,id,autonumber,\n"
+                                              "data,cnt_main,Name,text,60\n"
+                                              "data,cnt_main,city,text,60\n"
+                                              "data,cnt_main,note,memo,\n"
+                                              "data,cnt_main,born,date,\n"
+                                              "data,cnt_main,category1,text,\n"
+                                              "data,cnt_main,category2,text,\n"
+                                              "data,cnt_main,First,text,\n"
+                                              "data,cnt_main,Last,text,\n"
+                                              "data,cnt_main,Company,text,\n"
+                                              "data,few,id,autonumber,\n"
+                                              "data,few,Name,text,60\n");
+    schema.indexes = support::TestBook::schema().indexes;
+    QVERIFY(book.applySchema(schema, u"data"_s));
     const QStringList firsts{
         u"Asha"_s, u"ÉMILE"_s, u"émile"_s, u"Жанна"_s, u"Bo*b"_s, u"Ann[e]"_s, u"Çelik"_s};
     const QStringList cities{u"Pune"_s, u"PUNE"_s, u"Agra"_s, {}, u"São Paulo"_s, u"New  Delhi"_s};

@@ -68,7 +68,13 @@ QString TestBook::path() const
 
 jet::Schema TestBook::schema()
 {
-    return jet::Schema::fromCsv(contents(QStringLiteral(ORVANE_SOURCE_DIR "/data/schema.csv")));
+    const auto file = [](const char* name) {
+        return contents(QStringLiteral(ORVANE_SOURCE_DIR "/data/") + QLatin1StringView(name));
+    };
+    jet::Schema all = jet::Schema::fromCsv(file("schema.csv"));
+    all.addIndexes(file("indexes.csv"));
+    all.addDefaults(file("defaults.csv"));
+    return all;
 }
 
 QString TestBook::unexpected()

@@ -40,7 +40,10 @@ ShippedRows readRows(const QString& table, const QString& file)
 
 jet::Schema bookSchema()
 {
-    return jet::Schema::fromCsv(shippedFile(u"schema.csv"_s));
+    jet::Schema schema = jet::Schema::fromCsv(shippedFile(u"schema.csv"_s));
+    schema.addIndexes(shippedFile(u"indexes.csv"_s));
+    schema.addDefaults(shippedFile(u"defaults.csv"_s));
+    return schema;
 }
 
 QString schemaName(BookPart part)
