@@ -226,12 +226,12 @@ void UndoLogTest::namesTheChange()
 void UndoLogTest::whatFailsIsNoStep()
 {
     for (int i = 0; i < 3; ++i)
-        m_book->expectFailure(u"id=9"_s);
-    QVERIFY(!execute(u"update cnt_main set id=9"_s));
+        m_book->expectFailure(u"id=900"_s);
+    QVERIFY(!execute(u"update cnt_main set id=900"_s));
     {
         jet::Batch batch(data());
         QVERIFY(execute(u"delete * from cnt_main"_s));
-        QVERIFY(!execute(u"update cnt_user set id=9, name=1, x=2"_s));
+        QVERIFY(!execute(u"update cnt_user set id=900, name=1, x=2"_s));
     }
     QVERIFY(!data().lastChange());
     const QStringList before = dump();
@@ -239,7 +239,7 @@ void UndoLogTest::whatFailsIsNoStep()
         // A failure on the way, after a row was touched, and a part that is given up.
         jet::Batch batch(data(), jet::Batch::Mode::KeepWhatSucceeds);
         QVERIFY(execute(u"update cnt_main set nick='a' where id=2"_s));
-        QVERIFY(!execute(u"update cnt_main set id=9"_s));
+        QVERIFY(!execute(u"update cnt_main set id=900"_s));
         jet::Batch part(data());
         QVERIFY(execute(u"update cnt_main set nick='b' where id=1"_s));
         part.rollBack();
