@@ -3,6 +3,7 @@
 #include "jet/database.h"
 #include "jet/file_connection.h"
 #include "jet/lexer.h"
+#include "jet/stored_value.h"
 #include "jet/text_search.h"
 #include "jet/translator.h"
 #include "jet/undo_log.h"
@@ -210,10 +211,5 @@ private:
     QCache<QString, std::shared_ptr<Plan>> m_byShape[2]
         = {QCache<QString, std::shared_ptr<Plan>>(512), QCache<QString, std::shared_ptr<Plan>>(512)};
 };
-
-/// Turns a value into what a column of a type holds; false when it does not fit.
-bool toStored(const QVariant& value, ColumnType type, QVariant* stored);
-/// Binds text, whole number, real number or null.
-void bindStored(sqlite3_stmt* statement, int place, const QVariant& stored);
 
 } // namespace jet

@@ -88,6 +88,12 @@ bool ExpressionEmitter::isAggregate(const Expression& e)
     return function && function->aggregate;
 }
 
+bool ExpressionEmitter::hasAggregate(const Expression& e)
+{
+    return isAggregate(e)
+        || std::any_of(e.parts.begin(), e.parts.end(), [](const auto& part) { return hasAggregate(*part); });
+}
+
 /// A condition as a whole: a bare yes/no column or comparison.
 void ExpressionEmitter::truth(const Expression& e)
 {

@@ -45,6 +45,7 @@ protected:
     static Type typeOfColumn(ColumnType type);
     static ColumnType columnTypeOf(Type type);
     static bool isAggregate(const Expression& e);
+    static bool hasAggregate(const Expression& e); ///< or is one
     void truth(const Expression& e);
     void expression(const Expression& e);
     void column(const Expression& e);

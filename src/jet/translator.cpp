@@ -113,14 +113,6 @@ private:
                 [](const SelectItem& item) { return item.expression && hasAggregate(*item.expression); });
     }
 
-    static bool hasAggregate(const Expression& e)
-    {
-        if (isAggregate(e))
-            return true;
-        return std::any_of(
-            e.parts.begin(), e.parts.end(), [](const auto& part) { return hasAggregate(*part); });
-    }
-
     Translation keyset(const SelectArm& arm)
     {
         constexpr size_t kMostHeldColumns = 6;
