@@ -56,10 +56,10 @@ int digitsOf(const QString& column)
     return 0;
 }
 
-int widthOfDigits(const QWidget* line, int digits)
+int widthOf(const QWidget* line, const QString& text)
 {
     constexpr int Edges = 14;
-    return digits * line->fontMetrics().horizontalAdvance(u'0') + Edges;
+    return line->fontMetrics().horizontalAdvance(text) + Edges;
 }
 
 bool growsDown(const QWidget* control)
@@ -160,7 +160,7 @@ FormKit& FormKit::line(const QString& name, const QString& label, const QString&
     edit->setMaxLength(sizeOf(column));
     setKeyFilter(edit, filter);
     if (const int digits = digitsOf(column))
-        edit->setMinimumWidth(widthOfDigits(edit, digits));
+        edit->setMinimumWidth(widthOf(edit, QString(digits, u'0')));
     guardLine(edit);
     QLineEdit* above = label.isEmpty() && m_beside == 0 ? m_lastLine : nullptr;
     field(name, label, edit, column);
@@ -298,6 +298,13 @@ FormKit& FormKit::wide(const QString& name, const QString& accessibleName, QWidg
     m_flow = Flow::None;
     control->setAccessibleName(withoutMnemonic(accessibleName));
     keep(name, control, {});
+    return *this;
+}
+
+FormKit& FormKit::least(QStringView sample)
+{
+    Q_ASSERT(last());
+    last()->setMinimumWidth(widthOf(last(), sample.toString()));
     return *this;
 }
 

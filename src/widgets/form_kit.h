@@ -73,6 +73,8 @@ public:
     FormKit& widget(const QString& name, const QString& label, QWidget* control, const QString& column = {});
     /// Any other control over the whole width of the group: grids, pictures, tabs.
     FormKit& wide(const QString& name, const QString& accessibleName, QWidget* control);
+    /// The line before never shows less than such a text.
+    FormKit& least(QStringView sample);
     /// Says what the control before is for, where its label does not.
     FormKit& hint(const QString& toolTip);
 

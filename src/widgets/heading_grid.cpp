@@ -22,7 +22,7 @@ namespace {
 
 constexpr int CellPadding = 14;
 constexpr int RowPadding = 8;
-constexpr int WidestMargin = 4; ///< characters of a column that shows nothing
+constexpr int WidestMargin = 2; ///< characters of a column that shows nothing
 constexpr int BranchMargin = 4;
 constexpr int BranchWidth = 14; ///< of the mark that folds a group
 constexpr int OrdinarySize = 8; ///< of a grid whose texts are as large as all others

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -58,69 +59,87 @@ QString settled(const QString& text, QString& used)
     return plain;
 }
 
-class Settling {
-public:
-    /// What stands on a widget and is not on a page of tabs; the pages are kept for later.
-    void settle(QWidget* form, QString used)
-    {
-        QList<Caption> buttons;
-        QList<Caption> others;
-        QList<QStackedWidget*> pages;
-        collect(form, buttons, others, pages);
-        for (const auto& captions : {buttons, others}) {
-            for (const Caption& caption : captions) {
-                if (const QString text = settled(caption.text, used); text != caption.text)
-                    caption.set(text);
-            }
-        }
-        m_used += used;
-        for (QStackedWidget* stack : std::as_const(pages)) {
-            // The pages of this stack see what is outside, and all of the stacks beside it.
-            Settling inside;
-            for (int i = 0; i < stack->count(); ++i)
-                inside.settle(stack->widget(i), used);
-            used += inside.m_used;
-            m_used += inside.m_used;
-        }
-    }
-
-private:
-    static void collect(
-        QWidget* parent, QList<Caption>& buttons, QList<Caption>& others, QList<QStackedWidget*>& pages)
-    {
-        for (QObject* child : parent->children()) {
-            auto* widget = qobject_cast<QWidget*>(child);
-            if (!widget || widget->isWindow())
-                continue;
-            if (auto* stack = qobject_cast<QStackedWidget*>(widget)) {
-                pages += stack;
-                continue;
-            }
-            if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-                buttons += Caption{button->text(), [button](const QString& text) { button->setText(text); }};
-                continue;
-            }
-            if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
-                others += Caption{label->text(), [label](const QString& text) { label->setText(text); }};
-            if (auto* group = qobject_cast<QGroupBox*>(widget))
-                others += Caption{group->title(), [group](const QString& text) { group->setTitle(text); }};
-            if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
-                for (int i = 0; i < tabs->count(); ++i)
-                    others += Caption{
-                        tabs->tabText(i), [tabs, i](const QString& text) { tabs->setTabText(i, text); }};
-            }
-            collect(widget, buttons, others, pages);
-        }
-    }
-
-    QString m_used;
+/// Who chooses first. What is hidden comes last, when the pages have chosen, too.
+struct Captions {
+    QList<Caption> buttons;
+    QList<Caption> others;
+    QList<Caption> hidden;
+    QList<QStackedWidget*> pages;
 };
+
+bool isPushButton(const QAbstractButton* button)
+{
+    return qobject_cast<const QPushButton*>(button) && !button->isCheckable();
+}
+
+void collect(QWidget* parent, bool isHidden, Captions& found)
+{
+    for (QObject* child : parent->children()) {
+        auto* widget = qobject_cast<QWidget*>(child);
+        if (!widget || widget->isWindow())
+            continue;
+        const bool hides
+            = isHidden || (widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide));
+        QList<Caption>& others = hides ? found.hidden : found.others;
+        if (auto* stack = qobject_cast<QStackedWidget*>(widget)) {
+            found.pages += stack;
+            continue;
+        }
+        if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+            QList<Caption>& list = hides || !isPushButton(button) ? others : found.buttons;
+            list += Caption{button->text(), [button](const QString& text) { button->setText(text); }};
+            continue;
+        }
+        if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
+            others += Caption{label->text(), [label](const QString& text) { label->setText(text); }};
+        if (auto* group = qobject_cast<QGroupBox*>(widget))
+            others += Caption{group->title(), [group](const QString& text) { group->setTitle(text); }};
+        if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                others += Caption{
+                    tabs->tabText(i), [tabs, i](const QString& text) { tabs->setTabText(i, text); }};
+        }
+        collect(widget, hides, found);
+    }
+}
+
+/// Whoever asks for a letter that is free has it, before others look for another one.
+void settleCaptions(const QList<Caption>& captions, QString& used)
+{
+    QList<Caption> without;
+    for (const Caption& caption : captions) {
+        const QChar wanted = mnemonicOf(caption.text);
+        if (!wanted.isNull() && !used.contains(wanted))
+            used += wanted;
+        else if (!wanted.isNull())
+            without += caption;
+    }
+    for (const Caption& caption : std::as_const(without))
+        caption.set(settled(caption.text, used));
+}
+
+/// Settles a widget and its pages; what comes back is used on any of them.
+QString settleIn(QWidget* form, QString used)
+{
+    Captions found;
+    collect(form, false, found);
+    settleCaptions(found.buttons + found.others, used);
+    for (QStackedWidget* stack : std::as_const(found.pages)) {
+        // The pages of a stack are seen with what is outside, and with those of the stacks beside it.
+        QString inside;
+        for (int i = 0; i < stack->count(); ++i)
+            inside += settleIn(stack->widget(i), used);
+        used += inside;
+    }
+    settleCaptions(found.hidden, used);
+    return used;
+}
 
 } // namespace
 
 void settleMnemonics(QWidget* form, const QString& taken)
 {
-    Settling().settle(form, taken.toLower());
+    settleIn(form, taken.toLower());
 }
 
 QChar mnemonicOf(const QString& text)

@@ -161,7 +161,7 @@ void CityPanel::scopeChanged()
         national ? tr("Selected Top National Cities") : tr("Selected Top International Cities"));
     if (auto* group = qobject_cast<QGroupBox*>(DataGrid->parentWidget()))
         group->setTitle(DataGrid->accessibleName());
-    m_placeLabel->setText(national ? tr("&State") : tr("C&ountry"));
+    m_placeLabel->setText(national ? tr("&State") : tr("Co&untry"));
     m_place->setAccessibleName(national ? tr("State") : tr("Country"));
     {
         const QSignalBlocker quiet(m_place);

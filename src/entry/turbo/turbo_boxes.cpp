@@ -23,6 +23,8 @@ namespace {
 // Three columns stand beside the lists also where the window is small.
 constexpr int kLeastWidth = 40;
 constexpr int kNameWidth = 54;
+constexpr int kNumberWidth = 116; ///< of a telephone; less where the area code stands before it
+constexpr int kShortNumberWidth = 82;
 
 QString notStored()
 {
@@ -158,12 +160,17 @@ void TurboBoxes::layOut(QWidget* page, const FormKit::SizeOf& sizeOf)
     m_boxes = widgets::FieldSet(page);
     for (const widgets::Control& control : m_boxes.controls()) {
         const bool isDate = qobject_cast<widgets::DateBox*>(control.widget) != nullptr;
-        if (!isDate && control.widget->minimumWidth() == 0)
-            control.widget->setMinimumWidth(kLeastWidth);
+        if (!isDate)
+            control.widget->setMinimumWidth(
+                std::clamp(control.widget->minimumWidth(), kLeastWidth, kNumberWidth));
         control.widget->installEventFilter(this);
     }
     for (const QStringView kid : {u"Txtkid1", u"TxtKid2", u"TxtKid3"})
         box(kid)->setMinimumWidth(kNameWidth);
+    for (const QStringView number : {u"txthph1", u"txtwph1"})
+        box(number)->setMinimumWidth(kShortNumberWidth);
+    for (const QStringView code : {u"txthstd", u"txtwstd"})
+        box(code)->setMinimumWidth(kLeastWidth + 4);
     for (const QStringView code : {u"txthstd", u"txtwstd"})
         box(code)->setAccessibleName(tr("Area code"));
     m_homeGroup = groupOf(box(u"txthcity"));

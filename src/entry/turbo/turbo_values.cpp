@@ -22,7 +22,7 @@ namespace entry {
 
 namespace {
 
-constexpr int kLeastWidth = 186;
+constexpr int kLeastWidth = 160;
 constexpr int kMostWidth = 280;
 const QString kListColumn = u"Name"_s;
 

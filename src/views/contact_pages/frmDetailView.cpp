@@ -21,6 +21,14 @@ using widgets::FormKit;
 
 namespace views {
 
+namespace {
+
+// What a date and a pin code have room for at least.
+constexpr QStringView kDate = u"30 May-2000";
+constexpr QStringView kPin = u"00000000";
+
+} // namespace
+
 frmDetailView::frmDetailView(core::Context& context, QWidget* parent)
     : Screen(context, parent)
 {
@@ -93,23 +101,7 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"txtemail2"_s, {})
         .readOnly(u"txtSMS"_s, tr("SMS"))
         .readOnly(u"txtweb"_s, tr("Web"));
-    form.nextColumn()
-        .group(tr("Home"))
-        .readOnly(u"txtadd1"_s, tr("Address"))
-        .readOnly(u"txtadd2"_s, {})
-        .readOnly(u"dtcmbcity"_s, tr("City"))
-        .beside()
-        .readOnly(u"dtcmbpin"_s, tr("Pin"))
-        .readOnly(u"dtcmbstate"_s, tr("State"))
-        .readOnly(u"dtcmbcountry"_s, tr("Country"))
-        .readOnly(u"txtstd"_s, tr("Area code"))
-        .readOnly(u"txtph1"_s, tr("Numbers"))
-        .readOnly(u"txtph2"_s, {})
-        .readOnly(u"txtph3"_s, {})
-        .readOnly(u"txtMobile"_s, tr("Mobile"))
-        .readOnly(u"txtspmobile"_s, tr("Spouse's mobile"));
-    form.nextColumn()
-        .group(tr("Classes"))
+    form.group(tr("Classes"))
         .readOnly(u"DtcmbCate"_s, tr("Category"))
         .beside()
         .readOnly(u"DtcmbSubCate"_s, {})
@@ -118,6 +110,22 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"Dtcmbstatus"_s, tr("Status"))
         .readOnly(u"dtcmbregion"_s, tr("Region"))
         .readOnly(u"dtcmbrelation"_s, tr("Relation"));
+    form.nextColumn()
+        .group(tr("Home"))
+        .readOnly(u"txtadd1"_s, tr("Address"))
+        .readOnly(u"txtadd2"_s, {})
+        .readOnly(u"dtcmbcity"_s, tr("City"))
+        .beside()
+        .readOnly(u"dtcmbpin"_s, tr("Pin"))
+        .least(kPin)
+        .readOnly(u"dtcmbstate"_s, tr("State"))
+        .readOnly(u"dtcmbcountry"_s, tr("Country"))
+        .readOnly(u"txtstd"_s, tr("Area code"))
+        .readOnly(u"txtph1"_s, tr("Numbers"))
+        .readOnly(u"txtph2"_s, {})
+        .readOnly(u"txtph3"_s, {})
+        .readOnly(u"txtMobile"_s, tr("Mobile"))
+        .readOnly(u"txtspmobile"_s, tr("Spouse's mobile"));
     form.group(tr("Own fields and note"))
         .readOnly(u"cmbuser1"_s, tr("User 1"))
         .readOnly(u"cmbuser2"_s, tr("User 2"))
@@ -142,15 +150,18 @@ void frmDetailView::layOutFamily(QWidget* page)
         form.readOnly(relative.name, relative.label)
             .beside()
             .readOnly(relative.date, tr("born"))
+            .least(kDate)
             .beside()
             .caption(relative.age);
     }
     form.nextColumn()
         .group(tr("Own"))
         .readOnly(u"DateBday"_s, tr("Birthday"))
+        .least(kDate)
         .beside()
         .caption(u"lblage"_s)
         .readOnly(u"DateAnn"_s, tr("Anniversary"))
+        .least(kDate)
         .readOnly(u"dtcmbmid"_s, tr("Middle name"))
         .readOnly(u"dtcmbnick"_s, tr("Nick name"))
         .readOnly(u"dtcmbmaiden"_s, tr("Maiden name"));
@@ -170,6 +181,7 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"dtcmbbcity"_s, tr("City"))
         .beside()
         .readOnly(u"dtcmbbpin"_s, tr("Pin"))
+        .least(kPin)
         .readOnly(u"dtcmbbstate"_s, tr("State"))
         .readOnly(u"dtcmbbcountry"_s, tr("Country"))
         .readOnly(u"txtbstd"_s, tr("Area code"))
@@ -186,6 +198,7 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"dtcmbwcity"_s, tr("City"))
         .beside()
         .readOnly(u"dtcmbwpin"_s, tr("Pin"))
+        .least(kPin)
         .readOnly(u"dtcmbwstate"_s, tr("State"))
         .readOnly(u"dtcmbwcountry"_s, tr("Country"))
         .readOnly(u"txtwstd"_s, tr("Area code"))
