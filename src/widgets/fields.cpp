@@ -41,7 +41,8 @@ QString textOf(const QWidget* control)
     if (const auto* line = qobject_cast<const QLineEdit*>(control))
         return wholeText(line, line->text());
     if (const auto* combo = qobject_cast<const QComboBox*>(control))
-        return combo->currentText();
+        return combo->isEditable() ? wholeText(combo->lineEdit(), combo->currentText())
+                                   : combo->currentText();
     if (const auto* memo = qobject_cast<const QPlainTextEdit*>(control))
         return storedLines(wholeText(memo, memo->toPlainText()));
     if (const auto* memo = qobject_cast<const QTextEdit*>(control))
@@ -60,7 +61,10 @@ void setTextOf(QWidget* control, const QString& text)
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
         showInLine(line, text);
     } else if (auto* filled = qobject_cast<FilledCombo*>(control)) {
-        filled->setText(text);
+        if (filled->isEditable())
+            showInLine(filled->lineEdit(), text);
+        else
+            filled->setText(text);
     } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
         if (combo->isEditable())
             combo->setEditText(text);

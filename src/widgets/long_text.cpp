@@ -20,12 +20,15 @@ constexpr qsizetype MostLetters = 64 * 1024; ///< of a box, and of each part tha
 constexpr qsizetype MostInALine = 2000;
 constexpr qsizetype MostOnAButton = 28;
 constexpr qsizetype MostInATip = 600;
+constexpr qsizetype MostToEdit = 8000; ///< in a line; a longer text is kept as it is
+constexpr qsizetype MostToEditInABox = 256 * 1024;
 constexpr QChar Ellipsis = u'\u2026';
 
 // Of a control that shows the beginning of a text: what it shows, the text, and how much of it that is.
 constexpr auto ShownProperty = "orvaneShownText";
 constexpr auto WholeProperty = "orvaneWholeText";
 constexpr auto LettersProperty = "orvaneShownLetters";
+constexpr auto LockedProperty = "orvaneLockedForLength"; ///< until it has a text that can be edited
 
 QString cut(const QString& text, qsizetype most)
 {
@@ -102,6 +105,21 @@ void offerMore(QPlainTextEdit* box)
     button->setVisible(offered);
 }
 
+/// A field in which a person may type takes no typing while its text is too long to be laid out as one, so
+/// that a save stores that text again. Returns whether the field can only be read.
+template <class Field> bool lockWhenLong(Field* field, const QString& text, qsizetype most)
+{
+    const bool locked = field->property(LockedProperty).toBool();
+    if (text.size() > most && !field->isReadOnly()) {
+        field->setReadOnly(true);
+        field->setProperty(LockedProperty, true);
+    } else if (text.size() <= most && locked) {
+        field->setReadOnly(false);
+        field->setProperty(LockedProperty, {});
+    }
+    return field->isReadOnly();
+}
+
 void showInWindow(QLineEdit* line)
 {
     auto* box = new QPlainTextEdit(line);
@@ -134,8 +152,11 @@ QString wholeText(const QWidget* control, const QString& shown)
 
 void showInBox(QPlainTextEdit* box, const QString& text)
 {
-    if (!box->isReadOnly())
-        return box->setPlainText(text);
+    if (!lockWhenLong(box, text, MostToEditInABox)) {
+        beginning(box, {}, MostLetters);
+        box->setPlainText(text);
+        return offerMore(box);
+    }
     const QString shown = beginning(box, text, MostLetters);
     const bool isLong = holdsMore(box);
     box->setPlainText(isLong ? inShortParagraphs(shown) : shown);
@@ -146,7 +167,9 @@ void showInBox(QPlainTextEdit* box, const QString& text)
 
 void showInLine(QLineEdit* line, const QString& text)
 {
-    line->setText(line->isReadOnly() ? beginning(line, text, MostInALine) : text);
+    const bool canOnlyBeRead = lockWhenLong(line, text, MostToEdit);
+    const QString shown = beginning(line, canOnlyBeRead ? text : QString(), MostInALine);
+    line->setText(canOnlyBeRead ? shown : text);
     line->setCursorPosition(0);
     const QString name = u"more"_s;
     auto* more = line->findChild<QAction*>(name, Qt::FindDirectChildrenOnly);

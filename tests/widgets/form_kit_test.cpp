@@ -20,6 +20,7 @@ private Q_SLOTS:
     void severalLinesIntoOne();
     void surplusIsRefusedAloud();
     void longTextsShowTheirBeginning();
+    void textsTooLongToEditAreKept();
     void radiosOfTwoRunsAreTwoChoices();
     void gridTakesTheRoomThatIsLeft();
     void textsSurviveTheFields_data();
@@ -194,6 +195,23 @@ void FormKitTest::longTextsShowTheirBeginning()
     for (const QString& name : {u"box"_s, u"line"_s, u"value"_s, u"link"_s}) {
         setTextOf(child<QWidget>(&page, name), u"short"_s);
         QCOMPARE(textOf(child<QWidget>(&page, name)), u"short"_s);
+    }
+}
+
+void FormKitTest::textsTooLongToEditAreKept()
+{
+    QWidget page;
+    addressForm(&page, new QLineEdit(&page));
+    page.show();
+    const QString text = u"some words "_s.repeated(90'000);
+    for (const QString& name : {u"txtadd1"_s, u"dtcmbcity"_s, u"txtMemo"_s}) {
+        auto* field = child<QWidget>(&page, name);
+        setTextOf(field, text);
+        QTest::keyClicks(field, u"x"_s);
+        QCOMPARE(textOf(field), text);
+        setTextOf(field, {});
+        QTest::keyClicks(field, u"y"_s);
+        QCOMPARE(textOf(field), u"y"_s);
     }
 }
 

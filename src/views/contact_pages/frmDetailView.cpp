@@ -154,8 +154,7 @@ void frmDetailView::layOutFamily(QWidget* page)
             .beside()
             .caption(relative.age);
     }
-    form.nextColumn()
-        .group(tr("Own"))
+    form.group(tr("Own"))
         .readOnly(u"DateBday"_s, tr("Birthday"))
         .least(kDate)
         .beside()
@@ -207,8 +206,7 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"txtwph1"_s, tr("Numbers"))
         .readOnly(u"txtwph2"_s, {})
         .readOnly(u"txtwph3"_s, {});
-    form.nextColumn()
-        .group(tr("E-mail, web and note"))
+    form.group(tr("E-mail, web and note"))
         .readOnly(u"txtbemail1"_s, tr("E-mail"))
         .readOnly(u"txtbemail2"_s, {})
         .readOnly(u"txtbweb"_s, tr("Web"));
