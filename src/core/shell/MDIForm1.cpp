@@ -264,8 +264,10 @@ void MDIForm1::buildMenus()
     auto* deleting = contacts->findChild<QAction*>(u"DeleteContact"_s);
     widgets::setIcon(deleting, u"delete");
     connect(deleting, &QAction::triggered, this, &MDIForm1::deleteInFront);
-    connect(contacts, &QMenu::aboutToShow, this,
-        [this, deleting] { deleting->setEnabled(deletingTool(screenInFront()) != nullptr); });
+    const auto look = [this, deleting] { deleting->setEnabled(deletingTool(screenInFront()) != nullptr); };
+    look();
+    connect(contacts, &QMenu::aboutToShow, this, look);
+    connect(m_tabs, &QTabWidget::currentChanged, this, look);
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     new UndoCommand(*m_context, edit);
     edit->addSeparator();
@@ -310,6 +312,9 @@ void MDIForm1::buildViewMenu(QMenu* view)
     closing->setShortcut(QKeySequence(u"Ctrl+W"_s));
     connect(closing, &QAction::triggered, this, [this] { closeTab(m_tabs->currentIndex()); });
     m_keys->add(closing);
+    const auto look = [this, closing] { closing->setEnabled(m_tabs->count() > 0); };
+    look();
+    connect(m_tabs, &QTabWidget::currentChanged, this, look);
 }
 
 void MDIForm1::buildPanes()
@@ -477,7 +482,10 @@ void MDIForm1::showHead()
 {
     const core::Screen* screen = screenInFront();
     const QString title = screen ? screen->frameTitle() : QString();
-    setWindowTitle(title.isEmpty() ? tr("Orvane Contacts") : title + u" - "_s + tr("Orvane Contacts"));
+    const QString program = tr("Orvane Contacts");
+    setWindowTitle(title.startsWith(program) ? title
+            : title.isEmpty()                ? program
+                                             : title + u" - "_s + program);
     m_positionPane->setText(screen ? screen->position() : QString());
 }
 

@@ -1,8 +1,10 @@
 #include "core/shell/key_arbiter.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QSet>
 #include <QShortcut>
 #include <QWidget>
 
@@ -34,6 +36,38 @@ bool answers(const QAction* action)
     });
 }
 
+/// All keys that something in sight would answer, wherever the focus is.
+QSet<QKeySequence> keysBelow(QWidget* root)
+{
+    QSet<QKeySequence> keys;
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.prepend(root);
+    for (const QWidget* widget : widgets) {
+        if (!widget->isVisible() || !widget->isEnabled())
+            continue;
+        for (const QShortcut* shortcut : widget->findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
+            if (shortcut->isEnabled() && shortcut->context() != Qt::WidgetShortcut)
+                keys << shortcut->key();
+        }
+        for (const QAction* action : widget->actions()) {
+            if (action->isEnabled() && action->isVisible() && action->shortcutContext() != Qt::WidgetShortcut)
+                keys << action->shortcut();
+        }
+        if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+            keys << button->shortcut();
+    }
+    keys.remove({});
+    return keys;
+}
+
+// Unlike taking the key away this does not change what menus show.
+void standBack(QAction* action, bool isBack)
+{
+    const auto context = isBack ? Qt::WidgetShortcut : Qt::WindowShortcut;
+    if (action->shortcutContext() != context)
+        action->setShortcutContext(context);
+}
+
 } // namespace
 
 QList<QObject*> ownersOfKey(QWidget* root, const QKeySequence& key)
@@ -43,6 +77,10 @@ QList<QObject*> ownersOfKey(QWidget* root, const QKeySequence& key)
         if (shortcut->isEnabled() && shortcut->key() == key
             && isInPlace(qobject_cast<QWidget*>(shortcut->parent()), shortcut->context()))
             owners << shortcut;
+    }
+    for (QAbstractButton* button : root->findChildren<QAbstractButton*>()) {
+        if (button->shortcut() == key && isInPlace(button, Qt::WindowShortcut))
+            owners << button;
     }
     // An action need not be the child of the widget that offers it.
     QList<QWidget*> widgets = root->findChildren<QWidget*>();
@@ -61,6 +99,10 @@ KeyArbiter::KeyArbiter(FrontScreen frontScreen, QWidget* frame)
     , m_frontScreen(std::move(frontScreen))
     , m_frame(frame)
 {
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(0);
+    connect(&m_settling, &QTimer::timeout, this, &KeyArbiter::settle);
+    connect(qApp, &QApplication::focusChanged, &m_settling, qOverload<>(&QTimer::start));
     // The only place that sees each key before the shortcuts are asked.
     qApp->installEventFilter(this);
 }
@@ -72,35 +114,30 @@ void KeyArbiter::add(QAction* action)
 
 bool KeyArbiter::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
-        comeBack();
-        if (m_frame->isActiveWindow())
-            standBack(QKeySequence(static_cast<QKeyEvent*>(event)->keyCombination()));
-    } else if (event->type() == QEvent::KeyRelease) {
-        comeBack();
-    }
+    if (event->type() == QEvent::ShortcutOverride && m_frame->isActiveWindow())
+        settleFor(QKeySequence(static_cast<QKeyEvent*>(event)->keyCombination()));
+    else if (event->type() == QEvent::KeyRelease)
+        m_settling.start();
     return false;
 }
 
-void KeyArbiter::standBack(const QKeySequence& key)
+void KeyArbiter::settle()
 {
-    for (QAction* action : std::as_const(m_actions)) {
-        if (!action->shortcuts().contains(key))
-            continue;
-        QWidget* screen = m_frontScreen();
-        if (!screen || ownersOfKey(screen, key).isEmpty())
-            return;
-        // Unlike taking the key away this does not change what menus show.
-        action->setShortcutContext(Qt::WidgetShortcut);
-        m_standsBack = action;
-        return;
-    }
+    QWidget* screen = m_frontScreen();
+    const QSet<QKeySequence> taken = screen ? keysBelow(screen) : QSet<QKeySequence>();
+    for (QAction* action : std::as_const(m_actions))
+        standBack(action, taken.contains(action->shortcut()));
 }
 
-void KeyArbiter::comeBack()
+// Now the place of the focus counts, too, and what was enabled or shown since the last time.
+void KeyArbiter::settleFor(const QKeySequence& key)
 {
-    if (QAction* action = std::exchange(m_standsBack, nullptr))
-        action->setShortcutContext(Qt::WindowShortcut);
+    for (QAction* action : std::as_const(m_actions)) {
+        if (action->shortcut() != key)
+            continue;
+        QWidget* screen = m_frontScreen();
+        standBack(action, screen && !ownersOfKey(screen, key).isEmpty());
+    }
 }
 
 } // namespace shell

@@ -3,6 +3,7 @@
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
@@ -16,7 +17,8 @@ namespace shell {
 QList<QObject*> ownersOfKey(QWidget* root, const QKeySequence& key);
 
 /// Two owners of one key would silence each other. While the screen in front has an owner of a key that the
-/// frame has too, the frame's own action stands back, for this press of the key.
+/// frame has too, the frame's own action stands back; and when the key is pressed where the screen's owner
+/// does not hear it, as in the bar at the side, the frame's action serves it all the same.
 class KeyArbiter : public QObject {
     Q_OBJECT
 
@@ -30,13 +32,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void standBack(const QKeySequence& key);
-    void comeBack();
+    void settle();
+    void settleFor(const QKeySequence& key);
 
     FrontScreen m_frontScreen;
     QWidget* m_frame;
     QList<QAction*> m_actions;
-    QAction* m_standsBack = nullptr;
+    QTimer m_settling;
 };
 
 } // namespace shell

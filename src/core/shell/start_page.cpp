@@ -74,7 +74,6 @@ StartPage::StartPage(
     m_search->setObjectName(u"txtStartSearch"_s);
     m_search->setPlaceholderText(tr("Find a contact by name, company, mobile number or e-mail"));
     m_search->setAccessibleName(tr("Find a contact"));
-    m_search->setClearButtonEnabled(true);
     m_search->installEventFilter(this);
     m_heading->setObjectName(u"lblStartList"_s);
     m_contacts->setObjectName(u"lstStartContacts"_s);
