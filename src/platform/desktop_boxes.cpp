@@ -26,9 +26,16 @@ QMessageBox::Icon boxIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
+/// What a box stands above. A splash goes when it likes, and would take the box with it.
+QWidget* windowBelow()
+{
+    QWidget* window = QApplication::activeWindow();
+    return window && window->windowType() == Qt::SplashScreen ? nullptr : window;
+}
+
 int show(const QString& text, const QString& title, Icon icon, QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(boxIcon(icon), title, text, buttons, QApplication::activeWindow());
+    QMessageBox box(boxIcon(icon), title, text, buttons, windowBelow());
     // Texts hold what the user typed; a "<" in it must not become markup.
     box.setTextFormat(Qt::PlainText);
     box.setObjectName(u"messageBox"_s);
@@ -62,14 +69,14 @@ Answer DesktopBoxes::ask(const QString& text, const QString& title, Icon icon)
 
 std::optional<QString> DesktopBoxes::openFile(const QString& title, const QString& filter)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title, QString(), dialogFilter(filter));
+    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosen(dialog);
 }
 
 std::optional<QString> DesktopBoxes::saveFile(const QString& title, const QString& filter)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title, QString(), dialogFilter(filter));
+    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(defaultSuffix(filter));
     return chosen(dialog);
@@ -77,7 +84,7 @@ std::optional<QString> DesktopBoxes::saveFile(const QString& title, const QStrin
 
 std::optional<QString> DesktopBoxes::folder(const QString& title)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title);
+    QFileDialog dialog(windowBelow(), title);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     return chosen(dialog);
@@ -86,8 +93,8 @@ std::optional<QString> DesktopBoxes::folder(const QString& title)
 std::optional<QString> DesktopBoxes::inputText(const QString& title, const QString& label)
 {
     bool accepted = false;
-    const QString text = QInputDialog::getText(
-        QApplication::activeWindow(), title, label, QLineEdit::Normal, QString(), &accepted);
+    const QString text
+        = QInputDialog::getText(windowBelow(), title, label, QLineEdit::Normal, QString(), &accepted);
     return accepted ? std::optional(text) : std::nullopt;
 }
 

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void damagedBook_data();
     void damagedBook();
     void damageInTheMiddle();
+    void noticeAtTheStart();
     void restoreFromTheFrame();
     void fullDiskIsToldAtEachSave();
 };
@@ -299,6 +300,31 @@ void StartUpTest::damageInTheMiddle()
     QCOMPARE(p.data.openRecordset(u"select name from cnt_main").textAt(0), u"Asha"_s);
     QVERIFY(p.data.checkSoundness().isEmpty() && p.info.checkSoundness().isEmpty());
     QVERIFY(p.info.openRecordset(u"select * from wia_cntnames").count() > 100);
+    QCOMPARE(p.verify(), QString());
+}
+
+// A box of the desktop itself, at a start that has something to say: the splash goes below it, not with it.
+void StartUpTest::noticeAtTheStart()
+{
+    Program p;
+    p.makeBook(false);
+    platform::DesktopBoxes real;
+    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
+        {p.drive, real, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
+    p.registry.setContext(own);
+    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
+    startUp.begin(true, false);
+    QMessageBox* box = nullptr;
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&] {
+        box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box && !Program::shown(u"frmSplash"_s))
+            box->accept();
+    });
+    look.start(200);
+    QTRY_VERIFY_WITH_TIMEOUT(box, 5000);
+    QVERIFY(p.window.isVisible());
+    QTRY_VERIFY(!QApplication::activeModalWidget());
     QCOMPARE(p.verify(), QString());
 }
 

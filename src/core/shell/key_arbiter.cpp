@@ -12,6 +12,10 @@ namespace shell {
 
 namespace {
 
+/// What may change who has a key: a page is turned, an action is switched on.
+const QSet<QEvent::Type> kSettlingEvents{
+    QEvent::KeyRelease, QEvent::Show, QEvent::Hide, QEvent::ActionChanged, QEvent::ActionAdded};
+
 bool isInPlace(const QWidget* owner, Qt::ShortcutContext context)
 {
     if (!owner || !owner->isVisible() || !owner->isEnabled())
@@ -116,7 +120,7 @@ bool KeyArbiter::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride && m_frame->isActiveWindow())
         settleFor(QKeySequence(static_cast<QKeyEvent*>(event)->keyCombination()));
-    else if (event->type() == QEvent::KeyRelease)
+    else if (kSettlingEvents.contains(event->type()))
         m_settling.start();
     return false;
 }

@@ -231,10 +231,15 @@ void StartUp::noteWhatIsWrong(bool hasLock)
                          .arg(QDir::toNativeSeparators(folder));
 }
 
-// Behind the shell's own coming up, with its window below the box.
+// When the splash has gone: it would take a box above it away.
 void StartUp::tellNotices()
 {
-    QTimer::singleShot(0, this, [this] {
+    constexpr int kLookAgainMs = 30;
+    QTimer::singleShot(m_splash ? kLookAgainMs : 0, this, [this] {
+        if (m_splash) {
+            tellNotices();
+            return;
+        }
         for (const QString& notice : std::exchange(m_notices, {}))
             m_context.services.boxes.warning(notice, m_context.shared.AppTitle);
     });
