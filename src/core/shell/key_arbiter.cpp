@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSet>
 #include <QShortcut>
 #include <QWidget>
@@ -47,7 +48,10 @@ QSet<QKeySequence> keysBelow(QWidget* root)
     QList<QWidget*> widgets = root->findChildren<QWidget*>();
     widgets.prepend(root);
     for (const QWidget* widget : widgets) {
-        if (!widget->isVisible() || !widget->isEnabled())
+        // A menu's keys work while it is closed.
+        const bool isThere
+            = qobject_cast<const QMenu*>(widget) || (widget->isVisible() && widget->isEnabled());
+        if (!isThere)
             continue;
         for (const QShortcut* shortcut : widget->findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
             if (shortcut->isEnabled() && shortcut->context() != Qt::WidgetShortcut)
