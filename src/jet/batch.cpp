@@ -48,7 +48,7 @@ Step::~Step()
 
 void Step::follow(StepFollower follower)
 {
-    if (m_engine->undoLog())
+    if (follower && m_engine->undoLog())
         m_engine->undoLog()->follow(std::move(follower));
 }
 

@@ -39,6 +39,9 @@ int show(const QString& text, const QString& title, Icon icon, QMessageBox::Stan
     // Texts hold what the user typed; a "<" in it must not become markup.
     box.setTextFormat(Qt::PlainText);
     box.setObjectName(u"messageBox"_s);
+    // What can be lost is not lost by an Enter too many.
+    if (buttons.testFlag(QMessageBox::No) && (icon == Icon::Warning || icon == Icon::Critical))
+        box.setDefaultButton(QMessageBox::No);
     return box.exec();
 }
 

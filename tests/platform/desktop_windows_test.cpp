@@ -96,6 +96,13 @@ void DesktopWindowsTest::boxes()
     whenOpen<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
     QCOMPARE(boxes.ask(u"Sure?"_s, u"T"_s, Icon::Question), Answer::No);
 
+    // Enter alone loses nothing.
+    for (const auto& [asked, answer] : {std::pair{Icon::Question, Answer::Yes},
+             std::pair{Icon::Warning, Answer::No}, std::pair{Icon::Critical, Answer::No}}) {
+        whenOpen<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
+        QCOMPARE(boxes.ask(u"Sure?"_s, u"T"_s, asked), answer);
+    }
+
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     Qt::TextFormat format = Qt::RichText;
     whenOpen<QMessageBox>([&](QMessageBox* box) {

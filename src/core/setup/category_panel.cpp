@@ -369,7 +369,8 @@ void CategoryPanel::add(const Category& category)
 
 void CategoryPanel::rename(const Category& category)
 {
-    const auto answer = context().services.boxes.ask(renameQuestion(m_old, category), u"Orvane Contacts"_s);
+    const auto answer = context().services.boxes.ask(
+        renameQuestion(m_old, category), u"Orvane Contacts"_s, platform::Icon::Warning);
     if (answer != platform::Answer::Yes)
         return;
     const qint64 id = m_id;

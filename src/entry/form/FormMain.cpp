@@ -5,19 +5,18 @@
 #include "core/date_patterns.h"
 #include "core/frame.h"
 #include "core/mail_key.h"
-#include "core/photo_file.h"
+#include "core/merged_category.h"
 #include "core/record_steps.h"
 #include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
-#include "core/text_pieces.h"
 #include "entry/assists/assist_panel.h"
 #include "entry/assists/entry_assists.h"
 #include "entry/form/card_values.h"
 #include "entry/form/entry_lists.h"
 #include "entry/form/entry_pages.h"
 #include "entry/form/mail_contact.h"
-#include "entry/form/photo_store.h"
+#include "entry/form/photo_field.h"
 #include "entry/form/save_checks.h"
 #include "entry/form/save_effects.h"
 #include "entry/form/user_fields.h"
@@ -114,8 +113,7 @@ void FormMain::layOut()
     whole->addWidget(entryHead());
     whole->addWidget(middle, 1);
     whole->addWidget(entryButtons());
-    Photo = widgets::child<widgets::PictureBox>(this, u"Photo"_s);
-    widgets::child<QLabel>(this, u"lblPhoto"_s)->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_photo = new PhotoField(this, context());
 
     m_fields = widgets::FieldSet(sstab1);
 }
@@ -132,9 +130,6 @@ void FormMain::wire()
     onClick(u"SSCommand6"_s, [this] { turnPage(true); });
     onClick(u"SSCommand7"_s, [this] { turnPage(false); });
     onClick(u"SSCommand8"_s, [this] { context().screens.show(u"FrmOthers", core::Shown::Modally); });
-    onClick(u"SSCommand9"_s, &FormMain::selectPhoto);
-    onClick(u"CmdPhto"_s, &FormMain::selectPhoto);
-    onClick(u"cmdNoPhoto"_s, [this] { setText(u"Photo"_s, {}); });
     onClick(u"ssassist"_s, &FormMain::toggleAssist);
     onClick(u"CmdSave"_s, &FormMain::saveAs);
     onClick(u"CmdHelp"_s, [this] { showHelp(m_variant.helpCode.toString(), control(u"CmdHelp"_s)); });
@@ -188,19 +183,10 @@ void FormMain::load()
     m_assist->selectScope(CityScope::All);
     m_isMerged = shared().ContMerge;
     if (m_isMerged)
-        showSubcategory(false);
+        core::showSubcategory(this, false);
     setFrameTitle(caption(m_variant.title));
     turnPage(true);
     go(Mode::Idle);
-}
-
-void FormMain::showSubcategory(bool shown)
-{
-    QWidget* list = control(u"DtcmbSubCate"_s);
-    list->setVisible(shown);
-    for (QLabel* label : findChildren<QLabel*>())
-        if (label->buddy() == list)
-            label->setVisible(shown);
 }
 
 void FormMain::vocabulariesChanged()
@@ -211,16 +197,8 @@ void FormMain::vocabulariesChanged()
     if (m_isMerged == shared().ContMerge)
         return;
     const bool wasTouched = isTouched();
-    const QString category = widgets::textOf(control(u"DtcmbCate"_s));
-    const QString subcategory = widgets::textOf(control(u"DtcmbSubCate"_s));
     m_isMerged = shared().ContMerge;
-    if (!m_isMerged) {
-        setText(u"DtcmbCate"_s, core::PickByDash(category, 1));
-        setText(u"DtcmbSubCate"_s, core::PickByDash(category, 2));
-    } else if (!category.isEmpty()) {
-        setText(u"DtcmbCate"_s, core::shownCategory({category, subcategory}, true));
-    }
-    showSubcategory(!m_isMerged);
+    core::mergeCategoryLists(this, m_isMerged);
     if (!wasTouched)
         m_fields.keepAsLoaded();
 }
@@ -319,8 +297,7 @@ void FormMain::clearForm()
     m_loaded = {};
     setText(u"lblid"_s, {});
     setText(u"LblStateFull"_s, {});
-    setText(u"Photo"_s, {});
-    m_loadedPhoto.clear();
+    m_photo->load({});
     setText(u"Cmbtitle"_s, u"Mr."_s);
     const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
     if (setup.hasRow()) {
@@ -367,11 +344,10 @@ bool FormMain::showRecord(const QString& id)
     setText(u"txtemail1"_s, at < 0 ? email : email.left(at));
     setText(u"cboemail1"_s, at < 0 ? QString() : email.mid(at + 1));
     setText(u"lblid"_s, row.textOrEmpty(u"id"));
-    setText(u"Photo"_s, row.textOrEmpty(u"PhotLoc"));
+    m_photo->load(row.textOrEmpty(u"PhotLoc"));
     m_assists->setQuiet(false);
     showNameLabel();
     control(u"Command1"_s)->setEnabled(true);
-    m_loadedPhoto = m_photoPath;
     m_fields.keepAsLoaded();
     return true;
 }
@@ -412,12 +388,6 @@ void FormMain::turnPage(bool simple)
 
 void FormMain::setText(const QString& name, const QString& text)
 {
-    if (name == u"Photo") {
-        m_photoPath = text;
-        m_photoIsChosen = false;
-        Photo->setPath(core::photoFile(context().services.drive, text));
-        return setText(u"lblPhoto"_s, text);
-    }
     if (auto* widget = findChild<QWidget*>(name))
         widgets::setTextOf(widget, text);
 }
@@ -425,7 +395,7 @@ void FormMain::setText(const QString& name, const QString& text)
 FormValues FormMain::values() const
 {
     FormValues result = m_fields.values();
-    result.texts.insert(u"Photo"_s, m_photoPath);
+    result.texts.insert(u"Photo"_s, m_photo->path());
     return result;
 }
 
@@ -439,7 +409,7 @@ bool FormMain::event(QEvent* event)
 
 bool FormMain::isTouched() const
 {
-    return m_mode != Mode::Idle && (m_fields.isTouched() || m_photoPath != m_loadedPhoto);
+    return m_mode != Mode::Idle && (m_fields.isTouched() || m_photo->isTouched());
 }
 
 // ---- save
@@ -478,10 +448,9 @@ bool FormMain::mayBeSaved()
         inform(tr("Record not selected"));
         return false;
     }
-    const FormValues now = values();
-    auto refusal = refusalOfSave(now);
+    auto refusal = refusalOfSave(values());
     if (!refusal && IsEditing)
-        refusal = refusalOfEdit(now);
+        refusal = refusalOfEdit(values());
     if (refusal)
         refuse(int(*refusal));
     return !refusal;
@@ -536,10 +505,11 @@ SaveOptions FormMain::saveOptions(const QString& name) const
 qint64 FormMain::add(const FormValues& values, const QString& name)
 {
     shared().TableName = u"Contact-AddData"_s;
-    StoredPhoto photo(context().services.drive, m_photoIsChosen ? m_photoPath : QString(), photoMode());
+    StoredPhoto photo = m_photo->store();
     FormValues stored = values;
-    if (m_photoIsChosen)
-        stored.texts[u"Photo"_s] = photo.path();
+    stored.texts[u"Photo"_s] = photo.path();
+    jet::Step step(context().data, {});
+    step.follow(photo.follower());
     const qint64 id = addContact(
         context(), newContactOf(m_variant, values, name), [this, &stored, &name](jet::Recordset& rows) {
             assign(rows, m_variant.addColumns, stored, saveOptions(name));
@@ -555,14 +525,13 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
     jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
     if (!rows.hasRow())
         return addAgain(rows, values, name);
-    StoredPhoto photo(context().services.drive, m_photoIsChosen ? m_photoPath : QString(), photoMode());
+    StoredPhoto photo = m_photo->store();
     FormValues stored = values;
-    if (m_photoIsChosen)
-        stored.texts[u"Photo"_s] = photo.path();
+    stored.texts[u"Photo"_s] = photo.path();
     const auto edits = columnEdits(m_variant.editColumns, stored, saveOptions(name),
         {.isTouched =
                 [this](const QString& control) {
-                    return m_fields.has(control) ? m_fields.isTouched(control) : m_photoPath != m_loadedPhoto;
+                    return m_fields.has(control) ? m_fields.isTouched(control) : m_photo->isTouched();
                 },
             .label =
                 [this](const QString& control) {
@@ -570,6 +539,8 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
                 }});
     if (!mayOverwrite(rows, edits))
         return 0;
+    jet::Step step(context().data, {});
+    step.follow(photo.follower());
     rows.edit();
     m_loaded.assign(rows, edits);
     if (!rows.update()) {
@@ -624,28 +595,6 @@ void FormMain::saveAs()
 {
     shared().CallerForm = m_variant.form.toString();
     context().screens.show(u"FrmAddSave", core::Shown::Modally);
-}
-
-// ---- picture
-
-void FormMain::selectPhoto()
-{
-    const auto chosen = context().services.boxes.openFile(tr("Select Picture"),
-        tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
-    if (!chosen)
-        return;
-    if (widgets::readPicture(*chosen, {64, 64}).isNull()) {
-        warn(tr("This file is no picture that can be shown."));
-        return;
-    }
-    setText(u"Photo"_s, *chosen);
-    m_photoIsChosen = true;
-}
-
-// Nothing is copied or moved where nothing was chosen.
-QString FormMain::photoMode() const
-{
-    return m_photoIsChosen ? shared().PhotoStoreMode : QString();
 }
 
 } // namespace entry

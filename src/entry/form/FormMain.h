@@ -12,13 +12,13 @@ class QTabWidget;
 
 namespace widgets {
 class HeadingGrid;
-class PictureBox;
 } // namespace widgets
 
 namespace entry {
 
 class AssistPanel;
 class EntryAssists;
+class PhotoField;
 class UserFields;
 
 /// The entry form with every column of a contact. It waits, adds or edits; the buttons of a mode show only in
@@ -66,7 +66,6 @@ private:
     void startEditing();
     void cancel();
     void clearForm();
-    void showSubcategory(bool shown);
     void chooseRecord(const QString& id);
     bool showRecord(const QString& id);
     void showNameLabel();
@@ -80,13 +79,11 @@ private:
     SaveOptions saveOptions(const QString& name) const;
     bool mayOverwrite(const jet::Recordset& stored, const QList<core::ColumnEdit>& edits) const;
     qint64 addAgain(const jet::Recordset& read, const FormValues& values, const QString& name);
-    QString photoMode() const;
     void endSave(const QString& name);
     jet::Recordset& contacts();
     void takeUsualNameView();
     void refuse(int refusal);
 
-    void selectPhoto();
     void saveAs();
 
     const FormVariant& m_variant;
@@ -99,12 +96,9 @@ private:
     AssistPanel* m_assist;
     EntryAssists* m_assists = nullptr;
     UserFields* m_userFields = nullptr;
-    widgets::PictureBox* Photo = nullptr;
+    PhotoField* m_photo = nullptr;
     widgets::FieldSet m_fields;
     core::LoadedRow m_loaded; ///< the contact that is changed
-    QString m_photoPath; ///< as the contact stores it, or of this computer while it is only chosen
-    QString m_loadedPhoto;
-    bool m_photoIsChosen = false; ///< and put where it belongs by the save
 };
 
 } // namespace entry

@@ -163,9 +163,8 @@ QWidget* contactPage(const SizeOf& sizeOf)
     FormKit kit(page, sizeOf);
     kit.group(tr("Name"))
         .combo(u"Cmbtitle"_s, tr("T&itle"), u"Title"_s)
-        .beside(2)
-        .combo(u"cmbnview"_s, tr("Name &view"), u"Nview"_s)
-        .hint(tr("How the name is put together in lists"))
+        .beside()
+        .combo(u"CmbSex"_s, tr("se&x"), u"sex"_s)
         .combo(u"dtcmbfname"_s, tr("&First"), u"First"_s)
         .combo(u"dtcmblname"_s, tr("&Last"), u"Last"_s)
         .line(u"txtcmpny"_s, tr("Co&mpany"), u"Company"_s)
@@ -173,7 +172,8 @@ QWidget* contactPage(const SizeOf& sizeOf)
         .hint(tr("The firm's name without its legal form; together with the suffix it makes the company"))
         .beside()
         .combo(u"txtcmpnySuffix"_s, tr("suffix"))
-        .combo(u"CmbSex"_s, tr("Se&x"), u"sex"_s)
+        .combo(u"cmbnview"_s, tr("Name &view"), u"Nview"_s)
+        .hint(tr("How the name is put together in lists"))
         .group(tr("Classes"))
         .combo(u"DtcmbCate"_s, tr("Cate&gory"), u"category1"_s)
         .beside(0)
@@ -343,15 +343,16 @@ QWidget* entryButtons()
     kit.buttonRow()
         .button(u"SSCommand3"_s, tr("&Add"), u"person-add", tr("Enter a new contact"))
         .button(u"SSCommand10"_s, tr("&Edit"), u"person-edit", tr("Choose a contact and change it"))
+        // They come next after the last field.
+        .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"))
+        .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
+        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save to the book, the mail client or a card file"))
+        .stretch()
         .button(u"SSCommand6"_s, tr("Go to Simple"), u"previous", tr("Back to the first page"))
         .button(u"SSCommand7"_s, tr("Go to Detailed"), u"next", tr("On to the personal page"))
         .button(u"ssassist"_s, tr("Assist"), u"info",
             tr("Known cities, names and companies to pick from, and a key pad"))
-        .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"))
-        .stretch()
-        .button(u"CmdSave"_s, tr("Save as"), u"card", tr("Save to the book, the mail client or a card file"))
-        .button(u"CmdCancel"_s, tr("Cancel"), u"cancel", tr("Forget what was entered"))
-        .button(u"Command1"_s, tr("&Save"), u"save", tr("Store the contact (Ctrl+S)"));
+        .button(u"CmdHelp"_s, tr("Help"), u"help", tr("What this screen is for"));
     buttons->layout()->setContentsMargins(0, 0, 0, 0);
     widgets::setKey(widgets::child<QPushButton>(buttons, u"Command1"_s), QKeySequence::Save);
     return buttons;

@@ -48,14 +48,36 @@ StoredPhoto::StoredPhoto(const platform::Drive& drive, const QString& chosen, co
     m_path = kFolder.toString() + u'\\' + name;
 }
 
+namespace {
+
+void putBack(const QString& copy, const QString& chosen, bool isMoved)
+{
+    if (isMoved)
+        QFile::rename(copy, chosen);
+    else
+        QFile::remove(copy);
+}
+
+} // namespace
+
 StoredPhoto::~StoredPhoto()
 {
+    if (!m_copy.isEmpty())
+        putBack(m_copy, m_chosen, m_isMoved);
+}
+
+jet::StepFollower StoredPhoto::follower() const
+{
     if (m_copy.isEmpty())
-        return;
-    if (m_isMoved)
-        QFile::rename(m_copy, m_chosen);
-    else
-        QFile::remove(m_copy);
+        return {};
+    return [copy = m_copy, chosen = m_chosen, isMoved = m_isMoved](jet::StepDirection direction) {
+        if (direction == jet::StepDirection::Back)
+            putBack(copy, chosen, isMoved);
+        else if (isMoved)
+            QFile::rename(chosen, copy);
+        else
+            QFile::copy(chosen, copy);
+    };
 }
 
 } // namespace entry

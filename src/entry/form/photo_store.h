@@ -1,5 +1,7 @@
 #pragma once
 
+#include "jet/types.h"
+
 #include <QString>
 
 namespace platform {
@@ -15,6 +17,11 @@ class StoredPhoto {
 public:
     /// @param chosen a path of this computer
     StoredPhoto(const platform::Drive& drive, const QString& chosen, const QString& mode);
+    /// One that is stored already and stays as it is.
+    explicit StoredPhoto(const QString& stored)
+        : m_path(stored)
+    {
+    }
     ~StoredPhoto();
     StoredPhoto(const StoredPhoto&) = delete;
     StoredPhoto& operator=(const StoredPhoto&) = delete;
@@ -22,6 +29,8 @@ public:
     /// The path that the contact stores; where a copy or move failed, that of the file itself.
     const QString& path() const { return m_path; }
     void keep() { m_copy.clear(); }
+    /// Follows a save that is taken back, or done again: the file goes with it. Nothing where none was made.
+    jet::StepFollower follower() const;
 
 private:
     QString m_path;

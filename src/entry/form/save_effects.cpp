@@ -48,6 +48,7 @@ qint64 addContact(
 {
     const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
     const bool reachesOthers = setup.flag(u"UpdOutllook");
+    jet::Step step(context.data, {});
     jet::Batch batch(context.data);
     jet::Recordset rows = context.data.openRecordset(u"Select * from cnt_main where 1>2"_s);
     rows.addNew();
@@ -64,7 +65,14 @@ qint64 addContact(
     }
     if (reachesOthers) {
         contact.mail.key = core::mailKeyOf(id);
-        context.services.mailContacts.add(contact.mail);
+        platform::MailContacts& client = context.services.mailContacts;
+        client.add(contact.mail);
+        step.follow([&client, mail = contact.mail](jet::StepDirection direction) {
+            if (direction == jet::StepDirection::Back)
+                client.remove(mail.key);
+            else
+                client.add(mail);
+        });
     }
     if (setup.flag(u"AddFav"))
         addFavourites(context.services.favourites, contact.name, contact.favourites);

@@ -21,9 +21,11 @@ UserFields::UserFields(QWidget* form, jet::Database& data)
             return;
         connect(label, &QPushButton::clicked, this, [this, number] { rename(number); });
         // The third field has values, but none is added to its list.
-        if (number < 3)
-            connect(widgets::child<QComboBox>(m_form, u"cmbuser%1"_s.arg(number)), &QComboBox::textActivated,
-                this, [this, number](const QString& value) { keepValue(number, value); });
+        if (number < 3) {
+            auto* values = widgets::child<QComboBox>(m_form, u"cmbuser%1"_s.arg(number));
+            connect(values->lineEdit(), &QLineEdit::editingFinished, this,
+                [this, number, values] { keepValue(number, values->currentText()); });
+        }
     }
     connect(widgets::child<QLineEdit>(m_form, u"txtlbl"_s), &QLineEdit::returnPressed, this,
         &UserFields::keepLabel);

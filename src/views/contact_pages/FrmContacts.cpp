@@ -4,11 +4,11 @@
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
 #include "core/mail_key.h"
+#include "core/merged_category.h"
 #include "core/save_failure.h"
 #include "core/scheduler_rows.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
-#include "core/text_pieces.h"
 #include "core/vocabularies.h"
 #include "platform/clock.h"
 #include "platform/contact_sync.h"
@@ -174,17 +174,7 @@ void FrmContacts::setSources()
     combo(u"cmbnview")->setValues(core::nameViews());
     m_isMerged = shared().ContMerge;
     if (m_isMerged)
-        showSubcategory(false);
-}
-
-void FrmContacts::showSubcategory(bool shown)
-{
-    auto* list = child<QWidget>(this, u"DtcmbSubCate"_s);
-    list->setVisible(shown);
-    for (QLabel* label : findChildren<QLabel*>()) {
-        if (label->buddy() == list)
-            label->setVisible(shown);
-    }
+        core::showSubcategory(this, false);
 }
 
 // What was typed and not saved stays, in the new way.
@@ -194,17 +184,8 @@ void FrmContacts::vocabulariesChanged()
     if (m_isMerged == shared().ContMerge)
         return;
     const bool wasTouched = isTouched();
-    auto* both = child<QWidget>(this, u"DtcmbCate"_s);
-    auto* second = child<QWidget>(this, u"DtcmbSubCate"_s);
-    const QString category = widgets::textOf(both);
     m_isMerged = shared().ContMerge;
-    if (!m_isMerged) {
-        widgets::setTextOf(both, core::PickByDash(category, 1));
-        widgets::setTextOf(second, core::PickByDash(category, 2));
-    } else if (!category.isEmpty()) {
-        widgets::setTextOf(both, core::shownCategory({category, widgets::textOf(second)}, true));
-    }
-    showSubcategory(!m_isMerged);
+    core::mergeCategoryLists(this, m_isMerged);
     if (!wasTouched)
         m_untouched = values();
 }

@@ -37,7 +37,6 @@ private:
     QWidget* layOutForm();
     void layOutName(QWidget* page);
     void setSources();
-    void showSubcategory(bool shown);
     void connectControls();
 
     SimpleValues values() const;

@@ -82,8 +82,11 @@ QList<core::ColumnEdit> changedColumns(
     const core::Category category
         = core::storedCategory(values.text(kCategory), values.text(kSubcategory), save.mergedCategory);
     write(u"Name", nameOf(values), {u"dtcmbfname"_s, u"dtcmblname"_s, u"txtcmpny"_s, kNameView.toString()});
-    write(u"category1", category.category, classes);
-    write(u"category2", category.subcategory, classes);
+    // Of a joined entry that nobody touched the pieces stay: a category may have a dash in its name.
+    if (!save.mergedCategory || std::ranges::any_of(classes, fields.isTouched)) {
+        write(u"category1", category.category, classes);
+        write(u"category2", category.subcategory, classes);
+    }
     for (const SimpleField& field : kFields) {
         const QString text = values.text(field.control);
         write(field.column, field.trimmed ? text.trimmed() : text, {field.control.toString()});
@@ -95,9 +98,9 @@ QList<core::ColumnEdit> changedColumns(
 
 void assignNew(jet::Recordset& rows, const SimpleValues& values, const SimpleSave& save)
 {
-    const auto untouched = [](const QString&) { return false; };
+    const auto all = [](const QString&) { return true; };
     const auto noLabel = [](const QString&) { return QString(); };
-    for (const core::ColumnEdit& edit : changedColumns(values, save, {untouched, noLabel}))
+    for (const core::ColumnEdit& edit : changedColumns(values, save, {all, noLabel}))
         rows.set(edit.column, edit.value);
     const QString priority = save.newPriority.trimmed();
     rows.set(u"Priority", priority.isEmpty() ? u"2"_s : priority);

@@ -85,8 +85,8 @@ void FrmFind::replace()
     const QString find = txtfind->text();
     const QString replacement = txtrep->text().trimmed();
     if (replacement.isEmpty()
-        && context().services.boxes.ask(
-               tr("This will replace all %1 with blanks").arg(find), shared().AppTitle)
+        && context().services.boxes.ask(tr("This will replace all %1 with blanks").arg(find),
+               shared().AppTitle, platform::Icon::Warning)
             == platform::Answer::No)
         return;
     const QStringView column = m_target->columns[static_cast<std::size_t>(field)].column;

@@ -3,6 +3,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/handover/mail_composer.h"
 #include "core/mail_key.h"
+#include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "platform/contact_sync.h"
@@ -192,13 +193,15 @@ void SelectorTools::remove(QStringView)
     const qint64 id = select();
     if (id == 0)
         return;
-    if (m_context.services.boxes.ask(
-            tr("Are you sure you want to delete this record?"), m_context.shared.AppTitle)
+    // The title names the record, as the question may not.
+    const QString name = m_context.shared.selectedContactName.simplified();
+    if (m_context.services.boxes.ask(tr("Are you sure you want to delete this record?"),
+            tr("Delete %1").arg(name), platform::Icon::Warning)
         != platform::Answer::Yes)
         return;
     // What could not be deleted is still there, also for the mail client.
     if (!m_context.data.execute(u"delete * from cnt_main where id= %1"_s.arg(id)))
-        return;
+        return core::tellFailedSave(m_context);
     const jet::Recordset setup = m_context.data.openRecordset(u"Select * from cntb_Setup");
     if (setup.hasRow() && setup.flag(u"UpdOutllook"))
         m_context.services.mailContacts.remove(core::mailKeyOf(id));
