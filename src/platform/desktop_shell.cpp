@@ -39,10 +39,11 @@ bool DesktopShell::siblingExists(QStringView name) const
     return !siblingProgram(m_drive, name).isEmpty();
 }
 
-bool DesktopShell::startSibling(QStringView name)
+bool DesktopShell::startSibling(QStringView name, const QString& document)
 {
     const QString program = siblingProgram(m_drive, name);
-    return !program.isEmpty() && QProcess::startDetached(program, {}, m_drive.programFolder());
+    const QStringList arguments = document.isEmpty() ? QStringList() : QStringList{document};
+    return !program.isEmpty() && QProcess::startDetached(program, arguments, m_drive.programFolder());
 }
 
 void DesktopShell::endProgram()

@@ -14,7 +14,7 @@ public:
     bool openFile(QStringView path) override;
     bool openAddress(QStringView address) override;
     bool siblingExists(QStringView name) const override;
-    bool startSibling(QStringView name) override;
+    bool startSibling(QStringView name, const QString& document = {}) override;
     void endProgram() override;
 
 private:

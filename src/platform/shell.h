@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 namespace platform {
 
@@ -19,7 +19,8 @@ public:
     virtual bool openAddress(QStringView address) = 0;
     /// A sibling is named by its file in the program's folder, as `\Orvane Scheduler.exe`.
     virtual bool siblingExists(QStringView name) const = 0;
-    virtual bool startSibling(QStringView name) = 0;
+    /// With a document, the sibling opens that one; it is handed on as the book names it.
+    virtual bool startSibling(QStringView name, const QString& document = {}) = 0;
     virtual void endProgram() = 0;
 };
 

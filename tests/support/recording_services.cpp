@@ -49,11 +49,12 @@ bool RecordingShell::siblingExists(QStringView name) const
     return siblings.contains(name.startsWith(u'\\') ? name.mid(1) : name, Qt::CaseInsensitive);
 }
 
-bool RecordingShell::startSibling(QStringView name)
+bool RecordingShell::startSibling(QStringView name, const QString& document)
 {
     if (!siblingExists(name))
         return false;
-    startedSiblings << (name.startsWith(u'\\') ? name.mid(1) : name).toString();
+    startedSiblings
+        << QString((name.startsWith(u'\\') ? name.mid(1) : name).toString() + u' ' + document).trimmed();
     return true;
 }
 

@@ -42,13 +42,13 @@ public:
     bool openFile(QStringView path) override;
     bool openAddress(QStringView address) override;
     bool siblingExists(QStringView name) const override;
-    bool startSibling(QStringView name) override;
+    bool startSibling(QStringView name, const QString& document = {}) override;
     void endProgram() override;
 
     QStringList siblings; ///< file names without the leading backslash
     QStringList openedFiles;
     QStringList openedAddresses;
-    QStringList startedSiblings;
+    QStringList startedSiblings; ///< with the document behind one that was to open it
     int ends = 0;
 };
 
