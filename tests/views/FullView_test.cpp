@@ -1,6 +1,8 @@
 #include "core/sound_files.h"
 #include "support/screen_fixture.h"
+#include "views/full_view/full_view_pages.h"
 #include "views/full_view/FullView.h"
+#include "views/full_view/labelled_lines.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"
 
@@ -21,6 +23,11 @@ private Q_SLOTS:
     void opensOnAnEmptyBook();
     void opensWithNothingShown();
     void opensWithAContact();
+    void summaryShowsWhatIsFilled();
+    void summaryAndHeadLeadOut();
+    void eachNumberHasItsLabel();
+    void userFieldsAreCalledAsThePersonSays();
+    void fitsBesideTheListBar();
     void opensOnTheFirstOfTwoWithOneName();
     void stepsStopAtTheEnds();
     void treeAndListSwap();
@@ -49,6 +56,8 @@ private:
     }
     widgets::RecordList* list() const { return child<widgets::RecordList>(m_view, u"DBList1"_s); }
     QStringList listed() const;
+    QTextBrowser* summary() const { return child<QTextBrowser>(m_view, u"SummaryPage"_s); }
+    void clickInSummary(const QString& text);
     bool shows(const QString& control) const { return child<QWidget>(m_view, control)->isVisible(); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
@@ -136,6 +145,98 @@ void FullViewTest::opensWithAContact()
     QCOMPARE(leaf->text(0), u"Cy Young"_s);
 }
 
+void FullViewTest::clickInSummary(const QString& text)
+{
+    QTextCursor found = summary()->document()->find(text);
+    QVERIFY2(!found.isNull(), qPrintable(summary()->toPlainText()));
+    found.setPosition(found.selectionStart() + 2);
+    summary()->setTextCursor(found);
+    summary()->ensureCursorVisible();
+    QTest::mouseClick(summary()->viewport(), Qt::LeftButton, {}, summary()->cursorRect(found).center());
+}
+
+void FullViewTest::summaryShowsWhatIsFilled()
+{
+    m_fixture->execute(
+        u"update cnt_main set Mobile='98 11', H_email1='cy@x', h_add1='<b>1 Way</b>', category2='Undefined' where id=1"_s);
+    open()->showContact(1);
+    QVERIFY(summary()->isVisible());
+    const QString page = summary()->toPlainText();
+    qsizetype before = -1;
+    for (const QString& each : {u"98 11"_s, u"cy@x"_s, u"<b>1 Way</b>"_s, u"05 Mar-1980 ( 44 )"_s}) {
+        QVERIFY2(page.indexOf(each) > before, qPrintable(page));
+        before = page.indexOf(each);
+    }
+    for (const QString& each : {u"Undefined"_s, u"Work 2"_s, u"Mobile 2"_s, u"Region"_s})
+        QVERIFY2(!page.contains(each), qPrintable(page));
+    QVERIFY(!shows(u"lblid"_s));
+}
+
+void FullViewTest::summaryAndHeadLeadOut()
+{
+    m_fixture->execute(
+        u"update cnt_main set Mobile='+91 (98) 11', h_std='020', H_Ph1='2211', b_email1='cy@x' where id=1"_s);
+    open()->showContact(1);
+    clickInSummary(u"020 2211"_s);
+    clickInSummary(u"cy.org"_s);
+    click(u"LblMobile"_s);
+    click(u"LblEmail"_s);
+    QCOMPARE(m_fixture->shell.openedAddresses,
+        (QStringList{u"tel:0202211"_s, u"cy.org"_s, u"tel:+919811"_s, u"mailto:cy@x"_s}));
+    m_fixture->addTarget(u"FrmDialer"_s);
+    clickInSummary(u"020 2211"_s);
+    QCOMPARE(m_fixture->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
+    m_view->activateWindow();
+    clickInSummary(u"Ann Lee"_s);
+    QCOMPARE(text(u"SSCommand8"_s), u"Ann Lee"_s);
+    QVERIFY(!shows(u"LblMobile"_s) && !shows(u"LblEmail"_s));
+}
+
+void FullViewTest::eachNumberHasItsLabel()
+{
+    m_fixture->execute(
+        u"update cnt_main set h_std='020', H_Ph1='"_s + QString(200, u'7') + u"', Mobile='98' where id=1"_s);
+    open()->showContact(1);
+    auto* numbers = child<LabelledLines>(m_view, u"txthph1"_s);
+    m_view->findChild<FullViewPages*>()->setCurrentIndex(3);
+    QVERIFY(numbers->isVisible());
+    for (int line = 0; line < 5; ++line) {
+        const QTextCursor start(numbers->document()->findBlockByNumber(line));
+        QCOMPARE(numbers->labelRect(line).top() + numbers->contentsRect().top(),
+            numbers->cursorRect(start).top() + numbers->viewport()->y());
+    }
+    QVERIFY(numbers->labelRect(2).top() > numbers->labelRect(1).bottom() + 5); // the long number wraps
+}
+
+void FullViewTest::userFieldsAreCalledAsThePersonSays()
+{
+    m_fixture->execute(u"delete * from cntb_setup"_s);
+    m_fixture->execute(u"insert into cntb_setup (lbluse2) values ('R & D')"_s);
+    m_fixture->execute(u"update cnt_main set User2='yes' where id=1"_s);
+    open()->showContact(1);
+    QVERIFY(summary()->toPlainText().contains(u"R & D"_s));
+    child<QTabWidget>(m_view, u"TabsEdit"_s)->setCurrentIndex(1);
+    QStringList labels;
+    for (const QString& field : {u"TxtUser1"_s, u"TxtUser2"_s, u"CmbEUser2"_s}) {
+        for (const QLabel* label : m_view->findChildren<QLabel*>()) {
+            if (label->buddy() && label->buddy()->objectName() == field)
+                labels << label->text();
+        }
+    }
+    QCOMPARE(labels, (QStringList{u"User 1"_s, u"R && D"_s, u"R && D"_s}));
+}
+
+// A frame of 1024 by 700 leaves a screen this much beside its list bar, bars and tabs.
+void FullViewTest::fitsBesideTheListBar()
+{
+    m_fixture->execute(u"update cnt_main set Name='"_s + QString(50, u'W') + u"', Mobile='"_s
+        + QString(30, u'8') + u"', asso2='"_s + QString(50, u'W') + u"' where id=1"_s);
+    open()->showContact(1);
+    const QSize least = m_view->minimumSizeHint();
+    QVERIFY2(least.width() <= 800 && least.height() <= 520,
+        qPrintable(u"%1 x %2"_s.arg(QString::number(least.width()), QString::number(least.height()))));
+}
+
 // Kept: the list is searched for the name.
 void FullViewTest::opensOnTheFirstOfTwoWithOneName()
 {
@@ -218,7 +319,8 @@ void FullViewTest::associateWithAnApostropheLeadsNowhere()
 void FullViewTest::keywordSearchAndBack()
 {
     open()->showContact(1);
-    QVERIFY(!shows(u"frmkeyword"_s));
+    QVERIFY(!shows(u"frmkeyword"_s) && !shows(u"lblFound"_s));
+    click(u"CmdTree"_s);
     child<QAction>(m_view, u"Search"_s)->trigger();
     QVERIFY(shows(u"frmkeyword"_s));
     QTest::keyClicks(child<QLineEdit>(m_view, u"txtkeyword"_s), u"pu'ne"_s);
@@ -227,7 +329,10 @@ void FullViewTest::keywordSearchAndBack()
     QCOMPARE(listed(), QStringList{u"Ann Lee"_s});
     QCOMPARE(text(u"lblCounter"_s), u"1 of 1"_s);
     QCOMPARE(text(u"SSCommand8"_s), u"Ann Lee"_s);
-    click(u"CmdRefresh"_s);
+    QVERIFY(shows(u"DBList1"_s) && shows(u"lblFound"_s));
+    QCOMPARE(text(u"lblFound"_s), u"Keyword: pune - 1 of 3"_s);
+    click(u"CmdClearFound"_s);
+    QVERIFY(!shows(u"lblFound"_s));
     QCOMPARE(text(u"lblCounter"_s), u"1 of 3"_s);
     QCOMPARE(list()->currentKey(), 2);
 }
@@ -237,8 +342,12 @@ void FullViewTest::filterIsTaken()
     open();
     m_view->applyFilter(u" Where category1='Work'"_s);
     QCOMPARE(listed(), (QStringList{u"Ann Lee"_s, u"Bob & Son"_s}));
+    QCOMPARE(text(u"lblFound"_s), u"Filter - 2 of 3"_s);
+    QVERIFY(shows(u"TabsEdit"_s));
     m_view->applyFilter(u" Where category1='None'"_s);
     QCOMPARE(listed(), QStringList());
+    QCOMPARE(text(u"lblFound"_s), u"Filter - 0 of 3"_s);
+    QVERIFY(!shows(u"TabsEdit"_s));
     QCOMPARE(text(u"lblCounter"_s), QString());
     click(u"ssnext"_s);
     // A contact that the filter hides brings the whole list back.
@@ -386,6 +495,10 @@ void FullViewTest::pictureOpensOutside()
     m_view->showContact(2);
     QTest::mouseClick(child<QWidget>(m_view, u"ix1"_s), Qt::LeftButton);
     QCOMPARE(m_fixture->shell.openedFiles, QStringList{u"C:\\Photos\\ann.jpg"_s});
+    m_fixture->shell.siblings << u"Orvane Photo Viewer.exe"_s;
+    QTest::mouseClick(child<QWidget>(m_view, u"ix1"_s), Qt::LeftButton);
+    QCOMPARE(m_fixture->shell.startedSiblings, QStringList{u"Orvane Photo Viewer.exe C:\\Photos\\ann.jpg"_s});
+    QCOMPARE(m_fixture->shell.openedFiles.size(), 1);
 }
 
 QTEST_MAIN(FullViewTest)

@@ -15,6 +15,7 @@ class frmDetailViewTest : public QObject {
 
 private Q_SLOTS:
     void followsAssociates();
+    void userFieldsAreCalledAsThePersonSays();
 };
 
 void frmDetailViewTest::followsAssociates()
@@ -37,6 +38,21 @@ void frmDetailViewTest::followsAssociates()
     QCOMPARE(text(u"lblage"_s), QString());
     child<QPushButton>(view, u"cmdass2"_s)->click(); // nobody of that name
     QCOMPARE(text(u"lblid"_s), u"2"_s);
+    QCOMPARE(fixture.verify(), QString());
+}
+
+void frmDetailViewTest::userFieldsAreCalledAsThePersonSays()
+{
+    support::ScreenFixture fixture;
+    fixture.execute(u"delete * from cntb_setup"_s);
+    fixture.execute(u"insert into cntb_setup (lbluse1) values ('Club')"_s);
+    fixture.execute(u"insert into cnt_main (Name) values ('Ann')"_s);
+    auto* view = fixture.open<frmDetailView>(u"frmDetailView"_s);
+    view->showContact(1);
+    QCOMPARE(child<QWidget>(view, u"cmbuser1"_s)->accessibleName(), u"Club"_s);
+    fixture.execute(u"update cntb_setup set lbluse1=null"_s);
+    view->showContact(1);
+    QCOMPARE(child<QWidget>(view, u"cmbuser1"_s)->accessibleName(), u"User 1"_s);
     QCOMPARE(fixture.verify(), QString());
 }
 

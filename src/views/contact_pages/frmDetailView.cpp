@@ -4,6 +4,8 @@
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "views/contact_pages/record_texts.h"
+#include "views/contact_pages/user_labels.h"
+#include "views/field_label.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
@@ -71,17 +73,12 @@ QWidget* frmDetailView::layOutHead()
     name->setTextFormat(Qt::PlainText);
     name->setStyleSheet(u"font-size: 17pt; font-weight: 600;"_s);
     name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* id = new QLabel;
-    id->setObjectName(u"lblid"_s);
-    id->setToolTip(tr("Number of the contact"));
-    id->setForegroundRole(QPalette::PlaceholderText);
     auto* head = new QWidget;
     auto* layout = new QHBoxLayout(head);
     layout->setContentsMargins(4, 0, 4, 0);
     layout->setSpacing(12);
     layout->addWidget(picture);
     layout->addWidget(name, 1);
-    layout->addWidget(id);
     return head;
 }
 
@@ -109,7 +106,8 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"txtproduct"_s, tr("Product"))
         .readOnly(u"Dtcmbstatus"_s, tr("Status"))
         .readOnly(u"dtcmbregion"_s, tr("Region"))
-        .readOnly(u"dtcmbrelation"_s, tr("Relation"));
+        .readOnly(u"dtcmbrelation"_s, tr("Relation"))
+        .caption(u"lblid"_s, {}, tr("Number"));
     form.nextColumn()
         .group(tr("Home"))
         .readOnly(u"txtadd1"_s, tr("Address"))
@@ -207,9 +205,12 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"txtwph2"_s, {})
         .readOnly(u"txtwph3"_s, {});
     form.group(tr("E-mail, web and note"))
-        .readOnly(u"txtbemail1"_s, tr("E-mail"))
+        .readOnly(u"txtbemail1"_s, tr("E-mail 1"))
         .readOnly(u"txtbemail2"_s, {})
-        .readOnly(u"txtbweb"_s, tr("Web"));
+        .readOnly(u"txtbweb"_s, tr("Web 1"))
+        .readOnly(u"txtwemail1"_s, tr("E-mail 2"))
+        .readOnly(u"txtwemail2"_s, {})
+        .readOnly(u"txtwweb"_s, tr("Web 2"));
     form.readOnly(u"txtbnote"_s, tr("Note"), 4);
 }
 
@@ -222,6 +223,9 @@ bool frmDetailView::showContact(qint64 id)
     for (const ShownText& shown :
         detailViewTexts(contact, shared().NationalMode, context().services.clock.today()))
         widgets::setTextOf(child<QWidget>(this, shown.control), shown.text);
+    const QStringList labels = userLabels(context().data);
+    for (int number = 1; number <= labels.size(); ++number)
+        showFieldLabel(this, u"cmbuser%1"_s.arg(number), labels[number - 1]);
     const QString picture = contact.textOrEmpty(u"PhotLoc");
     child<widgets::PictureBox>(this, u"Photo"_s)->setPath(core::photoFile(context().services.drive, picture));
     child<QPushButton>(this, u"cmdass1"_s)->setEnabled(!contact.textOrEmpty(u"Asso1").isEmpty());

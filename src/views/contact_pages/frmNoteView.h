@@ -8,14 +8,14 @@
 class QLabel;
 class QStackedWidget;
 class QTabBar;
-class QTextBrowser;
-class QUrl;
 
 namespace widgets {
 class PictureBox;
 }
 
 namespace views {
+
+class ContactPage;
 
 /// One contact as a page to read, in one of four views. What is empty is not there. Stands alone, or beside
 /// the list of the record selector, which then chooses the view.
@@ -35,32 +35,20 @@ public:
 Q_SIGNALS:
     void associateShown(qint64 id); ///< the page went to another contact by itself
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-
 private:
     QWidget* layOutHead();
     void readAgain();
-    void render();
-    QString textOf(const NoteText& text);
-    QString sectionHtml(const NoteSection& section, bool isFirst);
-    void follow(const QUrl& link);
     void goToContact(const QString& name);
 
     qint64 m_id = 0;
     NoteView m_view = NoteView::Brief;
-    QList<NoteSection> m_sections;
-    QList<NoteText> m_links; ///< by the number in a link of the page
-    qsizetype m_letters = 0; ///< shown of a text, so that one without measure does not hold up the window
-    bool m_wide = false; ///< there is room for two columns
 
     QTabBar* m_views;
     widgets::PictureBox* m_picture;
     QLabel* lblname;
     QLabel* m_line;
     QLabel* lblCaption; ///< the word of the view, or "Search"
-    QTextBrowser* m_page;
+    ContactPage* m_page;
     QStackedWidget* m_stack;
 };
 

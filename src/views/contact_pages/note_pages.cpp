@@ -33,7 +33,7 @@ enum class How {
 struct NoteRow {
     unsigned views;
     const char* section;
-    const char* label;
+    const char* label; ///< null for the three fields that the person has named
     How how;
     std::array<QStringView, 6> columns;
     NoteLink link = NoteLink::None;
@@ -48,7 +48,7 @@ constexpr const char* kFamily = QT_TRANSLATE_NOOP("views", "Family and dates");
 constexpr const char* kClasses = QT_TRANSLATE_NOOP("views", "Classes");
 constexpr const char* kNotes = QT_TRANSLATE_NOOP("views", "Notes");
 
-// The rows of a section stand together.
+// What one looks a contact up for stands first. The rows of a section stand together.
 constexpr NoteRow kRows[] = {
     {Everywhere, kReach, QT_TRANSLATE_NOOP("views", "Mobile"), How::Lines, {u"Mobile"}, NoteLink::Phone},
     {Brief | Personal | Full, kReach, QT_TRANSLATE_NOOP("views", "Home"), How::Number,
@@ -70,16 +70,6 @@ constexpr NoteRow kRows[] = {
     {Personal | Full, kReach, QT_TRANSLATE_NOOP("views", "Web"), How::Lines, {u"h_web"}, NoteLink::Web},
     {Business | Full, kReach, QT_TRANSLATE_NOOP("views", "Work web"), How::Lines, {u"B_Web", u"W_web"},
         NoteLink::Web},
-
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Name"), How::Words,
-        {u"Title", u"First", u"Mid", u"Last"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Nick name"), How::Lines, {u"nick"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Maiden name"), How::Lines, {u"Maiden"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Gender"), How::Lines, {u"sex"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Education"), How::Lines, {u"education"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Hobbies"), How::Lines, {u"Hobbies"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Religion"), How::Lines, {u"Religion"}},
-    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Relation"), How::Lines, {u"Relation"}},
 
     {Brief | Personal | Full, kHome, QT_TRANSLATE_NOOP("views", "Address"), How::Place,
         {u"h_add1", u"h_add2", u"h_city", u"h_pin", u"h_state", u"h_country"}},
@@ -105,15 +95,25 @@ constexpr NoteRow kRows[] = {
     {Personal | Full, kFamily, QT_TRANSLATE_NOOP("views", "Associates"), How::Contact, {u"Asso1", u"asso2"},
         NoteLink::Contact},
 
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Name"), How::Words,
+        {u"Title", u"First", u"Mid", u"Last"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Nick name"), How::Lines, {u"nick"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Maiden name"), How::Lines, {u"Maiden"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Gender"), How::Lines, {u"sex"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Education"), How::Lines, {u"education"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Hobbies"), How::Lines, {u"Hobbies"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Religion"), How::Lines, {u"Religion"}},
+    {Personal | Full, kPerson, QT_TRANSLATE_NOOP("views", "Relation"), How::Lines, {u"Relation"}},
+
     {Brief | Full, kClasses, QT_TRANSLATE_NOOP("views", "Category"), How::Dashed,
         {u"category1", u"category2"}},
     {Full, kClasses, QT_TRANSLATE_NOOP("views", "Priority"), How::Lines, {u"Priority"}},
     {Business | Full, kClasses, QT_TRANSLATE_NOOP("views", "Product"), How::Lines, {u"Product"}},
     {Business | Full, kClasses, QT_TRANSLATE_NOOP("views", "Status"), How::Lines, {u"Status"}},
     {Full, kClasses, QT_TRANSLATE_NOOP("views", "Region"), How::Lines, {u"region"}},
-    {Full, kClasses, QT_TRANSLATE_NOOP("views", "User 1"), How::Lines, {u"User1"}},
-    {Full, kClasses, QT_TRANSLATE_NOOP("views", "User 2"), How::Lines, {u"User2"}},
-    {Full, kClasses, QT_TRANSLATE_NOOP("views", "User 3"), How::Lines, {u"User3"}},
+    {Full, kClasses, nullptr, How::Lines, {u"User1"}},
+    {Full, kClasses, nullptr, How::Lines, {u"User2"}},
+    {Full, kClasses, nullptr, How::Lines, {u"User3"}},
 
     // A note is written to one column when a contact is new, and to the other when it is changed.
     {Personal | Full, kNotes, QT_TRANSLATE_NOOP("views", "Note"), How::Lines, {u"memo1", u"Memo"}},
@@ -248,7 +248,7 @@ std::optional<NoteView> noteViewOf(QStringView word)
     return {};
 }
 
-QList<NoteSection> noteSections(const jet::Recordset& row, NoteView view, bool nationalMode, QDate today)
+QList<NoteSection> noteSections(const jet::Recordset& row, NoteView view, const NoteWords& words)
 {
     const unsigned bit = kViews[static_cast<std::size_t>(view)].bit;
     QList<NoteSection> sections;
@@ -256,21 +256,27 @@ QList<NoteSection> noteSections(const jet::Recordset& row, NoteView view, bool n
     for (const NoteRow& shown : kRows) {
         if (!(shown.views & bit))
             continue;
-        const QList<NoteText> texts = textsOf(row, shown, nationalMode, today);
+        const QList<NoteText> texts = textsOf(row, shown, words.nationalMode, words.today);
+        const QString label = shown.label ? translated(shown.label)
+                                          : words.userLabels.value(shown.columns[0].back().digitValue() - 1);
         if (texts.isEmpty())
             continue;
         if (open != shown.section)
             sections << NoteSection{translated(shown.section), {}};
         open = shown.section;
-        sections.last().lines << NoteLine{translated(shown.label), texts};
+        sections.last().lines << NoteLine{label, texts};
     }
     return sections;
 }
 
 NoteHead noteHead(const jet::Recordset& row)
 {
+    constexpr NoteRow mobile{0, nullptr, nullptr, How::Lines, {u"Mobile"}, NoteLink::Phone};
+    constexpr NoteRow mail{0, nullptr, nullptr, How::Lines,
+        {u"H_email1", u"h_email2", u"b_email1", u"b_email2", u"w_email1", u"W_Email2"}, NoteLink::Mail};
     return {row.textOrEmpty(u"Name").trimmed(),
-        joined({said(row, u"Job_Title"), said(row, u"Company")}, u", "_s), row.textOrEmpty(u"PhotLoc")};
+        joined({said(row, u"Job_Title"), said(row, u"Company")}, u", "_s), row.textOrEmpty(u"PhotLoc"),
+        linked(row, mobile).value(0), linked(row, mail).value(0)};
 }
 
 } // namespace views

@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QStringList>
 
 #include <optional>
 
@@ -34,16 +35,26 @@ struct NoteSection {
     QList<NoteLine> lines;
 };
 
-/// The name of a contact, and what stands below it in a heading: job title, company, category.
+/// How dates are written, from when ages are counted, and what the three own fields are called.
+struct NoteWords {
+    bool nationalMode;
+    QDate today;
+    QStringList userLabels;
+};
+
+/// The name of a contact, and what stands below it in a heading: job title, company, and the first ways to
+/// reach it.
 struct NoteHead {
     QString name;
     QString line;
     QString picture;
+    NoteText mobile;
+    NoteText mail;
 };
 
 /// What a view shows of the current row of "select * from cnt_main". There is no empty line and no empty
 /// section.
-QList<NoteSection> noteSections(const jet::Recordset& row, NoteView view, bool nationalMode, QDate today);
+QList<NoteSection> noteSections(const jet::Recordset& row, NoteView view, const NoteWords& words);
 NoteHead noteHead(const jet::Recordset& row);
 
 } // namespace views

@@ -4,13 +4,17 @@
 #include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
+#include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/shell.h"
 #include "views/command_button.h"
+#include "views/contact_pages/contact_page.h"
 #include "views/contact_pages/record_texts.h"
+#include "views/contact_pages/user_labels.h"
 #include "views/contact_tools.h"
 #include "views/full_view/address_source.h"
 #include "views/full_view/category_tree.h"
+#include "views/full_view/found_strip.h"
 #include "views/full_view/full_view_edit.h"
 #include "views/full_view/full_view_header.h"
 #include "views/full_view/full_view_pages.h"
@@ -43,6 +47,7 @@ constexpr FullViewKind kFullView{QT_TRANSLATE_NOOP("views", "Full view"), u"Cont
 
 constexpr int kEditPage = 1;
 constexpr int kSavedNoteMs = 4000;
+constexpr QStringView kPhotoViewer = u"\\Orvane Photo Viewer.exe";
 
 } // namespace
 
@@ -65,6 +70,7 @@ FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* pa
     , m_listEditing(new ListEditing(DBList1))
     , m_header(new FullViewHeader)
     , m_edit(new FullViewEdit(context))
+    , m_found(new FoundStrip)
     , lblCounter(new QLabel)
     , ssprevious(
           commandButton(u"ssprevious"_s, u"previous", tr("Previous contact"), {}, Qt::CTRL | Qt::Key_Up))
@@ -119,7 +125,13 @@ QWidget* FullView::layOutBrowser()
     frmkeyword->hide();
     CmdList->setEnabled(false);
     m_lists = new QStackedWidget;
-    m_lists->addWidget(DBList1);
+    m_listPage = new QWidget;
+    auto* listLayout = new QVBoxLayout(m_listPage);
+    listLayout->setContentsMargins(0, 0, 0, 0);
+    listLayout->setSpacing(6);
+    listLayout->addWidget(m_found);
+    listLayout->addWidget(DBList1, 1);
+    m_lists->addWidget(m_listPage);
     m_lists->addWidget(tvwdb);
 
     auto* commands = new QHBoxLayout;
@@ -144,7 +156,7 @@ QWidget* FullView::layOutRecord()
 {
     TabsEdit = new QTabWidget;
     TabsEdit->setObjectName(u"TabsEdit"_s);
-    m_pages = new FullViewPages(m_kind.browsesOthers);
+    m_pages = new FullViewPages(context(), m_kind.browsesOthers);
     m_pages->setDocumentMode(true);
     TabsEdit->addTab(m_pages, widgets::icon(u"card"), tr("View"));
     TabsEdit->addTab(m_edit, widgets::icon(u"edit"), tr("Edit"));
@@ -207,7 +219,7 @@ void FullView::connectControls()
     connect(frmkeyword, &KeywordPanel::searched, this, [this](const QString& keyword) {
         if (!mayLeaveEdit())
             return;
-        openFound(keywordSql(keyword));
+        openFound(keywordSql(keyword), tr("Keyword: %1").arg(keyword));
         frmkeyword->hide();
     });
     connect(m_tools, &ContactTools::searchWanted, frmkeyword, &KeywordPanel::open);
@@ -219,6 +231,9 @@ void FullView::connectControls()
     connect(CmdList, &QToolButton::clicked, this, &FullView::showList);
     connect(CmdTree, &QToolButton::clicked, this, &FullView::showTree);
     connect(CmdRefresh, &QToolButton::clicked, this, &FullView::refresh);
+    connect(m_found, &FoundStrip::clearWanted, this, &FullView::refresh);
+    connect(m_header, &FullViewHeader::reachChosen, m_pages->summary(), &ContactPage::follow);
+    connect(m_pages->summary(), &ContactPage::contactChosen, this, &FullView::goToAssociate);
     connect(CmdView, &QToolButton::clicked, this, [this] {
         shared().CallerForm = m_kind.callerForm.toString();
         m_filterMenu->popup(CmdView->mapToGlobal(CmdView->rect().bottomLeft()));
@@ -270,7 +285,7 @@ void FullView::applyFilter(const QString& whereClause)
         return;
     if (m_source)
         browse(nullptr);
-    openFound(contactListSql(whereClause));
+    openFound(contactListSql(whereClause), tr("Filter"));
 }
 
 void FullView::bookChanged()
@@ -300,18 +315,27 @@ bool FullView::mayLeaveEdit()
     return true;
 }
 
-void FullView::openList(const QString& sql)
+void FullView::openList(const QString& sql, const QString& foundBy)
 {
     Data4 = sql;
+    m_foundBy = foundBy;
     DBList1->fill(context().data.openRecordset(sql));
     // Said outright that no row is current, else the list takes its first row when it gets the focus.
     DBList1->setCurrentRow(-1);
     showCounter();
+    if (foundBy.isEmpty())
+        return m_found->hide();
+    m_found->tell(foundBy, DBList1->rowCount(),
+        context().data.openRecordset(u"select count(*) from cnt_main"_s).textAt(0).toInt());
 }
 
-void FullView::openFound(const QString& sql)
+// What was found is seen, also when the tree was in front.
+void FullView::openFound(const QString& sql, const QString& foundBy)
 {
-    openList(sql);
+    openList(sql, foundBy);
+    showList();
+    if (DBList1->rowCount() == 0)
+        return displayNothing();
     const int row = m_id == 0 ? -1 : DBList1->rowOf(m_id);
     DBList1->setCurrentRow(std::max(0, row));
 }
@@ -327,7 +351,9 @@ void FullView::reopenList()
             displayNothing();
         return;
     }
-    openList(Data4);
+    openList(Data4, m_foundBy);
+    if (!m_foundBy.isEmpty() && DBList1->rowCount() == 0)
+        displayNothing();
     if (m_id != 0)
         selectInList(m_id);
 }
@@ -357,11 +383,12 @@ void FullView::browse(std::unique_ptr<AddressSource> source)
     for (const QStringView id : {u"Edit", u"Search"})
         m_tools->action(id)->setEnabled(own);
     frmkeyword->hide();
-    m_lists->setCurrentWidget(DBList1);
+    m_lists->setCurrentWidget(m_listPage);
     CmdList->setEnabled(false);
     CmdTree->setEnabled(own);
     TabsEdit->setTabEnabled(kEditPage, own);
     m_pages->showBook(own);
+    m_found->hide();
     displayNothing();
     if (own) {
         DBList1->showAs(u"Name"_s, {});
@@ -431,11 +458,23 @@ void FullView::display(qint64 id)
         return displayNothing();
     m_id = id;
     showTexts(fullViewTexts(contact, shared().NationalMode));
+    showSummary(contact);
     m_picture = contact.textOrEmpty(u"PhotLoc");
     m_header->showPicture(core::photoFile(context().services.drive, m_picture));
     m_record->setCurrentIndex(1);
     if (TabsEdit->currentIndex() == kEditPage && m_edit->contact() != id)
         m_edit->loadContact(id);
+}
+
+void FullView::showSummary(const jet::Recordset& contact)
+{
+    const QStringList labels = userLabels(context().data);
+    const NoteHead head = noteHead(contact);
+    m_pages->showUserLabels(labels);
+    m_pages->summary()->showContact(m_id, head.name,
+        noteSections(
+            contact, NoteView::Full, {shared().NationalMode, context().services.clock.today(), labels}));
+    m_header->showReach(head.mobile, head.mail);
 }
 
 void FullView::displayNothing()
@@ -445,6 +484,8 @@ void FullView::displayNothing()
     showTexts(fullViewTexts({}, shared().NationalMode));
     for (QWidget* control : std::as_const(m_controls))
         widgets::setTextOf(control, {});
+    m_pages->summary()->showContact(0, {}, {});
+    m_header->showReach({}, {});
     m_header->showPicture({});
     m_header->showPlainName({});
     TabsEdit->setCurrentIndex(0);
@@ -465,7 +506,7 @@ void FullView::showTexts(const QList<ShownText>& texts)
 
 void FullView::showList()
 {
-    m_lists->setCurrentWidget(DBList1);
+    m_lists->setCurrentWidget(m_listPage);
     CmdList->setEnabled(false);
     CmdTree->setEnabled(true);
     DBList1->setFocus();
@@ -568,8 +609,11 @@ void FullView::viewLinkedData()
 
 void FullView::openPicture()
 {
-    if (!m_picture.isEmpty())
-        context().services.shell.openFile(m_picture);
+    if (m_picture.isEmpty())
+        return;
+    platform::Shell& desktop = context().services.shell;
+    if (!desktop.siblingExists(kPhotoViewer) || !desktop.startSibling(kPhotoViewer, m_picture))
+        desktop.openFile(m_picture);
 }
 
 QString FullView::shownName() const

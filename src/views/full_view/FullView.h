@@ -23,6 +23,7 @@ namespace views {
 class AddressSource;
 class CategoryTree;
 class ContactTools;
+class FoundStrip;
 class FullViewEdit;
 class FullViewHeader;
 class FullViewPages;
@@ -70,8 +71,8 @@ private:
     void makeMenus();
     void connectControls();
 
-    void openList(const QString& sql);
-    void openFound(const QString& sql);
+    void openList(const QString& sql, const QString& foundBy = {});
+    void openFound(const QString& sql, const QString& foundBy);
     void reopenList(); ///< the same selection, with the same contact selected
     void selectInList(qint64 id);
     void rowChanged(int row);
@@ -80,6 +81,7 @@ private:
     void showItem(int row);
     void showCounter();
     void display(qint64 id);
+    void showSummary(const jet::Recordset& contact);
     void displayNothing();
     void showTexts(const QList<ShownText>& texts);
 
@@ -98,6 +100,7 @@ private:
 
     const FullViewKind& m_kind;
     QString Data4; ///< the statement behind the list
+    QString m_foundBy; ///< what the list was narrowed down by, empty for all contacts
     qint64 m_id = 0; ///< the contact shown
     QString m_picture; ///< its picture, as the program writes paths
     QHash<QString, QWidget*> m_controls; ///< those that show a text of the contact
@@ -112,11 +115,13 @@ private:
     ListEditing* m_listEditing;
     QWidget* m_browser = nullptr;
     QStackedWidget* m_lists = nullptr;
+    QWidget* m_listPage = nullptr;
     QStackedWidget* m_record = nullptr; ///< a word when nothing is shown, or the tabs
     QTabWidget* TabsEdit = nullptr;
     FullViewHeader* m_header;
     FullViewPages* m_pages = nullptr;
     FullViewEdit* m_edit;
+    FoundStrip* m_found;
     QLabel* lblCounter;
     QToolButton* ssprevious;
     QToolButton* ssnext;

@@ -5,6 +5,8 @@
 #include "core/touched_fields.h"
 #include "core/vocabularies.h"
 #include "platform/message_boxes.h"
+#include "views/contact_pages/user_labels.h"
+#include "views/field_label.h"
 #include "views/full_view/full_view_save.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/date_box.h"
@@ -16,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -125,7 +128,11 @@ FormKit FullViewEdit::kit(QWidget* page) const
 QWidget* FullViewEdit::addPage(QTabWidget* tabs, const QString& title, QStringView icon) const
 {
     auto* page = new QWidget;
-    tabs->addTab(page, widgets::icon(icon), title);
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(page);
+    tabs->addTab(area, widgets::icon(icon), title);
     return page;
 }
 
@@ -276,6 +283,9 @@ void FullViewEdit::loadContact(qint64 id)
         widgets::setTextOf(control, text);
     }
     widgets::clear(child<QWidget>(this, u"TxtEHWeb"_s));
+    const QStringList labels = userLabels(m_context.data);
+    for (int number = 1; number <= labels.size(); ++number)
+        showFieldLabel(this, u"CmbEUser%1"_s.arg(number), labels[number - 1]);
     for (const EditSource& source : editDates()) {
         const QDate date = row.date(source.column);
         child<widgets::DateBox>(this, source.control.toString())

@@ -15,18 +15,19 @@ namespace views {
 
 namespace {
 
-QPushButton* link(const QString& name)
+QPushButton* link(const QString& name, const QString& accessibleName, const QString& toolTip)
 {
     auto* button = new QPushButton;
     button->setObjectName(name);
-    button->setAccessibleName(QObject::tr("Associate"));
-    button->setToolTip(QObject::tr("Go to this contact"));
+    button->setAccessibleName(accessibleName);
+    button->setToolTip(toolTip);
     button->setFlat(true);
     button->setCursor(Qt::PointingHandCursor);
     button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     button->setStyleSheet(
         u"QPushButton { color: palette(link); text-decoration: underline; border: none; padding: 1px 4px; }"
         "QPushButton:focus { border: 1px dotted palette(link); }"_s);
+    button->setMinimumWidth(20); // a long text must not widen the window
     button->hide();
     return button;
 }
@@ -49,12 +50,13 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     : QWidget(parent)
     , ix1(new widgets::PictureBox)
     , SSCommand8(new QPushButton)
-    , lblid(new QLabel)
-    , LblAsso1(link(u"LblAsso1"_s))
-    , LblAsso2(link(u"LblAsso2"_s))
+    , LblAsso1(link(u"LblAsso1"_s, tr("Associate"), tr("Go to this contact")))
+    , LblAsso2(link(u"LblAsso2"_s, tr("Associate"), tr("Go to this contact")))
     , CmdTel(command(u"CmdTel"_s, u"phone", tr("Call")))
     , CmdAdd(command(u"CmdAdd"_s, u"letter", tr("Send Letter")))
     , CmdEmail(command(u"CmdEmail"_s, u"envelope", tr("Send e-mail")))
+    , m_mobile{link(u"LblMobile"_s, tr("Mobile"), tr("Call this number")), {}}
+    , m_mail{link(u"LblEmail"_s, tr("E-mail"), tr("Write an e-mail")), {}}
     , m_plainName(new QLabel)
     , m_facts(new QLabel)
     , m_associates(new QLabel(tr("Associates:")))
@@ -80,9 +82,9 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     m_plainName->setStyleSheet(u"font-size: 17pt; font-weight: 600; padding: 2px 0px;"_s);
     m_plainName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_plainName->hide();
-    lblid->setObjectName(u"lblid"_s);
-    lblid->setForegroundRole(QPalette::PlaceholderText);
-    lblid->setToolTip(tr("Number of the contact"));
+    for (const Reach* reach : {&m_mobile, &m_mail})
+        connect(
+            reach->button, &QPushButton::clicked, this, [this, reach] { Q_EMIT reachChosen(reach->text); });
     m_facts->setTextFormat(Qt::PlainText);
     m_facts->setContentsMargins(6, 0, 0, 0);
     m_facts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -95,12 +97,18 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     links->addWidget(LblAsso1);
     links->addWidget(LblAsso2);
     links->addStretch(1);
+    auto* reaches = new QHBoxLayout;
+    reaches->setSpacing(12);
+    reaches->addWidget(m_mobile.button);
+    reaches->addWidget(m_mail.button);
+    reaches->addStretch(1);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addStretch(1);
     texts->addWidget(SSCommand8);
     texts->addWidget(m_plainName);
     texts->addWidget(m_facts);
+    texts->addLayout(reaches);
     texts->addLayout(links);
     texts->addStretch(1);
     auto* commands = new QHBoxLayout;
@@ -110,7 +118,6 @@ FullViewHeader::FullViewHeader(QWidget* parent)
     auto* right = new QVBoxLayout;
     right->addStretch(1);
     right->addLayout(commands);
-    right->addWidget(lblid, 0, Qt::AlignRight);
     right->addStretch(1);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 8);
@@ -143,6 +150,16 @@ void FullViewHeader::tidy(const QStringList& facts)
     for (QPushButton* button : {LblAsso1, LblAsso2})
         button->setHidden(button->text().isEmpty());
     m_associates->setHidden(LblAsso1->isHidden() && LblAsso2->isHidden());
+}
+
+void FullViewHeader::showReach(const NoteText& mobile, const NoteText& mail)
+{
+    m_mobile.text = mobile;
+    m_mail.text = mail;
+    for (const Reach* reach : {&m_mobile, &m_mail}) {
+        widgets::setTextOf(reach->button, reach->text.text);
+        reach->button->setHidden(reach->text.text.isEmpty());
+    }
 }
 
 } // namespace views

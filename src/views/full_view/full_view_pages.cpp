@@ -1,19 +1,26 @@
 #include "views/full_view/full_view_pages.h"
 
+#include "views/contact_pages/contact_page.h"
+#include "views/field_label.h"
+#include "views/full_view/labelled_lines.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
 #include "widgets/theme.h"
 
 #include <QLabel>
+#include <QScrollArea>
 
 using namespace Qt::StringLiterals;
 using widgets::FormKit;
 
 namespace views {
 
-FullViewPages::FullViewPages(bool browsesOthers, QWidget* parent)
+FullViewPages::FullViewPages(core::Context& context, bool browsesOthers, QWidget* parent)
     : QTabWidget(parent)
+    , m_summary(new ContactPage(context))
 {
+    m_summary->setObjectName(u"SummaryPage"_s);
+    addTab(m_summary, widgets::icon(u"list"), tr("Summary"));
     layOutDetails();
     layOutAddresses();
     layOutTelephones(browsesOthers);
@@ -24,28 +31,30 @@ FullViewPages::FullViewPages(bool browsesOthers, QWidget* parent)
 
 void FullViewPages::showBook(bool own)
 {
-    for (const NumbersLabel& numbers : std::as_const(m_numbersLabels))
-        numbers.label->setText(own ? numbers.own : tr("Numbers"));
+    setTabVisible(indexOf(m_summary), own);
+    if (own)
+        setCurrentWidget(m_summary);
+    for (auto* numbers : findChildren<LabelledLines*>())
+        numbers->showLabels(own);
     for (QWidget* widget : std::as_const(m_ofOthers))
         widget->setVisible(!own);
 }
 
-QLabel* FullViewPages::labelOf(const QString& control) const
+void FullViewPages::showUserLabels(const QStringList& labels)
 {
-    const auto* field = widgets::child<QWidget>(this, control);
-    for (QLabel* label : findChildren<QLabel*>()) {
-        if (label->buddy() == field)
-            return label;
-    }
-    Q_ASSERT_X(false, "FullViewPages::labelOf", qUtf8Printable(control));
-    return nullptr;
+    for (int number = 1; number <= labels.size(); ++number)
+        showFieldLabel(this, u"TxtUser%1"_s.arg(number), labels[number - 1]);
 }
 
 QWidget* FullViewPages::addPage(const QString& name, const QString& title, QStringView icon)
 {
     auto* page = new QWidget;
     page->setObjectName(name);
-    addTab(page, widgets::icon(icon), title);
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(page);
+    addTab(area, widgets::icon(icon), title);
     return page;
 }
 
@@ -73,7 +82,8 @@ void FullViewPages::layOutDetails()
         .readOnly(u"txtproduct"_s, tr("Product"))
         .readOnly(u"txtstatus"_s, tr("Status"))
         .readOnly(u"txtregion"_s, tr("Region"))
-        .readOnly(u"txtrelation"_s, tr("Relation"));
+        .readOnly(u"txtrelation"_s, tr("Relation"))
+        .caption(u"lblid"_s, {}, tr("Number"));
     form.group(tr("Own fields"))
         .readOnly(u"TxtUser1"_s, tr("User 1"))
         .readOnly(u"TxtUser2"_s, tr("User 2"))
@@ -115,20 +125,18 @@ void FullViewPages::layOutTelephones(bool browsesOthers)
     };
     FormKit form(addPage(u"FrmVTel"_s, tr("Telephone"), u"phone"));
     for (const Numbers& numbers : addresses) {
-        // The label has a line for each line of the box.
         form.nextColumn()
             .group(numbers.title)
-            .readOnly(
-                numbers.control, tr("Area code\nNumber 1\nNumber 2\nNumber 3\n%1").arg(numbers.last), 5);
+            .wide(numbers.control, tr("%1, numbers").arg(numbers.title),
+                new LabelledLines(
+                    {tr("Area code"), tr("Number 1"), tr("Number 2"), tr("Number 3"), numbers.last}));
         if (browsesOthers)
             form.readOnly(numbers.other, numbers.otherLabel);
     }
     if (!browsesOthers)
         return;
     for (const Numbers& numbers : addresses) {
-        QLabel* label = labelOf(numbers.control);
-        m_numbersLabels << NumbersLabel{label, label->text()};
-        m_ofOthers << labelOf(numbers.other) << widgets::child<QWidget>(this, numbers.other);
+        m_ofOthers << fieldLabel(this, numbers.other) << widgets::child<QWidget>(this, numbers.other);
     }
 }
 

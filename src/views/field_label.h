@@ -1,0 +1,14 @@
+#pragma once
+
+class QLabel;
+class QString;
+class QWidget;
+
+namespace views {
+
+/// The label that the form kit made for a field of that name.
+QLabel* fieldLabel(const QWidget* page, const QString& field);
+/// Gives the field another label, also for those who have it read to them.
+void showFieldLabel(const QWidget* page, const QString& field, const QString& text);
+
+} // namespace views
