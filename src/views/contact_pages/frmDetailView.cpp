@@ -14,6 +14,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -46,7 +47,11 @@ frmDetailView::frmDetailView(core::Context& context, QWidget* parent)
              Page{tr("Family"), u"family", &frmDetailView::layOutFamily},
              Page{tr("Business"), u"work", &frmDetailView::layOutBusiness}}) {
         auto* widget = new QWidget;
-        tabs->addTab(widget, widgets::icon(page.icon), page.title);
+        auto* area = new QScrollArea;
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidget(widget);
+        tabs->addTab(area, widgets::icon(page.icon), page.title);
         (this->*page.layOut)(widget);
     }
     auto* layout = new QVBoxLayout(this);

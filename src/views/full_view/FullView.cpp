@@ -94,11 +94,12 @@ void FullView::layOut()
     bar->setObjectName(u"SSActiveToolBars1"_s);
     lblCounter->setObjectName(u"lblCounter"_s);
     lblCounter->setAccessibleName(tr("Position in the list"));
-    auto* space = new QWidget;
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(space);
+    // Beside the tools, which may give way to their overflow arrow; the steps never do.
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(0, 0, 8, 0);
+    head->addWidget(bar, 1);
     for (QWidget* step : std::initializer_list<QWidget*>{ssprevious, lblCounter, ssnext})
-        bar->addWidget(step);
+        head->addWidget(step);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     m_browser = layOutBrowser();
@@ -110,7 +111,7 @@ void FullView::layOut()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(bar);
+    layout->addLayout(head);
     layout->addWidget(splitter, 1);
     setFocusProxy(DBList1);
 }

@@ -125,8 +125,9 @@ void FullViewPages::layOutTelephones(bool browsesOthers)
     };
     FormKit form(addPage(u"FrmVTel"_s, tr("Telephone"), u"phone"));
     for (const Numbers& numbers : addresses) {
-        form.nextColumn()
-            .group(numbers.title)
+        if (&numbers == std::end(addresses) - 1)
+            form.nextColumn();
+        form.group(numbers.title)
             .wide(numbers.control, tr("%1, numbers").arg(numbers.title),
                 new LabelledLines(
                     {tr("Area code"), tr("Number 1"), tr("Number 2"), tr("Number 3"), numbers.last}));

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kBesideLabel = 8;
 constexpr int kFrame = 12;
+constexpr int kDigits = 12; ///< of a number that is not to wrap
 
 } // namespace
 
@@ -27,6 +28,7 @@ LabelledLines::LabelledLines(const QStringList& labels, QWidget* parent)
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     const int height = int(labels.size()) * fontMetrics().lineSpacing() + kFrame;
@@ -82,6 +84,7 @@ void LabelledLines::settleMargin()
     const int width = m_labelled ? widest + 2 * kBesideLabel : 0;
     if (viewportMargins().left() != width)
         setViewportMargins(width, 0, 0, 0);
+    setMinimumWidth(width + fontMetrics().horizontalAdvance(QString(kDigits, u'0')) + 2 * kFrame);
     m_margin->setVisible(m_labelled);
     const QRect inner = contentsRect();
     m_margin->setGeometry(inner.left(), inner.top(), width, inner.height());
