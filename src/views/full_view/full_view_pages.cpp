@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QScrollArea>
 
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 using widgets::FormKit;
 
@@ -102,7 +104,9 @@ void FullViewPages::layOutAddresses()
     };
     FormKit form(addPage(u"FrmVAdd"_s, tr("Addresses"), u"home"));
     for (const Address& address : addresses) {
-        form.nextColumn().group(address.title);
+        if (&address == std::end(addresses) - 1)
+            form.nextColumn();
+        form.group(address.title);
         if (!address.type.isEmpty())
             form.readOnly(address.type, tr("Type"));
         form.readOnly(address.lines, tr("Address"), 3)

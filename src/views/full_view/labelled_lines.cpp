@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kBesideLabel = 8;
 constexpr int kFrame = 12;
-constexpr int kDigits = 12; ///< of a number that is not to wrap
+constexpr int kDigits = 10; ///< of a number that is not to wrap
 
 } // namespace
 
