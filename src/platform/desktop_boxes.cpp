@@ -64,6 +64,11 @@ void DesktopBoxes::warning(const QString& text, const QString& title)
     show(text, title, Icon::Warning, QMessageBox::Ok);
 }
 
+void DesktopBoxes::stop(const QString& text, const QString& title)
+{
+    show(text, title, Icon::Critical, QMessageBox::Ok);
+}
+
 Answer DesktopBoxes::ask(const QString& text, const QString& title, Icon icon)
 {
     return show(text, title, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes ? Answer::Yes

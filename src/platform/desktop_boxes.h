@@ -9,6 +9,7 @@ class DesktopBoxes final : public MessageBoxes {
 public:
     void information(const QString& text, const QString& title) override;
     void warning(const QString& text, const QString& title) override;
+    void stop(const QString& text, const QString& title) override;
     Answer ask(const QString& text, const QString& title, Icon icon) override;
     std::optional<QString> openFile(const QString& title, const QString& filter) override;
     std::optional<QString> saveFile(const QString& title, const QString& filter) override;

@@ -22,6 +22,8 @@ public:
     virtual void information(const QString& text, const QString& title) = 0;
     /// With the exclamation mark.
     virtual void warning(const QString& text, const QString& title) = 0;
+    /// With the stop sign.
+    virtual void stop(const QString& text, const QString& title) = 0;
     /// Yes or No; a box that is closed otherwise counts as No. With the icon of a warning or a critical one
     /// No is the default: for questions whose Yes loses something.
     virtual Answer ask(const QString& text, const QString& title, Icon icon = Icon::Question) = 0;

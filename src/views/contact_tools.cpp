@@ -18,6 +18,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace views {
@@ -30,6 +32,21 @@ bool startsGroup(Place place)
 {
     return place == Place::LabelledFirst || place == Place::IconOnlyFirst || place == Place::MenuOnlyFirst;
 }
+
+constexpr QStringView kFind = u"FrmFind";
+
+/// What find and replace works on, and the word that tells it.
+struct Replaced {
+    const char* text;
+    QStringView callerWord;
+};
+
+constexpr Replaced kReplaced[] = {
+    {QT_TRANSLATE_NOOP("views", "&Letters..."), u"Letters"},
+    {QT_TRANSLATE_NOOP("views", "&Meetings..."), u"Associations"},
+    {QT_TRANSLATE_NOOP("views", "&Record of e-mails..."), u"FrmEmilRec"},
+    {QT_TRANSLATE_NOOP("views", "&Database of e-mails..."), u"emailtodb"},
+};
 
 QString translated(const char* text)
 {
@@ -122,33 +139,71 @@ QToolBar* ContactTools::makeToolBar(QWidget* parent) const
 {
     auto* bar = new QToolBar(parent);
     bar->setIconSize({20, 20});
+    addTo(bar, {});
+    return bar;
+}
+
+void ContactTools::addTo(QToolBar* bar, const QStringList& without) const
+{
+    bool isDue = false;
     for (const ToolRow& tool : kTools) {
         if (tool.place == Place::MenuOnly || tool.place == Place::MenuOnlyFirst)
             continue;
-        if (startsGroup(tool.place))
+        isDue |= startsGroup(tool.place);
+        if (without.contains(tool.id))
+            continue;
+        if (std::exchange(isDue, false))
             bar->addSeparator();
         bar->addAction(action(tool.id));
         if (tool.place == Place::Labelled || tool.place == Place::LabelledFirst)
             static_cast<QToolButton*>(bar->widgetForAction(action(tool.id)))
                 ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
-    return bar;
 }
 
-QMenu* ContactTools::makeMenu(QWidget* parent) const
+QMenu* ContactTools::makeMenu(QWidget* parent)
 {
     auto* menu = new QMenu(parent);
     menu->setToolTipsVisible(true);
-    for (const ToolRow& tool : kTools) {
-        if (startsGroup(tool.place))
-            menu->addSeparator();
-        menu->addAction(action(tool.id));
-    }
+    addTo(menu, {});
     return menu;
 }
 
-jet::Recordset ContactTools::contactByName() const
+void ContactTools::addTo(QMenu* menu, const QStringList& without)
 {
+    bool isDue = !menu->isEmpty();
+    for (const ToolRow& tool : kTools) {
+        isDue |= startsGroup(tool.place);
+        if (without.contains(tool.id))
+            continue;
+        if (std::exchange(isDue, false))
+            menu->addSeparator();
+        menu->addAction(action(tool.id));
+    }
+    menu->addSeparator();
+    QMenu* replacing = menu->addMenu(tr("Find and &replace in"));
+    replacing->setObjectName(u"MenuReplace"_s);
+    widgets::setIcon(replacing->menuAction(), u"search");
+    replacing->setEnabled(m_context.screens.has(kFind));
+    for (const Replaced& row : kReplaced) {
+        QAction* replace = replacing->addAction(translated(row.text));
+        connect(replace, &QAction::triggered, this, [this, &row] { replaceIn(row.callerWord); });
+    }
+}
+
+jet::Recordset ContactTools::shownContact() const
+{
+    const qint64 id = m_host.shownId();
+    if (id != 0)
+        return m_context.data.openRecordset(contactByIdSql(id));
+    return m_host.shownName ? namedContact() : jet::Recordset();
+}
+
+// Kept: of two contacts with one name the first is called, written to and looked up.
+jet::Recordset ContactTools::namedContact() const
+{
+    if (!m_host.shownName)
+        return shownContact();
     const QString name = m_host.shownName();
     return name.isEmpty() ? jet::Recordset() : m_context.data.openRecordset(contactByNameSql(name));
 }
@@ -158,9 +213,8 @@ void ContactTools::notSelected()
     m_context.services.boxes.information(tr("Record not selected"), m_context.shared.AppTitle);
 }
 
-void ContactTools::handOver(QStringView form)
+void ContactTools::handOver(QStringView form, const jet::Recordset& contact)
 {
-    const jet::Recordset contact = contactByName();
     if (!contact.hasRow())
         return notSelected();
     m_context.shared.selectedContactId = contact.number(u"id");
@@ -172,7 +226,7 @@ void ContactTools::handOver(QStringView form)
 
 void ContactTools::openSelector()
 {
-    const jet::Recordset contact = contactByName();
+    const jet::Recordset contact = shownContact();
     if (!contact.hasRow())
         return notSelected();
     m_context.shared.selectedContactId = contact.number(u"id");
@@ -183,7 +237,7 @@ void ContactTools::openSelector()
 
 void ContactTools::openBriefView()
 {
-    handOver(u"FrmContacts");
+    handOver(u"FrmContacts", shownContact());
 }
 
 // By the row of the list, not by the name.
@@ -202,22 +256,22 @@ void ContactTools::printLabel()
 
 void ContactTools::viewLinkedItem()
 {
-    handOver(u"frmCntViewer");
+    handOver(u"frmCntViewer", namedContact());
 }
 
 void ContactTools::call()
 {
-    handOver(u"FrmDialer");
+    handOver(u"FrmDialer", namedContact());
 }
 
 void ContactTools::letter()
 {
-    handOver(u"FrmLetter");
+    handOver(u"FrmLetter", namedContact());
 }
 
 void ContactTools::email()
 {
-    const jet::Recordset contact = contactByName();
+    const jet::Recordset contact = namedContact();
     if (!contact.hasRow())
         return notSelected();
     m_context.shared.selectedContactId = contact.number(u"id");
@@ -228,11 +282,11 @@ void ContactTools::email()
 
 void ContactTools::sms()
 {
-    const jet::Recordset contact = contactByName();
+    const jet::Recordset contact = namedContact();
     if (!contact.hasRow())
         return notSelected();
     if (contact.value(u"Sms").isValid())
-        handOver(u"frmSms");
+        handOver(u"frmSms", contact);
 }
 
 void ContactTools::editList()
@@ -282,7 +336,7 @@ void ContactTools::saveToDesktop()
 
 void ContactTools::saveCard(const QString& folder)
 {
-    const jet::Recordset contact = contactByName();
+    const jet::Recordset contact = shownContact();
     if (!contact.hasRow())
         return notSelected();
     core::saveCards(m_context, contact.textOrEmpty(u"id"), folder, m_screen);
@@ -299,6 +353,12 @@ void ContactTools::saveAllToDesktop()
         ids << QString::number(all.keyAt(row));
     core::saveCards(m_context, ids.join(u','),
         m_context.services.folders.SpecialFolderPath(platform::csidlDesktop), m_screen);
+}
+
+void ContactTools::replaceIn(QStringView callerWord)
+{
+    m_context.shared.CallerForm = callerWord.toString();
+    m_context.screens.show(kFind, core::Shown::Modally);
 }
 
 void ContactTools::search()

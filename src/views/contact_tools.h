@@ -15,8 +15,8 @@ class QWidget;
 namespace views {
 
 /// The tools of a screen that shows one contact: each hands the contact to another screen, found by form
-/// name. Where a contact is needed it is looked up by the name shown. A tool whose screen is not there is
-/// disabled.
+/// name. The contact is that of the id shown; calls, mails, letters and linked records of a screen that tells
+/// its name go by the name. A tool whose screen is not there is disabled.
 class ContactTools : public QObject {
     Q_OBJECT
 
@@ -24,15 +24,20 @@ public:
     /// What the tools ask of the screen that has them.
     struct Host {
         QString callerForm; ///< to which filters are delivered
-        std::function<QString()> shownName;
+        std::function<qint64()> shownId; ///< of the contact shown, 0 for none
         std::function<qint64()> listedId; ///< of the current row of the list, 0 for none
+        std::function<QString()> shownName = {}; ///< without it everything goes by id
     };
 
     ContactTools(core::Context& context, Host host, QWidget* screen);
 
     QAction* action(QStringView id) const;
     QToolBar* makeToolBar(QWidget* parent) const;
-    QMenu* makeMenu(QWidget* parent) const;
+    /// With find and replace, which has no place in a bar.
+    QMenu* makeMenu(QWidget* parent);
+    /// Bar and menu of a screen that has other tools too: those of `without` are left out.
+    void addTo(QToolBar* bar, const QStringList& without) const;
+    void addTo(QMenu* menu, const QStringList& without);
 
 Q_SIGNALS:
     void searchWanted();
@@ -43,10 +48,13 @@ private:
     static const ToolRow kTools[];
 
     bool isAvailable(const ToolRow& tool) const;
-    /// The contact of the name shown, read anew; no row when there is none or its name breaks the look-up.
-    jet::Recordset contactByName() const;
+    /// The contact shown, read anew; no row when there is none. What stands in another address book has no id
+    /// here and is looked for by its name.
+    jet::Recordset shownContact() const;
+    /// The first contact of the name shown; no row when its name breaks the look-up.
+    jet::Recordset namedContact() const;
     void notSelected();
-    void handOver(QStringView form);
+    void handOver(QStringView form, const jet::Recordset& contact);
 
     void openSelector();
     void openBriefView();
@@ -66,6 +74,7 @@ private:
     void saveToDesktop();
     void saveCard(const QString& folder);
     void saveAllToDesktop();
+    void replaceIn(QStringView callerWord);
     void search();
 
     core::Context& m_context;

@@ -51,6 +51,13 @@ void ScriptedBoxes::warning(const QString& text, const QString& title)
     next(Kind::Notice, text);
 }
 
+void ScriptedBoxes::stop(const QString& text, const QString& title)
+{
+    shown << u"stop: "_s + text;
+    titles << title;
+    next(Kind::Notice, text);
+}
+
 Answer ScriptedBoxes::ask(const QString& text, const QString& title, platform::Icon)
 {
     shown << u"ask: "_s + text;

@@ -27,6 +27,7 @@ public:
 
     void information(const QString& text, const QString& title) override;
     void warning(const QString& text, const QString& title) override;
+    void stop(const QString& text, const QString& title) override;
     platform::Answer ask(const QString& text, const QString& title, platform::Icon icon) override;
     std::optional<QString> openFile(const QString& title, const QString& filter) override;
     std::optional<QString> saveFile(const QString& title, const QString& filter) override;

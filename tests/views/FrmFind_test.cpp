@@ -137,6 +137,7 @@ void FrmFindTest::asksBeforeItBlanks()
     open({});
     m_fixture->boxes.expect(u"Please select field for find and replace"_s);
     replace({}, u"Sent"_s, u"Gone"_s);
+    QCOMPARE(m_fixture->boxes.shown, QStringList{u"stop: Please select field for find and replace"_s});
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         QCOMPARE(m_fixture->book.firstText(u"select Type from cnt_emails order by id"_s), u"Sent"_s);
         m_fixture->boxes.expect(u"This will replace all Sent with blanks"_s, answer);

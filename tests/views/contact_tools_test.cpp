@@ -1,5 +1,7 @@
 #include "support/screen_fixture.h"
 #include "views/contact_tools.h"
+#include "views/filters/FrmFind.h"
+#include "widgets/fields.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -21,6 +23,8 @@ private Q_SLOTS:
     void nothingSelected();
     void firstOfTwoWithOneName();
     void apostropheMeansNotSelected();
+    void idTellsEqualNamesApart();
+    void findAndReplaceKnowsItsTable();
     void mailGoesToTheContact();
     void noShortMessageWithoutANumber();
     void detailViewOpensThePageOfTheSelector();
@@ -46,6 +50,7 @@ private:
     std::unique_ptr<QWidget> m_screen;
     QString m_name;
     qint64 m_listed = 0;
+    bool m_byName = true; ///< the screen tells the name
 };
 
 void ContactToolsTest::init()
@@ -58,6 +63,7 @@ void ContactToolsTest::init()
     m_fixture->execute(u"insert into ov_setup ([key]) values ('')"_s);
     m_name = u"Bob"_s;
     m_listed = 2;
+    m_byName = true;
 }
 
 void ContactToolsTest::cleanup()
@@ -72,8 +78,9 @@ ContactTools& ContactToolsTest::tools()
         m_screen = std::make_unique<QWidget>();
         new ContactTools(m_fixture->context,
             {.callerForm = u"FullView"_s,
-                .shownName = [this] { return m_name; },
-                .listedId = [this] { return m_listed; }},
+                .shownId = [this] { return m_listed; },
+                .listedId = [this] { return m_listed; },
+                .shownName = m_byName ? [this] { return m_name; } : std::function<QString()>()},
             m_screen.get());
     }
     return *m_screen->findChild<ContactTools*>();
@@ -151,6 +158,42 @@ void ContactToolsTest::apostropheMeansNotSelected()
     m_fixture->book.expectFailure(u"O'Brien"_s);
     m_fixture->boxes.expect(u"Record not selected"_s);
     trigger(u"Letter"_s);
+}
+
+// A card, the pages, and in a screen that knows the row everything else.
+void ContactToolsTest::idTellsEqualNamesApart()
+{
+    m_fixture->execute(u"insert into cnt_main (Name, Company) values (\"O'Brien\", 'Right')"_s);
+    m_fixture->addTarget(u"FrmContacts"_s);
+    m_fixture->addTarget(u"FrmLetter"_s);
+    m_name = u"O'Brien"_s;
+    m_listed = 4;
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\OVUserFiles\\VCF"_s);
+    trigger(u"SaveasVCF"_s);
+    QCOMPARE(filesIn(u"C:\\OVUserFiles\\VCF"_s), QStringList{u"O'Brien.vcf"_s});
+    m_name = u"Ann"_s;
+    m_listed = 3;
+    trigger(u"BriefView"_s);
+    QCOMPARE(m_fixture->target(u"FrmContacts"_s)->contacts, QList<qint64>{3});
+    m_screen.reset();
+    m_byName = false;
+    trigger(u"Letter"_s);
+    QCOMPARE(m_fixture->target(u"FrmLetter"_s)->contacts, QList<qint64>{3});
+}
+
+void ContactToolsTest::findAndReplaceKnowsItsTable()
+{
+    m_fixture->screens.add<FrmFind>(u"FrmFind"_s);
+    QMenu* menu = (tools(), m_screen->findChild<ContactTools*>()->makeMenu(m_screen.get()));
+    const QList<QAction*> rows = widgets::child<QMenu>(menu, u"MenuReplace"_s)->actions();
+    QStringList fields;
+    for (QAction* row : rows) {
+        row->trigger();
+        auto* combo = widgets::child<QComboBox>(m_fixture->screens.find(u"FrmFind"), u"Combo1"_s);
+        fields << combo->itemText(0) + QString::number(combo->count());
+        combo->window()->hide();
+    }
+    QCOMPARE(fields, (QStringList{u"Type5"_s, u"Date3"_s, u"Type5"_s, u"From29"_s}));
 }
 
 void ContactToolsTest::mailGoesToTheContact()
@@ -247,7 +290,7 @@ void ContactToolsTest::nameThatIsNoFileName()
     m_fixture->boxes.expect(refusal);
     trigger(u"SaveToDesktopAll"_s);
     QCOMPARE(filesIn(u"C:\\Desktop"_s).size(), 2);
-    m_name = u"Tea/Coffee"_s;
+    m_listed = 4;
     m_fixture->boxes.expect(refusal);
     trigger(u"SaveasVCF"_s);
 }

@@ -29,6 +29,9 @@ private Q_SLOTS:
     void thumbnails();
     void sizeIsRemembered();
     void toolsActOnTheCurrentRow();
+    void cardOfTheRowNotOfTheName();
+    void treeFollowsADeletion();
+    void placesGoWithTheirCountry();
     void filterIsDelivered();
 
 private:
@@ -240,6 +243,53 @@ void FrmSelector1Test::toolsActOnTheCurrentRow()
     QVERIFY(!control<QTabBar>(u"SSActiveTabs1"_s)->isVisible());
     control<QAction>(u"Details"_s)->trigger();
     QVERIFY(control<QTabBar>(u"SSActiveTabs1"_s)->isVisible());
+}
+
+void FrmSelector1Test::cardOfTheRowNotOfTheName()
+{
+    m_fixture->execute(u"insert into cnt_main (Name,First,Company) values ('Ann Lee','Ann','Second')"_s);
+    open()->openPage(u"Search"_s);
+    int bars = 0;
+    for (const QToolBar* bar : m_form->findChildren<QToolBar*>())
+        bars += bar->isVisible();
+    QCOMPARE(bars, 1);
+    const int row = grid()->rowOf(4);
+    const QPoint at = grid()->visualRect(grid()->model()->index(row, 1)).center();
+    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, at);
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, at, grid()->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(grid()->viewport(), &asked);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    m_fixture->boxes.expect(u"VCF File Saved on C:\\OVUserFiles\\VCF"_s);
+    const QPoint entry = menu->actionGeometry(control<QAction>(u"SaveasVCF"_s)).center();
+    QTest::mouseClick(menu, Qt::LeftButton, {}, entry);
+    QFile card(m_fixture->drive.local(u"C:\\OVUserFiles\\VCF\\Ann Lee.vcf"));
+    QVERIFY(card.open(QFile::ReadOnly));
+    QVERIFY(card.readAll().contains("Second"));
+}
+
+void FrmSelector1Test::treeFollowsADeletion()
+{
+    open()->openPage(u"Category"_s);
+    auto* tree = control<QTreeWidget>(u"SSTree1"_s);
+    const QTreeWidgetItem* friends = tree->topLevelItem(0)->child(0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(friends).center());
+    QCOMPARE(listed(), u"1"_s);
+    grid()->selectKey(1);
+    m_fixture->boxes.expect(u"Are you sure you want to delete this record?"_s, platform::Answer::Yes);
+    control<QAction>(u"Delete"_s)->trigger();
+    QCOMPARE(tree->topLevelItem(0)->childCount(), 1);
+    QCOMPARE(listed(), u"2,3"_s);
+}
+
+void FrmSelector1Test::placesGoWithTheirCountry()
+{
+    open()->openPage(u"Search"_s);
+    choose(u"cboCountry"_s, u"India"_s);
+    choose(u"cboCity"_s, u"Goa"_s);
+    choose(u"cboCountry"_s, u"Chad"_s);
+    QCOMPARE(control<QComboBox>(u"cboCity"_s)->currentText(), u"All"_s);
+    QCOMPARE(listed(), u"2"_s);
 }
 
 void FrmSelector1Test::filterIsDelivered()

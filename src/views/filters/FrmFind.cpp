@@ -78,7 +78,7 @@ void FrmFind::replace()
     lblResult->clear();
     const int field = Combo1->currentIndex();
     if (field < 0) {
-        warn(tr("Please select field for find and replace"));
+        context().services.boxes.stop(tr("Please select field for find and replace"), shared().AppTitle);
         Combo1->setFocus();
         return;
     }

@@ -1,6 +1,7 @@
 #include "views/filters/filter_clauses.h"
 
 #include "core/text_pieces.h"
+#include "views/filters/chosen_value.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,7 +12,6 @@ namespace views {
 
 namespace {
 
-constexpr QStringView kAll = u"All";
 constexpr QStringView kCategory = u"lstCateg";
 constexpr QStringView kMergedCategory = u"lstCategSub";
 constexpr QStringView kRegion = u"lstRegion";
@@ -182,11 +182,6 @@ std::span<const FilterList> commonFilterLists()
 std::span<const FilterList> tabFilterLists()
 {
     return kTabLists;
-}
-
-bool isChosen(const QString& value)
-{
-    return !value.trimmed().isEmpty() && value.compare(kAll, Qt::CaseInsensitive) != 0;
 }
 
 QString commonFilterClause(const QString& keyword, const FilterChoices& choices)

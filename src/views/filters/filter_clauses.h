@@ -23,9 +23,6 @@ std::span<const FilterList> tabFilterLists();
 /// The values chosen, by control. A control that is missing stands on "All".
 using FilterChoices = QHash<QString, QString>;
 
-/// "All", in any case, and blanks mean no condition.
-bool isChosen(const QString& value);
-
 /// The where clause with its leading word; empty when nothing is asked for. A keyword is looked for in every
 /// main field, and the choices then do not count.
 QString commonFilterClause(const QString& keyword, const FilterChoices& choices);

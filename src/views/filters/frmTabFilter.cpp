@@ -1,5 +1,6 @@
 #include "views/filters/frmTabFilter.h"
 
+#include "views/filters/chosen_value.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
 #include "widgets/record_list.h"

@@ -60,8 +60,9 @@ FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* pa
     , m_kind(kind)
     , m_tools(new ContactTools(context,
           {.callerForm = kind.callerForm.toString(),
-              .shownName = [this] { return shownName(); },
-              .listedId = [this] { return DBList1->currentKey(); }},
+              .shownId = [this] { return m_id; },
+              .listedId = [this] { return DBList1->currentKey(); },
+              .shownName = [this] { return shownName(); }},
           this))
     , DBList1(new widgets::RecordList)
     , tvwdb(new CategoryTree(context.data))

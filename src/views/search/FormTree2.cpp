@@ -58,25 +58,22 @@ FormTree2::FormTree2(core::Context& context, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(layOutTools());
+    makeTools();
+    if (!parent)
+        layout->addWidget(layOutTools());
     layout->addWidget(splitter, 1);
     connectControls();
     setFocusProxy(SSTree1 ? static_cast<QWidget*>(SSTree1) : FG1);
 }
 
-QToolBar* FormTree2::layOutTools()
+void FormTree2::makeTools()
 {
-    auto* bar = new QToolBar;
-    bar->setObjectName(u"SSActiveToolBars1"_s);
-    bar->setIconSize({20, 20});
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const auto tool
-        = [this, bar](const QString& id, QStringView icon, const QString& text, const QString& toolTip) {
+        = [this](const QString& id, QStringView icon, const QString& text, const QString& toolTip) {
               auto* action = new QAction(text, this);
               action->setObjectName(id);
               action->setToolTip(toolTip);
               widgets::setIcon(action, icon);
-              bar->addAction(action);
               return action;
           };
     m_byName = tool(u"Name"_s, u"persons", tr("Name"), tr("View the results by name"));
@@ -87,10 +84,25 @@ QToolBar* FormTree2::layOutTools()
         views->addAction(action);
     }
     m_byCategory->setChecked(true);
+    m_close = tool(u"close"_s, u"exit", tr("Close"), tr("Close the search"));
+    connect(m_close, &QAction::triggered, this, &FormTree2::closeRequested);
+}
+
+QToolBar* FormTree2::layOutTools()
+{
+    auto* bar = new QToolBar;
+    bar->setObjectName(u"SSActiveToolBars1"_s);
+    bar->setIconSize({20, 20});
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->addActions({m_byName, m_byCategory});
     bar->addSeparator();
-    connect(tool(u"close"_s, u"exit", tr("Close"), tr("Close the search")), &QAction::triggered, this,
-        &FormTree2::closeRequested);
+    bar->addAction(m_close);
     return bar;
+}
+
+QList<QAction*> FormTree2::tools() const
+{
+    return {m_byName, m_byCategory, m_close};
 }
 
 QWidget* FormTree2::layOutResults()
@@ -156,9 +168,11 @@ void FormTree2::connectControls()
         if (FG1->currentRow() >= 0)
             m_menu->popup(FG1->viewport()->mapToGlobal(at));
     });
-    if (SSTree1)
+    if (SSTree1) {
         connect(SSTree1, &PlaceTree::nodeChosen, this,
             [this](const QStringList& path) { showNode(SSTree1->kind(), path); });
+        connect(SSTree1, &PlaceTree::normalised, this, &FormTree2::refresh);
+    }
 }
 
 // Alone it waits for its caption, which is set before it is shown.
@@ -198,8 +212,10 @@ void FormTree2::addRowAction(QAction* action)
 
 void FormTree2::bookChanged()
 {
-    if (SSTree1 && SSTree1->topLevelItemCount() > 0)
+    if (SSTree1 && SSTree1->topLevelItemCount() > 0) {
         SSTree1->build(SSTree1->kind());
+        return showNode(SSTree1->kind(), SSTree1->currentPath());
+    }
     refresh();
 }
 

@@ -43,6 +43,8 @@ public:
     QString currentName() const { return m_name; }
     /// The menu of a row, in place of its own.
     void setRowMenu(QMenu* menu) { m_menu = menu; }
+    /// For the tool bar of the screen that it is a pane of; alone it has its own.
+    QList<QAction*> tools() const;
     /// A tool whose key works in the grid.
     void addRowAction(QAction* action);
 
@@ -53,6 +55,7 @@ protected:
 private:
     using Filter = std::function<ResultQuery(ViewBy)>;
 
+    void makeTools();
     QToolBar* layOutTools();
     QWidget* layOutResults();
     QWidget* layOutFoot();
@@ -79,6 +82,7 @@ private:
     QLabel* lblcount;
     QAction* m_byName = nullptr;
     QAction* m_byCategory = nullptr;
+    QAction* m_close = nullptr;
 };
 
 } // namespace views

@@ -3,7 +3,9 @@
 #include "widgets/long_text.h"
 #include "widgets/theme.h"
 
-#include <QGuiApplication>
+#include <QTimerEvent>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,22 +30,6 @@ QString treeSearchTitle(TreeKind kind)
                                       : PlaceTree::tr("Location Tree Search");
 }
 
-// Twelve passes over the book for nothing would cost the most where there is most to read, so one pass asks
-// first. The first time in a large book takes a while.
-void normaliseBook(jet::Database& book)
-{
-    if (book.openRecordset(unclassifiedSql()).textAt(0) == u"0")
-        return;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    {
-        const jet::Upkeep upkeep(book);
-        jet::Batch together(book, jet::Batch::Mode::KeepWhatSucceeds);
-        for (const QString& statement : normalisingStatements())
-            book.execute(statement);
-    }
-    QGuiApplication::restoreOverrideCursor();
-}
-
 PlaceTree::PlaceTree(jet::Database& book, QWidget* parent)
     : QTreeWidget(parent)
     , m_book(book)
@@ -59,14 +45,58 @@ PlaceTree::PlaceTree(jet::Database& book, QWidget* parent)
 void PlaceTree::build(TreeKind kind)
 {
     // What was looked through before and has not changed since is as it should be.
-    if (const QString state = m_book.state(); state.isEmpty() || state != m_normalised) {
-        normaliseBook(m_book);
-        m_normalised = m_book.state();
+    if (const QString state = m_book.state(); state.isEmpty() || state != m_normalised)
+        m_isDue = true;
+    if (std::exchange(m_kind, kind) != kind)
+        clear();
+    grow();
+}
+
+void PlaceTree::paintEvent(QPaintEvent* event)
+{
+    QTreeWidget::paintEvent(event);
+    if (m_isDue && !m_upkeep.isActive())
+        m_upkeep.start(0, this);
+}
+
+void PlaceTree::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_upkeep.timerId())
+        normaliseSome();
+    else
+        QTreeWidget::timerEvent(event);
+}
+
+// Twelve passes over the book for nothing would cost the most where there is most to read, so one pass asks
+// first.
+void PlaceTree::normaliseSome()
+{
+    if (std::exchange(m_isDue, false)) {
+        m_statements.clear();
+        if (m_book.openRecordset(unclassifiedSql()).textAt(0) != u"0")
+            m_statements = normalisingStatements();
     }
-    const bool again = topLevelItemCount() > 0 && kind == m_kind;
+    const bool hadWork = !m_statements.isEmpty();
+    if (hadWork) {
+        const jet::Upkeep upkeep(m_book);
+        m_book.execute(m_statements.takeFirst());
+    }
+    if (!m_statements.isEmpty())
+        return;
+    m_upkeep.stop();
+    m_normalised = m_book.state();
+    if (!hadWork)
+        return;
+    grow();
+    Q_EMIT normalised();
+}
+
+void PlaceTree::grow()
+{
+    const TreeKind kind = m_kind;
+    const bool again = topLevelItemCount() > 0;
     const QList<QStringList> open = again ? openPaths() : QList<QStringList>{{}};
     const QStringList current = again ? currentPath() : QStringList();
-    m_kind = kind;
     setAccessibleName(kind == TreeKind::Category ? tr("Contacts by category") : tr("Contacts by location"));
     clear();
     auto* root = node(treeRootText(kind), {});

@@ -3,6 +3,7 @@
 #include "jet/database.h"
 #include "views/search/tree_search_sql.h"
 
+#include <QBasicTimer>
 #include <QTreeWidget>
 
 namespace views {
@@ -10,19 +11,16 @@ namespace views {
 /// The caption under which the tree of a kind is opened as a screen of its own.
 QString treeSearchTitle(TreeKind kind);
 
-/// Writes "Undefined" where a column of the trees is empty, in one go.
-void normaliseBook(jet::Database& book);
-
 /// The address book as a tree of categories and subcategories, or of regions, countries, states and cities. A
-/// branch is read when it is opened.
+/// branch is read when it is opened. Once a tree can be seen, "Undefined" is written where a column of it is
+/// empty, statement by statement, so that the window stays alive; then it is built again.
 class PlaceTree : public QTreeWidget {
     Q_OBJECT
 
 public:
     explicit PlaceTree(jet::Database& book, QWidget* parent = nullptr);
 
-    /// Builds the tree anew; what was open and current in a tree of this kind is so again. The book is
-    /// normalised first.
+    /// Builds the tree anew; what was open and current in a tree of this kind is so again.
     void build(TreeKind kind);
     TreeKind kind() const { return m_kind; }
     /// The path of the current node, empty for the root.
@@ -31,8 +29,16 @@ public:
 Q_SIGNALS:
     /// The path has as many steps as the node is below the root.
     void nodeChosen(const QStringList& path);
+    /// Empty columns have been filled and the tree was built again.
+    void normalised();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
+    void grow();
+    void normaliseSome();
     QTreeWidgetItem* node(const QString& text, const QStringList& path) const;
     void fill(QTreeWidgetItem* branch);
     QList<QStringList> openPaths() const;
@@ -40,6 +46,9 @@ private:
 
     jet::Database& m_book;
     QString m_normalised; ///< the state of the book when it was looked through last
+    QBasicTimer m_upkeep;
+    QStringList m_statements; ///< of the normalising, those that are still to be run
+    bool m_isDue = false; ///< the book is to be looked through when the tree has been seen
     TreeKind m_kind = TreeKind::Location;
 };
 

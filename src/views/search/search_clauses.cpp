@@ -1,5 +1,7 @@
 #include "views/search/search_clauses.h"
 
+#include "views/filters/chosen_value.h"
+
 using namespace Qt::StringLiterals;
 
 namespace views {
@@ -79,7 +81,8 @@ constexpr QStringView kKeywordHeadings
     = u"||First   |Last   |Company    |Location   |Category   |Sub Category   |City       |Home Address|Work "
       u"Address |Work Type  |Family Note    |Business Product|Business Note|Education|Region|Hobbies ";
 
-bool isChosen(const QString& choice)
+// What is typed counts letter by letter here: "all" is a value like any other.
+bool isAskedFor(const QString& choice)
 {
     return choice != kAll && !choice.trimmed().isEmpty();
 }
@@ -96,7 +99,7 @@ QString searchClause(const SearchChoices& choices)
     QString clause;
     for (const Term& term : kTerms) {
         const QString& choice = choices.*term.choice;
-        if (isChosen(choice))
+        if (isAskedFor(choice))
             clause
                 += (clause.isEmpty() ? term.leading : term.joined).toString() + filledIn(term.text, choice);
     }
@@ -113,7 +116,7 @@ QString nameSearchSql(const NameChoices& choices)
     QString clause;
     for (const NameTerm& term : kNameTerms) {
         const QString& choice = choices.*term.choice;
-        if (isChosen(choice))
+        if (isAskedFor(choice))
             clause += (clause.isEmpty() ? u" where "_s : u" and "_s) + filledIn(term.text, choice);
     }
     return u"Select * from cnt_main "_s + clause + u"order by first,last,company"_s;
@@ -166,7 +169,7 @@ QString searchListSql(QStringView combo)
 QString subcategoryListSql(const QString& category)
 {
     const QString all = u"select distinct category2 from cnt_main where category2 is not null"_s;
-    return isChosen(category) ? all + u" and category1 like '"_s + category + u'\'' : all;
+    return isAskedFor(category) ? all + u" and category1 like '"_s + category + u'\'' : all;
 }
 
 SearchGrid contactGrid(ViewBy view)

@@ -27,8 +27,6 @@ struct NameChoices {
     QString company = {};
 };
 
-inline constexpr QStringView kAll = u"All";
-
 /// The where clause with its leading word, or nothing. There are no wildcards but those that were typed, and
 /// an apostrophe breaks the statement.
 QString searchClause(const SearchChoices& choices);

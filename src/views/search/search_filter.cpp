@@ -2,6 +2,7 @@
 
 #include "core/vocabularies.h"
 #include "views/filters/all_combo.h"
+#include "views/filters/chosen_value.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -120,8 +121,7 @@ void SearchFilter::connectCombos()
 {
     for (auto* combo : std::as_const(m_combos))
         takeAllWhole(combo);
-    connect(m_combos[u"cmbgcat"_s], &QComboBox::editTextChanged, m_combos[u"cmbgsub"_s],
-        &widgets::FilledCombo::refill);
+    followChoice(m_combos[u"cmbgsub"_s], m_combos[u"cmbgcat"_s]);
     connect(m_combos[u"cmbgfirst"_s], &QComboBox::editTextChanged, this,
         [this] { setQuietly(u"cmbfl"_s, kAll.toString()); });
     connect(m_combos[u"cmbfl"_s], &QComboBox::editTextChanged, this, [this](const QString& chosen) {

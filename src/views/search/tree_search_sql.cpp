@@ -1,6 +1,6 @@
 #include "views/search/tree_search_sql.h"
 
-#include "views/filters/filter_clauses.h"
+#include "views/filters/chosen_value.h"
 
 #include <array>
 

@@ -31,6 +31,11 @@ namespace {
 constexpr int kSearchWidth = 372;
 constexpr int kLeastSearchWidth = 300;
 
+/// Those of a contact that the selectors have by another name, and the names that are edited in a list of
+/// names only.
+const QStringList kSameTools{
+    u"EditDetails"_s, u"Edit"_s, u"Call"_s, u"Email2"_s, u"Letter"_s, u"CommonFilter"_s, u"TabFilter"_s};
+
 } // namespace
 
 struct frmSelector1::Tab {
@@ -60,7 +65,7 @@ frmSelector1::frmSelector1(core::Context& context, QWidget* parent)
           this))
     , m_contactTools(new ContactTools(context,
           {.callerForm = u"frmSelector1"_s,
-              .shownName = [this] { return m_results->currentName(); },
+              .shownId = [this] { return m_results->currentId(); },
               .listedId = [this] { return m_results->currentId(); }},
           this))
     , SSActiveTabs1(new QTabBar)
@@ -84,23 +89,35 @@ frmSelector1::frmSelector1(core::Context& context, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_tools->makeToolBar(this));
-    m_pageTools = m_contactTools->makeToolBar(this);
-    layout->addWidget(m_pageTools);
+    layout->addWidget(layOutTools());
     layout->addWidget(m_splitter, 1);
     makeTools();
     connectControls();
 }
 
+// The tools of the selectors, then those of a contact that are not among them.
+QToolBar* frmSelector1::layOutTools()
+{
+    QToolBar* bar = m_tools->makeToolBar(this);
+    const auto own = bar->actions().size();
+    m_contactTools->addTo(bar, kSameTools);
+    bar->addSeparator();
+    bar->addActions(m_results->tools());
+    m_pageTools = bar->actions().mid(own);
+    m_pageTools.removeOne(m_contactTools->action(u"Search")); // brings the search back
+    return bar;
+}
+
 void frmSelector1::makeTools()
 {
-    // Names are edited in a list of names only, which is not among what is shown here.
-    m_contactTools->action(u"Edit")->setVisible(false);
     for (const QStringView id : {u"Edit", u"Delete"})
         m_results->addRowAction(m_tools->action(id));
-    m_results->setRowMenu(m_tools->makeMenu(this));
+    QMenu* row = m_tools->makeMenu(this);
+    m_results->setRowMenu(row);
     QMenu* thumbnail = m_tools->makeMenu(this);
     thumbnail->setObjectName(u"MenuThumb"_s);
+    for (QMenu* menu : {row, thumbnail})
+        m_contactTools->addTo(menu, kSameTools);
     m_pictures->setMenu(thumbnail);
     QAction* search = m_contactTools->action(u"Search");
     search->setShortcut(QKeySequence::Find);
@@ -134,6 +151,7 @@ void frmSelector1::connectControls()
     connect(SSActiveTabs1, &QTabBar::currentChanged, this, &frmSelector1::enterTab);
     connect(SSTree1, &PlaceTree::nodeChosen, m_results,
         [this](const QStringList& path) { m_results->showNode(SSTree1->kind(), path); });
+    connect(SSTree1, &PlaceTree::normalised, m_results, &FormTree2::refresh);
     connect(m_names, &NameChoicesPanel::choicesChanged, this,
         [this] { m_results->showFound(treeChoicesClause(m_names->choices())); });
     connect(m_names, &NameChoicesPanel::allWanted, this, [this] { m_results->showFound({}); });
@@ -184,8 +202,14 @@ void frmSelector1::bookChanged()
 {
     m_names->refill();
     m_choices->refill();
-    if (m_entered && m_panes->currentWidget() == SSTree1)
+    if (m_entered && m_panes->currentWidget() == SSTree1) {
+        const QStringList before = SSTree1->currentPath();
         SSTree1->build(SSTree1->kind());
+        if (SSTree1->currentPath() != before)
+            return m_results->showNode(SSTree1->kind(), SSTree1->currentPath());
+    } else if (m_entered && m_panes->currentWidget() == m_pictures) {
+        m_pictures->gather();
+    }
     m_results->refresh();
 }
 
@@ -214,16 +238,19 @@ void frmSelector1::enterTab()
 
 void frmSelector1::enterLocation()
 {
-    m_panes->setCurrentWidget(SSTree1);
-    SSTree1->build(TreeKind::Location);
-    m_results->showNode(TreeKind::Location, SSTree1->currentPath());
+    showTree(TreeKind::Location);
 }
 
 void frmSelector1::enterCategory()
 {
+    showTree(TreeKind::Category);
+}
+
+void frmSelector1::showTree(TreeKind kind)
+{
     m_panes->setCurrentWidget(SSTree1);
-    SSTree1->build(TreeKind::Category);
-    m_results->showNode(TreeKind::Category, SSTree1->currentPath());
+    SSTree1->build(kind);
+    m_results->showNode(kind, SSTree1->currentPath());
 }
 
 void frmSelector1::enterNames()
@@ -264,11 +291,13 @@ void frmSelector1::resetChoices()
 void frmSelector1::showAlone(bool alone)
 {
     m_search->setVisible(!alone);
-    m_pageTools->setVisible(!alone);
+    for (QAction* tool : std::as_const(m_pageTools))
+        tool->setVisible(!alone);
 }
 
 void frmSelector1::openKeyword()
 {
+    showAlone(false);
     openPage(u"Search"_s);
     m_choices->openKeyword();
 }

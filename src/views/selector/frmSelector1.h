@@ -3,9 +3,11 @@
 #include "core/handover/filter_target.h"
 #include "core/handover/page_screen.h"
 #include "core/screen.h"
+#include "views/search/tree_search_sql.h"
 
 #include <array>
 
+class QAction;
 class QSplitter;
 class QStackedWidget;
 class QTabBar;
@@ -42,6 +44,7 @@ private:
     struct Tab;
     static const std::array<Tab, 5> kTabs;
 
+    QToolBar* layOutTools();
     void makeTools();
     QWidget* layOutSearch();
     void connectControls();
@@ -56,6 +59,7 @@ private:
     void shareRoom(bool pictures);
     void resetChoices();
     void showAlone(bool alone);
+    void showTree(TreeKind kind);
     void openKeyword();
 
     bool m_entered = false; ///< what the tab shows has been read
@@ -64,7 +68,7 @@ private:
 
     SelectorTools* m_tools;
     ContactTools* m_contactTools;
-    QToolBar* m_pageTools = nullptr;
+    QList<QAction*> m_pageTools; ///< those that are out of sight with the search
     QTabBar* SSActiveTabs1;
     QStackedWidget* m_panes;
     QSplitter* m_splitter;

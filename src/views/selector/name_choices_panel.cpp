@@ -1,6 +1,7 @@
 #include "views/selector/name_choices_panel.h"
 
 #include "views/filters/all_combo.h"
+#include "views/filters/chosen_value.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"

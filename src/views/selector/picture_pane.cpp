@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -126,12 +127,21 @@ void PicturePane::gather()
 {
     Thumb->clear();
     m_folders.forget();
-    m_contacts = m_context.data.openRecordset(picturesSql());
+    m_contacts = {};
     m_next = 0;
-    PG1->setRange(0, m_contacts.count());
-    PG1->setValue(0);
+    m_isDue = true;
+    m_count->clear();
+    PG1->setRange(0, 0);
     PG1->show();
-    Timer1->start(0);
+    update();
+}
+
+// To read and count the contacts of a large book takes a while, so the pane is shown before.
+void PicturePane::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (m_isDue && !Timer1->isActive())
+        Timer1->start(0);
 }
 
 qint64 PicturePane::currentId() const
@@ -141,11 +151,15 @@ qint64 PicturePane::currentId() const
 
 bool PicturePane::isGathering() const
 {
-    return m_next < m_contacts.count();
+    return m_isDue || m_next < m_contacts.count();
 }
 
 void PicturePane::gatherSome()
 {
+    if (std::exchange(m_isDue, false)) {
+        m_contacts = m_context.data.openRecordset(picturesSql());
+        PG1->setRange(0, m_contacts.count());
+    }
     QElapsedTimer clock;
     clock.start();
     QList<widgets::Thumbnail> found;
@@ -175,7 +189,7 @@ void PicturePane::finish()
 void PicturePane::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (isGathering())
+    if (isGathering() && !m_isDue)
         Timer1->start(0);
 }
 

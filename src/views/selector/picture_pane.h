@@ -25,7 +25,7 @@ class PicturePane : public QWidget {
 public:
     explicit PicturePane(core::Context& context, QWidget* parent = nullptr);
 
-    /// Walks through all contacts anew.
+    /// Walks through all contacts anew, once the pane has been seen.
     void gather();
     qint64 currentId() const;
     bool isGathering() const;
@@ -37,6 +37,7 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QToolBar* layOutSizes();
@@ -47,6 +48,7 @@ private:
 
     core::Context& m_context;
     jet::Recordset m_contacts;
+    bool m_isDue = false; ///< the contacts are to be read
     int m_next = 0; ///< the row to be looked at; all have been when it is the last
     PictureFolders m_folders;
     widgets::ThumbnailView* Thumb;

@@ -1,6 +1,6 @@
 #include "views/selector/selector_list.h"
 
-#include "views/filters/filter_clauses.h"
+#include "views/filters/chosen_value.h"
 
 #include <QCoreApplication>
 #include <QDate>

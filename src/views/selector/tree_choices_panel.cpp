@@ -1,6 +1,7 @@
 #include "views/selector/tree_choices_panel.h"
 
 #include "views/filters/all_combo.h"
+#include "views/filters/chosen_value.h"
 #include "views/full_view/keyword_panel.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -99,8 +100,7 @@ void TreeChoicesPanel::connectCombos()
 {
     for (const TreeList& list : treeLists()) {
         if (auto* narrowing = m_combos.value(list.restrictedBy.toString()))
-            connect(narrowing, &QComboBox::editTextChanged, m_combos[list.combo.toString()],
-                &widgets::FilledCombo::refill);
+            followChoice(m_combos[list.combo.toString()], narrowing);
     }
     for (auto* combo : std::as_const(m_combos)) {
         takeAllWhole(combo);
