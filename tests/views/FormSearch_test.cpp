@@ -36,6 +36,8 @@ private Q_SLOTS:
     void hiddenListDoesNotChoose();
     void advancedToolBecomesHide();
     void advancedFilterShowsAndHides();
+    void listFollowsTheTyping();
+    void subcategoryGoesWithItsCategory();
     void brokenKeywordKeepsTheHits();
     void doubleClickGoesToTheContact();
     void selectorComesFirst();
@@ -401,6 +403,41 @@ void FormSearchTest::advancedFilterShowsAndHides()
     QCOMPARE(listed(), u"1"_s);
 }
 
+void FormSearchTest::listFollowsTheTyping()
+{
+    open();
+    m_form->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_form));
+    m_form->setFocus();
+    auto* keyword = control<QLineEdit>(u"txtkey"_s);
+    QTest::keyClicks(keyword, u"bolt"_s);
+    QTRY_COMPARE(listed(u"GridKey"_s), u"2"_s);
+    QVERIFY(shows(u"GridKey"_s) && !shows(u"Frame3"_s));
+    QTest::keyClicks(keyword, u"x"_s);
+    QTRY_COMPARE(listed(u"GridKey"_s), QString());
+    keyword->selectAll();
+    QTest::keyClick(keyword, Qt::Key_Delete);
+    QTRY_VERIFY(shows(u"FG1"_s));
+    QTest::keyClicks(keyword, u"young"_s);
+    QTest::keyClick(keyword, Qt::Key_Down); // does not wait
+    QCOMPARE(m_fixture->shared.selectedContactId, 1);
+    choose(u"cmbgcity"_s, u"Agra"_s); // the word does not count any more
+    QCOMPARE(keyword->text(), QString());
+    QCOMPARE(listed(), u"2"_s);
+}
+
+void FormSearchTest::subcategoryGoesWithItsCategory()
+{
+    open();
+    choose(u"cmbgcat"_s, u"Work"_s);
+    choose(u"cmbgsub"_s, u"Law"_s);
+    type(u"cmbgcat"_s, u"Work"_s); // half a word says nothing
+    QCOMPARE(text(u"cmbgsub"_s), u"Law"_s);
+    type(u"cmbgcat"_s, u"Friends"_s);
+    QCOMPARE(text(u"cmbgsub"_s), u"All"_s);
+    QCOMPARE(listed(), u"1"_s);
+}
+
 void FormSearchTest::brokenKeywordKeepsTheHits()
 {
     open();
@@ -562,7 +599,7 @@ void FormSearchTest::keysAlone()
     m_form->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_form));
     m_form->setFocus();
-    QVERIFY(grid()->hasFocus());
+    QVERIFY(control(u"txtkey"_s)->hasFocus());
     // The word "All" gives way to what is typed.
     control<QComboBox>(u"cmbgcity"_s)->setFocus();
     QTRY_COMPARE(control<QComboBox>(u"cmbgcity"_s)->lineEdit()->selectedText(), u"All"_s);

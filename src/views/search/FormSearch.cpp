@@ -23,6 +23,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -31,6 +32,12 @@
 using namespace Qt::StringLiterals;
 
 namespace views {
+
+namespace {
+
+constexpr int kTypingMs = 150;
+
+} // namespace
 
 struct FormSearch::Tool {
     QStringView id;
@@ -70,6 +77,7 @@ FormSearch::FormSearch(core::Context& context, QWidget* parent)
     , GridKey(new widgets::HeadingGrid)
     , m_grids(new QStackedWidget)
     , Frame3(new QFrame)
+    , m_typing(new QTimer(this))
     , Option1(new QRadioButton(tr("Category")))
     , Option2(new QRadioButton(tr("Name")))
     , SSCommand3(new QPushButton(tr("Keyword Search")))
@@ -97,7 +105,7 @@ FormSearch::FormSearch(core::Context& context, QWidget* parent)
     layout->addWidget(layOutTools());
     layout->addWidget(splitter, 1);
     connectControls();
-    setFocusProxy(FG1);
+    setFocusProxy(txtkey);
 }
 
 QToolBar* FormSearch::layOutTools()
@@ -127,19 +135,28 @@ QToolBar* FormSearch::layOutTools()
 
 QWidget* FormSearch::layOutKeyword()
 {
+    auto* word = new QWidget;
+    widgets::FormKit wordForm(word);
+    wordForm.line(u"txtkey"_s, tr("&Keyword"));
+    txtkey = widgets::child<QLineEdit>(word, u"txtkey"_s);
+    txtkey->setPlaceholderText(tr("A name, a city, a category, ..."));
+    txtkey->setClearButtonEnabled(true);
     Frame3->setObjectName(u"Frame3"_s);
-    Frame3->setFrameShape(QFrame::StyledPanel);
     widgets::FormKit form(Frame3);
-    form.line(u"txtkey"_s, tr("&Keyword"))
-        .beside()
+    form.buttonRow()
         .button(u"CmdSearch"_s, tr("&Search"), u"search", tr("Look for the word in many fields (Enter)"))
-        .beside()
         .button(u"SSCommand5"_s, tr("Refresh"), u"restore", tr("List all contacts again"))
-        .beside()
         .button(u"SSCommand4"_s, tr("Hide"), u"cancel", tr("Hide the keyword search (Esc)"));
-    txtkey = widgets::child<QLineEdit>(Frame3, u"txtkey"_s);
     Frame3->hide();
-    return Frame3;
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(word, 1);
+    layout->addWidget(Frame3);
+    for (QWidget* part : {word, static_cast<QWidget*>(Frame3)})
+        part->layout()->setContentsMargins(0, 0, 0, 0);
+    return row;
 }
 
 QWidget* FormSearch::layOutResults()
@@ -215,14 +232,24 @@ void FormSearch::connectControls()
     });
     connect(button(u"SSCommand4"_s), &QPushButton::clicked, this, [this] { showKeyword(false); });
     connect(button(u"SSCommand5"_s), &QPushButton::clicked, this, [this] {
+        m_word.clear();
         queryKeyword(contactsByCategorySql());
         showGrid(GridKey);
     });
     connect(button(u"CmdSearch"_s), &QPushButton::clicked, this, &FormSearch::searchKeyword);
     connect(txtkey, &QLineEdit::returnPressed, this, &FormSearch::searchKeyword);
-    auto* escape = new QShortcut(Qt::Key_Escape, Frame3);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(escape, &QShortcut::activated, this, [this] { showKeyword(false); });
+    m_typing->setSingleShot(true);
+    m_typing->setInterval(kTypingMs);
+    connect(txtkey, &QLineEdit::textEdited, m_typing, qOverload<>(&QTimer::start));
+    connect(m_typing, &QTimer::timeout, this, &FormSearch::followKeyword);
+    const auto onKey = [this](Qt::Key key, QWidget* within, auto perform) {
+        auto* shortcut = new QShortcut(key, within);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, perform);
+    };
+    for (QWidget* within : {static_cast<QWidget*>(Frame3), static_cast<QWidget*>(txtkey)})
+        onKey(Qt::Key_Escape, within, [this] { showKeyword(false); });
+    onKey(Qt::Key_Down, txtkey, [this] { enterGrid(); });
     connect(Option1, &QRadioButton::toggled, this, &FormSearch::formatGrid);
     connect(cmdgo, &QPushButton::clicked, m_hits->open(), &QAction::trigger);
     connect(CmdHelp, &QPushButton::clicked, this, [this] { showHelp(u"CON0024"_s, CmdHelp); });
@@ -356,8 +383,28 @@ void FormSearch::queryKeyword(const QString& sql)
 
 void FormSearch::searchKeyword()
 {
-    queryKeyword(keywordHitsSql(txtkey->text()));
+    m_typing->stop();
+    m_word = txtkey->text();
+    queryKeyword(keywordHitsSql(m_word));
     showGrid(GridKey);
+}
+
+// An apostrophe breaks the statement, which is for the person to try.
+void FormSearch::followKeyword()
+{
+    if (txtkey->text().trimmed().isEmpty())
+        showGrid(FG1);
+    else if (!txtkey->text().contains(u'\''))
+        searchKeyword();
+}
+
+void FormSearch::enterGrid()
+{
+    if (m_typing->isActive())
+        followKeyword();
+    if (grid()->currentRow() < 0)
+        grid()->setCurrentRow(0);
+    grid()->setFocus();
 }
 
 void FormSearch::showKeyword(bool on)
@@ -373,12 +420,16 @@ void FormSearch::showKeyword(bool on)
     }
 }
 
+// Without its buttons the word stands there as long as its hits do.
 void FormSearch::showGrid(widgets::HeadingGrid* shown)
 {
+    m_typing->stop();
+    const QString word = shown == GridKey ? m_word : QString();
+    if (Frame3->isHidden() ? txtkey->text() != word : txtkey->text().isEmpty())
+        txtkey->setText(word);
     if (shown == GridKey && !m_keywordRead)
         queryKeyword(m_keywordSql);
     m_grids->setCurrentWidget(shown);
-    setFocusProxy(shown);
     showCount();
     rowChanged(shown->currentRow());
 }

@@ -9,6 +9,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QStackedWidget;
+class QTimer;
 class QToolBar;
 
 namespace widgets {
@@ -21,7 +22,7 @@ class HitActions;
 class SearchFilter;
 
 /// Finds contacts: a list narrowed by what is chosen in combos, and another of those that have a word in any
-/// of many fields. A hit leads to the contact.
+/// of many fields, which follows the word as it is typed. A hit leads to the contact.
 class FormSearch : public core::Screen {
     Q_OBJECT
 
@@ -58,6 +59,8 @@ private:
     void query(const QString& sql);
     void queryKeyword(const QString& sql);
     void searchKeyword();
+    void followKeyword();
+    void enterGrid();
     void showKeyword(bool on);
     void showGrid(widgets::HeadingGrid* grid);
     void formatGrid();
@@ -67,6 +70,7 @@ private:
 
     QString m_keywordSql; ///< the statement behind the keyword grid
     bool m_keywordRead = false;
+    QString m_word; ///< whose hits they are
 
     SearchFilter* m_filter;
     HitActions* m_hits;
@@ -75,6 +79,7 @@ private:
     QStackedWidget* m_grids;
     QFrame* Frame3;
     QLineEdit* txtkey = nullptr;
+    QTimer* m_typing; ///< runs while the word is being typed
     QRadioButton* Option1;
     QRadioButton* Option2;
     QPushButton* SSCommand3;
