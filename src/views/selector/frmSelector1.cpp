@@ -17,6 +17,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -95,14 +96,24 @@ frmSelector1::frmSelector1(core::Context& context, QWidget* parent)
     connectControls();
 }
 
-// The tools of the selectors, then those of a contact that are not among them.
+// The tools of the selectors, then those of a contact that are not among them and can do something. All are
+// in sight in a narrow window, so only the first has its text.
 QToolBar* frmSelector1::layOutTools()
 {
     QToolBar* bar = m_tools->makeToolBar(this);
     const auto own = bar->actions().size();
-    m_contactTools->addTo(bar, kSameTools);
+    QStringList without = kSameTools;
+    for (const QStringView id : {u"SMS", u"PrintSingle", u"PrintLabel"}) {
+        if (!m_contactTools->action(id)->isEnabled())
+            without << id.toString();
+    }
+    m_contactTools->addTo(bar, without);
     bar->addSeparator();
     bar->addActions(m_results->tools());
+    for (QAction* tool : bar->actions().mid(1)) {
+        if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(tool)))
+            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    }
     m_pageTools = bar->actions().mid(own);
     m_pageTools.removeOne(m_contactTools->action(u"Search")); // brings the search back
     return bar;
