@@ -75,9 +75,8 @@ void Screen::tellSaved(const QString& name) const
     const QString text = tr("Saved %1").arg(name.simplified());
     if (!step)
         return m_context.frame.showNotice(text);
-    m_context.frame.showNotice(text, tr("&Undo"), [&context = m_context, id = step->id] {
-        takeBack(context, jet::StepDirection::Back, id);
-    });
+    m_context.frame.showNotice(text, tr("&Undo"),
+        [&context = m_context, id = step->id] { takeBack(context, jet::StepDirection::Back, id); });
 }
 
 void Screen::showEvent(QShowEvent* event)

@@ -96,10 +96,11 @@ void StoredEventsTest::schedulerRows_data()
 
     ScheduledDates leap = plain;
     leap.birthday = QDate(2000, 2, 29);
-    QTest::newRow("29 February has a day in leap years only")
+    QTest::newRow("29 February is kept on the 28th in other years")
         << leap << 2023
-        << QStringList{u"Birthday  17Bd Birthday of Asha Rao"_s,
-               u"Birthday 29-Feb-2024 17Bd Birthday of Asha Rao"_s, u"Birthday  17Bd Birthday of Asha Rao"_s};
+        << QStringList{u"Birthday 28-Feb-2023 17Bd Birthday of Asha Rao"_s,
+               u"Birthday 29-Feb-2024 17Bd Birthday of Asha Rao"_s,
+               u"Birthday 28-Feb-2025 17Bd Birthday of Asha Rao"_s};
 
     const auto inEachYear = [](const QStringList& rows) {
         QStringList all;

@@ -1,6 +1,7 @@
 #include "entry_form.h"
 
 #include "entry/form/form_variant.h"
+#include "widgets/date_box.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +38,9 @@ void fillAllFields(entry::FormMain* form)
         const QString name = field->objectName();
         const bool isText = qobject_cast<QComboBox*>(field) || qobject_cast<QPlainTextEdit*>(field)
             || (qobject_cast<QLineEdit*>(field) && !qobject_cast<QComboBox*>(field->parentWidget()));
-        if (isText && !name.isEmpty() && !name.startsWith(u"qt_") && name != u"txtlbl")
+        if (auto* date = qobject_cast<widgets::DateBox*>(field))
+            date->setDate(QDate(1990, 2, 1));
+        else if (isText && !name.isEmpty() && !name.startsWith(u"qt_") && name != u"txtlbl")
             widgets::setTextOf(field, name);
     }
     widgets::setTextOf(widgets::child<QWidget>(form, u"cmbnview"_s), u"First,Last"_s);

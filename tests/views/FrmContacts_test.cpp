@@ -171,7 +171,8 @@ void FrmContactsTest::refuses()
     if (!box.isEmpty())
         m_fixture->boxes.expect(box);
     click(u"Command1"_s);
-    QCOMPARE(child<QWidget>(m_form, u"DateBday"_s)->hasFocus(), box.isEmpty());
+    // A date that is none has no box: the focus goes to it.
+    QCOMPARE(m_form->focusWidget() == child<QWidget>(m_form, u"DateBday"_s), box.isEmpty());
     QCOMPARE(rows(u"select id from cnt_main"_s).size(), 12);
 }
 
