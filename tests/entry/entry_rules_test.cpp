@@ -65,7 +65,7 @@ void EntryRulesTest::cityLists_data()
 {
     QTest::addColumn<CityChoice>("choice");
     QTest::addColumn<QString>("sql");
-    QTest::addColumn<QString>("cities"); // "fails" for a statement that is broken as required
+    QTest::addColumn<QString>("cities"); // "fails" for a statement that is broken
     const QString ofCountry
         = u" from wia_city where [country id] in (select id  from wia_globalmas  where country ='"_s;
     QTest::newRow("everywhere") << CityChoice{u"All"_s, u""_s, false, false}

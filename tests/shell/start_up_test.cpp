@@ -84,6 +84,7 @@ struct AnyBox final : platform::MessageBoxes {
     QStringList shown;
     void information(const QString& text, const QString&) override { shown << u"told "_s + text; }
     void warning(const QString& text, const QString&) override { shown << u"told "_s + text; }
+    void stop(const QString& text, const QString&) override { shown << u"told "_s + text; }
     Answer ask(const QString& text, const QString&, platform::Icon) override
     {
         shown << u"asked "_s + text;
