@@ -124,7 +124,7 @@ private:
         openScope(arm);
 
         itemList(arm, &result.columns);
-        const auto [list, listSlots] = takePiece();
+        const auto items = takePiece();
 
         const bool hasMemo = std::any_of(result.columns.begin(), result.columns.end(),
             [](const ResultColumn& column) { return column.type == ColumnType::Memo; });
@@ -137,8 +137,8 @@ private:
             m_out += u"SELECT "_s;
             rowKey(from);
             if (!result.idsOnly) {
-                m_out += u", "_s + list;
-                m_slots = listSlots;
+                m_out += u", "_s + items.sql;
+                m_slots = items.values;
             }
             m_out += u" FROM "_s;
             if (narrowed) {
@@ -167,9 +167,9 @@ private:
         result.isOrdered = !arm.orderBy.empty();
 
         m_out += u"SELECT ";
-        m_out += list;
+        m_out += items.sql;
         m_out += u" FROM ";
-        m_slots = listSlots;
+        m_slots = items.values;
         tableAs(from);
         m_out += u" WHERE "_s;
         rowKey(from);
