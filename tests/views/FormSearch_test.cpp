@@ -559,9 +559,9 @@ void FormSearchTest::toolsOpenScreens()
     QCOMPARE(m_fixture->frame.placed.last(), u"FrmPhSearch"_s);
     child<QAction>(m_form, u"Search5"_s)->trigger();
     QCOMPARE(m_fixture->frame.placed.last(), u"FormTree2"_s);
-    QCOMPARE(m_fixture->target(u"FormTree2"_s)->windowTitle(), u"Category Tree Search"_s);
+    QCOMPARE(m_fixture->target(u"FormTree2"_s)->pages, QStringList{u"Category"_s});
     child<QAction>(m_form, u"Search6"_s)->trigger();
-    QCOMPARE(m_fixture->target(u"FormTree2"_s)->windowTitle(), u"Location Tree Search"_s);
+    QCOMPARE(m_fixture->target(u"FormTree2"_s)->pages.last(), u"Location"_s);
     QSignalSpy closing(m_form, &core::Screen::closeRequested);
     child<QAction>(m_form, u"Close"_s)->trigger();
     QCOMPARE(closing.count(), 1);

@@ -19,7 +19,7 @@ class FormTree2Test : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
-    void captionTellsTheTree();
+    void kindCanBeChosenWhileItIsOpen();
     void emptyBook();
     void treeClassifiesWhatIsEmpty();
     void branchIsReadWhenItIsOpened();
@@ -64,11 +64,16 @@ void FormTree2Test::add(const QString& values)
         + values + u')');
 }
 
+static QString pageOf(TreeKind kind)
+{
+    return kind == TreeKind::Location ? u"Location"_s : u"Category"_s;
+}
+
 void FormTree2Test::open(TreeKind kind)
 {
     m_fixture->screens.add<FormTree2>(u"FormTree2"_s);
     m_form = static_cast<FormTree2*>(m_fixture->screens.load(u"FormTree2"));
-    m_form->setWindowTitle(treeSearchTitle(kind));
+    m_form->openPage(pageOf(kind));
     m_fixture->screens.show(u"FormTree2");
     QTRY_COMPARE(m_fixture->book.firstText(unclassifiedSql()), u"0"_s); // once it has been seen
 }
@@ -117,12 +122,13 @@ QString FormTree2Test::listed() const
     return ids.join(u',');
 }
 
-void FormTree2Test::captionTellsTheTree()
+void FormTree2Test::kindCanBeChosenWhileItIsOpen()
 {
     open(TreeKind::Location);
     QCOMPARE(branch({})->text(0), u"Orvane Contacts-Location Wise"_s);
+    QCOMPARE(m_form->windowTitle(), u"Location Tree Search"_s);
     QCOMPARE(texts({}), (QStringList{u"East"_s, u"West"_s}));
-    m_form->setWindowTitle(u"Category Tree Search"_s); // while it is open
+    m_form->openPage(u"Category"_s); // while it is open
     QCOMPARE(branch({})->text(0), u"Orvane Contacts-Category Wise"_s);
     QCOMPARE(texts({}), (QStringList{u"A-B"_s, u"Friends"_s}));
     QCOMPARE(widgets::textOf(control<QLabel>(u"lblcount"_s)), u"3"_s);
@@ -148,7 +154,7 @@ void FormTree2Test::treeClassifiesWhatIsEmpty()
     QCOMPARE(m_fixture->book.rows(u"select category2,h_city,b_country from cnt_main where id=3"_s),
         QStringList{u"Undefined|Undefined|Undefined"_s});
     m_fixture->execute(u"update cnt_main set category2='' where id=1"_s);
-    m_form->setWindowTitle(treeSearchTitle(TreeKind::Location));
+    m_form->openPage(u"Location"_s);
     QTRY_COMPARE(m_fixture->book.firstText(u"select category2 from cnt_main where id=1"_s), u"Undefined"_s);
 }
 
@@ -169,7 +175,7 @@ void FormTree2Test::nodesListTheirContacts()
     QCOMPARE(listed(), u"1"_s); // home and work are one row
     click({u"West"_s});
     QCOMPARE(listed().count(u'2'), 3); // one for each address
-    m_form->setWindowTitle(treeSearchTitle(TreeKind::Category));
+    m_form->openPage(u"Category"_s);
     click({u"A-B"_s, u"Chess"_s});
     QCOMPARE(listed(), u"2"_s);
     QTest::keyClick(control<QTreeWidget>(u"SSTree1"_s), Qt::Key_Up); // the category
@@ -201,7 +207,7 @@ void FormTree2Test::rowShowsTheContact()
     QCOMPARE(m_fixture->shared.selectedContactName, u"Ann Lee"_s);
     click({u"A-B"_s}); // without that row
     QCOMPARE(shown(u"lblname"_s), QString());
-    QCOMPARE(m_form->currentName(), QString());
+    QCOMPARE(m_form->currentContact().name, QString());
 }
 
 void FormTree2Test::otherViewRunsTheSameAgain()

@@ -1,3 +1,4 @@
+#include "core/contact_lookups.h"
 #include "support/test_book.h"
 #include "views/full_view/full_view_save.h"
 #include "views/full_view/full_view_sql.h"
@@ -50,7 +51,7 @@ void FullViewSaveTest::init()
 QHash<QString, QString> FullViewSaveTest::loadedPage()
 {
     QHash<QString, QString> texts;
-    const jet::Recordset contact = m_book->data().openRecordset(contactByIdSql(1));
+    const jet::Recordset contact = m_book->data().openRecordset(core::contactByIdSql(1));
     for (const EditSource& source : editTexts())
         texts.insert(source.control.toString(), contact.textOrEmpty(source.column));
     m_dates.clear();

@@ -1,6 +1,7 @@
 #include "entry/form/FormMain.h"
 
 #include "core/contact_category.h"
+#include "core/contact_lookups.h"
 #include "core/contact_names.h"
 #include "core/date_patterns.h"
 #include "core/frame.h"
@@ -9,6 +10,7 @@
 #include "core/record_steps.h"
 #include "core/save_failure.h"
 #include "core/screens.h"
+#include "core/settings.h"
 #include "core/sound_files.h"
 #include "entry/assists/assist_panel.h"
 #include "entry/assists/entry_assists.h"
@@ -67,6 +69,7 @@ FormMain::FormMain(core::Context& context, const FormVariant& variant, QWidget* 
     , sstab1(new QTabWidget)
     , grdEditList(new widgets::HeadingGrid)
     , m_assist(new AssistPanel(context.info, context.shared))
+    , m_editor(context)
 {
     layOut();
     m_assists = new EntryAssists(this, sstab1, context);
@@ -294,12 +297,12 @@ void FormMain::clearForm()
 {
     m_assists->setQuiet(true);
     m_fields.clear();
-    m_loaded = {};
+    m_editor.startNew();
     setText(u"lblid"_s, {});
     setText(u"LblStateFull"_s, {});
     m_photo->load({});
     setText(u"Cmbtitle"_s, u"Mr."_s);
-    const auto setup = context().data.openRecordset(u"select * from CNTB_SETUP"_s);
+    const auto setup = core::readSettings(context().data);
     if (setup.hasRow()) {
         const core::Category category{setup.textOrEmpty(u"categ1"), setup.textOrEmpty(u"categ2")};
         setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
@@ -326,7 +329,7 @@ bool FormMain::showRecord(const QString& id)
         return false;
     clearForm();
     m_assists->setQuiet(true);
-    m_loaded = core::LoadedRow(row);
+    m_editor.take(row);
     m_fields.showRow(row, kNotFromColumn);
     for (const ChangedColumn& changed : m_variant.changedColumns) {
         if (!row.value(changed.column).isNull())
@@ -521,8 +524,7 @@ qint64 FormMain::add(const FormValues& values, const QString& name)
 
 qint64 FormMain::edit(const FormValues& values, const QString& name)
 {
-    const QString id = widgets::textOf(control(u"lblid"_s));
-    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id="_s + id);
+    jet::Recordset rows = m_editor.open();
     if (!rows.hasRow())
         return addAgain(rows, values, name);
     StoredPhoto photo = m_photo->store();
@@ -537,19 +539,15 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
                 [this](const QString& control) {
                     return m_fields.has(control) ? m_fields.label(control) : tr("Picture");
                 }});
-    if (!mayOverwrite(rows, edits))
+    if (!m_editor.mayOverwrite(rows, edits))
         return 0;
     jet::Step step(context().data, {});
     step.follow(photo.follower());
-    rows.edit();
-    m_loaded.assign(rows, edits);
-    if (!rows.update()) {
-        core::tellFailedSave(context());
+    if (!m_editor.write(rows, edits))
         return 0;
-    }
     photo.keep();
-    applyEditEffects(context(), m_variant, values, name, id.toLongLong());
-    return id.toLongLong();
+    applyEditEffects(context(), m_variant, values, name, m_editor.id());
+    return m_editor.id();
 }
 
 // Somebody deleted the contact while it was being changed here.
@@ -566,21 +564,11 @@ qint64 FormMain::addAgain(const jet::Recordset& read, const FormValues& values, 
     return answer == platform::Answer::Yes ? add(values, name) : 0;
 }
 
-bool FormMain::mayOverwrite(const jet::Recordset& stored, const QList<core::ColumnEdit>& edits) const
-{
-    const auto clashes = m_loaded.clashes(stored, edits);
-    return clashes.isEmpty()
-        || context().services.boxes.ask(
-               core::clashQuestion(clashes), shared().AppTitle, platform::Icon::Warning)
-        == platform::Answer::Yes;
-}
-
 void FormMain::endSave(const QString& name)
 {
     shared().EditRequested = false;
     Adodc1 = {};
-    const auto count = context().data.openRecordset(u"select count(*) as contacts from cnt_main"_s);
-    setPosition(u"1 of %1"_s.arg(count.number(u"contacts")));
+    setPosition(u"1 of %1"_s.arg(context().data.openRecordset(core::contactCountSql()).textAt(0)));
     clearForm();
     go(Mode::Idle);
     sstab1->setCurrentIndex(0);

@@ -3,6 +3,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/handover/entry_form.h"
 #include "core/handover/save_source.h"
+#include "core/record_editor.h"
 #include "core/screen.h"
 #include "entry/form/form_variant.h"
 #include "widgets/field_set.h"
@@ -77,7 +78,6 @@ private:
     qint64 edit(const FormValues& values, const QString& name);
     /// What the columns get, the picture where it was put by now.
     SaveOptions saveOptions(const QString& name) const;
-    bool mayOverwrite(const jet::Recordset& stored, const QList<core::ColumnEdit>& edits) const;
     qint64 addAgain(const jet::Recordset& read, const FormValues& values, const QString& name);
     void endSave(const QString& name);
     jet::Recordset& contacts();
@@ -98,7 +98,7 @@ private:
     UserFields* m_userFields = nullptr;
     PhotoField* m_photo = nullptr;
     widgets::FieldSet m_fields;
-    core::LoadedRow m_loaded; ///< the contact that is changed
+    core::RecordEditor m_editor; ///< the contact that is changed
 };
 
 } // namespace entry

@@ -2,6 +2,7 @@
 
 #include "core/mail_key.h"
 #include "core/save_failure.h"
+#include "core/settings.h"
 #include "entry/form/mail_contact.h"
 #include "platform/clock.h"
 #include "platform/favourites.h"
@@ -46,7 +47,7 @@ NewContact newContactOf(const FormVariant& variant, const FormValues& values, co
 qint64 addContact(
     core::Context& context, NewContact contact, const std::function<void(jet::Recordset&)>& assign)
 {
-    const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
+    const auto setup = core::readSettings(context.data);
     const bool reachesOthers = setup.flag(u"UpdOutllook");
     jet::Step step(context.data, {});
     jet::Batch batch(context.data);
@@ -82,7 +83,7 @@ qint64 addContact(
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,
     const QString& name, qint64 id)
 {
-    const auto setup = context.data.openRecordset(u"select * from CNTB_SETUP"_s);
+    const auto setup = core::readSettings(context.data);
     if (variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
         context.services.mailContacts.update(
             core::mailKeyOf(id), [&](platform::MailContact& item) { fillMailContact(item, values, name); });

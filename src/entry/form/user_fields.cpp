@@ -1,5 +1,6 @@
 #include "entry/form/user_fields.h"
 
+#include "core/settings.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 
@@ -33,13 +34,12 @@ UserFields::UserFields(QWidget* form, jet::Database& data)
 
 void UserFields::showLabels()
 {
-    const auto setup = m_data.openRecordset(u"select * from CNTB_SETUP"_s);
+    const QStringList labels = core::userFieldLabels(core::readSettings(m_data));
     for (int number = 1; number <= 3; ++number) {
         auto* label = m_form->findChild<QPushButton*>(u"lbluser%1"_s.arg(number));
         if (!label)
             return;
-        const QString own = setup.textOrEmpty(u"lbluse%1"_s.arg(number));
-        widgets::setTextOf(label, own.isEmpty() ? tr("User %1").arg(number) : own);
+        widgets::setTextOf(label, labels[number - 1]);
     }
 }
 
@@ -59,7 +59,7 @@ void UserFields::keepLabel()
     line->hide();
     if (label.isEmpty())
         return;
-    jet::Recordset setup = m_data.openRecordset(u"select * from CNTB_SETUP"_s);
+    jet::Recordset setup = core::readSettings(m_data);
     if (!setup.hasRow())
         return;
     setup.edit();

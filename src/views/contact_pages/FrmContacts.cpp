@@ -1,20 +1,22 @@
 #include "views/contact_pages/FrmContacts.h"
 
 #include "core/contact_category.h"
+#include "core/contact_lookups.h"
 #include "core/contact_names.h"
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
 #include "core/date_patterns.h"
 #include "core/mail_key.h"
 #include "core/merged_category.h"
 #include "core/save_failure.h"
 #include "core/scheduler_rows.h"
 #include "core/screens.h"
+#include "core/settings.h"
 #include "core/sound_files.h"
 #include "core/vocabularies.h"
 #include "platform/clock.h"
 #include "platform/contact_sync.h"
 #include "platform/message_boxes.h"
-#include "views/full_view/full_view_sql.h"
-#include "views/selector/selector_tools.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -61,8 +63,13 @@ constexpr ListRow kLists[] = {
 
 FrmContacts::FrmContacts(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_tools(new SelectorTools(context,
-          {.callerForm = u"FrmContacts"_s, .currentId = [this] { return m_id; }, .beforeFilter = [] {}},
+    , m_tools(new core::ContactTools(context, core::selectorTools(),
+          {.callerForm = u"FrmContacts"_s,
+              .chosen =
+                  [this] {
+                      return core::ChosenContact{m_id, m_id};
+                  },
+              .sounds = true},
           this))
     , DBList1(new widgets::RecordList)
     , lblname(new QLabel)
@@ -207,7 +214,7 @@ void FrmContacts::connectControls()
     onClick(u"CmdCancel"_s, &FrmContacts::cancel);
     connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, startAnother);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &FrmContacts::save);
-    connect(m_tools, &SelectorTools::contactDeleted, this, &FrmContacts::afterDelete);
+    connect(m_tools, &core::ContactTools::contactDeleted, this, &FrmContacts::afterDelete);
 
     auto* menu = new QMenu(this);
     menu->setObjectName(u"Menu"_s);
@@ -254,7 +261,7 @@ void FrmContacts::keyPressEvent(QKeyEvent* event)
 
 bool FrmContacts::showContact(qint64 id)
 {
-    if (id == 0 || !context().data.openRecordset(contactByIdSql(id)).hasRow())
+    if (id == 0 || !context().data.openRecordset(core::contactByIdSql(id)).hasRow())
         return false;
     if (id == m_id || mayDiscard())
         display(id);
@@ -264,7 +271,7 @@ bool FrmContacts::showContact(qint64 id)
 void FrmContacts::readList()
 {
     const bool quiet = std::exchange(m_quiet, true);
-    DBList1->fill(context().data.openRecordset(contactListSql()));
+    DBList1->fill(context().data.openRecordset(core::contactListSql()));
     if (m_id == 0 || !DBList1->selectKey(m_id))
         DBList1->setCurrentRow(-1);
     m_quiet = quiet;
@@ -291,7 +298,7 @@ void FrmContacts::rowChanged(int row)
 
 void FrmContacts::display(qint64 id)
 {
-    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(id));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(id));
     if (!contact.hasRow())
         return startNew();
     m_id = id;
@@ -309,7 +316,7 @@ void FrmContacts::startNew()
 {
     m_id = 0;
     SimpleValues blank;
-    const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
+    const jet::Recordset setup = core::readSettings(context().data);
     const core::Category category{setup.hasRow() ? setup.textOrEmpty(u"categ1") : QString(),
         setup.hasRow() ? setup.textOrEmpty(u"categ2") : QString()};
     blank.texts = {{u"Cmbtitle"_s, u"Mr."_s}, {u"cmbnview"_s, core::nameViews().constFirst()},
@@ -395,14 +402,14 @@ void FrmContacts::save()
 
 SimpleSave FrmContacts::saveOptions() const
 {
-    const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
+    const jet::Recordset setup = core::readSettings(context().data);
     return {context().services.clock.today(), shared().ContMerge,
         setup.hasRow() ? setup.textOrEmpty(u"Priority") : QString()};
 }
 
 bool FrmContacts::reachesOthers() const
 {
-    const jet::Recordset setup = context().data.openRecordset(u"select * from CNTB_SETUP");
+    const jet::Recordset setup = core::readSettings(context().data);
     return setup.hasRow() && setup.flag(u"UpdOutllook");
 }
 

@@ -6,14 +6,16 @@
 
 class QLabel;
 
+namespace core {
+class ContactTools;
+}
+
 namespace widgets {
 class DateBox;
 class RecordList;
 } // namespace widgets
 
 namespace views {
-
-class SelectorTools;
 
 /// The quick view and the simple add: a list of names, and a short form with the fields used most. What was
 /// typed and not saved is never left without a question.
@@ -62,7 +64,7 @@ private:
     bool m_quiet = false; ///< the list moves by itself
     bool m_isMerged = false; ///< category and subcategory stand in one list
 
-    SelectorTools* m_tools;
+    core::ContactTools* m_tools;
     widgets::RecordList* DBList1;
     widgets::DateBox* DateBday = nullptr;
     QLabel* lblname;

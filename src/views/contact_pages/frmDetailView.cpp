@@ -1,10 +1,10 @@
 #include "views/contact_pages/frmDetailView.h"
 
 #include "core/photo_file.h"
+#include "core/settings.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "views/contact_pages/record_texts.h"
-#include "views/contact_pages/user_labels.h"
 #include "views/field_label.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/fields.h"
@@ -228,7 +228,7 @@ bool frmDetailView::showContact(qint64 id)
     for (const ShownText& shown :
         detailViewTexts(contact, shared().NationalMode, context().services.clock.today()))
         widgets::setTextOf(child<QWidget>(this, shown.control), shown.text);
-    const QStringList labels = userLabels(context().data);
+    const QStringList labels = core::userFieldLabels(core::readSettings(context().data));
     for (int number = 1; number <= labels.size(); ++number)
         showFieldLabel(this, u"cmbuser%1"_s.arg(number), labels[number - 1]);
     const QString picture = contact.textOrEmpty(u"PhotLoc");

@@ -1,10 +1,11 @@
 #include "views/contact_pages/frmNoteView.h"
 
+#include "core/contact_lookups.h"
 #include "core/photo_file.h"
+#include "core/settings.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "views/contact_pages/contact_page.h"
-#include "views/contact_pages/user_labels.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/picture_box.h"
 
@@ -99,7 +100,7 @@ QWidget* frmNoteView::layOutHead()
 
 bool frmNoteView::showContact(qint64 id)
 {
-    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(id));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(id));
     if (!contact.hasRow())
         return false;
     m_id = id;
@@ -112,7 +113,8 @@ bool frmNoteView::showContact(qint64 id)
     m_stack->setCurrentIndex(1);
     m_page->showContact(id, head.name,
         noteSections(contact, m_view,
-            {shared().NationalMode, context().services.clock.today(), userLabels(context().data)}));
+            {shared().NationalMode, context().services.clock.today(),
+                core::userFieldLabels(core::readSettings(context().data))}));
     return true;
 }
 

@@ -1,8 +1,12 @@
 #include "views/full_view/FullView.h"
 
+#include "core/contact_lookups.h"
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
 #include "core/photo_file.h"
 #include "core/save_failure.h"
 #include "core/screens.h"
+#include "core/settings.h"
 #include "core/sound_files.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
@@ -10,8 +14,6 @@
 #include "views/command_button.h"
 #include "views/contact_pages/contact_page.h"
 #include "views/contact_pages/record_texts.h"
-#include "views/contact_pages/user_labels.h"
-#include "views/contact_tools.h"
 #include "views/full_view/address_source.h"
 #include "views/full_view/category_tree.h"
 #include "views/full_view/found_strip.h"
@@ -58,11 +60,14 @@ FullView::FullView(core::Context& context, QWidget* parent)
 FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* parent)
     : Screen(context, parent)
     , m_kind(kind)
-    , m_tools(new ContactTools(context,
+    , m_tools(new core::ContactTools(context, core::viewTools(),
           {.callerForm = kind.callerForm.toString(),
-              .shownId = [this] { return m_id; },
-              .listedId = [this] { return DBList1->currentKey(); },
-              .shownName = [this] { return shownName(); }},
+              .chosen =
+                  [this] {
+                      return core::ChosenContact{m_id, DBList1->currentKey(), shownName()};
+                  },
+              .tellsName = true,
+              .needsName = false},
           this))
     , DBList1(new widgets::RecordList)
     , tvwdb(new CategoryTree(context.data))
@@ -95,8 +100,9 @@ void FullView::addCommandRow(QWidget* row)
 
 void FullView::makeMenus()
 {
-    m_menu = m_tools->makeMenu(this);
-    m_menu->setObjectName(u"Menu"_s);
+    m_tools->action(u"Edit")->setCheckable(true);
+    m_menu = m_tools->makeMenu(u"Menu"_s, this);
+    m_tools->addReplaceMenu(m_menu);
     m_filterMenu = new QMenu(this);
     m_filterMenu->setObjectName(u"FilterMenu"_s);
     m_filterMenu->setToolTipsVisible(true);
@@ -104,10 +110,6 @@ void FullView::makeMenus()
         m_filterMenu->addAction(m_tools->action(id));
     CmdView->setMenu(m_filterMenu);
     CmdView->setPopupMode(QToolButton::MenuButtonPopup);
-    QAction* search = m_tools->action(u"Search");
-    search->setShortcut(QKeySequence::Find);
-    search->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(search);
 
     const std::pair<QToolButton*, QStringView> buttons[]
         = {{m_header->CmdTel, u"Call"}, {m_header->CmdAdd, u"Letter"}, {m_header->CmdEmail, u"Email2"}};
@@ -130,8 +132,8 @@ void FullView::connectControls()
         openFound(keywordSql(keyword), tr("Keyword: %1").arg(keyword));
         frmkeyword->hide();
     });
-    connect(m_tools, &ContactTools::searchWanted, frmkeyword, &KeywordPanel::open);
-    connect(m_tools, &ContactTools::listEditingWanted, m_listEditing, &ListEditing::setEditable);
+    connect(m_tools->action(u"Search"), &QAction::triggered, frmkeyword, &KeywordPanel::open);
+    connect(m_tools->action(u"Edit"), &QAction::triggered, m_listEditing, &ListEditing::setEditable);
     // Later, since a step to another row ends the editing, and the list is read anew.
     connect(m_listEditing, &ListEditing::nameEdited, this, &FullView::storeName, Qt::QueuedConnection);
     connect(ssnext, &QToolButton::clicked, this, [this] { moveBy(1); });
@@ -161,7 +163,7 @@ void FullView::connectControls()
 void FullView::load()
 {
     setFrameTitle(m_kind.frameTitle.toString());
-    openList(contactListSql());
+    openList(core::contactListSql());
 }
 
 bool FullView::showContact(qint64 id)
@@ -175,7 +177,7 @@ bool FullView::showContact(qint64 id)
     if (m_source)
         browse(nullptr);
     if (DBList1->rowOf(id) < 0)
-        openList(contactListSql());
+        openList(core::contactListSql());
     // Kept: the list is searched for the name, so of two people with one name it stops at the first.
     const QString name = contact.textOrEmpty(u"Name");
     int row = DBList1->rowOf(id);
@@ -193,7 +195,7 @@ void FullView::applyFilter(const QString& whereClause)
         return;
     if (m_source)
         browse(nullptr);
-    openFound(contactListSql(whereClause), tr("Filter"));
+    openFound(core::contactListSql(whereClause), tr("Filter"));
 }
 
 void FullView::bookChanged()
@@ -234,7 +236,7 @@ void FullView::openList(const QString& sql, const QString& foundBy)
     if (foundBy.isEmpty())
         return m_found->hide();
     m_found->tell(foundBy, DBList1->rowCount(),
-        context().data.openRecordset(u"select count(*) from cnt_main"_s).textAt(0).toInt());
+        context().data.openRecordset(core::contactCountSql()).textAt(0).toInt());
 }
 
 // What was found is seen, also when the tree was in front.
@@ -300,7 +302,7 @@ void FullView::browse(std::unique_ptr<AddressSource> source)
     displayNothing();
     if (own) {
         DBList1->showAs(u"Name"_s, {});
-        openList(contactListSql());
+        openList(core::contactListSql());
     } else {
         DBList1->showAs(u"Name"_s,
             [this](const QVariant& row) { return m_source ? m_source->label(row.toInt()) : QString(); });
@@ -361,7 +363,7 @@ void FullView::showCounter()
 
 void FullView::display(qint64 id)
 {
-    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(id));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(id));
     if (!contact.hasRow())
         return displayNothing();
     m_id = id;
@@ -376,7 +378,7 @@ void FullView::display(qint64 id)
 
 void FullView::showSummary(const jet::Recordset& contact)
 {
-    const QStringList labels = userLabels(context().data);
+    const QStringList labels = core::userFieldLabels(core::readSettings(context().data));
     const NoteHead head = noteHead(contact);
     m_pages->showUserLabels(labels);
     m_pages->summary()->showContact(m_id, head.name,
@@ -441,12 +443,12 @@ void FullView::refresh()
         return;
     if (m_source)
         return reopenList();
-    openList(contactListSql());
+    openList(core::contactListSql());
     tvwdb->rebuild();
     if (m_id == 0)
         return;
     selectInList(m_id);
-    const jet::Recordset contact = context().data.openRecordset(contactByIdSql(m_id));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(m_id));
     tvwdb->reveal(
         contact.textOrEmpty(u"category1"), contact.textOrEmpty(u"category2"), contact.textOrEmpty(u"Name"));
 }
@@ -486,7 +488,7 @@ void FullView::goToAssociate(const QString& name)
         return;
     const qint64 id = contact.number(u"id");
     if (DBList1->rowOf(id) < 0)
-        openList(contactListSql());
+        openList(core::contactListSql());
     selectInList(id);
 }
 

@@ -18,11 +18,14 @@ namespace widgets {
 class RecordList;
 }
 
+namespace core {
+class ContactTools;
+}
+
 namespace views {
 
 class AddressSource;
 class CategoryTree;
-class ContactTools;
 class FoundStrip;
 class FullViewEdit;
 class FullViewHeader;
@@ -59,7 +62,7 @@ Q_SIGNALS:
     void bookChosen(bool own); ///< another address book is listed, the program's own or one to read only
 
 protected:
-    ContactTools& tools() const { return *m_tools; }
+    core::ContactTools& tools() const { return *m_tools; }
     void addCommandRow(QWidget* row); ///< below the commands over the list
     /// Lists another address book, which can only be read; without one the program's own.
     void browse(std::unique_ptr<AddressSource> source);
@@ -106,7 +109,7 @@ private:
     QHash<QString, QWidget*> m_controls; ///< those that show a text of the contact
     std::unique_ptr<AddressSource> m_source; ///< what is listed, if not the own book
 
-    ContactTools* m_tools;
+    core::ContactTools* m_tools;
     QMenu* m_menu = nullptr;
     QMenu* m_filterMenu = nullptr;
     widgets::RecordList* DBList1;

@@ -1,11 +1,13 @@
 #include "views/full_view/FullViewWeb.h"
 
+#include "core/contact_tools.h"
 #include "core/handover/page_screen.h"
+#include "core/save_failure.h"
 #include "core/screens.h"
+#include "core/settings.h"
 #include "platform/card_folder.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
-#include "views/contact_tools.h"
 #include "views/full_view/address_source.h"
 #include "views/full_view/source_tools.h"
 #include "widgets/fields.h"
@@ -81,8 +83,7 @@ void FullViewWeb::choose(Source source)
 
 void FullViewWeb::chooseCards()
 {
-    const QString folder
-        = context().data.openRecordset(u"Select * from cntb_setup"_s).textOrEmpty(u"VCFPath").trimmed();
+    const QString folder = core::readSettings(context().data).textOrEmpty(u"VCFPath").trimmed();
     auto cards = cardFolderSource(context().services.drive, folder);
     if (cards->count() > 0)
         return browse(std::move(cards));
@@ -99,13 +100,9 @@ void FullViewWeb::chooseFolder()
     const QString path = context().services.drive.named(*chosen);
     if (path.isEmpty())
         return warn(tr("This folder lies outside drive C:, where vCard files are looked for."));
-    jet::Recordset setup = context().data.openRecordset(u"Select * from cntb_setup"_s);
-    if (setup.hasRow())
-        setup.edit();
-    else
-        setup.addNew();
-    setup.set(u"VCFPath", path);
-    if (setup.update() && m_sources->current() == Source::CardFolder)
+    if (!core::storeSetting(context().data, u"VCFPath", path))
+        return core::tellFailedSave(context());
+    if (m_sources->current() == Source::CardFolder)
         chooseCards();
 }
 

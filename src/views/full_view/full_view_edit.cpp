@@ -1,11 +1,12 @@
 #include "views/full_view/full_view_edit.h"
 
+#include "core/contact_lookups.h"
 #include "core/date_patterns.h"
 #include "core/save_failure.h"
+#include "core/settings.h"
 #include "core/touched_fields.h"
 #include "core/vocabularies.h"
 #include "platform/message_boxes.h"
-#include "views/contact_pages/user_labels.h"
 #include "views/field_label.h"
 #include "views/full_view/full_view_save.h"
 #include "views/full_view/full_view_sql.h"
@@ -272,7 +273,7 @@ void FullViewEdit::connectLists()
 
 void FullViewEdit::loadContact(qint64 id)
 {
-    const jet::Recordset row = m_context.data.openRecordset(contactByIdSql(id));
+    const jet::Recordset row = m_context.data.openRecordset(core::contactByIdSql(id));
     m_id = row.hasRow() ? id : 0;
     m_note->clear();
     for (const EditSource& source : editTexts()) {
@@ -283,7 +284,7 @@ void FullViewEdit::loadContact(qint64 id)
         widgets::setTextOf(control, text);
     }
     widgets::clear(child<QWidget>(this, u"TxtEHWeb"_s));
-    const QStringList labels = userLabels(m_context.data);
+    const QStringList labels = core::userFieldLabels(core::readSettings(m_context.data));
     for (int number = 1; number <= labels.size(); ++number)
         showFieldLabel(this, u"CmbEUser%1"_s.arg(number), labels[number - 1]);
     for (const EditSource& source : editDates()) {

@@ -1,4 +1,4 @@
-#include "views/contact_tools.h"
+#include "core/contact_tools.h"
 #include "views/full_view/category_tree.h"
 #include "views/full_view/found_strip.h"
 #include "views/full_view/full_view_edit.h"

@@ -11,13 +11,6 @@ constexpr QStringView kSearched[] = {u"first", u"last", u"company", u"category1"
 
 } // namespace
 
-QString contactListSql(const QString& whereClause)
-{
-    if (whereClause.isEmpty())
-        return u"SELECT id,name FROM cnt_main ORDER BY Name "_s;
-    return u"SELECT id,name FROM cnt_main "_s + whereClause + u" ORDER BY Name "_s;
-}
-
 QString keywordClause(const QString& keyword)
 {
     QString clause;
@@ -33,19 +26,9 @@ QString keywordSql(const QString& keyword)
     return u"select id,name from cnt_main "_s + keywordClause(keyword);
 }
 
-QString contactByIdSql(qint64 id)
-{
-    return u"SELECT * FROM [cnt_main] WHERE id="_s + QString::number(id);
-}
-
 QString contactForEditSql(qint64 id)
 {
     return u"Select * from Cnt_Main where id = "_s + QString::number(id);
-}
-
-QString contactByNameSql(const QString& name)
-{
-    return u"Select * from cnt_main where name='"_s + name + u'\'';
 }
 
 QString associateSql(const QString& name)

@@ -1,6 +1,7 @@
 #include "views/full_view/source_tools.h"
 
 #include "core/screens.h"
+#include "core/tool_set.h"
 #include "views/command_button.h"
 #include "widgets/theme.h"
 
@@ -10,40 +11,47 @@
 #include <QMenu>
 #include <QToolButton>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace views {
 
 namespace {
 
-struct SourceRow {
-    Source source;
-    QStringView tool;
-    QStringView icon;
-    const char* text;
-};
-
-// Kept: the last tool's name is misspelt; what performs it knows it by that name.
-constexpr SourceRow kSources[] = {
-    {Source::OwnBook, u"UseOrvaneContactDatabase", u"persons", QT_TRANSLATE_NOOP("views", "Orvane Contacts")},
-    {Source::MailClient, u"UseMSOutlookDatabase", u"envelope", QT_TRANSLATE_NOOP("views", "Mail client")},
-    {Source::CardFolder, u"UseVCFFiles", u"card", QT_TRANSLATE_NOOP("views", "vCard files")},
-    {Source::AddressBook, u"UseMSOullookExpressDatabase", u"list",
-        QT_TRANSLATE_NOOP("views", "Second address book")},
+// In the order of Source. Kept: the last tool's name is misspelt; what performs it knows it by that name.
+constexpr core::Tool kTools[] = {
+    {.id = u"UseOrvaneContactDatabase",
+        .icon = u"persons",
+        .text = QT_TRANSLATE_NOOP("views", "Orvane Contacts"),
+        .places = core::Tool::Menu},
+    {.id = u"UseMSOutlookDatabase",
+        .icon = u"envelope",
+        .text = QT_TRANSLATE_NOOP("views", "Mail client"),
+        .places = core::Tool::Menu},
+    {.id = u"UseVCFFiles",
+        .icon = u"card",
+        .text = QT_TRANSLATE_NOOP("views", "vCard files"),
+        .places = core::Tool::Menu},
+    {.id = u"UseMSOullookExpressDatabase",
+        .icon = u"list",
+        .text = QT_TRANSLATE_NOOP("views", "Second address book"),
+        .places = core::Tool::Menu},
 };
 
 } // namespace
 
 SourceTools::SourceTools(core::Context& context, QWidget* screen)
     : QObject(screen)
-    , MenuDb(new QMenu(screen))
+    , m_tools(new core::ToolSet(context.screens, {kTools, "views"}, screen))
+    , MenuDb(m_tools->makeMenu(u"MenuDb"_s, screen))
     , m_row(new QWidget)
     , CmdDatabase(commandButton(u"CmdDatabase"_s, u"persons", tr("Choose the address book to look at")))
     , FolderViewOff(commandButton(u"FolderViewOff"_s, u"folder", tr("Choose the folder of the vCard files")))
     , CmdScan(commandButton(u"CmdScan"_s, u"picture", tr("Scan a picture")))
     , CmdKey(commandButton(u"CmdKey"_s, u"search", tr("Search for a keyword")))
 {
-    makeMenu(screen);
+    connectTools();
     layOutRow(context);
     setCurrent(Source::OwnBook);
     connect(FolderViewOff, &QToolButton::clicked, this, &SourceTools::folderWanted);
@@ -51,26 +59,22 @@ SourceTools::SourceTools(core::Context& context, QWidget* screen)
     connect(CmdScan, &QToolButton::clicked, this, [&context] { context.screens.show(u"frmScan"); });
 }
 
-void SourceTools::makeMenu(QWidget* screen)
+void SourceTools::connectTools()
 {
-    MenuDb->setObjectName(u"MenuDb"_s);
     auto* group = new QActionGroup(this);
-    for (const SourceRow& row : kSources) {
-        auto* tool = new QAction(QCoreApplication::translate("views", row.text), screen);
-        tool->setObjectName(row.tool.toString());
-        widgets::setIcon(tool, row.icon);
-        tool->setCheckable(true);
-        group->addAction(tool);
-        MenuDb->addAction(tool);
-        m_tools.insert(row.source, tool);
-        connect(tool, &QAction::toggled, this, [this, tool, icon = row.icon](bool down) {
+    for (const core::Tool& tool : kTools) {
+        QAction* action = m_tools->action(tool.id);
+        action->setCheckable(true);
+        group->addAction(action);
+        connect(action, &QAction::toggled, this, [this, action, icon = tool.icon](bool down) {
             if (!down)
                 return;
-            CmdDatabase->setText(tool->text());
+            CmdDatabase->setText(action->text());
             widgets::setIcon(CmdDatabase, icon);
         });
-        connect(tool, &QAction::triggered, this, [this, source = row.source] { Q_EMIT chosen(source); });
     }
+    connect(m_tools, &core::ToolSet::triggered, this,
+        [this](const core::Tool& tool) { Q_EMIT chosen(Source(&tool - kTools)); });
 }
 
 void SourceTools::layOutRow(core::Context& context)
@@ -92,16 +96,14 @@ void SourceTools::layOutRow(core::Context& context)
 
 Source SourceTools::current() const
 {
-    for (const SourceRow& row : kSources) {
-        if (m_tools[row.source]->isChecked())
-            return row.source;
-    }
-    return Source::OwnBook;
+    const auto down = std::ranges::find_if(
+        kTools, [this](const core::Tool& tool) { return m_tools->action(tool.id)->isChecked(); });
+    return down == std::end(kTools) ? Source::OwnBook : Source(down - kTools);
 }
 
 void SourceTools::setCurrent(Source source)
 {
-    m_tools[source]->setChecked(true);
+    m_tools->action(kTools[std::size_t(source)].id)->setChecked(true);
 }
 
 void SourceTools::allowKeywords(bool allowed)

@@ -2,13 +2,15 @@
 
 #include "core/context.h"
 
-#include <QHash>
 #include <QObject>
 
-class QAction;
 class QMenu;
 class QToolButton;
 class QWidget;
+
+namespace core {
+class ToolSet;
+}
 
 namespace views {
 
@@ -36,10 +38,10 @@ Q_SIGNALS:
     void keywordsWanted();
 
 private:
-    void makeMenu(QWidget* screen);
+    void connectTools();
     void layOutRow(core::Context& context);
 
-    QHash<Source, QAction*> m_tools;
+    core::ToolSet* m_tools;
     QMenu* MenuDb;
     QWidget* m_row;
     QToolButton* CmdDatabase;

@@ -1,7 +1,9 @@
 #include "views/search/FormSearch.h"
 
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
+#include "core/handover/page_screen.h"
 #include "core/screens.h"
-#include "views/search/hit_actions.h"
 #include "views/search/place_tree.h"
 #include "views/search/search_clauses.h"
 #include "views/search/search_filter.h"
@@ -37,42 +39,70 @@ namespace {
 
 constexpr int kTypingMs = 150;
 
+constexpr int kAlways = core::Tool::Labelled;
+constexpr auto kInScreen = core::Tool::KeyIn::Screen;
+constexpr core::Tool kTools[] = {
+    {.id = u"Find",
+        .icon = u"persons",
+        .text = QT_TRANSLATE_NOOP("views", "Find"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Find by first name, last name and company"),
+        .places = kAlways},
+    {.id = u"Advanced",
+        .icon = u"search",
+        .text = QT_TRANSLATE_NOOP("views", "Advanced"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Look for a word in many fields"),
+        .places = kAlways,
+        .key = int(Qt::CTRL) | int(Qt::Key_F),
+        .keyIn = kInScreen},
+    {.id = u"Refresh",
+        .icon = u"restore",
+        .text = QT_TRANSLATE_NOOP("views", "Refresh"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Show all contacts by name"),
+        .places = kAlways,
+        .key = Qt::Key_F5,
+        .keyIn = kInScreen},
+    {.id = u"Search4",
+        .icon = u"phone",
+        .text = QT_TRANSLATE_NOOP("views", "Phone Search"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Search all telephone numbers"),
+        .task = core::ToolTask::Open,
+        .form = u"FrmPhSearch",
+        .places = kAlways},
+    {.id = u"Search5",
+        .icon = u"category",
+        .text = QT_TRANSLATE_NOOP("views", "Category Tree"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Search the tree of categories"),
+        .form = u"FormTree2",
+        .places = kAlways},
+    {.id = u"Search6",
+        .icon = u"location",
+        .text = QT_TRANSLATE_NOOP("views", "Location Tree"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Search the tree of locations"),
+        .form = u"FormTree2",
+        .places = kAlways},
+    {.id = u"Close",
+        .icon = u"exit",
+        .text = QT_TRANSLATE_NOOP("views", "Close"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Close the search"),
+        .places = kAlways},
+};
+
 } // namespace
-
-struct FormSearch::Tool {
-    QStringView id;
-    QStringView icon;
-    const char* text;
-    const char* toolTip;
-    QStringView form; ///< the screen without which the tool is disabled
-    void (FormSearch::*perform)();
-    QKeySequence::StandardKey key = QKeySequence::UnknownKey;
-};
-
-const FormSearch::Tool FormSearch::kTools[] = {
-    {u"Find", u"persons", QT_TRANSLATE_NOOP("views", "Find"),
-        QT_TRANSLATE_NOOP("views", "Find by first name, last name and company"), {}, &FormSearch::find},
-    {u"Advanced", u"search", QT_TRANSLATE_NOOP("views", "Advanced"),
-        QT_TRANSLATE_NOOP("views", "Look for a word in many fields"), {}, &FormSearch::toggleKeyword,
-        QKeySequence::Find},
-    {u"Refresh", u"restore", QT_TRANSLATE_NOOP("views", "Refresh"),
-        QT_TRANSLATE_NOOP("views", "Show all contacts by name"), {}, &FormSearch::refreshByName,
-        QKeySequence::Refresh},
-    {u"Search4", u"phone", QT_TRANSLATE_NOOP("views", "Phone Search"),
-        QT_TRANSLATE_NOOP("views", "Search all telephone numbers"), u"FrmPhSearch", &FormSearch::phoneSearch},
-    {u"Search5", u"category", QT_TRANSLATE_NOOP("views", "Category Tree"),
-        QT_TRANSLATE_NOOP("views", "Search the tree of categories"), u"FormTree2", &FormSearch::categoryTree},
-    {u"Search6", u"location", QT_TRANSLATE_NOOP("views", "Location Tree"),
-        QT_TRANSLATE_NOOP("views", "Search the tree of locations"), u"FormTree2", &FormSearch::locationTree},
-    {u"Close", u"exit", QT_TRANSLATE_NOOP("views", "Close"), QT_TRANSLATE_NOOP("views", "Close the search"),
-        {}, &FormSearch::closeRequested},
-};
 
 FormSearch::FormSearch(core::Context& context, QWidget* parent)
     : Screen(context, parent)
     , m_filter(new SearchFilter(context.data))
-    , m_hits(new HitActions(
-          context, [this] { return grid()->currentKey(); }, this))
+    , m_tools(new core::ToolSet(context.screens, {kTools, "views"}, this))
+    , m_hits(new core::ContactTools(context, core::hitTools(),
+          {.callerForm = u"FormSearch"_s,
+              .chosen =
+                  [this] {
+                      const qint64 id = grid()->currentKey();
+                      return core::ChosenContact{id, id};
+                  },
+              .saysNone = false},
+          this))
+    , m_hitMenu(m_hits->makeMenu(u"HitMenu"_s, this))
     , FG1(new widgets::HeadingGrid)
     , GridKey(new widgets::HeadingGrid)
     , m_grids(new QStackedWidget)
@@ -102,35 +132,25 @@ FormSearch::FormSearch(core::Context& context, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(layOutTools());
+    layout->addWidget(m_tools->makeToolBar(this));
     layout->addWidget(splitter, 1);
+    connectTools();
     connectControls();
     setFocusProxy(txtkey);
 }
 
-QToolBar* FormSearch::layOutTools()
+void FormSearch::connectTools()
 {
-    auto* bar = new QToolBar;
-    bar->setIconSize({20, 20});
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    for (const Tool& tool : kTools) {
-        auto* action = new QAction(QCoreApplication::translate("views", tool.text), this);
-        action->setObjectName(tool.id.toString());
-        widgets::setIcon(action, tool.icon);
-        const bool available = tool.form.isEmpty() || context().screens.has(tool.form);
-        const QString toolTip = QCoreApplication::translate("views", tool.toolTip);
-        action->setEnabled(available);
-        action->setToolTip(available ? toolTip : tr("%1\nNot available yet").arg(toolTip));
-        action->setShortcut(tool.key);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, [this, perform = tool.perform] { (this->*perform)(); });
-        addAction(action);
-        bar->addAction(action);
-    }
-    m_find = widgets::child<QAction>(this, u"Find"_s);
-    m_advanced = widgets::child<QAction>(this, u"Advanced"_s);
-    m_find->setCheckable(true);
-    return bar;
+    const auto on = [this](QStringView id, auto perform) {
+        connect(m_tools->action(id), &QAction::triggered, this, perform);
+    };
+    m_tools->action(u"Find")->setCheckable(true);
+    on(u"Find", [this](bool shown) { m_filter->setFindVisible(shown); });
+    on(u"Advanced", [this] { showKeyword(Frame3->isHidden()); });
+    on(u"Refresh", [this] { list(contactsByNameSql()); });
+    on(u"Search5", [this] { showTree(u"Category"_s); });
+    on(u"Search6", [this] { showTree(u"Location"_s); });
+    on(u"Close", &FormSearch::closeRequested);
 }
 
 QWidget* FormSearch::layOutKeyword()
@@ -199,9 +219,9 @@ QWidget* FormSearch::layOutFoot()
     widgets::setIcon(SSCommand3, u"search");
     cmdgo->setObjectName(u"cmdgo"_s);
     widgets::setIcon(cmdgo, u"next");
-    cmdgo->setEnabled(m_hits->open()->isEnabled());
-    cmdgo->setToolTip(
-        cmdgo->isEnabled() ? tr("Go to the contact (Enter, double click)") : m_hits->open()->toolTip());
+    cmdgo->setEnabled(m_hits->action(u"OpenHit")->isEnabled());
+    cmdgo->setToolTip(cmdgo->isEnabled() ? tr("Go to the contact (Enter, double click)")
+                                         : m_hits->action(u"OpenHit")->toolTip());
     CmdHelp->setObjectName(u"CmdHelp"_s);
     widgets::setIcon(CmdHelp, u"help");
     auto* foot = new QWidget;
@@ -251,17 +271,17 @@ void FormSearch::connectControls()
         onKey(Qt::Key_Escape, within, [this] { showKeyword(false); });
     onKey(Qt::Key_Down, txtkey, [this] { enterGrid(); });
     connect(Option1, &QRadioButton::toggled, this, &FormSearch::formatGrid);
-    connect(cmdgo, &QPushButton::clicked, m_hits->open(), &QAction::trigger);
+    connect(cmdgo, &QPushButton::clicked, m_hits->action(u"OpenHit"), &QAction::trigger);
     connect(CmdHelp, &QPushButton::clicked, this, [this] { showHelp(u"CON0024"_s, CmdHelp); });
     for (widgets::HeadingGrid* each : {FG1, GridKey}) {
-        connect(each, &widgets::HeadingGrid::chosen, m_hits->open(), &QAction::trigger);
+        connect(each, &widgets::HeadingGrid::chosen, m_hits->action(u"OpenHit"), &QAction::trigger);
         connect(each, &widgets::HeadingGrid::currentRowChanged, this, [this, each](int row) {
             if (each == grid()) // the hidden one may be read anew
                 rowChanged(row);
         });
         connect(each, &QWidget::customContextMenuRequested, this, [this, each](const QPoint& at) {
             if (each->currentRow() >= 0)
-                m_hits->menu()->popup(each->viewport()->mapToGlobal(at));
+                m_hitMenu->popup(each->viewport()->mapToGlobal(at));
         });
     }
 }
@@ -285,40 +305,10 @@ void FormSearch::bookChanged()
         queryKeyword(m_keywordSql);
 }
 
-void FormSearch::find()
+void FormSearch::showTree(const QString& kind)
 {
-    m_filter->setFindVisible(m_find->isChecked());
-}
-
-void FormSearch::refreshByName()
-{
-    list(contactsByNameSql());
-}
-
-void FormSearch::toggleKeyword()
-{
-    showKeyword(Frame3->isHidden());
-}
-
-void FormSearch::phoneSearch()
-{
-    context().screens.show(u"FrmPhSearch");
-}
-
-void FormSearch::categoryTree()
-{
-    showTree(treeSearchTitle(TreeKind::Category));
-}
-
-void FormSearch::locationTree()
-{
-    showTree(treeSearchTitle(TreeKind::Location));
-}
-
-void FormSearch::showTree(const QString& title)
-{
-    if (core::Screen* tree = context().screens.load(u"FormTree2"))
-        tree->setWindowTitle(title);
+    if (auto* tree = context().screens.load<core::PageScreen>(u"FormTree2"))
+        tree->openPage(kind);
     context().screens.show(u"FormTree2");
 }
 
@@ -410,7 +400,7 @@ void FormSearch::enterGrid()
 void FormSearch::showKeyword(bool on)
 {
     Frame3->setVisible(on);
-    m_advanced->setText(on ? tr("Hide") : tr("Advanced"));
+    m_tools->action(u"Advanced")->setText(on ? tr("Hide") : tr("Advanced"));
     if (on) {
         txtkey->setFocus();
         txtkey->selectAll();

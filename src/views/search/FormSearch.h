@@ -2,15 +2,19 @@
 
 #include "core/screen.h"
 
-class QAction;
 class QFrame;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPushButton;
 class QRadioButton;
 class QStackedWidget;
 class QTimer;
-class QToolBar;
+
+namespace core {
+class ContactTools;
+class ToolSet;
+} // namespace core
 
 namespace widgets {
 class HeadingGrid;
@@ -18,7 +22,6 @@ class HeadingGrid;
 
 namespace views {
 
-class HitActions;
 class SearchFilter;
 
 /// Finds contacts: a list narrowed by what is chosen in combos, and another of those that have a word in any
@@ -35,22 +38,13 @@ public:
     QString builtSql; ///< the statement behind the list of contacts
 
 private:
-    struct Tool;
-    static const Tool kTools[];
-
-    QToolBar* layOutTools();
+    void connectTools();
     QWidget* layOutKeyword();
     QWidget* layOutResults();
     QWidget* layOutFoot();
     void connectControls();
 
-    void find();
-    void refreshByName();
-    void toggleKeyword();
-    void phoneSearch();
-    void categoryTree();
-    void locationTree();
-    void showTree(const QString& title);
+    void showTree(const QString& kind);
 
     void applyChoices();
     void applyNames();
@@ -73,7 +67,9 @@ private:
     QString m_word; ///< whose hits they are
 
     SearchFilter* m_filter;
-    HitActions* m_hits;
+    core::ToolSet* m_tools;
+    core::ContactTools* m_hits;
+    QMenu* m_hitMenu;
     widgets::HeadingGrid* FG1;
     widgets::HeadingGrid* GridKey;
     QStackedWidget* m_grids;
@@ -86,8 +82,6 @@ private:
     QPushButton* cmdgo;
     QPushButton* CmdHelp;
     QLabel* m_count;
-    QAction* m_find = nullptr;
-    QAction* m_advanced = nullptr;
 };
 
 } // namespace views

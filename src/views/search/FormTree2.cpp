@@ -1,10 +1,9 @@
 #include "views/search/FormTree2.h"
 
-#include "views/search/hit_actions.h"
+#include "core/contact_tool_table.h"
 #include "views/search/place_tree.h"
 #include "views/search/result_detail.h"
 #include "widgets/heading_grid.h"
-#include "widgets/theme.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -29,13 +28,33 @@ namespace {
 constexpr int kTreeWidth = 260;
 constexpr int kDetailHeight = 260;
 
+constexpr core::Tool kTools[] = {
+    {.id = u"Name",
+        .icon = u"persons",
+        .text = QT_TRANSLATE_NOOP("views", "Name"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "View the results by name"),
+        .places = core::Tool::Labelled},
+    {.id = u"Category",
+        .icon = u"category",
+        .text = QT_TRANSLATE_NOOP("views", "Category"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "View the results by category"),
+        .places = core::Tool::Labelled},
+    {.id = u"close",
+        .icon = u"exit",
+        .text = QT_TRANSLATE_NOOP("views", "Close"),
+        .toolTip = QT_TRANSLATE_NOOP("views", "Close the search"),
+        .places = core::Tool::Labelled | core::Tool::GroupStart},
+};
+
 } // namespace
 
 FormTree2::FormTree2(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_hits(new HitActions(
-          context, [this] { return currentId(); }, this))
-    , m_menu(m_hits->menu())
+    , m_tools(new core::ToolSet(context.screens, {kTools, "views"}, this))
+    , m_hits(new core::ContactTools(context, core::hitTools(),
+          {.callerForm = u"FormTree2"_s, .chosen = [this] { return currentContact(); }, .saysNone = false},
+          this))
+    , m_menu(m_hits->makeMenu(u"HitMenu"_s, this))
     , FG1(new widgets::HeadingGrid)
     , m_detail(new ResultDetail(context.services.drive))
     , Option1(new QRadioButton(tr("Category")))
@@ -58,51 +77,28 @@ FormTree2::FormTree2(core::Context& context, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    makeTools();
-    if (!parent)
-        layout->addWidget(layOutTools());
+    if (!parent) {
+        QToolBar* bar = m_tools->makeToolBar(this);
+        bar->setObjectName(u"SSActiveToolBars1"_s);
+        layout->addWidget(bar);
+    }
     layout->addWidget(splitter, 1);
+    connectTools();
     connectControls();
     setFocusProxy(SSTree1 ? static_cast<QWidget*>(SSTree1) : FG1);
 }
 
-void FormTree2::makeTools()
+void FormTree2::connectTools()
 {
-    const auto tool
-        = [this](const QString& id, QStringView icon, const QString& text, const QString& toolTip) {
-              auto* action = new QAction(text, this);
-              action->setObjectName(id);
-              action->setToolTip(toolTip);
-              widgets::setIcon(action, icon);
-              return action;
-          };
-    m_byName = tool(u"Name"_s, u"persons", tr("Name"), tr("View the results by name"));
-    m_byCategory = tool(u"Category"_s, u"category", tr("Category"), tr("View the results by category"));
     auto* views = new QActionGroup(this);
-    for (QAction* action : {m_byName, m_byCategory}) {
-        action->setCheckable(true);
-        views->addAction(action);
+    for (const auto& [id, option] : {std::pair(u"Name", Option2), std::pair(u"Category", Option1)}) {
+        QAction* tool = m_tools->action(id);
+        tool->setCheckable(true);
+        tool->setChecked(option->isChecked());
+        views->addAction(tool);
+        connect(tool, &QAction::triggered, option, [option = option] { option->setChecked(true); });
     }
-    m_byCategory->setChecked(true);
-    m_close = tool(u"close"_s, u"exit", tr("Close"), tr("Close the search"));
-    connect(m_close, &QAction::triggered, this, &FormTree2::closeRequested);
-}
-
-QToolBar* FormTree2::layOutTools()
-{
-    auto* bar = new QToolBar;
-    bar->setObjectName(u"SSActiveToolBars1"_s);
-    bar->setIconSize({20, 20});
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->addActions({m_byName, m_byCategory});
-    bar->addSeparator();
-    bar->addAction(m_close);
-    return bar;
-}
-
-QList<QAction*> FormTree2::tools() const
-{
-    return {m_byName, m_byCategory, m_close};
+    connect(m_tools->action(u"close"), &QAction::triggered, this, &FormTree2::closeRequested);
 }
 
 QWidget* FormTree2::layOutResults()
@@ -157,13 +153,11 @@ QWidget* FormTree2::layOutFoot()
 
 void FormTree2::connectControls()
 {
-    connect(m_byName, &QAction::triggered, Option2, [this] { Option2->setChecked(true); });
-    connect(m_byCategory, &QAction::triggered, Option1, [this] { Option1->setChecked(true); });
     connect(Option1, &QRadioButton::toggled, this, &FormTree2::viewChanged);
     connect(FG1, &widgets::HeadingGrid::currentRowChanged, this, &FormTree2::rowChanged);
     // Also the row that has been current all along: another list may have been chosen from meanwhile.
     connect(FG1, &widgets::HeadingGrid::clicked, this, &FormTree2::select);
-    connect(FG1, &widgets::HeadingGrid::chosen, m_hits->open(), &QAction::trigger);
+    connect(FG1, &widgets::HeadingGrid::chosen, m_hits->action(u"OpenHit"), &QAction::trigger);
     connect(FG1, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         if (FG1->currentRow() >= 0)
             m_menu->popup(FG1->viewport()->mapToGlobal(at));
@@ -175,8 +169,16 @@ void FormTree2::connectControls()
     }
 }
 
-// Alone it waits for its caption, which is set before it is shown.
+// Alone it waits until it is told the kind of its tree, which it is before it is shown.
 void FormTree2::load() { }
+
+void FormTree2::openPage(const QString& page)
+{
+    m_kind = page == u"Location" ? TreeKind::Location : TreeKind::Category;
+    setWindowTitle(treeSearchTitle(m_kind));
+    if (SSTree1 && isVisible())
+        showTree();
+}
 
 void FormTree2::showNode(TreeKind kind, const QStringList& path)
 {
@@ -226,24 +228,15 @@ void FormTree2::showEvent(QShowEvent* event)
         return QWidget::showEvent(event);
     Screen::showEvent(event);
     if (!event->spontaneous())
-        followCaption();
+        showTree();
 }
 
-void FormTree2::changeEvent(QEvent* event)
+void FormTree2::showTree()
 {
-    Screen::changeEvent(event);
-    if (event->type() == QEvent::WindowTitleChange && isVisible() && SSTree1)
-        followCaption();
-}
-
-void FormTree2::followCaption()
-{
-    const TreeKind kind
-        = windowTitle() == treeSearchTitle(TreeKind::Location) ? TreeKind::Location : TreeKind::Category;
-    if (SSTree1->topLevelItemCount() > 0 && kind == SSTree1->kind())
+    if (SSTree1->topLevelItemCount() > 0 && m_kind == SSTree1->kind())
         return;
-    SSTree1->build(kind);
-    showNode(kind, {});
+    SSTree1->build(m_kind);
+    showNode(m_kind, {});
 }
 
 ViewBy FormTree2::view() const
@@ -295,7 +288,7 @@ void FormTree2::select()
 
 void FormTree2::viewChanged()
 {
-    (Option1->isChecked() ? m_byCategory : m_byName)->setChecked(true);
+    m_tools->action(Option1->isChecked() ? u"Category" : u"Name")->setChecked(true);
     refresh();
 }
 

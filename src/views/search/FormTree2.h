@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/contact_tools.h"
+#include "core/handover/page_screen.h"
 #include "core/screen.h"
 #include "views/search/tree_search_sql.h"
 
@@ -9,7 +11,6 @@ class QAction;
 class QLabel;
 class QMenu;
 class QRadioButton;
-class QToolBar;
 
 namespace widgets {
 class HeadingGrid;
@@ -17,13 +18,12 @@ class HeadingGrid;
 
 namespace views {
 
-class HitActions;
 class PlaceTree;
 class ResultDetail;
 
 /// The contacts that a search or a node of a tree gives, with a panel about the current one. It is the result
-/// pane of the advanced search, and alone a screen with a tree of its own, whose kind its caption tells.
-class FormTree2 : public core::Screen {
+/// pane of the advanced search, and alone a screen with a tree of its own, by location or category.
+class FormTree2 : public core::Screen, public core::PageScreen {
     Q_OBJECT
 
 public:
@@ -32,6 +32,8 @@ public:
 
     void load() override;
     void bookChanged() override;
+    /// "Location" or "Category": the kind of its own tree.
+    void openPage(const QString& page) override;
 
     void showNode(TreeKind kind, const QStringList& path);
     void showFound(const QString& whereClause);
@@ -40,23 +42,21 @@ public:
     void refresh();
 
     qint64 currentId() const;
-    QString currentName() const { return m_name; }
+    core::ChosenContact currentContact() const { return {currentId(), currentId(), m_name}; }
     /// The menu of a row, in place of its own.
     void setRowMenu(QMenu* menu) { m_menu = menu; }
     /// For the tool bar of the screen that it is a pane of; alone it has its own.
-    QList<QAction*> tools() const;
+    core::ToolSet* tools() const { return m_tools; }
     /// A tool whose key works in the grid.
     void addRowAction(QAction* action);
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     using Filter = std::function<ResultQuery(ViewBy)>;
 
-    void makeTools();
-    QToolBar* layOutTools();
+    void connectTools();
     QWidget* layOutResults();
     QWidget* layOutFoot();
     void connectControls();
@@ -67,12 +67,14 @@ private:
     void rowChanged(int row);
     void select();
     void viewChanged();
-    void followCaption();
+    void showTree();
 
     Filter m_last;
     QString m_name; ///< of the current contact
 
-    HitActions* m_hits;
+    TreeKind m_kind = TreeKind::Category; ///< alone only
+    core::ToolSet* m_tools;
+    core::ContactTools* m_hits;
     QMenu* m_menu;
     PlaceTree* SSTree1 = nullptr; ///< alone only
     widgets::HeadingGrid* FG1;
@@ -80,9 +82,6 @@ private:
     QRadioButton* Option1;
     QRadioButton* Option2;
     QLabel* lblcount;
-    QAction* m_byName = nullptr;
-    QAction* m_byCategory = nullptr;
-    QAction* m_close = nullptr;
 };
 
 } // namespace views

@@ -143,11 +143,6 @@ QString contactsByNameSql()
     return u"SELECT * FROM CNT_Main order by name"_s;
 }
 
-QString hitSql(qint64 id)
-{
-    return u"select id,name from cnt_main where id="_s + QString::number(id);
-}
-
 QStringList searchLists()
 {
     QStringList combos;

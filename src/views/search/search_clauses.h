@@ -37,7 +37,6 @@ QString keywordHitsSql(const QString& keyword);
 
 QString contactsByCategorySql(); ///< what both grids show first
 QString contactsByNameSql();
-QString hitSql(qint64 id); ///< id and name of one contact
 
 /// The values behind one of the combos, by its name; the subcategories are those of the category chosen.
 QStringList searchLists();

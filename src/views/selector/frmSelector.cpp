@@ -1,10 +1,12 @@
 #include "views/selector/frmSelector.h"
 
+#include "core/contact_lookups.h"
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
 #include "core/frame.h"
 #include "views/selector/quick_combos.h"
 #include "views/selector/selector_list.h"
 #include "views/selector/selector_page.h"
-#include "views/selector/selector_tools.h"
 #include "widgets/alphabet_tabs.h"
 #include "widgets/heading_grid.h"
 #include "widgets/theme.h"
@@ -59,9 +61,13 @@ QToolButton* button(const QString& name, QStringView icon, const QString& text, 
 
 frmSelector::frmSelector(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_tools(new SelectorTools(context,
+    , m_tools(new core::ContactTools(context, core::selectorTools(),
           {.callerForm = kForm.toString(),
-              .currentId = [this] { return FG1->currentKey(); },
+              .chosen =
+                  [this] {
+                      return core::ChosenContact{FG1->currentKey(), FG1->currentKey()};
+                  },
+              .sounds = true,
               .beforeFilter =
                   [this] {
                       setAllChoices();
@@ -128,10 +134,10 @@ QWidget* frmSelector::layOutTools()
     bar->addWidget(space);
     bar->addWidget(CmdFilter);
     bar->addWidget(CmdView);
-    CmdFilter->setMenu(m_tools->makeFilterMenu(this));
+    CmdFilter->setMenu(m_tools->makeMenu(u"FilterMenu"_s, this, core::Tool::FilterMenu));
     CmdFilter->setPopupMode(QToolButton::MenuButtonPopup);
     CmdFilter->setEnabled(m_tools->action(u"ID_Filter")->isEnabled());
-    CmdView->setMenu(m_tools->makeMenu(this));
+    CmdView->setMenu(m_tools->makeMenu(u"Menu"_s, this));
     CmdView->setPopupMode(QToolButton::MenuButtonPopup);
     return bar;
 }
@@ -228,9 +234,9 @@ void frmSelector::connectControls()
     });
     connect(CmdView, &QToolButton::clicked, CmdView, &QToolButton::showMenu);
     connect(CmdFilter, &QToolButton::clicked, m_tools->action(u"ID_Filter"), &QAction::trigger);
-    connect(m_tools, &SelectorTools::contactDeleted, this, &frmSelector::forget);
-    connect(m_tools, &SelectorTools::simpleWanted, this, [this] { setSimple(true); });
-    connect(m_tools, &SelectorTools::detailsWanted, this, [this] { setSimple(false); });
+    connect(m_tools, &core::ContactTools::contactDeleted, this, &frmSelector::forget);
+    connect(m_tools->action(u"Simple"), &QAction::triggered, this, [this] { setSimple(true); });
+    connect(m_tools->action(u"Details"), &QAction::triggered, this, [this] { setSimple(false); });
 }
 
 // Ids and names are all that is read: no combo is filled and no contact is shown before somebody asks.
@@ -258,8 +264,7 @@ void frmSelector::showEvent(QShowEvent* event)
 
 bool frmSelector::showContact(qint64 id)
 {
-    const jet::Recordset contact
-        = context().data.openRecordset(u"select id,name from cnt_main where id=%1"_s.arg(id));
+    const jet::Recordset contact = context().data.openRecordset(core::contactNameSql(id));
     if (id == 0 || !contact.hasRow())
         return false;
     if (FG1->rowOf(id) < 0) {

@@ -11,6 +11,10 @@ class QTabBar;
 class QToolBar;
 class QToolButton;
 
+namespace core {
+class ContactTools;
+}
+
 namespace widgets {
 class AlphabetTabs;
 class HeadingGrid;
@@ -20,7 +24,6 @@ namespace views {
 
 class QuickCombos;
 class SelectorPage;
-class SelectorTools;
 
 /// The standing list of all contacts, by letters and in several orders, beside a page that shows the contact
 /// chosen. The other screens that need a contact use the one that was last chosen here.
@@ -70,7 +73,7 @@ private:
     QString m_clause; ///< of the quick combos or of a filter, without its leading word
     bool m_simple = false;
 
-    SelectorTools* m_tools;
+    core::ContactTools* m_tools;
     QTabBar* SSActiveTabs1;
     widgets::AlphabetTabs* Tabs1;
     QuickCombos* Frame1;

@@ -1,12 +1,12 @@
 #include "views/selector/frmSelector1.h"
 
-#include "views/contact_tools.h"
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
 #include "views/full_view/full_view_sql.h"
 #include "views/search/FormTree2.h"
 #include "views/search/place_tree.h"
 #include "views/selector/name_choices_panel.h"
 #include "views/selector/picture_pane.h"
-#include "views/selector/selector_tools.h"
 #include "views/selector/tree_choices_panel.h"
 
 #include <QAction>
@@ -59,15 +59,16 @@ const std::array<frmSelector1::Tab, 5> frmSelector1::kTabs{{
 
 frmSelector1::frmSelector1(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_tools(new SelectorTools(context,
+    , m_tools(new core::ContactTools(context, core::selectorTools(),
           {.callerForm = u"frmSelector1"_s,
-              .currentId = [this] { return m_results->currentId(); },
+              .chosen = [this] { return m_results->currentContact(); },
+              .sounds = true,
               .beforeFilter = [this] { resetChoices(); }},
           this))
-    , m_contactTools(new ContactTools(context,
+    , m_contactTools(new core::ContactTools(context, core::viewTools(),
           {.callerForm = u"frmSelector1"_s,
-              .shownId = [this] { return m_results->currentId(); },
-              .listedId = [this] { return m_results->currentId(); }},
+              .chosen = [this] { return m_results->currentContact(); },
+              .needsName = false},
           this))
     , SSActiveTabs1(new QTabBar)
     , m_panes(new QStackedWidget)
@@ -109,7 +110,7 @@ QToolBar* frmSelector1::layOutTools()
     }
     m_contactTools->addTo(bar, without);
     bar->addSeparator();
-    bar->addActions(m_results->tools());
+    m_results->tools()->addTo(bar);
     for (QAction* tool : bar->actions().mid(1)) {
         if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(tool)))
             button->setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -123,17 +124,14 @@ void frmSelector1::makeTools()
 {
     for (const QStringView id : {u"Edit", u"Delete"})
         m_results->addRowAction(m_tools->action(id));
-    QMenu* row = m_tools->makeMenu(this);
+    QMenu* row = m_tools->makeMenu(u"Menu"_s, this);
     m_results->setRowMenu(row);
-    QMenu* thumbnail = m_tools->makeMenu(this);
-    thumbnail->setObjectName(u"MenuThumb"_s);
-    for (QMenu* menu : {row, thumbnail})
+    QMenu* thumbnail = m_tools->makeMenu(u"MenuThumb"_s, this);
+    for (QMenu* menu : {row, thumbnail}) {
         m_contactTools->addTo(menu, kSameTools);
+        m_contactTools->addReplaceMenu(menu);
+    }
     m_pictures->setMenu(thumbnail);
-    QAction* search = m_contactTools->action(u"Search");
-    search->setShortcut(QKeySequence::Find);
-    search->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(search);
 }
 
 QWidget* frmSelector1::layOutSearch()
@@ -172,10 +170,10 @@ void frmSelector1::connectControls()
         [this](const QString& keyword) { m_results->showFound(keywordClause(keyword)); });
     connect(m_pictures, &PicturePane::contactChosen, m_results, &FormTree2::showThumbnail);
     connect(m_results, &FormTree2::closeRequested, this, &frmSelector1::closeRequested);
-    connect(m_tools, &SelectorTools::contactDeleted, m_results, &FormTree2::refresh);
-    connect(m_tools, &SelectorTools::simpleWanted, this, [this] { showAlone(true); });
-    connect(m_tools, &SelectorTools::detailsWanted, this, [this] { showAlone(false); });
-    connect(m_contactTools, &ContactTools::searchWanted, this, &frmSelector1::openKeyword);
+    connect(m_tools, &core::ContactTools::contactDeleted, m_results, &FormTree2::refresh);
+    connect(m_tools->action(u"Simple"), &QAction::triggered, this, [this] { showAlone(true); });
+    connect(m_tools->action(u"Details"), &QAction::triggered, this, [this] { showAlone(false); });
+    connect(m_contactTools->action(u"Search"), &QAction::triggered, this, &frmSelector1::openKeyword);
 }
 
 // The first tab is entered when the screen is seen, for it may be opened on another one.

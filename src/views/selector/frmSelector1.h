@@ -13,14 +13,16 @@ class QStackedWidget;
 class QTabBar;
 class QToolBar;
 
+namespace core {
+class ContactTools;
+}
+
 namespace views {
 
-class ContactTools;
 class FormTree2;
 class NameChoicesPanel;
 class PicturePane;
 class PlaceTree;
-class SelectorTools;
 class TreeChoicesPanel;
 
 /// The advanced search: by the tree of locations or categories, by names, by a choice for each of many
@@ -66,8 +68,8 @@ private:
     bool m_wide = false; ///< the pictures have the larger half
     QList<int> m_otherSizes{500, 500}; ///< of the splitter when the other way is taken
 
-    SelectorTools* m_tools;
-    ContactTools* m_contactTools;
+    core::ContactTools* m_tools;
+    core::ContactTools* m_contactTools;
     QList<QAction*> m_pageTools; ///< those that are out of sight with the search
     QTabBar* SSActiveTabs1;
     QStackedWidget* m_panes;

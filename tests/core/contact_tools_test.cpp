@@ -1,5 +1,6 @@
+#include "core/contact_tool_table.h"
+#include "core/contact_tools.h"
 #include "support/screen_fixture.h"
-#include "views/contact_tools.h"
 #include "views/filters/FrmFind.h"
 #include "widgets/fields.h"
 
@@ -7,9 +8,8 @@
 #include <QtWidgets>
 
 using namespace Qt::StringLiterals;
-using namespace views;
 
-/// Each tool of the full view hands the contact to its screen, or says that there is none.
+/// Each tool hands the contact of its screen to another one, or says that there is none.
 class ContactToolsTest : public QObject {
     Q_OBJECT
 
@@ -21,17 +21,17 @@ private Q_SLOTS:
     void handsOver();
     void nothingSelected_data();
     void nothingSelected();
-    void firstOfTwoWithOneName();
-    void apostropheMeansNotSelected();
-    void idTellsEqualNamesApart();
+    void goesByTheNameWhereItIsTold();
+    void goesByTheIdElsewhere();
     void findAndReplaceKnowsItsTable();
-    void mailGoesToTheContact();
     void noShortMessageWithoutANumber();
-    void detailViewOpensThePageOfTheSelector();
-    void editDetailsGoesByTheRow();
-    void editDetailsOfAContactThatIsGone();
-    void filtersComeBackToTheCaller_data();
-    void filtersComeBackToTheCaller();
+    void hitGoesToThePageOfTheSelector();
+    void editOfAContact_data();
+    void editOfAContact();
+    void deleteAsks_data();
+    void deleteAsks();
+    void filterComesBackToTheCaller_data();
+    void filterComesBackToTheCaller();
     void cardsGoToTheirFolders();
     void nameThatIsNoFileName();
     void cardsOfManyCanBeStopped();
@@ -39,31 +39,34 @@ private Q_SLOTS:
     void printRecordLeavesTheRequest();
 
 private:
-    ContactTools& tools();
+    enum Kind { View, Selector, Hits };
+
+    core::ContactTools& tools(Kind kind = View);
     QStringList filesIn(const QString& folder) const
     {
         return QDir(m_fixture->drive.local(folder)).entryList(QDir::Files);
     }
-    void trigger(const QString& id) { tools().action(id)->trigger(); }
+    void trigger(const QString& id, Kind kind = View) { tools(kind).action(id)->trigger(); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
     std::unique_ptr<QWidget> m_screen;
     QString m_name;
-    qint64 m_listed = 0;
-    bool m_byName = true; ///< the screen tells the name
+    qint64 m_id = 0;
+    bool m_tellsName = true;
+    QStringList m_events;
 };
 
 void ContactToolsTest::init()
 {
     m_screen.reset();
     m_fixture = std::make_unique<support::ScreenFixture>();
-    m_fixture->execute(u"insert into cnt_main (Name, Sms) values ('Ann', '98')"_s);
-    m_fixture->execute(u"insert into cnt_main (Name) values ('Bob')"_s);
-    m_fixture->execute(u"insert into cnt_main (Name) values ('Ann')"_s);
+    for (const QString& values : {u"'Ann', '98'"_s, u"'Bob', null"_s, u"'Ann', null"_s, u"' ', null"_s})
+        m_fixture->execute(u"insert into cnt_main (Name, Sms) values (%1)"_s.arg(values));
     m_fixture->execute(u"insert into ov_setup ([key]) values ('')"_s);
     m_name = u"Bob"_s;
-    m_listed = 2;
-    m_byName = true;
+    m_id = 2;
+    m_tellsName = true;
+    m_events.clear();
 }
 
 void ContactToolsTest::cleanup()
@@ -71,19 +74,29 @@ void ContactToolsTest::cleanup()
     QCOMPARE(m_fixture->verify(), QString());
 }
 
-/// Made at the first use, when the targets of the test are known.
-ContactTools& ContactToolsTest::tools()
+/// Made at the first use, when the targets of the test are known: one screen with one kind of tools.
+core::ContactTools& ContactToolsTest::tools(Kind kind)
 {
     if (!m_screen) {
         m_screen = std::make_unique<QWidget>();
-        new ContactTools(m_fixture->context,
+        const core::ToolTable tables[] = {core::viewTools(), core::selectorTools(), core::hitTools()};
+        auto* made = new core::ContactTools(m_fixture->context, tables[kind],
             {.callerForm = u"FullView"_s,
-                .shownId = [this] { return m_listed; },
-                .listedId = [this] { return m_listed; },
-                .shownName = m_byName ? [this] { return m_name; } : std::function<QString()>()},
+                .chosen =
+                    [this] {
+                        return core::ChosenContact{m_id, m_id, m_name};
+                    },
+                .tellsName = kind == View && m_tellsName,
+                .needsName = kind != View,
+                .saysNone = kind != Hits,
+                .sounds = kind == Selector,
+                .beforeFilter
+                = [this] { m_events << u"reset before "_s + m_fixture->frame.placed.join(u","_s); }},
             m_screen.get());
+        connect(made, &core::ContactTools::contactDeleted, this,
+            [this](qint64 gone) { m_events << u"gone "_s + QString::number(gone); });
     }
-    return *m_screen->findChild<ContactTools*>();
+    return *m_screen->findChild<core::ContactTools*>();
 }
 
 void ContactToolsTest::toolWithoutItsScreenIsDisabled()
@@ -99,109 +112,122 @@ void ContactToolsTest::toolWithoutItsScreenIsDisabled()
 
 void ContactToolsTest::handsOver_data()
 {
+    QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("form");
-    QTest::newRow("brief view") << u"BriefView"_s << u"FrmContacts"_s;
-    QTest::newRow("linked records") << u"ViewLinkedItem"_s << u"frmCntViewer"_s;
-    QTest::newRow("dialer") << u"Call"_s << u"FrmDialer"_s;
-    QTest::newRow("letter") << u"Letter"_s << u"FrmLetter"_s;
-    QTest::newRow("full form") << u"EditDetails"_s << u"FormMain"_s;
+    const auto row = [](Kind kind, const QString& id, const QString& form) {
+        QTest::newRow(qPrintable(id + u" of kind "_s + QString::number(kind))) << int(kind) << id << form;
+    };
+    row(View, u"BriefView"_s, u"FrmContacts"_s);
+    row(View, u"ViewLinkedItem"_s, u"frmCntViewer"_s);
+    row(View, u"Call"_s, u"FrmDialer"_s);
+    row(View, u"Letter"_s, u"FrmLetter"_s);
+    row(View, u"Email2"_s, u"FormEmail"_s);
+    row(View, u"DetailView"_s, u"frmSelector"_s);
+    row(View, u"EditDetails"_s, u"FormMain"_s);
+    row(Selector, u"Caller"_s, u"FrmDialer"_s);
+    row(Selector, u"ID_Ex"_s, u"FormEmail"_s);
+    row(Selector, u"Letter2"_s, u"FrmLetter"_s);
+    row(Selector, u"lrecord"_s, u"FrmLetterRecord"_s);
+    row(Selector, u"Edit"_s, u"FormMain"_s);
+    row(Hits, u"FullView"_s, u"FullView"_s);
+    row(Hits, u"Email2"_s, u"FormEmail"_s);
 }
 
 void ContactToolsTest::handsOver()
 {
+    QFETCH(int, kind);
     QFETCH(QString, id);
     QFETCH(QString, form);
     m_fixture->addTarget(form);
-    trigger(id);
-    QCOMPARE(m_fixture->target(form)->contacts, QList<qint64>{2});
+    trigger(id, Kind(kind));
+    const support::TargetScreen* target = m_fixture->target(form);
+    QCOMPARE(target->contacts + target->recipients, QList<qint64>{2});
+    QCOMPARE(m_fixture->shared.selectedContactId, 2);
+    QCOMPARE(m_fixture->shared.selectedContactName, u"Bob"_s);
     QCOMPARE(m_fixture->frame.placed, QStringList{form});
 }
 
 void ContactToolsTest::nothingSelected_data()
 {
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("form");
     handsOver_data();
-    QTest::newRow("mail") << u"Email2"_s << u"FormEmail"_s;
-    QTest::newRow("short message") << u"SMS"_s << u"frmSms"_s;
-    QTest::newRow("selector") << u"DetailView"_s << u"frmSelector"_s;
+    QTest::newRow("short message") << int(View) << u"SMS"_s << u"frmSms"_s;
+    QTest::newRow("delete") << int(Selector) << u"Delete"_s << u"FormMain"_s;
 }
 
+// None, and in a list one with a blank name; a search says nothing.
 void ContactToolsTest::nothingSelected()
 {
+    QFETCH(int, kind);
     QFETCH(QString, id);
     QFETCH(QString, form);
-    m_name.clear();
-    m_listed = 0;
     m_fixture->addTarget(form);
-    m_fixture->boxes.expect(u"Record not selected"_s);
-    trigger(id);
-    QCOMPARE(m_fixture->boxes.shown, QStringList{u"information: Record not selected"_s});
+    m_name.clear();
+    for (const qint64 chosen : {0, 4}) {
+        if (kind == View && chosen != 0)
+            break;
+        m_id = chosen;
+        if (kind != Hits)
+            m_fixture->boxes.expect(u"Record not selected"_s);
+        trigger(id, Kind(kind));
+    }
+    QCOMPARE(
+        m_fixture->boxes.shown.value(0), kind == Hits ? QString() : u"information: Record not selected"_s);
     QCOMPARE(m_fixture->frame.placed, QStringList());
     QVERIFY(!m_fixture->shared.EditRequested);
+    QCOMPARE(m_fixture->book.rows(u"select id from cnt_main"_s).size(), 4);
 }
 
-void ContactToolsTest::firstOfTwoWithOneName()
+// The first of two with one name; one with an apostrophe breaks the look-up.
+void ContactToolsTest::goesByTheNameWhereItIsTold()
 {
     m_name = u"Ann"_s;
+    m_id = 3;
     m_fixture->addTarget(u"FrmDialer"_s);
     trigger(u"Call"_s);
     QCOMPARE(m_fixture->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
     QCOMPARE(m_fixture->shared.selectedContactId, 1);
-}
-
-void ContactToolsTest::apostropheMeansNotSelected()
-{
     m_name = u"O'Brien"_s;
-    m_fixture->addTarget(u"FrmLetter"_s);
     m_fixture->book.expectFailure(u"O'Brien"_s);
     m_fixture->boxes.expect(u"Record not selected"_s);
-    trigger(u"Letter"_s);
+    trigger(u"Call"_s);
 }
 
-// A card, the pages, and in a screen that knows the row everything else.
-void ContactToolsTest::idTellsEqualNamesApart()
+// A card, the pages, and in a screen that does not tell the name everything else.
+void ContactToolsTest::goesByTheIdElsewhere()
 {
     m_fixture->execute(u"insert into cnt_main (Name, Company) values (\"O'Brien\", 'Right')"_s);
     m_fixture->addTarget(u"FrmContacts"_s);
     m_fixture->addTarget(u"FrmLetter"_s);
     m_name = u"O'Brien"_s;
-    m_listed = 4;
+    m_id = 5;
     m_fixture->boxes.expect(u"VCF File Saved on C:\\OVUserFiles\\VCF"_s);
     trigger(u"SaveasVCF"_s);
     QCOMPARE(filesIn(u"C:\\OVUserFiles\\VCF"_s), QStringList{u"O'Brien.vcf"_s});
     m_name = u"Ann"_s;
-    m_listed = 3;
+    m_id = 3;
     trigger(u"BriefView"_s);
     QCOMPARE(m_fixture->target(u"FrmContacts"_s)->contacts, QList<qint64>{3});
     m_screen.reset();
-    m_byName = false;
+    m_tellsName = false;
     trigger(u"Letter"_s);
     QCOMPARE(m_fixture->target(u"FrmLetter"_s)->contacts, QList<qint64>{3});
 }
 
 void ContactToolsTest::findAndReplaceKnowsItsTable()
 {
-    m_fixture->screens.add<FrmFind>(u"FrmFind"_s);
-    QMenu* menu = (tools(), m_screen->findChild<ContactTools*>()->makeMenu(m_screen.get()));
-    const QList<QAction*> rows = widgets::child<QMenu>(menu, u"MenuReplace"_s)->actions();
+    m_fixture->screens.add<views::FrmFind>(u"FrmFind"_s);
+    core::ContactTools& made = tools();
+    auto* menu = new QMenu(m_screen.get());
+    made.addReplaceMenu(menu);
     QStringList fields;
-    for (QAction* row : rows) {
+    for (QAction* row : widgets::child<QMenu>(menu, u"MenuReplace"_s)->actions()) {
         row->trigger();
         auto* combo = widgets::child<QComboBox>(m_fixture->screens.find(u"FrmFind"), u"Combo1"_s);
         fields << combo->itemText(0) + QString::number(combo->count());
         combo->window()->hide();
     }
     QCOMPARE(fields, (QStringList{u"Type5"_s, u"Date3"_s, u"Type5"_s, u"From29"_s}));
-}
-
-void ContactToolsTest::mailGoesToTheContact()
-{
-    m_fixture->addTarget(u"FormEmail"_s);
-    trigger(u"Email2"_s);
-    QCOMPARE(m_fixture->target(u"FormEmail"_s)->recipients, QList<qint64>{2});
-    QCOMPARE(m_fixture->frame.placed, QStringList{u"FormEmail"_s});
 }
 
 void ContactToolsTest::noShortMessageWithoutANumber()
@@ -214,47 +240,93 @@ void ContactToolsTest::noShortMessageWithoutANumber()
     QCOMPARE(m_fixture->target(u"frmSms"_s)->contacts, QList<qint64>{1});
 }
 
-void ContactToolsTest::detailViewOpensThePageOfTheSelector()
+// A book without the selector has the full view for it.
+void ContactToolsTest::hitGoesToThePageOfTheSelector()
 {
+    m_fixture->addTarget(u"FullView"_s);
+    trigger(u"OpenHit"_s, Hits);
+    QCOMPARE(m_fixture->target(u"FullView"_s)->contacts, QList<qint64>{2});
     m_fixture->addTarget(u"frmSelector"_s);
-    trigger(u"DetailView"_s);
-    QCOMPARE(m_fixture->shared.selectedContactId, 2);
-    QCOMPARE(m_fixture->target(u"frmSelector"_s)->pages, QStringList{u"Detail"_s});
+    trigger(u"OpenHit"_s, Hits);
+    QCOMPARE(m_fixture->target(u"frmSelector"_s)->pages, QStringList{u"Search"_s});
+    QCOMPARE(m_fixture->target(u"FullView"_s)->contacts, QList<qint64>{2});
 }
 
-void ContactToolsTest::editDetailsGoesByTheRow()
+void ContactToolsTest::editOfAContact_data()
 {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<bool>("known");
+    QTest::newRow("view") << int(View) << u"EditDetails"_s << true;
+    QTest::newRow("view, gone meanwhile") << int(View) << u"EditDetails"_s << false;
+    QTest::newRow("selector") << int(Selector) << u"Edit"_s << true;
+    QTest::newRow("selector, gone meanwhile") << int(Selector) << u"Edit"_s << false;
+}
+
+// By the row, whatever the name, and only a list can be heard.
+void ContactToolsTest::editOfAContact()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, id);
+    QFETCH(bool, known);
     m_name = u"Ann"_s;
-    m_listed = 3;
+    m_id = known ? 3 : 99;
     m_fixture->addTarget(u"FormMain"_s);
-    trigger(u"EditDetails"_s);
-    QCOMPARE(m_fixture->target(u"FormMain"_s)->contacts, QList<qint64>{3});
-    QVERIFY(m_fixture->shared.EditRequested);
+    dynamic_cast<support::TargetScreen*>(m_fixture->screens.load(u"FormMain"))->knowsContacts = known;
+    if (!known)
+        m_fixture->boxes.expect(u"Error"_s);
+    trigger(id, Kind(kind));
+    QCOMPARE(m_fixture->target(u"FormMain"_s)->contacts, QList<qint64>{m_id});
+    QCOMPARE(m_fixture->shared.EditRequested, known);
+    QCOMPARE(m_fixture->sounds.played.size(), known && kind == Selector ? 1 : 0);
 }
 
-void ContactToolsTest::editDetailsOfAContactThatIsGone()
+void ContactToolsTest::deleteAsks_data()
 {
-    m_fixture->addTarget(u"FormMain"_s);
-    dynamic_cast<support::TargetScreen*>(m_fixture->screens.load(u"FormMain"))->knowsContacts = false;
-    m_fixture->boxes.expect(u"Error"_s);
-    trigger(u"EditDetails"_s);
-    QVERIFY(!m_fixture->shared.EditRequested);
+    QTest::addColumn<bool>("yes");
+    QTest::addColumn<QString>("setup");
+    QTest::addColumn<QStringList>("mailCalls");
+    QTest::newRow("no") << false << u"true"_s << QStringList();
+    QTest::newRow("yes") << true << u"false"_s << QStringList();
+    QTest::newRow("yes, no settings") << true << QString() << QStringList();
+    QTest::newRow("yes, and from the mail client") << true << u"true"_s << QStringList{u"remove 2OV"_s};
 }
 
-void ContactToolsTest::filtersComeBackToTheCaller_data()
+void ContactToolsTest::deleteAsks()
 {
+    QFETCH(bool, yes);
+    QFETCH(QString, setup);
+    if (!setup.isEmpty())
+        m_fixture->execute(u"insert into cntb_setup (UpdOutllook) values (%1)"_s.arg(setup));
+    m_fixture->boxes.expect(u"Are you sure you want to delete this record?"_s,
+        yes ? platform::Answer::Yes : platform::Answer::No);
+    trigger(u"Delete"_s, Selector);
+    QCOMPARE(m_fixture->book.rows(u"select id from cnt_main"_s).contains(u"2"_s), !yes);
+    QTEST(m_fixture->mailContacts.calls, "mailCalls");
+    QCOMPARE(m_events, yes ? QStringList{u"gone 2"_s} : QStringList());
+    QCOMPARE(
+        m_fixture->sounds.played, yes ? QStringList{u"\\UserFiles\\Misc\\sound\\Del.wav"_s} : QStringList());
+}
+
+void ContactToolsTest::filterComesBackToTheCaller_data()
+{
+    QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("form");
-    QTest::newRow("filter") << u"CommonFilter"_s << u"frmFilter"_s;
-    QTest::newRow("tabs") << u"TabFilter"_s << u"frmTabFilter"_s;
+    QTest::newRow("view") << int(View) << u"CommonFilter"_s << u"frmFilter"_s;
+    QTest::newRow("selector") << int(Selector) << u"ID_Filter"_s << u"frmFilter"_s;
+    QTest::newRow("selector, menu") << int(Selector) << u"CommonFilter"_s << u"frmFilter"_s;
+    QTest::newRow("selector, tabs") << int(Selector) << u"TabFilter"_s << u"frmTabFilter"_s;
 }
 
-void ContactToolsTest::filtersComeBackToTheCaller()
+void ContactToolsTest::filterComesBackToTheCaller()
 {
+    QFETCH(int, kind);
     QFETCH(QString, id);
     QFETCH(QString, form);
     m_fixture->addTarget(form);
-    trigger(id);
+    trigger(id, Kind(kind));
+    QCOMPARE(m_events, QStringList{u"reset before "_s});
     QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
     QCOMPARE(m_fixture->frame.placed, QStringList{form + u" modally"_s});
 }
@@ -290,7 +362,7 @@ void ContactToolsTest::nameThatIsNoFileName()
     m_fixture->boxes.expect(refusal);
     trigger(u"SaveToDesktopAll"_s);
     QCOMPARE(filesIn(u"C:\\Desktop"_s).size(), 2);
-    m_listed = 4;
+    m_id = 5;
     m_fixture->boxes.expect(refusal);
     trigger(u"SaveasVCF"_s);
 }
