@@ -1,5 +1,6 @@
+#include "jet/catalog.h"
+
 #include "jet/same_name.h"
-#include "jet/translator.h"
 
 #include <bit>
 

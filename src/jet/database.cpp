@@ -2,6 +2,7 @@
 
 #include "jet/engine.h"
 #include "jet/recordset_data.h"
+#include "jet/stored_value.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -64,7 +65,7 @@ Database& Database::operator=(const Database&) = default;
 Database::OpenResult Database::open(const QString& path, Kind kind)
 {
     auto engine = std::make_shared<Engine>();
-    engine->takeHandlers(*m_engine);
+    engine->takeSettings(*m_engine);
     const OpenResult result = engine->open(path, kind);
     m_engine = std::move(engine);
     return result;
@@ -73,7 +74,7 @@ Database::OpenResult Database::open(const QString& path, Kind kind)
 void Database::close()
 {
     auto closed = std::make_shared<Engine>();
-    closed->takeHandlers(*m_engine);
+    closed->takeSettings(*m_engine);
     m_engine->close();
     m_engine = std::move(closed);
 }
@@ -97,6 +98,10 @@ void Database::setFailureHandler(FailureHandler handler)
 void Database::setWaitHandler(WaitHandler handler)
 {
     m_engine->setWaitHandler(std::move(handler));
+}
+void Database::setColumnsNeverEqualToNull(const QList<ColumnName>& columns)
+{
+    m_engine->setColumnsNeverEqualToNull(columns);
 }
 void Database::setLimits(const StatementLimits& limits)
 {
@@ -146,7 +151,7 @@ QString Database::state() const
         QString::number(sqlite3_total_changes(m_engine->connection())));
 }
 
-void Database::keepChanges(const QList<ChangeLabel>& labels)
+void Database::keepChanges(const QList<ColumnName>& labels)
 {
     m_engine->keepChanges(labels);
 }

@@ -58,6 +58,9 @@ public:
     void setFailureHandler(FailureHandler handler);
     /// Lets a window live while a write waits, up to five seconds, for another program.
     void setWaitHandler(WaitHandler handler);
+    /// Columns of which "<> null" never holds. Of any other it means "is not null". Like the handlers it
+    /// stays when another file is opened.
+    void setColumnsNeverEqualToNull(const QList<ColumnName>& columns);
     /// What one statement may take, for those who run statements of others. Program-wide for the memory.
     void setLimits(const StatementLimits& limits);
     /// Why the last write failed, or the first of a batch; nothing once a later one succeeded. Broken
@@ -68,9 +71,9 @@ public:
     QString state() const;
 
     /// From now on the last changes of all tables can be taken back, one statement, recordset update, batch
-    /// or Step after the other; see UndoLog. What a change is called stands in the first of the labelled
-    /// tables that it touched.
-    void keepChanges(const QList<ChangeLabel>& labels);
+    /// or Step after the other; see UndoLog. The labels are columns that hold what a person calls a row: a
+    /// change is called by the first of their tables that it touched.
+    void keepChanges(const QList<ColumnName>& labels);
     std::optional<ChangeStep> lastChange() const;
     std::optional<ChangeStep> lastUndone() const; ///< until the next change
     /// All of the step or nothing.

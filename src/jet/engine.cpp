@@ -1,12 +1,6 @@
 #include "jet/engine.h"
 
-#include "jet/letter_case.h"
-#include "jet/like_pattern.h"
-#include "jet/parser.h"
-
 #include <QLoggingCategory>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -16,74 +10,12 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcSql, "orvane.sql", QtCriticalMsg)
 
-constexpr qsizetype kLongestKeptText = 8 * 1024;
 /// So many rows of a search are read at once.
 constexpr size_t kFewRows = 256;
 /// To look at more rows than this part one by one takes as long as all of them in their order.
 constexpr size_t kWorthwhilePart = 4;
 
-ColumnType columnTypeOf(const QString& declared)
-{
-    static const QHash<QString, ColumnType> types{
-        {u"TEXT"_s, ColumnType::Text},
-        {u"MEMOTEXT"_s, ColumnType::Memo},
-        {u"DATETEXT"_s, ColumnType::Date},
-        {u"NUMBER"_s, ColumnType::Number},
-        {u"YESNOINT"_s, ColumnType::YesNo},
-        {u"INTEGER"_s, ColumnType::AutoNumber},
-    };
-    return types.value(declared.toUpper(), ColumnType::Unknown);
-}
-
-QString columnText(sqlite3_stmt* statement, int column)
-{
-    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
-        sqlite3_column_bytes(statement, column));
-}
-
-/// The literals of all patterns.
-std::vector<int> patternsOf(const TextFilter& filter)
-{
-    std::vector<int> literals;
-    if (filter.kind == TextFilter::Kind::Pattern)
-        literals.push_back(filter.literal);
-    for (const TextFilter& part : filter.parts) {
-        const std::vector<int> within = patternsOf(part);
-        literals.insert(literals.end(), within.begin(), within.end());
-    }
-    return literals;
-}
-
-QByteArray jsonList(const std::vector<sqlite3_int64>& numbers)
-{
-    QByteArray list = "[";
-    for (const sqlite3_int64 number : numbers) {
-        if (list.size() > 1)
-            list += ',';
-        list += QByteArray::number(qlonglong(number));
-    }
-    return list + ']';
-}
-
-QString lowered(QStringView name)
-{
-    return name.toString().toLower();
-}
-
 } // namespace
-
-Prepared::~Prepared()
-{
-    if (!m_statement)
-        return;
-    sqlite3_reset(m_statement);
-    sqlite3_clear_bindings(m_statement);
-    constexpr size_t kMostWaiting = 4;
-    if (m_pool && m_pool->size() < kMostWaiting)
-        m_pool->push_back(m_statement);
-    else
-        sqlite3_finalize(m_statement);
-}
 
 Engine::~Engine()
 {
@@ -108,30 +40,33 @@ Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
 /// Everything that hangs on the connection goes before it.
 void Engine::letGo()
 {
-    for (auto& cache : m_byText)
-        cache.clear();
-    for (auto& cache : m_byShape)
-        cache.clear();
-    m_tables.clear();
-    m_kept.clear();
-    *m_isOpen = false;
     m_search.reset();
     m_undo.reset();
+    m_plans.forget();
+    m_catalog.forget();
+    m_statements.stop();
 }
 
 void Engine::takeUp()
 {
-    m_isOpen = std::make_shared<bool>(true);
+    m_statements.serve(connection());
     m_search
         = std::make_unique<TextSearch>(connection(), m_file.isReadableAside() ? m_file.path() : QString());
     if (m_labels)
-        keepChanges(QList<ChangeLabel>(*m_labels));
+        keepChanges(QList<ColumnName>(*m_labels));
 }
 
-void Engine::takeHandlers(const Engine& other)
+void Engine::takeSettings(const Engine& other)
 {
     m_failureHandler = other.m_failureHandler;
     m_file.setWaitHandler(other.m_file.waitHandler());
+    m_catalog.setColumnsNeverEqualToNull(other.m_catalog.columnsNeverEqualToNull());
+}
+
+void Engine::setColumnsNeverEqualToNull(const QList<ColumnName>& columns)
+{
+    m_catalog.setColumnsNeverEqualToNull(columns);
+    forgetTables();
 }
 
 // ---- writing
@@ -278,7 +213,7 @@ bool Engine::endBatch(bool keep)
     return false;
 }
 
-// ---- translations
+// ---- selections
 
 std::optional<Request> Engine::request(QStringView sql, Way way)
 {
@@ -287,109 +222,34 @@ std::optional<Request> Engine::request(QStringView sql, Way way)
         return {};
     }
     m_file.startClock();
-    auto& byText = m_byText[size_t(way)];
-    const QString key = QString::fromRawData(sql.data(), sql.size());
-    if (const Request* kept = byText.object(key); kept && kept->plan->generation == m_generation)
-        return *kept;
-    Lexed lexed = lex(sql);
-    QString error = lexed.error;
-    Request result;
-    if (error.isEmpty())
-        result.plan = plan(lexed, way, &error);
-    if (!result.plan) {
+    QString error;
+    auto request = m_plans.request(sql, way, catalog(), &error);
+    if (!request)
         report(sql, error);
-        return {};
-    }
-    result.literals = std::make_shared<const std::vector<Literal>>(std::move(lexed.literals));
-    if (sql.size() <= kLongestKeptText)
-        byText.insert(sql.toString(), new Request(result));
-    return result;
+    return request;
 }
 
-std::shared_ptr<Plan> Engine::plan(const Lexed& lexed, Way way, QString* error)
+bool Engine::bind(sqlite3_stmt* statement, const std::vector<Slot>& slots,
+    const std::vector<Literal>& literals, const BoundTexts& texts)
 {
-    auto& byShape = m_byShape[size_t(way)];
-    if (const auto* kept = byShape.object(lexed.shape); kept && (*kept)->generation == m_generation)
-        return *kept;
-    const auto statement = parseStatement(lexed.tokens, error);
-    if (!statement)
-        return {};
-    auto translation = translate(*statement, catalog(), way, error);
-    if (!translation)
-        return {};
-    auto result = std::make_shared<Plan>(m_isOpen);
-    result->translation = std::move(*translation);
-    result->generation = m_generation;
-    if (lexed.shape.size() <= kLongestKeptText)
-        byShape.insert(lexed.shape, new std::shared_ptr<Plan>(result));
-    return result;
+    return bindValues(statement, slots, literals, texts, &m_refusal);
 }
 
-Prepared Engine::prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled)
+Prepared Engine::prepare(
+    const Request& request, const Piece& piece, StatementPool Plan::*pool, const BoundTexts& texts)
 {
-    // A recordset may outlive its file, and the statements in the pools of its plan ended with the file.
-    if (!isOpen())
+    Prepared result = m_statements.pooled(piece.sql, Plan::poolOf(request.plan, pool));
+    if (result && !bind(result.get(), piece.values, *request.literals, texts))
         return {};
-    if (pooled)
-        pool->serve(m_isOpen);
-    if (pooled && !pool->empty()) {
-        Prepared waiting(pool->back(), pool);
-        pool->pop_back();
-        return waiting;
-    }
-    const QByteArray utf8 = sql.toUtf8();
-    sqlite3_stmt* statement = nullptr;
-    const char* rest = nullptr;
-    if (sqlite3_prepare_v3(connection(), utf8.constData(), int(utf8.size()),
-            pooled ? SQLITE_PREPARE_PERSISTENT : 0, &statement, &rest)
-        != SQLITE_OK) {
-        sqlite3_finalize(statement);
-        return {};
-    }
-    return Prepared(statement, pooled ? pool : nullptr);
+    return result;
 }
 
 Prepared Engine::prepareMain(const Request& request, Way way)
 {
     const Translation& translation = request.plan->translation;
-    if (const auto stretch = stretchOf(request, way)) {
-        Prepared result = prepare(translation.stretch.sql, request.plan->stretchPool, true);
-        if (result && !bind(result.get(), translation.stretch.values, *request.literals, *stretch))
-            return {};
-        return result;
-    }
-    Prepared result = prepare(translation.main.sql, request.plan->mainPool, true);
-    if (result && !bind(result.get(), translation.main.values, *request.literals))
-        return {};
-    return result;
-}
-
-// Texts are sorted by base letters first, so what begins with "É" stands among what begins with "E".
-std::optional<BoundTexts> Engine::stretchOf(const Request& request, Way way)
-{
-    const Translation& translation = request.plan->translation;
-    if (translation.orderedLiteral < 0)
-        return {};
-    std::u32string beginning;
-    for (const int literal : patternsOf(*translation.filter)) {
-        const auto pattern
-            = LikePattern::compile((*request.literals)[size_t(literal)].text.toUtf8().toStdString(), way);
-        // A broken pattern has to fail, also when there is no row to which it would be put.
-        if (!pattern)
-            return {};
-        if (literal == translation.orderedLiteral)
-            beginning = pattern->beginning();
-    }
-    if (beginning.empty())
-        return {};
-    std::string least;
-    for (const char32_t letter : beginning)
-        appendLetter(least, baseLetter(letter));
-    BoundTexts texts;
-    texts.least = QByteArray::fromStdString(least);
-    // No letter is sorted behind bytes that are no letter.
-    texts.beyond = texts.least + QByteArray(8, char(0xFF));
-    return texts;
+    if (const auto stretch = stretchOf(translation, *request.literals, way))
+        return prepare(request, translation.stretch, &Plan::stretchPool, *stretch);
+    return prepare(request, translation.main, &Plan::mainPool);
 }
 
 std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way)
@@ -409,10 +269,10 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
     }
     if (rows->doubtful.size() > rows->all / kWorthwhilePart)
         return {};
-    result.rest = prepare(translation.narrowed.sql, request.plan->narrowedPool, true);
     BoundTexts texts;
     texts.rowList = jsonList(rows->doubtful);
-    if (!result.rest || !bind(result.rest.get(), translation.narrowed.values, *request.literals, texts))
+    result.rest = prepare(request, translation.narrowed, &Plan::narrowedPool, texts);
+    if (!result.rest)
         return {};
     return result;
 }
@@ -420,103 +280,23 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
 Prepared Engine::prepareRow(const Request& request, qint64 key)
 {
     const Piece& row = request.plan->translation.row;
-    Prepared result = prepare(row.sql, request.plan->rowPool, true);
-    if (result && !bind(result.get(), row.values, *request.literals))
-        return {};
+    Prepared result = prepare(request, row, &Plan::rowPool);
     if (result)
         sqlite3_bind_int64(result.get(), int(row.values.size()) + 1, key);
     return result;
 }
 
-Prepared Engine::prepareText(const QString& sql)
-{
-    return prepare(sql, nullptr, false);
-}
-
-Prepared Engine::prepareKept(const QString& sql)
-{
-    constexpr size_t kMostKept = 32;
-    if (m_kept.size() >= kMostKept && !m_kept.contains(sql)) {
-        m_kept.clear();
-    }
-    auto& pool = m_kept[sql];
-    if (!pool)
-        pool = std::make_shared<Prepared::Pool>(m_isOpen);
-    return prepare(sql, pool, true);
-}
-
-bool Engine::bind(sqlite3_stmt* statement, const std::vector<Slot>& slots,
-    const std::vector<Literal>& literals, const BoundTexts& texts)
-{
-    const auto bound = [&texts](Slot::Reading reading) {
-        return reading == Slot::Reading::RowList ? &texts.rowList
-            : reading == Slot::Reading::Least    ? &texts.least
-            : reading == Slot::Reading::Beyond   ? &texts.beyond
-                                                 : nullptr;
-    };
-    int place = 0;
-    for (const Slot& slot : slots) {
-        if (const QByteArray* text = bound(slot.reading)) {
-            sqlite3_bind_text(statement, ++place, text->constData(), int(text->size()), SQLITE_TRANSIENT);
-            continue;
-        }
-        const Literal& literal = literals[size_t(slot.literal)];
-        ColumnType type = literal.kind == Literal::Kind::Number ? ColumnType::Number : ColumnType::Text;
-        switch (slot.reading) {
-        case Slot::Reading::Date: type = ColumnType::Date; break;
-        case Slot::Reading::Number: type = ColumnType::Number; break;
-        case Slot::Reading::YesNo: type = ColumnType::YesNo; break;
-        default: break;
-        }
-        QVariant stored;
-        if (!toStored(literal.text, type, &stored) || !stored.isValid()) {
-            m_refusal = u"the value does not fit its column: "_s + literal.text.left(40);
-            return false;
-        }
-        bindStored(statement, ++place, stored);
-    }
-    return true;
-}
-
-// ---- tables
-
-const CatalogTable* Engine::table(QStringView name)
-{
-    const QString key = lowered(name);
-    if (const auto known = m_tables.find(key); known != m_tables.end())
-        return known->second.get();
-    if (!isOpen() || key.startsWith(u"sqlite_"))
-        return nullptr;
-    const Prepared columns
-        = prepareText(u"SELECT t.name, c.name, c.type FROM sqlite_master t, pragma_table_info(t.name) c "
-                      "WHERE t.type = 'table' AND t.name = ?1 COLLATE NOCASE ORDER BY c.cid"_s);
-    if (!columns)
-        return nullptr;
-    const QByteArray utf8 = key.toUtf8();
-    sqlite3_bind_text(columns.get(), 1, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-    std::unique_ptr<CatalogTable> table;
-    while (sqlite3_step(columns.get()) == SQLITE_ROW) {
-        if (!table)
-            table = std::make_unique<CatalogTable>(CatalogTable{columnText(columns.get(), 0), {}});
-        table->columns.push_back({columnText(columns.get(), 1), columnTypeOf(columnText(columns.get(), 2))});
-    }
-    if (!table)
-        return nullptr;
-    return m_tables.emplace(key, std::move(table)).first->second.get();
-}
-
-// Recordsets that are open keep their plans; new requests translate anew.
 void Engine::forgetTables()
 {
-    ++m_generation;
-    m_tables.clear();
+    m_plans.forget();
+    m_catalog.forget();
     if (m_search)
         m_search->forget();
 }
 
 // ---- steps to take back
 
-void Engine::keepChanges(const QList<ChangeLabel>& labels)
+void Engine::keepChanges(const QList<ColumnName>& labels)
 {
     m_labels = labels;
     m_undo = isOpen() && !isReadOnly() ? std::make_unique<UndoLog>(*this, labels) : nullptr;

@@ -1,108 +1,21 @@
 #pragma once
 
+#include "jet/bound_values.h"
 #include "jet/database.h"
+#include "jet/file_catalog.h"
 #include "jet/file_connection.h"
-#include "jet/lexer.h"
-#include "jet/stored_value.h"
+#include "jet/plan_cache.h"
+#include "jet/prepared.h"
 #include "jet/text_search.h"
-#include "jet/translator.h"
 #include "jet/undo_log.h"
 
-#include <QCache>
-#include <QHash>
-#include <sqlite3.h>
-
 #include <memory>
-#include <unordered_map>
 
 namespace jet {
 
-/// A statement of the file engine, given back to its pool at the end of its use.
-class Prepared {
-public:
-    /// Statements that wait to run again. They end with the pool, or before with the file: closing a file
-    /// ends all its statements, also those of recordsets that live on, since nothing of it may stay open.
-    class Pool : public std::vector<sqlite3_stmt*> {
-    public:
-        explicit Pool(std::shared_ptr<const bool> fileIsOpen)
-            : m_fileIsOpen(std::move(fileIsOpen))
-        {
-        }
-        ~Pool()
-        {
-            for (sqlite3_stmt* waiting : *this) {
-                if (*m_fileIsOpen)
-                    sqlite3_finalize(waiting);
-            }
-        }
-        Q_DISABLE_COPY_MOVE(Pool)
-        /// The file was opened anew: what waited ended with the old connection.
-        void serve(const std::shared_ptr<bool>& fileIsOpen)
-        {
-            if (m_fileIsOpen == fileIsOpen)
-                return;
-            clear();
-            m_fileIsOpen = fileIsOpen;
-        }
-
-    private:
-        std::shared_ptr<const bool> m_fileIsOpen;
-    };
-    Prepared() = default;
-    Prepared(sqlite3_stmt* statement, std::shared_ptr<Pool> pool)
-        : m_statement(statement)
-        , m_pool(std::move(pool))
-    {
-    }
-    Prepared(Prepared&& other) noexcept { *this = std::move(other); }
-    Prepared& operator=(Prepared&& other) noexcept
-    {
-        std::swap(m_statement, other.m_statement);
-        std::swap(m_pool, other.m_pool);
-        return *this;
-    }
-    ~Prepared();
-    sqlite3_stmt* get() const { return m_statement; }
-    explicit operator bool() const { return m_statement != nullptr; }
-
-private:
-    sqlite3_stmt* m_statement = nullptr;
-    std::shared_ptr<Pool> m_pool;
-};
-
-/// A translation with the prepared statements that are waiting to run it again.
-struct Plan {
-    explicit Plan(const std::shared_ptr<const bool>& fileIsOpen)
-        : mainPool(std::make_shared<Prepared::Pool>(fileIsOpen))
-        , rowPool(std::make_shared<Prepared::Pool>(fileIsOpen))
-        , narrowedPool(std::make_shared<Prepared::Pool>(fileIsOpen))
-        , stretchPool(std::make_shared<Prepared::Pool>(fileIsOpen))
-    {
-    }
-
-    Translation translation;
-    std::shared_ptr<Prepared::Pool> mainPool;
-    std::shared_ptr<Prepared::Pool> rowPool;
-    std::shared_ptr<Prepared::Pool> narrowedPool;
-    std::shared_ptr<Prepared::Pool> stretchPool;
-    int generation = 0;
-};
-
-/// What is bound beside the values of the statement, for the slots that ask for it.
-struct BoundTexts {
-    QByteArray rowList;
-    QByteArray least;
-    QByteArray beyond;
-};
-
-/// A plan and the values that one text has for it.
-struct Request {
-    std::shared_ptr<Plan> plan;
-    std::shared_ptr<const std::vector<Literal>> literals;
-};
-
-/// One open file: connection, tables known, translations kept. Shared by a Database, its copies and its
-/// recordsets.
+/// One open file: composes its connection, its catalogue, the translations and the prepared statements that
+/// are kept, the texts for searches and the changes to take back; knows what is written together, and how
+/// each write ended. Shared by a Database, its copies and its recordsets.
 class Engine {
 public:
     Engine() = default;
@@ -131,9 +44,8 @@ public:
     /// Nothing when main has to look at all rows. To be asked and run within one ReadTransaction.
     std::optional<Narrowed> narrowed(const Request& request, Way way);
     Prepared prepareRow(const Request& request, qint64 key);
-    Prepared prepareText(const QString& sql);
-    Prepared prepareKept(
-        const QString& sql); ///< keeps the statement ready: what a form writes, it writes again
+    Prepared prepareText(const QString& sql) const { return m_statements.once(sql); }
+    Prepared prepareKept(const QString& sql) { return m_statements.kept(sql); }
     bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals,
         const BoundTexts& texts = {});
 
@@ -150,14 +62,14 @@ public:
     std::optional<Failure> lastFailure() const { return m_lastFailure; }
     bool isStorageFault() const { return m_file.lastError().isOfStorage(); }
 
-    const CatalogTable* table(QStringView name);
+    const CatalogTable* table(QStringView name) { return m_catalog.table(name); }
     Catalog catalog()
     {
         return [this](QStringView name) { return table(name); };
     }
     void forgetTables();
     // What a person may take back.
-    void keepChanges(const QList<ChangeLabel>& labels);
+    void keepChanges(const QList<ColumnName>& labels);
     UndoLog* undoLog() { return m_undo.get(); }
     TakenBack moveStep(StepDirection direction);
     void beginStep(const QString& name);
@@ -174,13 +86,14 @@ public:
     void reportLast(QStringView statement); ///< what the file engine says
     void setFailureHandler(FailureHandler handler) { m_failureHandler = std::move(handler); }
     void setWaitHandler(WaitHandler handler) { m_file.setWaitHandler(std::move(handler)); }
-    void takeHandlers(const Engine& other);
+    void setColumnsNeverEqualToNull(const QList<ColumnName>& columns);
+    void takeSettings(const Engine& other);
     void setLimits(const StatementLimits& limits) { m_file.setLimits(limits); }
     bool isTooMuch(qint64 bytes) const { return m_file.limits().bytes > 0 && bytes > m_file.limits().bytes; }
 
 private:
-    std::shared_ptr<Plan> plan(const Lexed& lexed, Way way, QString* error);
-    Prepared prepare(const QString& sql, const std::shared_ptr<Prepared::Pool>& pool, bool pooled);
+    Prepared prepare(
+        const Request& request, const Piece& piece, StatementPool Plan::*pool, const BoundTexts& texts = {});
     struct OpenBatch {
         int depth = 0;
         int failures = 0;
@@ -190,26 +103,21 @@ private:
     };
     void letGo();
     void takeUp();
-    static std::optional<BoundTexts> stretchOf(const Request& request, Way way);
 
     FileConnection m_file;
+    Statements m_statements;
+    FileCatalog m_catalog{m_statements};
+    PlanCache m_plans;
     OpenBatch m_batch;
     std::unique_ptr<TextSearch> m_search; ///< of an open file
     std::unique_ptr<UndoLog> m_undo; ///< of an open file whose changes are kept
-    std::optional<QList<ChangeLabel>> m_labels; ///< of the changes that are kept
+    std::optional<QList<ColumnName>> m_labels; ///< of the changes that are kept
     int m_upkeeps = 0;
     int m_openSteps = 0;
-    std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true); ///< shared with the pools of statements
-    int m_generation = 0;
     FailureHandler m_failureHandler;
     Failure m_lastReport;
     std::optional<Failure> m_lastFailure;
     QString m_refusal; ///< why the last values were not bound; the file engine knows nothing of it
-    std::unordered_map<QString, std::unique_ptr<CatalogTable>> m_tables; ///< by lower-case name
-    std::unordered_map<QString, std::shared_ptr<Prepared::Pool>> m_kept; ///< by text
-    QCache<QString, Request> m_byText[2] = {QCache<QString, Request>(512), QCache<QString, Request>(512)};
-    QCache<QString, std::shared_ptr<Plan>> m_byShape[2]
-        = {QCache<QString, std::shared_ptr<Plan>>(512), QCache<QString, std::shared_ptr<Plan>>(512)};
 };
 
 } // namespace jet

@@ -44,14 +44,6 @@ const Function* functionOf(QStringView name)
     return found == std::end(kFunctions) ? nullptr : found;
 }
 
-// A test of these two columns against null was never true in the lists that use it, and stays so; of any
-// other column it means "is not null".
-struct NeverEqualToNull {
-    QStringView table;
-    QStringView column;
-};
-constexpr NeverEqualToNull kNeverEqualToNull[] = {{u"CNT_TOPCITIES", u"city"}, {u"CNTB_OTHER", u"user1"}};
-
 } // namespace
 
 ExpressionEmitter::Type ExpressionEmitter::typeOfColumn(ColumnType type)
@@ -302,15 +294,12 @@ void ExpressionEmitter::compareWithNull(const Expression& e)
     m_out += u" IS NOT NULL)"_s;
 }
 
-bool ExpressionEmitter::isNeverEqualToNull(const Expression& e)
+bool ExpressionEmitter::isNeverEqualToNull(const Expression& e) const
 {
     if (e.kind != Expression::Kind::Column)
         return false;
-    const Resolved found = resolve(e);
-    return found.column
-        && std::any_of(std::begin(kNeverEqualToNull), std::end(kNeverEqualToNull), [&](const auto& never) {
-               return sameName(never.table, found.table->name) && sameName(never.column, found.column->name);
-           });
+    const CatalogColumn* column = resolve(e);
+    return column && column->isNeverEqualToNull;
 }
 
 /// The left side of a comparison. A column brings its own collation; anything else gets it here.
@@ -441,8 +430,8 @@ ExpressionEmitter::Type ExpressionEmitter::typeOf(const Expression& e)
 {
     switch (e.kind) {
     case Expression::Kind::Column: {
-        const Resolved found = resolve(e);
-        return found.column ? typeOfColumn(found.column->type) : Type::Unknown;
+        const CatalogColumn* column = resolve(e);
+        return column ? typeOfColumn(column->type) : Type::Unknown;
     }
     case Expression::Kind::Literal:
         return e.literalKind == int(Literal::Kind::Text) ? Type::Text
@@ -479,17 +468,17 @@ ExpressionEmitter::Type ExpressionEmitter::typeOfArithmetic(const Expression& e)
     return a == Type::Text && b == Type::Text ? Type::Text : Type::Unknown;
 }
 
-ExpressionEmitter::Resolved ExpressionEmitter::resolve(const Expression& e) const
+const CatalogColumn* ExpressionEmitter::resolve(const Expression& e) const
 {
     for (auto scope = m_scopes.rbegin(); scope != m_scopes.rend(); ++scope) {
         for (const ScopeTable& from : *scope) {
             if (!e.table.isEmpty() && !sameName(e.table, from.shownAs))
                 continue;
             if (const CatalogColumn* column = from.table->column(e.name))
-                return {from.table, column};
+                return column;
         }
     }
-    return {};
+    return nullptr;
 }
 
 const CatalogTable* ExpressionEmitter::table(QStringView tableName) const

@@ -26,10 +26,6 @@ protected:
         QStringView shownAs;
     };
     using Scope = std::vector<ScopeTable>;
-    struct Resolved {
-        const CatalogTable* table = nullptr;
-        const CatalogColumn* column = nullptr;
-    };
 
     ExpressionEmitter(const Catalog& catalog, Way way)
         : m_catalog(catalog)
@@ -64,7 +60,7 @@ protected:
     static bool isTruth(const Expression& e);
     void compareYesNo(const Expression& a, bool wanted);
     void compareWithNull(const Expression& e);
-    bool isNeverEqualToNull(const Expression& e);
+    bool isNeverEqualToNull(const Expression& e) const;
     void leftSide(const Expression& e, Type other);
     void collated(const Expression& e);
     void read(const Expression& e, Type type);
@@ -76,7 +72,7 @@ protected:
     void call(const Expression& e);
     Type typeOf(const Expression& e);
     Type typeOfArithmetic(const Expression& e);
-    Resolved resolve(const Expression& e) const;
+    const CatalogColumn* resolve(const Expression& e) const; ///< null for an alias of the selection
     const CatalogTable* table(QStringView tableName) const;
     static const CatalogColumn* columnOf(const CatalogTable& target, QStringView columnName);
     void name(QStringView text);

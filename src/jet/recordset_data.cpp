@@ -1,6 +1,7 @@
 #include "jet/recordset_data.h"
 
 #include "jet/parser.h"
+#include "jet/stored_value.h"
 
 #include <algorithm>
 

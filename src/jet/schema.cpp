@@ -50,6 +50,15 @@ QList<QStringList> parseCsv(const QByteArray& csv)
     return rows;
 }
 
+QList<ColumnName> columnNamesFromCsv(const QByteArray& csv)
+{
+    QList<ColumnName> names;
+    const auto rows = parseCsv(csv);
+    for (const QStringList& row : rows.sliced(1))
+        names << ColumnName{row.value(0), row.value(1)};
+    return names;
+}
+
 Schema Schema::fromCsv(const QByteArray& csv)
 {
     static const QHash<QString, ColumnType> types{

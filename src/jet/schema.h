@@ -45,6 +45,8 @@ struct Schema {
     int textSize(QStringView tableName, QStringView column) const; ///< 255 where the schema says nothing
 };
 
+/// CSV rows of table, column.
+QList<ColumnName> columnNamesFromCsv(const QByteArray& csv);
 /// Splits CSV text (comma, double quotes, UTF-8) into rows; the rows may differ in length.
 QList<QStringList> parseCsv(const QByteArray& csv);
 

@@ -8,7 +8,7 @@ namespace jet {
 std::optional<TextFilter> ExpressionEmitter::textFilter(const Expression& e) const
 {
     if (isPlainLike(e) && e.parts[1]->literalKind == int(Literal::Kind::Text)) {
-        const CatalogColumn* column = resolve(*e.parts[0]).column;
+        const CatalogColumn* column = resolve(*e.parts[0]);
         if (!column || (column->type != ColumnType::Text && column->type != ColumnType::Memo))
             return {};
         return TextFilter{.column = column->name, .literal = e.parts[1]->literal};

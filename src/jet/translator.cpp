@@ -205,7 +205,7 @@ private:
     {
         if (arm.orderBy.empty() || arm.orderBy.front().expression->kind != Expression::Kind::Column)
             return nullptr;
-        const CatalogColumn* sorted = resolve(*arm.orderBy.front().expression).column;
+        const CatalogColumn* sorted = resolve(*arm.orderBy.front().expression);
         const auto fits = [&](const TextFilter& part) {
             return part.kind == TextFilter::Kind::Pattern && sorted && part.column == sorted->name;
         };
@@ -421,9 +421,9 @@ private:
         }
         ResultColumn column;
         if (e.kind == Expression::Kind::Column) {
-            const Resolved found = resolve(e);
-            column.type = found.column ? found.column->type : ColumnType::Unknown;
-            column.source = found.column ? found.column->name : QString();
+            const CatalogColumn* found = resolve(e);
+            column.type = found ? found->type : ColumnType::Unknown;
+            column.source = found ? found->name : QString();
             column.name = column.source == e.name ? column.source : e.name.toString();
         } else {
             column.type = columnTypeOf(typeOf(e));

@@ -1,44 +1,16 @@
 #pragma once
 
+#include "jet/catalog.h"
 #include "jet/syntax_tree.h"
 #include "jet/text_filter.h"
 #include "jet/types.h"
 
 #include <QStringList>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
 namespace jet {
-
-/// A column of a table. Statements name dozens of the 126 columns of a contact, so names are told apart by a
-/// hash of their letters before they are compared.
-class CatalogColumn {
-public:
-    CatalogColumn(QString columnName, ColumnType columnType);
-
-    QString name;
-    ColumnType type;
-
-    bool isCalled(QStringView other, uint otherHash) const;
-    uint hash() const { return m_hash; }
-    static uint hashOf(QStringView text);
-
-private:
-    uint m_hash;
-};
-
-struct CatalogTable {
-    QString name;
-    std::vector<CatalogColumn> columns;
-    const CatalogColumn* column(QStringView columnName) const;
-
-    mutable std::vector<int> places = {}; ///< of the columns, by hash; made at the first look
-};
-
-/// Finds a table without regard to case; nullptr when there is none.
-using Catalog = std::function<const CatalogTable*(QStringView)>;
 
 /// One bound value of the file engine's statement: which literal of the text it is, and what it is read as.
 struct Slot {

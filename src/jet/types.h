@@ -13,6 +13,12 @@ enum class Way { Dao, Ado };
 /// The types of the engine's columns, as the schema names them.
 enum class ColumnType { Unknown, Text, Memo, Number, YesNo, Date, AutoNumber };
 
+/// A column, in any mix of case.
+struct ColumnName {
+    QString table;
+    QString column;
+};
+
 /// Something the engine was asked to do and did not. Callers need not look: the call itself is harmless.
 struct Failure {
     enum class Cause {
@@ -29,12 +35,6 @@ struct Failure {
     Cause cause = Cause::Statement;
     QString statement; ///< the text as the caller wrote it
     QString reason;
-};
-
-/// The column that holds what a person calls a row of a table.
-struct ChangeLabel {
-    QString table;
-    QString column;
 };
 
 /// One change that can be taken back.

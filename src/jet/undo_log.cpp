@@ -41,14 +41,14 @@ QString textOf(sqlite3_value* value)
 
 } // namespace
 
-UndoLog::UndoLog(Engine& engine, const QList<ChangeLabel>& labels)
+UndoLog::UndoLog(Engine& engine, const QList<ColumnName>& labels)
     : m_engine(engine)
     , m_connection(engine.connection())
     , m_fileBeside(
           QFileInfo(engine.path()).path() + u'/' + QFileInfo(engine.path()).completeBaseName() + u".undo"_s)
     , m_current(emptyStep())
 {
-    for (const ChangeLabel& label : labels) {
+    for (const ColumnName& label : labels) {
         const CatalogTable* table = engine.table(label.table);
         const CatalogColumn* column = table ? table->column(label.column) : nullptr;
         m_labels.push_back({label.table, column ? int(column - table->columns.data()) : -1});

@@ -20,7 +20,7 @@ public:
     static constexpr size_t kMostSteps = 20;
 
     /// The first of the labels has the last word on what a step is called.
-    UndoLog(Engine& engine, const QList<ChangeLabel>& labels);
+    UndoLog(Engine& engine, const QList<ColumnName>& labels);
     ~UndoLog();
     UndoLog(const UndoLog&) = delete;
     UndoLog& operator=(const UndoLog&) = delete;

@@ -151,6 +151,7 @@ int runStatements(const Options& options)
 {
     const QString& path = options.file;
     jet::Database database;
+    database.setColumnsNeverEqualToNull(core::columnsNeverEqualToNull());
     switch (database.open(path)) {
     case jet::Database::OpenResult::Opened: break;
     case jet::Database::OpenResult::Missing: return fail(path + u": no such file"_s);

@@ -17,6 +17,7 @@ private Q_SLOTS:
     {
         m_template = std::make_unique<support::TestBook>(support::TestBook::Rows::Sample);
         QVERIFY(m_template->data().backUpTo(m_template->folder() + u"/template"_s));
+        m_copy.setColumnsNeverEqualToNull(support::TestBook::columnsNeverEqualToNull());
         QFile file(QStringLiteral(ORVANE_SOURCE_DIR "/tests/jet/data/statements.jsonl"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         m_lines = file.readAll().trimmed().split('\n');

@@ -14,6 +14,7 @@ private Q_SLOTS:
     {
         m_template = std::make_unique<support::TestBook>(support::TestBook::Rows::Sample);
         QVERIFY(m_template->data().backUpTo(m_template->folder() + u"/template"_s));
+        m_data.setColumnsNeverEqualToNull(support::TestBook::columnsNeverEqualToNull());
     }
 
     void dialect_data()

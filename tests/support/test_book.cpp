@@ -18,6 +18,11 @@ QByteArray contents(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QByteArray shipped(const char* name)
+{
+    return contents(QStringLiteral(ORVANE_SOURCE_DIR "/data/") + QLatin1StringView(name));
+}
+
 QString cell(const QVariant& value)
 {
     if (!value.isValid())
@@ -47,6 +52,7 @@ void addSampleRows(jet::Database& data)
 
 TestBook::TestBook(Rows rows)
 {
+    m_data.setColumnsNeverEqualToNull(columnsNeverEqualToNull());
     if (!jet::Database::create(path()) || m_data.open(path()) != jet::Database::OpenResult::Opened)
         qFatal("no test database");
     jet::Schema all = schema();
@@ -68,13 +74,15 @@ QString TestBook::path() const
 
 jet::Schema TestBook::schema()
 {
-    const auto file = [](const char* name) {
-        return contents(QStringLiteral(ORVANE_SOURCE_DIR "/data/") + QLatin1StringView(name));
-    };
-    jet::Schema all = jet::Schema::fromCsv(file("schema.csv"));
-    all.addIndexes(file("indexes.csv"));
-    all.addDefaults(file("defaults.csv"));
+    jet::Schema all = jet::Schema::fromCsv(shipped("schema.csv"));
+    all.addIndexes(shipped("indexes.csv"));
+    all.addDefaults(shipped("defaults.csv"));
     return all;
+}
+
+QList<jet::ColumnName> TestBook::columnsNeverEqualToNull()
+{
+    return jet::columnNamesFromCsv(shipped("never_equal_to_null.csv"));
 }
 
 QString TestBook::unexpected()

@@ -21,6 +21,7 @@ public:
     QString folder() const { return m_folder.path(); }
     QString path() const;
     static jet::Schema schema();
+    static QList<jet::ColumnName> columnsNeverEqualToNull();
 
     void expectFailure(const QString& piece) { m_expected << piece; }
     int failures() const { return int(m_failures.size()); }

@@ -218,6 +218,7 @@ BookReport BookFiles::open(jet::Database& database, BookPart part) const
         database.close();
         return BookReport{fault, path, text};
     };
+    database.setColumnsNeverEqualToNull(columnsNeverEqualToNull());
     switch (database.open(path, kindOf(part))) {
     case jet::Database::OpenResult::Opened: break;
     case jet::Database::OpenResult::Missing:

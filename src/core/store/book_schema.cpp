@@ -46,6 +46,11 @@ jet::Schema bookSchema()
     return schema;
 }
 
+QList<jet::ColumnName> columnsNeverEqualToNull()
+{
+    return jet::columnNamesFromCsv(shippedFile(u"never_equal_to_null.csv"_s));
+}
+
 QString schemaName(BookPart part)
 {
     switch (part) {

@@ -30,6 +30,8 @@ enum class BookPart {
 };
 
 jet::Schema bookSchema();
+/// What a database of the books is to be told, see jet::Database::setColumnsNeverEqualToNull().
+QList<jet::ColumnName> columnsNeverEqualToNull();
 QString schemaName(BookPart part);
 QList<ShippedRows> shippedRows(BookPart part);
 
