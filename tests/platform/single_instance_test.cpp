@@ -1,10 +1,10 @@
 #include <csignal>
-#include <sys/resource.h>
 
 #include <QProcess>
 #include <QtTest>
 
 #include "platform/single_instance.h"
+#include "support/disk.h"
 
 using namespace Qt::StringLiterals;
 using platform::SingleInstance;
@@ -91,9 +91,7 @@ void SingleInstanceTest::afterACrash()
 
 void SingleInstanceTest::unreadableLock()
 {
-    QFile lock(m_folder->filePath(u".orvane.lock"_s));
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.close();
+    support::put(m_folder->filePath(u".orvane.lock"_s), {});
     const SingleInstance first(m_folder->path());
     QVERIFY(first.isFirst());
 }
@@ -110,14 +108,8 @@ void SingleInstanceTest::lockThatCanNotBeRenewed()
     QCOMPARE(start(other), "first");
     other.kill();
     QVERIFY(other.waitForFinished());
-    // As root would write anywhere, the room is taken from the process instead of the rights from the folder.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit none{0, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
+    const support::FullDisk full(0);
     const SingleInstance first(m_folder->path());
-    setrlimit(RLIMIT_FSIZE, &before);
     QVERIFY(first.isFirst());
     QVERIFY(!first.hasLock());
 }
