@@ -46,16 +46,16 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (m_line->isReadOnly() || !m_line->isEnabled())
-            return QObject::eventFilter(watched, event);
+        // Only at input: the box round the line hears of other things also while the line is being deleted.
+        const auto mayTake = [this] { return !m_line->isReadOnly() && m_line->isEnabled(); };
         switch (event->type()) {
         case QEvent::KeyPress:
-            return static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)
+            return mayTake() && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)
                 && spread(clipboard(QClipboard::Clipboard));
-        case QEvent::MouseButtonRelease: return pasteSelection(static_cast<QMouseEvent*>(event));
-        case QEvent::Drop: return drop(static_cast<QDropEvent*>(event));
+        case QEvent::MouseButtonRelease: return mayTake() && pasteSelection(static_cast<QMouseEvent*>(event));
+        case QEvent::Drop: return mayTake() && drop(static_cast<QDropEvent*>(event));
         case QEvent::ContextMenu:
-            return watched == m_line && openMenu(static_cast<QContextMenuEvent*>(event));
+            return watched == m_line && mayTake() && openMenu(static_cast<QContextMenuEvent*>(event));
         default: return QObject::eventFilter(watched, event);
         }
     }
