@@ -84,12 +84,14 @@ private Q_SLOTS:
         ScheduledDates family = dated;
         family.spouse = u"Ravi"_s;
         family.kids[0] = u"Ann"_s;
+        family.kids[1] = u"Bo"_s;
         family.kids[2] = u"Cy"_s;
-        QTest::newRow("spouse, first and third kid")
+        QTest::newRow("five birthdays, each with its own date")
             << family << 2024
             << inEachYear({u"Birthday 01-May-YEAR 17Bd Birthday of Asha Rao"_s,
                    u"Birthday 02-Jun-YEAR  Birthday of Spouse Asha Rao"_s,
                    u"Birthday 03-Jul-YEAR  Birthday of Kid Asha Rao"_s,
+                   u"Birthday 03-Aug-YEAR  Birthday of Kid Asha Rao"_s,
                    u"Birthday 03-Sep-YEAR  Birthday of Kid Asha Rao"_s});
 
         ScheduledDates married = dated;

@@ -8,11 +8,10 @@
 #include "core/shell/storage_notice.h"
 #include "core/store/backups.h"
 #include "platform/desktop_boxes.h"
+#include "support/disk.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -23,9 +22,12 @@ namespace {
 /// The program from its first window on, on folders of its own. The services are those of a screen fixture.
 class Program : public support::ScreenFixture {
 public:
-    Program()
+    enum class Boxes { Scripted, OfTheDesktop };
+    explicit Program(Boxes which = Boxes::Scripted)
         : files(root.filePath(u"program"_s), backupFolder())
-        , all{data, info, schema, shared, registry, window, context.services}
+        , all{data, info, schema, shared, registry, window,
+              {drive, which == Boxes::Scripted ? static_cast<platform::MessageBoxes&>(boxes) : real, shell,
+                  sounds, folders, favourites, help, mailContacts, clock}}
     {
         QDir().mkpath(root.filePath(u"program"_s));
         registry.setContext(all);
@@ -33,10 +35,17 @@ public:
     }
     ~Program() { registry.unloadAll(); }
     QString backupFolder() const { return root.filePath(u"OVUserFiles/Others/Backup"_s); }
-    void begin()
+    void begin(bool hasLock = true)
     {
         startUp = std::make_unique<shell::StartUp>(all, window, files, backupFolder());
-        startUp->begin(true);
+        startUp->begin(true, hasLock);
+    }
+    /// In the book as the program left it.
+    void change(const QString& sql) const
+    {
+        jet::Database closed;
+        closed.open(files.dataFile());
+        QVERIFY(closed.execute(sql));
     }
     static QWidget* shown(const QString& name)
     {
@@ -59,41 +68,17 @@ public:
     }
     QByteArray bytes() const
     {
-        QFile file(files.dataFile());
-        return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void damage() const
-    {
-        QFile file(files.dataFile());
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write("this is no database at all, but it is long enough to look like a file");
+        return QFileInfo(files.dataFile()).isFile() ? support::bytesOf(files.dataFile()) : QByteArray();
     }
 
     jet::Database data;
     jet::Database info;
+    platform::DesktopBoxes real;
     core::BookFiles files;
     core::Screens registry;
     shell::MDIForm1 window;
     core::Context all;
     std::unique_ptr<shell::StartUp> startUp;
-};
-
-/// The words are told by the checks of the files; here it counts that there is a box, and when.
-struct AnyBox final : platform::MessageBoxes {
-    bool yes = false;
-    QStringList shown;
-    void information(const QString& text, const QString&) override { shown << u"told "_s + text; }
-    void warning(const QString& text, const QString&) override { shown << u"told "_s + text; }
-    void stop(const QString& text, const QString&) override { shown << u"told "_s + text; }
-    Answer ask(const QString& text, const QString&, platform::Icon) override
-    {
-        shown << u"asked "_s + text;
-        return yes ? Answer::Yes : Answer::No;
-    }
-    std::optional<QString> openFile(const QString&, const QString&) override { return {}; }
-    std::optional<QString> saveFile(const QString&, const QString&) override { return {}; }
-    std::optional<QString> folder(const QString&) override { return {}; }
-    std::optional<QString> inputText(const QString&, const QString&) override { return {}; }
 };
 
 } // namespace
@@ -144,11 +129,7 @@ void StartUpTest::emailShell()
 {
     Program p;
     p.makeBook(false);
-    {
-        jet::Database book;
-        book.open(p.files.dataFile());
-        QVERIFY(book.execute(u"update ov_setup set Email=true"));
-    }
+    p.change(u"update ov_setup set Email=true"_s);
     p.begin();
     QTRY_VERIFY(Program::shown(u"FrmEmailSuite"_s));
     QTRY_VERIFY(!Program::shown(u"frmSplash"_s));
@@ -163,11 +144,7 @@ void StartUpTest::escapeWithEmailShell()
 {
     Program p;
     p.makeBook(false);
-    {
-        jet::Database book;
-        book.open(p.files.dataFile());
-        QVERIFY(book.execute(u"update ov_setup set Email=true"));
-    }
+    p.change(u"update ov_setup set Email=true"_s);
     p.begin();
     QTest::keyClick(Program::shown(u"frmSplash"_s), Qt::Key_Escape);
     QVERIFY(p.window.isVisible());
@@ -181,19 +158,10 @@ void StartUpTest::escapeWithEmailShell()
 // The question about due mails stands above the splash, whose timer goes on all the while.
 void StartUpTest::escapeWithDueMails()
 {
-    Program p;
+    Program p(Program::Boxes::OfTheDesktop);
     p.makeBook(false);
-    {
-        jet::Database book;
-        book.open(p.files.dataFile());
-        QVERIFY(book.execute(u"insert into time_email ([date],confirm) values (#01-mar-2024#,true)"));
-    }
-    platform::DesktopBoxes real;
-    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
-        {p.drive, real, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
-    p.registry.setContext(own);
-    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
-    startUp.begin(true);
+    p.change(u"insert into time_email ([date],confirm) values (#01-mar-2024#,true)"_s);
+    p.begin();
     QWidget* splash = Program::shown(u"frmSplash"_s);
     bool answered = false;
     QTimer::singleShot(400, &p.window, [&] {
@@ -233,14 +201,15 @@ void StartUpTest::damagedBook()
     Program p;
     p.makeBook(backup);
     if (fault == u"damaged")
-        p.damage();
+        support::put(
+            p.files.dataFile(), "this is no database at all, but it is long enough to look like a file");
     if (fault == u"gone" || fault == u"pipe")
         QVERIFY(QFile::remove(p.files.dataFile()));
     if (fault == u"pipe")
         QCOMPARE(::mkfifo(QFile::encodeName(p.files.dataFile()).constData(), 0600), 0);
     if (fault == u"no folder") {
         QVERIFY(QDir(p.root.filePath(u"program"_s)).removeRecursively());
-        QVERIFY(QFile(p.root.filePath(u"program"_s)).open(QIODevice::WriteOnly));
+        support::put(p.root.filePath(u"program"_s));
     }
     if (fault == u"newer") {
         jet::Database book;
@@ -248,21 +217,17 @@ void StartUpTest::damagedBook()
         QVERIFY(book.setVersion(99999));
     }
     const QByteArray before = p.bytes();
-    AnyBox boxes;
-    boxes.yes = yes;
-    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
-        {p.drive, boxes, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
-    p.registry.setContext(own);
-    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
-    startUp.begin(true);
-    QCOMPARE(boxes.shown, QStringList());
+    p.boxes.answerAll(yes ? Answer::Yes : Answer::No);
+    p.begin();
+    QCOMPARE(p.boxes.shown, QStringList());
     QTRY_VERIFY(p.window.isVisible() || p.shell.ends > 0);
     QTest::qWait(250); // the ticks do not tell it again
-    QCOMPARE(boxes.shown.size(), 1);
-    QVERIFY(boxes.shown[0].contains(fault == u"no folder" ? u"program\": "_s : u"Orvanedata.dll"_s));
+    QCOMPARE(p.boxes.shown.size(), 1);
+    QVERIFY(p.boxes.shown[0].contains(fault == u"no folder" ? u"program\": "_s : u"Orvanedata.dll"_s));
     const bool running = p.window.isVisible();
     const bool restored = running && p.data.openRecordset(u"select name from cnt_main").textAt(0) == u"Asha";
-    QTEST(QStringList({boxes.shown[0].section(u' ', 0, 0), running ? u"running"_s : u"ended"_s,
+    QTEST(QStringList({p.boxes.shown[0].startsWith(u"ask: ") ? u"asked"_s : u"told"_s,
+                          running ? u"running"_s : u"ended"_s,
                           restored                  ? u"restored"_s
                               : p.bytes() == before ? u"untouched"_s
                                                     : u"changed"_s})
@@ -285,19 +250,14 @@ void StartUpTest::damageInTheMiddle()
         QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(file.size() / 4096 / 2 * 4096));
         file.write(QByteArray(4 * 4096, 'Z'));
     }
-    AnyBox boxes;
-    boxes.yes = true;
-    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
-        {p.drive, boxes, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
-    p.registry.setContext(own);
-    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
-    startUp.begin(true);
-    QTRY_COMPARE_WITH_TIMEOUT(boxes.shown.size(), 3, 15000);
+    p.boxes.answerAll(Answer::Yes);
+    p.begin();
+    QTRY_COMPARE_WITH_TIMEOUT(p.boxes.shown.size(), 3, 15000);
     const QStringList pieces{u"Orvanedata.dll\" is damaged"_s, u"Orvaneinfo.dll\" was damaged"_s,
         u"The address book was restored"_s};
     for (const QString& piece : pieces)
-        QCOMPARE(boxes.shown.filter(piece).size(), 1);
-    QVERIFY(boxes.shown.filter(u"Orvanedata-damaged-"_s).first().contains(u"1 contact,"));
+        QCOMPARE(p.boxes.shown.filter(piece).size(), 1);
+    QVERIFY(p.boxes.shown.filter(u"Orvanedata-damaged-"_s).first().contains(u"1 contact,"));
     QCOMPARE(p.data.openRecordset(u"select name from cnt_main").textAt(0), u"Asha"_s);
     QVERIFY(p.data.checkSoundness().isEmpty() && p.info.checkSoundness().isEmpty());
     QVERIFY(p.info.openRecordset(u"select * from wia_cntnames").count() > 100);
@@ -307,14 +267,9 @@ void StartUpTest::damageInTheMiddle()
 // A box of the desktop itself, at a start that has something to say: the splash goes below it, not with it.
 void StartUpTest::noticeAtTheStart()
 {
-    Program p;
+    Program p(Program::Boxes::OfTheDesktop);
     p.makeBook(false);
-    platform::DesktopBoxes real;
-    core::Context own{p.data, p.info, p.schema, p.shared, p.registry, p.window,
-        {p.drive, real, p.shell, p.sounds, p.folders, p.favourites, p.help, p.mailContacts, p.clock}};
-    p.registry.setContext(own);
-    shell::StartUp startUp(own, p.window, p.files, p.backupFolder());
-    startUp.begin(true, false);
+    p.begin(false);
     QMessageBox* box = nullptr;
     QTimer look;
     connect(&look, &QTimer::timeout, this, [&] {
@@ -341,7 +296,7 @@ void StartUpTest::restoreFromTheFrame()
     QTimer::singleShot(50, &p.window, [] {
         auto* dialog = QApplication::activeModalWidget();
         QVERIFY(dialog);
-        widgets::child<QPushButton>(dialog, u"cmdRestore"_s)->click();
+        QTest::mouseClick(widgets::child<QPushButton>(dialog, u"cmdRestore"_s), Qt::LeftButton);
     });
     p.window.perform(core::Restore{});
     QCOMPARE(p.data.openRecordset(u"select name from cnt_main").textAt(0), u"Asha"_s);
@@ -358,11 +313,7 @@ void StartUpTest::fullDiskIsToldAtEachSave()
     f.context.data.openRecordset(u"select nonsense from nowhere");
     QTest::qWait(10);
     QCOMPARE(f.boxes.shown, QStringList()); // a broken statement is nobody's business
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit none{4096, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
+    auto full = std::make_unique<support::FullDisk>();
     const QString sql = u"insert into cnt_main (memo1) values ('"_s + QString(200000, u'n') + u"')"_s;
     for (int i = 1; i <= 2; ++i) {
         QVERIFY(!f.context.data.execute(sql));
@@ -377,7 +328,7 @@ void StartUpTest::fullDiskIsToldAtEachSave()
     QTest::qWait(10);
     QVERIFY(!f.context.data.execute(sql));
     QTest::qWait(10);
-    setrlimit(RLIMIT_FSIZE, &before);
+    full.reset();
     QCOMPARE(f.boxes.shown.size(), 3);
     QVERIFY(f.boxes.shown[2].contains(u"written to the address book: the disk is full."));
     f.boxes.verify();

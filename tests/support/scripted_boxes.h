@@ -22,6 +22,9 @@ public:
     /// A file, folder or input dialog of that title, and what the user chooses; no value is a cancel.
     void expectChoice(const QString& title, const std::optional<QString>& choice);
 
+    /// From now on whatever box comes is answered so; shown tells which came.
+    void answerAll(platform::Answer answer) { m_always = answer; }
+
     /// Empty when all went by the script; otherwise the failures, a line each. Starts anew afterwards.
     QString verify();
 
@@ -51,6 +54,7 @@ private:
     std::optional<QString> choose(const QString& what, const QString& title);
 
     std::deque<Step> m_script;
+    std::optional<platform::Answer> m_always;
     QStringList m_failures;
 };
 
