@@ -1,5 +1,7 @@
 #include "core/setup/FrmOthers.h"
+#include "core/setup/setup_lists.h"
 #include "core/store/backups.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -52,6 +54,7 @@ class FrmOthersTest : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup() { QCOMPARE(m_fixture->verify(), QString()); }
+    void everyListStoresItsWords();
     void words_data();
     void words();
     void deletedWordCanComeBack();
@@ -80,9 +83,9 @@ private:
     void open(const QString& tab);
     QString hint(const QString& label) const { return child<QLabel>(m_form, label)->text(); }
     QString text(const QString& control) const { return widgets::textOf(child<QWidget>(m_form, control)); }
-    void type(const QString& control, const QString& text);
-    void click(const QString& button) { child<QAbstractButton>(m_form, button)->click(); }
-    void choose(const QString& combo, const QString& value);
+    void click(const QString& button) { support::click(m_form, button); }
+    void type(const QString& control, const QString& text) { support::type(m_form, control, text); }
+    void choose(const QString& combo, const QString& value) { support::choose(m_form, combo, value); }
     void chooseCategory(const QString& sub);
     QStringList rows(const QString& sql) { return m_fixture->book.rows(sql); }
 
@@ -122,24 +125,6 @@ void FrmOthersTest::open(const QString& tab)
     QCOMPARE(tabs->tabText(tabs->currentIndex()), tab);
 }
 
-void FrmOthersTest::type(const QString& control, const QString& text)
-{
-    auto* widget = child<QWidget>(m_form, control);
-    auto* combo = qobject_cast<QComboBox*>(widget);
-    auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(widget);
-    line->selectAll();
-    QTest::keyClick(line, Qt::Key_Delete);
-    QTest::keyClicks(line, text);
-}
-
-void FrmOthersTest::choose(const QString& combo, const QString& value)
-{
-    auto* list = child<widgets::FilledCombo>(m_form, combo);
-    QVERIFY2(list->values().contains(value), qPrintable(list->values().join(u',')));
-    list->setText(value);
-    Q_EMIT list->textActivated(value);
-}
-
 void FrmOthersTest::chooseCategory(const QString& sub)
 {
     auto* grid = child<widgets::HeadingGrid>(m_form, u"FG"_s);
@@ -148,6 +133,63 @@ void FrmOthersTest::chooseCategory(const QString& sub)
             grid->setCurrentRow(row);
     }
     QCOMPARE(grid->currentText(u"category2"_s), sub);
+}
+
+// By its own buttons, in its own column; the words of the others stay, but for those in the row of a word
+// that is deleted.
+void FrmOthersTest::everyListStoresItsWords()
+{
+    const QStringList lists{u"Purpose||SSCommand41 SSCommand40"_s, u"Response||SSCommand41 SSCommand40"_s,
+        u"Relation|RELATIONVERSION|SSCommand22 SSCommand15"_s,
+        u"Religion|RELIGIONVERSION|cmdreladd cmdreldel"_s, u"Education|EDUCATIONVERSION|cmdstadd cmdeddel"_s,
+        u"Hobbies||CmdHBSave CmdHBDelete"_s, u"JobTitle||cmdjtadd cmdjtdel"_s,
+        u"Product||cmdpradd cmdprdel"_s, u"Status||cmdedadd cmdstdel"_s, u"AddType||cmdadadd cmdaddel"_s,
+        u"Region|REGIONVERSION|CmdRegionAdd CmdRegionDel"_s, u"User1||Command7 Command6"_s,
+        u"User2||Command5 Command4"_s, u"User3||SSCommand29 SSCommand27"_s};
+    m_fixture->execute(u"delete * from cntb_other"_s);
+    m_fixture->execute(u"insert into cnt_main (name,Product,user1) values ('A','Old','Old')"_s);
+    const auto tableOf = [](const QString& list) {
+        return list.contains(u"VERSION") || list.startsWith(u"Hobbies") ? u"CNTB_OTHER1"_s : u"CNTB_OTHER"_s;
+    };
+    const auto sharedOf
+        = [](const QString& table) { return table == u"CNTB_OTHER" ? u"CompSufix"_s : u"[Email Suffix]"_s; };
+    for (const QString& list : lists)
+        m_fixture->execute(u"insert into %1 (%2,%3) values ('Old','%2')"_s.arg(
+            tableOf(list), list.section(u'|', 0, 0), sharedOf(tableOf(list))));
+    open(u"Business"_s);
+    for (const QString& each : lists) {
+        const QString name = each.section(u'|', 0, 0);
+        const QString version = each.section(u'|', 1, 1);
+        const QString buttons = each.section(u'|', 2);
+        const QString table = tableOf(each);
+        const QString words = u"select %1 from %2 where %1<>'' order by %1"_s.arg(name, table);
+        // Two lists share their box.
+        const QString box = name == u"Response" ? u"Purpose"_s : name;
+        if (box == u"Purpose")
+            click(u"opt"_s + name);
+        type(u"txt"_s + box, u"New"_s);
+        click(buttons.section(u' ', 0, 0));
+        QCOMPARE(rows(u"select %1,%2 from %3 where %1='New'"_s.arg(
+                     name, version.isEmpty() ? name : version, table)),
+            QStringList{version.isEmpty() ? u"New|New"_s : u"New|C"_s});
+        auto* list = child<widgets::RecordList>(m_form, u"lst"_s + box);
+        support::clickRow(list, 1);
+        type(u"txt"_s + box, u"Older"_s);
+        click(buttons.section(u' ', 0, 0));
+        QCOMPARE(rows(words), (QStringList{u"New"_s, u"Older"_s}));
+        support::clickRow(list, 1);
+        click(buttons.section(u' ', 1));
+        QCOMPARE(rows(words), QStringList{u"New"_s});
+        // Only its own row went.
+        const QString shared = u"select count(*) from %1 where %2='%3'"_s;
+        for (const QString& other : lists) {
+            const QString otherName = other.section(u'|', 0, 0);
+            const bool gone = lists.indexOf(other) <= lists.indexOf(each);
+            QCOMPARE(rows(shared.arg(tableOf(other), sharedOf(tableOf(other)), otherName)),
+                QStringList{gone ? u"0"_s : u"1"_s});
+        }
+    }
+    QCOMPARE(rows(u"select Product,user1 from cnt_main where name='A'"_s), QStringList{u"Old|Old"_s});
 }
 
 void FrmOthersTest::words_data()
@@ -163,6 +205,7 @@ void FrmOthersTest::words_data()
     QTest::newRow("emptied") << 0 << u""_s << before << u"Type a word first."_s;
     QTest::newRow("there already") << -1 << u"cook"_s << before << u"The list has this word already."_s;
     QTest::newRow("onto another") << 0 << u"COOK"_s << before << u"The list has this word already."_s;
+    QTest::newRow("capitals only") << 0 << u"CLERK"_s << QStringList{u"CLERK"_s, u"Cook"_s} << u"Saved."_s;
     QTest::newRow("as it was") << 0 << u"Clerk"_s << before << u"Nothing was changed."_s;
     QTest::newRow("apostrophe") << -1 << u"Men's tailor"_s << before + QStringList{u"Mens tailor"_s}
                                 << u"Saved."_s;
@@ -177,7 +220,8 @@ void FrmOthersTest::words()
     QFETCH(const QStringList, words);
     open(u"Business"_s);
     auto* list = child<widgets::RecordList>(m_form, u"lstJobTitle"_s);
-    list->setCurrentRow(row);
+    if (row >= 0)
+        support::clickRow(list, row);
     m_other->combo->values();
     type(u"txtJobTitle"_s, typed);
     QTest::keyClick(child<QLineEdit>(m_form, u"txtJobTitle"_s), Qt::Key_Return);
@@ -195,7 +239,7 @@ void FrmOthersTest::words()
 void FrmOthersTest::deletedWordCanComeBack()
 {
     open(u"Business"_s);
-    click(u"cmdjtdel"_s); // nothing is chosen
+    QVERIFY(!child<QWidget>(m_form, u"cmdjtdel"_s)->isEnabled()); // nothing is chosen
     auto* list = child<widgets::RecordList>(m_form, u"lstJobTitle"_s);
     QCOMPARE(list->rowCount(), 2);
     list->keyboardSearch(u"co"_s);
@@ -337,18 +381,21 @@ void FrmOthersTest::storeRules()
 
 void FrmOthersTest::fontChangesOpenGrids()
 {
+    m_fixture->execute(u"insert into OV_GridFont (Proj,Font) values ('Scheduler',14)"_s);
     open(u"Default"_s);
     const int before = m_other->grid->font().pointSize();
     const int height = m_other->grid->verticalHeader()->defaultSectionSize();
     click(u"Opts_Large"_s);
     click(u"SSCommand2"_s);
-    QCOMPARE(rows(u"select Proj,Font,Frm,contr from OV_GridFont"_s), QStringList{u"Contacts|12||Grid"_s});
+    const QString stored = u"select Proj,Font,Frm,contr from OV_GridFont"_s;
+    QCOMPARE(rows(stored), (QStringList{u"Scheduler|14|null|null"_s, u"Contacts|12||Grid"_s}));
     QCOMPARE(m_fixture->shared.GridFontSize, 12);
     QCOMPARE(m_other->grid->font().pointSize(), before + 4);
     QVERIFY(m_other->grid->verticalHeader()->defaultSectionSize() > height);
     QCOMPARE(widgets::HeadingGrid().font().pointSize(), before + 4);
     click(u"Opts_Small"_s);
     click(u"SSCommand2"_s);
+    QCOMPARE(rows(stored).size(), 2);
     QCOMPARE(m_other->grid->font().pointSize(), before);
 }
 
@@ -356,6 +403,7 @@ void FrmOthersTest::newCategory()
 {
     m_fixture->execute(
         u"insert into ov_defcat (project,category,subcat) values ('Contacts','Bank','Loan')"_s);
+    m_fixture->execute(u"update cntb_categories set deleted=true where category2='Parents'"_s);
     open(u"Category"_s);
     QCOMPARE(text(u"lblflg"_s), u"View"_s);
     type(u"DBCcat"_s, u"Travel"_s);
@@ -371,6 +419,13 @@ void FrmOthersTest::newCategory()
     QCOMPARE(m_fixture->sounds.played.size(), 2);
     QCOMPARE(m_other->changes, 2);
     QCOMPARE(m_other->bookChanges, 0);
+    // What was retired may come again.
+    click(u"CmdNew"_s);
+    type(u"DBCcat"_s, u"Family"_s);
+    type(u"DBCSubCat"_s, u"Parents"_s);
+    click(u"CmdAdd"_s);
+    QCOMPARE(rows(u"select deleted from cntb_categories where category2='Parents'"_s),
+        (QStringList{u"true"_s, u"false"_s}));
 }
 
 void FrmOthersTest::refusedCategories_data()
