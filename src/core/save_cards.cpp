@@ -1,12 +1,10 @@
 #include "core/save_cards.h"
 
+#include "core/progress.h"
 #include "core/vcard_export.h"
 #include "platform/message_boxes.h"
 
 #include <QCoreApplication>
-#include <QProgressDialog>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -14,29 +12,9 @@ namespace core {
 
 namespace {
 
-// So many are written before one could read what a dialog says.
-constexpr int kTooFewForProgress = 200;
-
 QString translated(const char* text)
 {
     return QCoreApplication::translate("core", text);
-}
-
-std::unique_ptr<QProgressDialog> progressDialog(int contacts, QWidget* over)
-{
-    if (contacts <= kTooFewForProgress)
-        return nullptr;
-    auto dialog = std::make_unique<QProgressDialog>(
-        translated("Saving the cards of %1 contacts").arg(contacts), translated("Stop"), 0, contacts, over);
-    dialog->setObjectName(u"cardProgress"_s);
-    dialog->setWindowTitle(translated("Save as vCard"));
-    // No other window takes input meanwhile, so nothing that the work reads can close.
-    dialog->setWindowModality(Qt::ApplicationModal);
-    dialog->setMinimumDuration(0);
-    dialog->setMinimumWidth(360);
-    dialog->setAutoReset(false);
-    dialog->setValue(0);
-    return dialog;
 }
 
 /// Nothing, or a paragraph that names the contacts of which only the last one has a file.
@@ -57,14 +35,12 @@ QString aboutSharedNames(const CardsWritten& result)
 void saveCards(Context& context, const QString& idList, const QString& folder, QWidget* over)
 {
     const int contacts = static_cast<int>(idList.count(u',')) + 1;
-    std::unique_ptr<QProgressDialog> dialog = progressDialog(contacts, over);
-    const CardsWritten result
-        = WriteVCards(context.data, context.services.drive, idList, folder, [&dialog](int done) {
-              if (dialog)
-                  dialog->setValue(done); // and lets the window live
-              return !dialog || !dialog->wasCanceled();
-          });
-    dialog.reset();
+    const CardsWritten result = [&] {
+        Progress progress(u"cardProgress"_s, translated("Save as vCard"),
+            translated("Saving the cards of %1 contacts").arg(contacts), contacts, over);
+        return WriteVCards(context.data, context.services.drive, idList, folder,
+            [&progress](int done) { return progress.advance(done); });
+    }();
     platform::MessageBoxes& boxes = context.services.boxes;
     const QString title = context.shared.AppTitle;
     const QString sharing = aboutSharedNames(result);

@@ -1,5 +1,6 @@
 #include "core/vcard_export.h"
 
+#include "core/contact_record.h"
 #include "platform/card_folder.h"
 #include "platform/drive.h"
 #include "platform/storage.h"
@@ -14,39 +15,7 @@ namespace {
 constexpr qsizetype kIdsAtATime = 250;
 constexpr int kContactsAStep = 25;
 
-formats::CardAddress addressOf(const jet::Recordset& contact, const QString& prefix)
-{
-    const auto column
-        = [&contact, &prefix](QStringView name) { return contact.textOrEmpty(prefix + name.toString()); };
-    return {column(u"add1"), column(u"add2"), column(u"city"), column(u"state"), column(u"pin"),
-        column(u"country")};
-}
-
 } // namespace
-
-formats::CardValues cardValuesOf(const jet::Recordset& contact)
-{
-    const auto column = [&contact](QStringView name) { return contact.textOrEmpty(name); };
-    formats::CardValues values;
-    values.name = column(u"Name");
-    values.nameView = column(u"Nview");
-    values.title = column(u"Title");
-    values.nick = column(u"nick");
-    values.company = column(u"Company");
-    values.spouse = column(u"Spouse");
-    values.workPhones = {column(u"w_Ph1"), column(u"w_Ph2"), column(u"w_ph3")};
-    values.homePhones = {column(u"H_Ph1"), column(u"h_ph2"), column(u"h_ph3")};
-    values.mobile = column(u"Mobile");
-    values.fax = column(u"fax");
-    values.work = addressOf(contact, u"w_"_s);
-    values.home = addressOf(contact, u"h_"_s);
-    values.postal = addressOf(contact, u"b_"_s);
-    values.birthday = contact.date(u"M_BD");
-    values.email = column(u"H_email1");
-    values.workEmail = column(u"b_email1");
-    values.web = column(u"h_web");
-    return values;
-}
 
 CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, const QString& idList,
     const QString& folder, const CardProgress& progress)
@@ -66,7 +35,7 @@ CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, cons
         jet::Recordset rows = book.openRecordset(
             u"Select * from cnt_main where id in ( "_s + ids.mid(at, kIdsAtATime).join(u',') + u')');
         for (; rows.hasRow(); rows.moveNext()) {
-            const formats::CardValues values = cardValuesOf(rows);
+            const formats::CardValues values = cardValuesOf(ContactRecord(rows));
             switch (cards.write(values.name, formats::contactCardLines(values))) {
             case Written::Yes:
                 ++result.written;

@@ -32,7 +32,4 @@ CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, cons
 /// The file for what stands in an entry form.
 bool WriteVCardValues(const platform::Drive& drive, const QString& folder, const formats::CardValues& values);
 
-/// The values of a row of "select * from cnt_main".
-formats::CardValues cardValuesOf(const jet::Recordset& contact);
-
 } // namespace core

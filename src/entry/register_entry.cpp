@@ -4,6 +4,7 @@
 #include "entry/duplicator/FrmDuplicator.h"
 #include "entry/form/FormMain.h"
 #include "entry/form/FrmAddSave.h"
+#include "entry/simple/FrmContacts.h"
 #include "entry/turbo/TurboAdd.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,7 @@ void registerEntry(core::Screens& screens)
         screens.add(variant().form.toString(),
             [variant](core::Context& context) -> core::Screen* { return new FormMain(context, variant()); });
     }
+    screens.add<FrmContacts>(u"FrmContacts"_s);
     screens.add<FrmAddSave>(u"FrmAddSave"_s);
     screens.add<FrmDuplicator>(u"FrmDuplicator"_s);
     screens.add<TurboAdd>(u"TurboAdd"_s);

@@ -2,7 +2,6 @@
 
 #include "core/screens.h"
 #include "views/contact_pages/frmCntViewer.h"
-#include "views/contact_pages/FrmContacts.h"
 #include "views/contact_pages/frmDetailView.h"
 #include "views/contact_pages/frmNoteView.h"
 #include "views/filters/frmFilter.h"
@@ -24,7 +23,6 @@ void registerViews(core::Screens& screens)
     screens.add<FormSearch>(u"FormSearch"_s);
     screens.add<FormTree2>(u"FormTree2"_s);
     screens.add<frmCntViewer>(u"frmCntViewer"_s);
-    screens.add<FrmContacts>(u"FrmContacts"_s);
     screens.add<frmDetailView>(u"frmDetailView"_s);
     screens.add<frmFilter>(u"frmFilter"_s);
     screens.add<FrmFind>(u"FrmFind"_s);

@@ -6,6 +6,7 @@
 #include "core/frame.h"
 #include "entry/form/FormMain.h"
 #include "entry/register_entry.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "widgets/fields.h"
 
@@ -28,29 +29,19 @@ public:
     template <class T> T* child(const QString& name) const { return widgets::child<T>(m_form, name); }
     QString text(const QString& name) const { return widgets::textOf(child<QWidget>(name)); }
     void set(const QString& name, const QString& text) { widgets::setTextOf(child<QWidget>(name), text); }
-    void click(const QString& name) { child<QAbstractButton>(name)->click(); }
+    void click(const QString& name) { support::click(m_form, name); }
     bool shows(const QString& name) const { return child<QWidget>(name)->isVisibleTo(m_form); }
 
     /// Types into a field as a person does who comes to it and leaves it by Tab.
     void type(const QString& name, const QString& typed)
     {
-        showPageOf(name);
-        auto* field = child<QWidget>(name);
+        auto* field = support::reach(m_form, name);
         field->setFocus();
+        support::type(m_form, name, typed);
         auto* combo = qobject_cast<QComboBox*>(field);
-        QWidget* line = combo ? combo->lineEdit() : field;
-        QMetaObject::invokeMethod(line, "selectAll");
-        QTest::keyClicks(line, typed);
-        QTest::keyClick(line, Qt::Key_Tab);
+        QTest::keyClick(combo ? combo->lineEdit() : field, Qt::Key_Tab);
     }
-    void showPageOf(const QString& name)
-    {
-        auto* pages = child<QTabWidget>(QStringLiteral("sstab1"));
-        for (int page = 0; page < pages->count(); ++page) {
-            if (pages->widget(page)->isAncestorOf(child<QWidget>(name)))
-                pages->setCurrentIndex(page);
-        }
-    }
+    void showPageOf(const QString& name) { support::reach(m_form, name); }
 
     void addContact(const QString& columns, const QString& values)
     {

@@ -6,6 +6,8 @@
 #include "entry/assists/typed_word.h"
 #include "entry/form/photo_store.h"
 #include "platform/folder_drive.h"
+#include "support/columns.h"
+#include "support/disk.h"
 #include "support/test_book.h"
 
 using namespace Qt::StringLiterals;
@@ -16,293 +18,227 @@ class EntryRulesTest final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void cityLists_data();
-    void cityLists();
-    void scopes_data();
-    void scopes();
-    void spouseNames_data();
-    void spouseNames();
-    void lookUps_data();
-    void lookUps();
-    void words_data();
-    void words();
-    void replacedWord_data();
-    void replacedWord();
-    void photos_data();
-    void photos();
-    void photoNeverOverwrites();
+    void initTestCase()
+    {
+        for (const QString& row :
+            {u"WIA_GLOBALMAS (id,country,type) values (1,'India','M')"_s,
+                u"WIA_GLOBALMAS (id,country,type) values (2,'United States','M')"_s,
+                u"WIA_GLOBALMAS (id,country,type) values (3,'Fiji','')"_s,
+                u"WIA_CITY (city,state,State_full,region,cityisd,[country id],chtype,zip) values "
+                "('Boston','MA','Massachusetts','East','617',2,'M','02108')"_s,
+                u"WIA_CITY (city,state,cityisd,[country id]) values ('Salem','OR','503',2)"_s,
+                u"WIA_CITY (city,state,cityisd,[country id],chtype) values ('Suva','','33',3,'M')"_s,
+                u"WIA_INDIA (city,state,std,[Pin Prefix],region,chtype) values ('Pune','Maharashtra','020','411','West','M')"_s,
+                u"WIA_INDIA (city,state,std) values ('Salem','Tamil Nadu','0427')"_s,
+                u"wia_cntnames (first,gender,national) values ('Asha','Female','N')"_s,
+                u"wia_cntnames (first,gender,national) values ('Eve','Female','C')"_s,
+                u"wia_cntnames (first,gender,national) values ('Ben','Male','C')"_s})
+            QVERIFY2(m_book.data().execute(u"insert into "_s + row), qPrintable(row));
+    }
+
+    void cleanup() { QCOMPARE(m_book.unexpected(), QString()); }
+
+    void cityLists_data()
+    {
+        support::columns<CityChoice, QString>("choice", "cities"); // "fails" for a statement that is broken
+        QTest::newRow("everywhere") << CityChoice{u"All"_s, u""_s, false, false} << u"Boston,Salem,Suva"_s;
+        QTest::newRow("main cities everywhere")
+            << CityChoice{u"All"_s, u""_s, true, true} << u"Boston,Suva"_s;
+        QTest::newRow("home country") << CityChoice{u"India"_s, u"All"_s, false, true} << u"Pune,Salem"_s;
+        QTest::newRow("main cities of the home country")
+            << CityChoice{u"India"_s, u"All"_s, true, true} << u"Pune"_s;
+        QTest::newRow("a state of the home country names a column that is not there")
+            << CityChoice{u"India"_s, u"Goa"_s, false, true} << u"fails"_s;
+        QTest::newRow("the same with main cities")
+            << CityChoice{u"India"_s, u"Goa"_s, true, true} << u"fails"_s;
+        QTest::newRow("India seen from abroad is a country like others")
+            << CityChoice{u"India"_s, u"All"_s, false, false} << u""_s;
+        QTest::newRow("a country") << CityChoice{u"United States"_s, u"All"_s, false, false}
+                                   << u"Boston,Salem"_s;
+        QTest::newRow("a state") << CityChoice{u"United States"_s, u"OR"_s, false, true} << u"Salem"_s;
+        QTest::newRow("main cities of a country")
+            << CityChoice{u"United States"_s, u"All"_s, true, false} << u"Boston"_s;
+    }
+
+    void cityLists()
+    {
+        QFETCH(CityChoice, choice);
+        QFETCH(QString, cities);
+        if (cities == u"fails")
+            m_book.expectFailure(u"cboState"_s);
+        QCOMPARE(m_book.rows(cityListSql(choice)).join(u','), cities == u"fails" ? QString() : cities);
+    }
+
+    void scopes_data()
+    {
+        support::columns<int, bool, QString, QString, QString>(
+            "scope", "mainOnly", "countries", "states", "country");
+        QTest::newRow("all") << 0 << false << u"All,Fiji,India,United States"_s << u""_s << u""_s;
+        QTest::newRow("all, main") << 0 << true << u"All,India,United States"_s << u""_s << u""_s;
+        QTest::newRow("usa") << 1 << false << u"United States"_s << u"All,MA,OR"_s << u"United States"_s;
+        QTest::newRow("india") << 2 << true << u"India"_s << u"All,Maharashtra,Tamil Nadu"_s << u"India"_s;
+    }
+
+    void scopes()
+    {
+        QFETCH(int, scope);
+        QFETCH(bool, mainOnly);
+        CityScopeLists lists = cityScopeLists(m_book.data(), CityScope(scope), mainOnly);
+        QVERIFY(lists.countries.size() < 2 || lists.countries.constFirst() == u"All");
+        lists.countries.sort();
+        QTEST(lists.countries.join(u','), "countries");
+        QTEST(lists.states.join(u','), "states");
+        QTEST(lists.country, "country");
+    }
+
+    void spouseNames_data()
+    {
+        support::columns<QString, bool, QString>("sex", "national", "names");
+        QTest::newRow("blank") << u""_s << true << u"Asha,Ben,Eve"_s;
+        QTest::newRow("of a man") << u"Male"_s << true << u"Asha,Eve"_s;
+        QTest::newRow("of a woman") << u"Female"_s << true << u"Ben"_s;
+        QTest::newRow("any other value keeps the whole list") << u"Gays"_s << true << u"Asha,Ben,Eve"_s;
+        QTest::newRow("abroad only common names") << u"Male"_s << false << u"Eve"_s;
+        QTest::newRow("abroad, blank") << u""_s << false << u"Ben,Eve"_s;
+    }
+
+    void spouseNames()
+    {
+        QFETCH(QString, sex);
+        QFETCH(bool, national);
+        QStringList names = m_book.rows(spouseNamesSql(sex, national));
+        names.sort();
+        QTEST(names.join(u','), "names");
+    }
+
+    void lookUps_data()
+    {
+        // facts: state|region|std|pin|country; "-" leaves the field
+        support::columns<QString, QString, bool, QString>("city", "country", "national", "facts");
+        QTest::newRow("home city") << u"pune"_s << u" india "_s << false
+                                   << u"Maharashtra|West|020|411|India"_s;
+        QTest::newRow("no country, at home") << u"Salem"_s << u""_s << true << u"Tamil Nadu||0427||India"_s;
+        QTest::newRow("no country, abroad") << u"Salem"_s << u""_s << false << u"OR||503|-|United States"_s;
+        QTest::newRow("another country is not compared")
+            << u"Boston"_s << u"Fiji"_s << true << u"MA|East|617|02108|United States"_s;
+        QTest::newRow("not known") << u"Atlantis"_s << u"India"_s << true << u"unknown"_s;
+        QTest::newRow("a wildcard is no wildcard here") << u"Pun*"_s << u"India"_s << true << u"unknown"_s;
+        QTest::newRow("of the other table") << u"Boston"_s << u""_s << true << u"unknown"_s;
+        QTest::newRow("apostrophe") << u"L'Aquila"_s << u""_s << false << u"unknown"_s;
+    }
+
+    void lookUps()
+    {
+        QFETCH(QString, city);
+        QFETCH(QString, country);
+        QFETCH(bool, national);
+        if (city.contains(u'\''))
+            m_book.expectFailure(u"L'Aquila"_s);
+        const auto facts = lookUpCity(m_book.data(), city, country, national);
+        QStringList found{u"unknown"_s};
+        if (facts) {
+            found.clear();
+            for (const auto& value : {facts->state, facts->region, facts->std, facts->pin, facts->country})
+                found << value.value_or(u"-"_s);
+        }
+        QTEST(found.join(u'|'), "facts");
+    }
+
+    void words_data()
+    {
+        support::columns<QString, QString, QString>("keys", "word", "lookUp");
+        QTest::newRow("a word") << u"gard"_s << u"gard"_s << u"gar"_s;
+        QTest::newRow("a blank starts anew") << u"the gar"_s << u"gar"_s << u"ga"_s;
+        QTest::newRow("backspace and point do not count") << u"g\b.a"_s << u"ga"_s << u"g"_s;
+        QTest::newRow("nothing") << u"the "_s << u""_s << u""_s;
+        QTest::newRow("no control keys") << u"a\r\t\x1B"_s << u"a"_s << u""_s;
+    }
+
+    void words()
+    {
+        QFETCH(QString, keys);
+        TypedWord word;
+        for (const QChar key : keys)
+            word.type(key);
+        QTEST(word.word(), "word");
+        QTEST(word.forLookUp(), "lookUp");
+    }
+
+    void replacedWord_data()
+    {
+        support::columns<QString, int, QString, QString>("text", "cursor", "word", "result");
+        QTest::newRow("at the end") << u"12 gar"_s << 6 << u"gar"_s << u"12 Gardens"_s;
+        QTest::newRow("in the middle") << u"12 gar, Pune"_s << 6 << u"gar"_s << u"12 Gardens, Pune"_s;
+        QTest::newRow("what does not stand there stays")
+            << u"12 Hill"_s << 7 << u"gar"_s << u"12 HillGardens"_s;
+    }
+
+    void replacedWord()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, cursor);
+        QFETCH(QString, word);
+        QTEST(withWordReplaced(text, cursor, word, u"Gardens"_s), "result");
+    }
+
+    void photos_data()
+    {
+        // chosen: below the root drive
+        support::columns<QString, QString, QString, bool>("mode", "chosen", "stored", "stays");
+        QTest::newRow("copy") << u"Copy"_s << u"in/Me.PNG"_s << u"C:\\OVUserFiles\\Photos\\Me.png"_s << true;
+        QTest::newRow("move") << u"Move"_s << u"in/Me.PNG"_s << u"C:\\OVUserFiles\\Photos\\Me.png"_s << false;
+        QTest::newRow("link") << u"Link"_s << u"in/Me.PNG"_s << u"C:\\in\\Me.PNG"_s << true;
+        QTest::newRow("one that lies there already")
+            << u"Move"_s << u"OVUserFiles/Photos/a.png"_s << u"C:\\OVUserFiles\\Photos\\a.png"_s << true;
+    }
+
+    void photos()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QString, chosen);
+        QFETCH(QString, stored);
+        QTemporaryDir root;
+        const platform::FolderDrive drive(root.path(), root.filePath(u"program"_s));
+        const QString path = support::put(root.filePath(chosen), "picture");
+        const bool goesWithTheSave = mode != u"Link" && chosen.startsWith(u"in/");
+        {
+            const StoredPhoto failed(drive, path, mode);
+            QCOMPARE(failed.path(), stored);
+            QVERIFY(QFile::exists(core::photoFile(drive, stored)));
+        }
+        // A save that failed leaves the picture where it was, and no copy.
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(QFile::exists(core::photoFile(drive, stored)), !goesWithTheSave);
+        StoredPhoto(drive, path, mode).keep();
+        QTEST(QFile::exists(path), "stays");
+        QVERIFY(QFile::exists(core::photoFile(drive, stored)));
+    }
+
+    void photoNeverOverwrites()
+    {
+        const auto storePhoto = [](const platform::Drive& on, const QString& chosen, const QString& mode) {
+            StoredPhoto photo(on, chosen, mode);
+            photo.keep();
+            return photo.path();
+        };
+        QTemporaryDir root;
+        const platform::FolderDrive drive(root.path(), root.filePath(u"program"_s));
+        QStringList stored;
+        for (const QByteArray content : {"one", "two"})
+            stored << storePhoto(drive, support::put(root.filePath(u"me.png"_s), content), u"Copy"_s);
+        QCOMPARE(stored,
+            (QStringList{u"C:\\OVUserFiles\\Photos\\me.png"_s, u"C:\\OVUserFiles\\Photos\\me (2).png"_s}));
+        QCOMPARE(support::bytesOf(core::photoFile(drive, stored[0])), "one");
+        // A file that can not be copied stays a link.
+        QCOMPARE(storePhoto(drive, root.filePath(u"gone.png"_s), u"Copy"_s), u"C:\\gone.png"_s);
+        // One from outside the drives keeps the path of this computer, and is found by it.
+        QCOMPARE(storePhoto(drive, u"/elsewhere/me.png"_s, u"Link"_s), u"/elsewhere/me.png"_s);
+        QCOMPARE(core::photoFile(drive, u"/elsewhere/me.png"_s), u"/elsewhere/me.png"_s);
+    }
 
 private:
     support::TestBook m_book;
 };
-
-void EntryRulesTest::initTestCase()
-{
-    for (const QString& row :
-        {u"WIA_GLOBALMAS (id,country,type) values (1,'India','M')"_s,
-            u"WIA_GLOBALMAS (id,country,type) values (2,'United States','M')"_s,
-            u"WIA_GLOBALMAS (id,country,type) values (3,'Fiji','')"_s,
-            u"WIA_CITY (city,state,State_full,region,cityisd,[country id],chtype,zip) values "
-            "('Boston','MA','Massachusetts','East','617',2,'M','02108')"_s,
-            u"WIA_CITY (city,state,cityisd,[country id]) values ('Salem','OR','503',2)"_s,
-            u"WIA_CITY (city,state,cityisd,[country id],chtype) values ('Suva','','33',3,'M')"_s,
-            u"WIA_INDIA (city,state,std,[Pin Prefix],region,chtype) values ('Pune','Maharashtra','020','411','West','M')"_s,
-            u"WIA_INDIA (city,state,std) values ('Salem','Tamil Nadu','0427')"_s,
-            u"wia_cntnames (first,gender,national) values ('Asha','Female','N')"_s,
-            u"wia_cntnames (first,gender,national) values ('Eve','Female','C')"_s,
-            u"wia_cntnames (first,gender,national) values ('Ben','Male','C')"_s})
-        QVERIFY2(m_book.data().execute(u"insert into "_s + row), qPrintable(row));
-}
-
-void EntryRulesTest::cleanup()
-{
-    QCOMPARE(m_book.unexpected(), QString());
-}
-
-void EntryRulesTest::cityLists_data()
-{
-    QTest::addColumn<CityChoice>("choice");
-    QTest::addColumn<QString>("sql");
-    QTest::addColumn<QString>("cities"); // "fails" for a statement that is broken
-    const QString ofCountry
-        = u" from wia_city where [country id] in (select id  from wia_globalmas  where country ='"_s;
-    QTest::newRow("everywhere") << CityChoice{u"All"_s, u""_s, false, false}
-                                << u"select distinct city from wia_city  order by city"_s
-                                << u"Boston,Salem,Suva"_s;
-    QTest::newRow("main cities everywhere")
-        << CityChoice{u"All"_s, u""_s, true, true}
-        << u"select distinct city from WIA_CITY where [chtype] = 'M' order by city "_s << u"Boston,Suva"_s;
-    QTest::newRow("home country") << CityChoice{u"India"_s, u"All"_s, false, true}
-                                  << u"select city from WIA_INDIA order by city"_s << u"Pune,Salem"_s;
-    QTest::newRow("main cities of the home country")
-        << CityChoice{u"India"_s, u"All"_s, true, true}
-        << u"select city from WIA_INDIA where chtype like 'M' order by city"_s << u"Pune"_s;
-    QTest::newRow("a state of the home country names a column that is not there")
-        << CityChoice{u"India"_s, u"Goa"_s, false, true}
-        << u"select distinct city from WIA_INDIA  where cboState ='Goa' order by city"_s << u"fails"_s;
-    QTest::newRow("the same with main cities")
-        << CityChoice{u"India"_s, u"Goa"_s, true, true}
-        << u"select distinct city from WIA_INDIA  where cboState ='Goa' and chtype like 'M' order by city"_s
-        << u"fails"_s;
-    QTest::newRow("India seen from abroad is a country like others")
-        << CityChoice{u"India"_s, u"All"_s, false, false}
-        << QString(u"select distinct city"_s + ofCountry + u"India') order by city"_s) << u""_s;
-    QTest::newRow("a country") << CityChoice{u"United States"_s, u"All"_s, false,
-        false} << QString(u"select distinct city"_s + ofCountry + u"United States') order by city"_s)
-                               << u"Boston,Salem"_s;
-    QTest::newRow("a state") << CityChoice{u"United States"_s, u"OR"_s, false, true}
-                             << QString(u"select city"_s + ofCountry
-                                    + u"United States') and state like 'OR' order by city"_s)
-                             << u"Salem"_s;
-    QTest::newRow("main cities of a country") << CityChoice{u"United States"_s, u"All"_s, true, false}
-                                              << QString(u"select distinct city"_s + ofCountry
-                                                     + u"United States') and chtype like 'M' order by city"_s)
-                                              << u"Boston"_s;
-}
-
-void EntryRulesTest::cityLists()
-{
-    QFETCH(CityChoice, choice);
-    QFETCH(QString, sql);
-    QFETCH(QString, cities);
-    QCOMPARE(cityListSql(choice), sql);
-    if (cities == u"fails")
-        m_book.expectFailure(u"cboState"_s);
-    QCOMPARE(m_book.rows(sql).join(u','), cities == u"fails" ? QString() : cities);
-}
-
-void EntryRulesTest::scopes_data()
-{
-    QTest::addColumn<int>("scope");
-    QTest::addColumn<bool>("mainOnly");
-    QTest::addColumn<QString>("countries");
-    QTest::addColumn<QString>("states");
-    QTest::addColumn<QString>("country");
-    QTest::newRow("all") << 0 << false << u"All,Fiji,India,United States"_s << u""_s << u""_s;
-    QTest::newRow("all, main") << 0 << true << u"All,India,United States"_s << u""_s << u""_s;
-    QTest::newRow("usa") << 1 << false << u"United States"_s << u"All,MA,OR"_s << u"United States"_s;
-    QTest::newRow("india") << 2 << true << u"India"_s << u"All,Maharashtra,Tamil Nadu"_s << u"India"_s;
-}
-
-void EntryRulesTest::scopes()
-{
-    QFETCH(int, scope);
-    QFETCH(bool, mainOnly);
-    CityScopeLists lists = cityScopeLists(m_book.data(), CityScope(scope), mainOnly);
-    QVERIFY(lists.countries.size() < 2 || lists.countries.constFirst() == u"All");
-    lists.countries.sort();
-    QTEST(lists.countries.join(u','), "countries");
-    QTEST(lists.states.join(u','), "states");
-    QTEST(lists.country, "country");
-}
-
-void EntryRulesTest::spouseNames_data()
-{
-    QTest::addColumn<QString>("sex");
-    QTest::addColumn<bool>("national");
-    QTest::addColumn<QString>("names");
-    QTest::newRow("blank") << u""_s << true << u"Asha,Ben,Eve"_s;
-    QTest::newRow("of a man") << u"Male"_s << true << u"Asha,Eve"_s;
-    QTest::newRow("of a woman") << u"Female"_s << true << u"Ben"_s;
-    QTest::newRow("any other value keeps the whole list") << u"Gays"_s << true << u"Asha,Ben,Eve"_s;
-    QTest::newRow("abroad only common names") << u"Male"_s << false << u"Eve"_s;
-    QTest::newRow("abroad, blank") << u""_s << false << u"Ben,Eve"_s;
-}
-
-void EntryRulesTest::spouseNames()
-{
-    QFETCH(QString, sex);
-    QFETCH(bool, national);
-    QStringList names = m_book.rows(spouseNamesSql(sex, national));
-    names.sort();
-    QTEST(names.join(u','), "names");
-}
-
-void EntryRulesTest::lookUps_data()
-{
-    QTest::addColumn<QString>("city");
-    QTest::addColumn<QString>("country");
-    QTest::addColumn<bool>("national");
-    QTest::addColumn<QString>("facts"); // state|region|std|pin|country; "-" leaves the field
-    QTest::newRow("home city") << u"pune"_s << u" india "_s << false << u"Maharashtra|West|020|411|India"_s;
-    QTest::newRow("no country, at home") << u"Salem"_s << u""_s << true << u"Tamil Nadu||0427||India"_s;
-    QTest::newRow("no country, abroad") << u"Salem"_s << u""_s << false << u"OR||503|-|United States"_s;
-    QTest::newRow("another country is not compared")
-        << u"Boston"_s << u"Fiji"_s << true << u"MA|East|617|02108|United States"_s;
-    QTest::newRow("not known") << u"Atlantis"_s << u"India"_s << true << u"unknown"_s;
-    QTest::newRow("a wildcard is no wildcard here") << u"Pun*"_s << u"India"_s << true << u"unknown"_s;
-    QTest::newRow("of the other table") << u"Boston"_s << u""_s << true << u"unknown"_s;
-    QTest::newRow("apostrophe") << u"L'Aquila"_s << u""_s << false << u"unknown"_s;
-}
-
-void EntryRulesTest::lookUps()
-{
-    QFETCH(QString, city);
-    QFETCH(QString, country);
-    QFETCH(bool, national);
-    if (city.contains(u'\''))
-        m_book.expectFailure(u"L'Aquila"_s);
-    const auto facts = lookUpCity(m_book.data(), city, country, national);
-    QStringList found{u"unknown"_s};
-    if (facts) {
-        found.clear();
-        for (const auto& value : {facts->state, facts->region, facts->std, facts->pin, facts->country})
-            found << value.value_or(u"-"_s);
-    }
-    QTEST(found.join(u'|'), "facts");
-}
-
-void EntryRulesTest::words_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("lookUp");
-    QTest::newRow("a word") << u"gard"_s << u"gard"_s << u"gar"_s;
-    QTest::newRow("a blank starts anew") << u"the gar"_s << u"gar"_s << u"ga"_s;
-    QTest::newRow("backspace and point do not count") << u"g\b.a"_s << u"ga"_s << u"g"_s;
-    QTest::newRow("nothing") << u"the "_s << u""_s << u""_s;
-    QTest::newRow("no control keys") << u"a\r\t\x1B"_s << u"a"_s << u""_s;
-}
-
-void EntryRulesTest::words()
-{
-    QFETCH(QString, keys);
-    TypedWord word;
-    for (const QChar key : keys)
-        word.type(key);
-    QTEST(word.word(), "word");
-    QTEST(word.forLookUp(), "lookUp");
-}
-
-void EntryRulesTest::replacedWord_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("cursor");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("at the end") << u"12 gar"_s << 6 << u"gar"_s << u"12 Gardens"_s;
-    QTest::newRow("in the middle") << u"12 gar, Pune"_s << 6 << u"gar"_s << u"12 Gardens, Pune"_s;
-    QTest::newRow("what does not stand there stays") << u"12 Hill"_s << 7 << u"gar"_s << u"12 HillGardens"_s;
-}
-
-void EntryRulesTest::replacedWord()
-{
-    QFETCH(QString, text);
-    QFETCH(int, cursor);
-    QFETCH(QString, word);
-    QTEST(withWordReplaced(text, cursor, word, u"Gardens"_s), "result");
-}
-
-void EntryRulesTest::photos_data()
-{
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QString>("chosen"); // below the root drive
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<bool>("stays");
-    QTest::newRow("copy") << u"Copy"_s << u"in/Me.PNG"_s << u"C:\\OVUserFiles\\Photos\\Me.png"_s << true;
-    QTest::newRow("move") << u"Move"_s << u"in/Me.PNG"_s << u"C:\\OVUserFiles\\Photos\\Me.png"_s << false;
-    QTest::newRow("link") << u"Link"_s << u"in/Me.PNG"_s << u"C:\\in\\Me.PNG"_s << true;
-    QTest::newRow("one that lies there already")
-        << u"Move"_s << u"OVUserFiles/Photos/a.png"_s << u"C:\\OVUserFiles\\Photos\\a.png"_s << true;
-}
-
-void EntryRulesTest::photos()
-{
-    QFETCH(QString, mode);
-    QFETCH(QString, chosen);
-    QFETCH(QString, stored);
-    QTemporaryDir root;
-    const platform::FolderDrive drive(root.path(), root.filePath(u"program"_s));
-    const QString path = root.filePath(chosen);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("picture");
-    file.close();
-    const bool goesWithTheSave = mode != u"Link" && chosen.startsWith(u"in/");
-    {
-        const StoredPhoto failed(drive, path, mode);
-        QCOMPARE(failed.path(), stored);
-        QVERIFY(QFile::exists(core::photoFile(drive, stored)));
-    }
-    // A save that failed leaves the picture where it was, and no copy.
-    QVERIFY(QFile::exists(path));
-    QCOMPARE(QFile::exists(core::photoFile(drive, stored)), !goesWithTheSave);
-    StoredPhoto(drive, path, mode).keep();
-    QTEST(QFile::exists(path), "stays");
-    QVERIFY(QFile::exists(core::photoFile(drive, stored)));
-}
-
-void EntryRulesTest::photoNeverOverwrites()
-{
-    const auto storePhoto = [](const platform::Drive& on, const QString& chosen, const QString& mode) {
-        StoredPhoto photo(on, chosen, mode);
-        photo.keep();
-        return photo.path();
-    };
-    QTemporaryDir root;
-    const platform::FolderDrive drive(root.path(), root.filePath(u"program"_s));
-    QStringList stored;
-    for (const QByteArray content : {"one", "two"}) {
-        QFile file(root.filePath(u"me.png"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(content);
-        file.close();
-        stored << storePhoto(drive, file.fileName(), u"Copy"_s);
-    }
-    QCOMPARE(stored,
-        (QStringList{u"C:\\OVUserFiles\\Photos\\me.png"_s, u"C:\\OVUserFiles\\Photos\\me (2).png"_s}));
-    QFile first(core::photoFile(drive, stored[0]));
-    QVERIFY(first.open(QIODevice::ReadOnly));
-    QCOMPARE(first.readAll(), QByteArray("one"));
-    // A file that can not be copied stays a link.
-    QCOMPARE(storePhoto(drive, root.filePath(u"gone.png"_s), u"Copy"_s), u"C:\\gone.png"_s);
-    // One from outside the drives keeps the path of this computer, and is found by it.
-    QCOMPARE(storePhoto(drive, u"/elsewhere/me.png"_s, u"Link"_s), u"/elsewhere/me.png"_s);
-    QCOMPARE(core::photoFile(drive, u"/elsewhere/me.png"_s), u"/elsewhere/me.png"_s);
-}
 
 Q_DECLARE_METATYPE(entry::CityChoice)
 QTEST_GUILESS_MAIN(EntryRulesTest)

@@ -72,7 +72,7 @@ QStringList FullViewSaveTest::row()
 QStringList FullViewSaveTest::save()
 {
     const QStringList before = row();
-    jet::Recordset contact = m_book->data().openRecordset(contactForEditSql(1));
+    jet::Recordset contact = m_book->data().openRecordset(core::contactByIdSql(1));
     const QStringList columns = contact.columns();
     const core::LoadedRow loaded(contact);
     contact.edit();

@@ -14,10 +14,9 @@
 #include "core/sound_files.h"
 #include "entry/assists/assist_panel.h"
 #include "entry/assists/entry_assists.h"
-#include "entry/form/card_values.h"
+#include "entry/form/entered_contact.h"
 #include "entry/form/entry_lists.h"
 #include "entry/form/entry_pages.h"
-#include "entry/form/mail_contact.h"
 #include "entry/form/photo_field.h"
 #include "entry/form/save_checks.h"
 #include "entry/form/save_effects.h"
@@ -419,26 +418,14 @@ bool FormMain::isTouched() const
 
 void FormMain::refuse(int refusal)
 {
-    switch (Refusal(refusal)) {
-    case Refusal::AllBlank:
-        inform(tr("First, Last and Company are blank. At least one of these should not be blank."));
-        sstab1->setCurrentIndex(0);
-        control(u"dtcmbfname"_s)->setFocus();
-        break;
-    case Refusal::NoNameView: {
-        warn(tr("Not a Valid Name View"));
-        sstab1->setCurrentIndex(0);
-        auto* views = m_fields.control<QComboBox>(u"cmbnview"_s);
-        views->setFocus();
-        views->showPopup();
-        break;
-    }
-    case Refusal::NeitherNameNorCompany:
-        warn(tr("Either Name or Company should be entered"));
-        sstab1->setCurrentIndex(0);
-        control(u"dtcmbfname"_s)->setFocus();
-        break;
-    }
+    const auto why = Refusal(refusal);
+    tellRefusal(context(), why);
+    sstab1->setCurrentIndex(0);
+    if (why != Refusal::NoNameView)
+        return control(u"dtcmbfname"_s)->setFocus();
+    auto* views = m_fields.control<QComboBox>(u"cmbnview"_s);
+    views->setFocus();
+    views->showPopup();
 }
 
 bool FormMain::mayBeSaved()
@@ -462,7 +449,7 @@ bool FormMain::mayBeSaved()
 formats::CardValues FormMain::cardValues() const
 {
     const FormValues now = values();
-    return cardValuesOf(now, composedName(now));
+    return core::cardValuesOf(enteredContact(enteredColumns(), now, composedName(now)));
 }
 
 QString FormMain::mailKey() const
@@ -474,7 +461,8 @@ QString FormMain::mailKey() const
 platform::MailChange FormMain::mailChange() const
 {
     const FormValues now = values();
-    return [now, name = composedName(now)](platform::MailContact& item) { fillMailContact(item, now, name); };
+    return [contact = enteredContact(enteredColumns(), now, composedName(now))](
+               platform::MailContact& item) { core::fillMailItem(item, contact); };
 }
 
 void FormMain::save()

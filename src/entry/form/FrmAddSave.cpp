@@ -5,7 +5,6 @@
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "core/vcard_export.h"
-#include "entry/form/mail_contact.h"
 #include "platform/card_folder.h"
 #include "platform/special_folders.h"
 #include "widgets/dialog_keys.h"

@@ -2,6 +2,19 @@
 
 namespace entry {
 
+const char* refusalText(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::AllBlank:
+        return QT_TRANSLATE_NOOP(
+            "entry", "First, Last and Company are blank. At least one of these should not be blank.");
+    case Refusal::NoNameView: return QT_TRANSLATE_NOOP("entry", "Not a Valid Name View");
+    case Refusal::NeitherNameNorCompany:
+        return QT_TRANSLATE_NOOP("entry", "Either Name or Company should be entered");
+    }
+    return "";
+}
+
 core::NameParts namePartsOf(const FormValues& values)
 {
     return {values.text(u"Cmbtitle"), values.text(u"dtcmbfname"), values.text(u"dtcmblname"),

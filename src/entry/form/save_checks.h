@@ -9,6 +9,9 @@ namespace entry {
 
 enum class Refusal { AllBlank, NoNameView, NeitherNameNorCompany };
 
+/// What the person is told, for translation in the context "entry".
+const char* refusalText(Refusal refusal);
+
 /// What the checks of a save need of a form.
 core::NameParts namePartsOf(const FormValues& values);
 

@@ -3,9 +3,12 @@
 #include "core/mail_key.h"
 #include "core/save_failure.h"
 #include "core/settings.h"
-#include "entry/form/mail_contact.h"
+#include "entry/form/entered_contact.h"
 #include "platform/clock.h"
 #include "platform/favourites.h"
+#include "platform/message_boxes.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +36,7 @@ NewContact newContactOf(const FormVariant& variant, const FormValues& values, co
 {
     NewContact contact;
     contact.name = name;
-    fillMailContact(contact.mail, values, name);
+    core::fillMailItem(contact.mail, enteredContact(enteredColumns(), values, name));
     contact.dates
         = {0, values.trimmed(u"dtcmbfname"), values.trimmed(u"dtcmblname"), values.trimmed(u"dtcspouse"),
             {values.trimmed(u"dtckid1"), values.trimmed(u"dtckid2"), values.trimmed(u"dtckid3")},
@@ -80,14 +83,29 @@ qint64 addContact(
     return id;
 }
 
+void tellRefusal(core::Context& context, Refusal refusal)
+{
+    const QString text = QCoreApplication::translate("entry", refusalText(refusal));
+    platform::MessageBoxes& boxes = context.services.boxes;
+    if (refusal == Refusal::AllBlank)
+        boxes.information(text, context.shared.AppTitle);
+    else
+        boxes.warning(text, context.shared.AppTitle);
+}
+
+void changeMailItem(core::Context& context, qint64 id, const core::ContactRecord& contact)
+{
+    if (core::readSettings(context.data).flag(u"UpdOutllook"))
+        context.services.mailContacts.update(
+            core::mailKeyOf(id), [&](platform::MailContact& item) { core::fillMailItem(item, contact); });
+}
+
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,
     const QString& name, qint64 id)
 {
-    const auto setup = core::readSettings(context.data);
-    if (variant.updatesMailOnEdit && setup.flag(u"UpdOutllook"))
-        context.services.mailContacts.update(
-            core::mailKeyOf(id), [&](platform::MailContact& item) { fillMailContact(item, values, name); });
-    if (setup.flag(u"AddFav"))
+    if (variant.updatesMailOnEdit)
+        changeMailItem(context, id, enteredContact(enteredColumns(), values, name));
+    if (core::readSettings(context.data).flag(u"AddFav"))
         addFavourites(context.services.favourites, name,
             favouritesOf(values, variant.homeSuffixOnEdit, variant.workSuffixOnEdit));
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/contact_record.h"
 #include "core/context.h"
 #include "core/scheduler_rows.h"
 #include "entry/form/form_values.h"
 #include "entry/form/form_variant.h"
+#include "entry/form/save_checks.h"
 #include "platform/contact_sync.h"
 
 #include <functional>
@@ -34,6 +36,12 @@ NewContact newContactOf(const FormVariant& variant, const FormValues& values, co
 /// @return the number of the contact, 0 when it was not stored
 qint64 addContact(
     core::Context& context, NewContact contact, const std::function<void(jet::Recordset&)>& assign);
+
+/// Says why a form is not saved.
+void tellRefusal(core::Context& context, Refusal refusal);
+
+/// Brings a change to the mail client's item, where the set-up asks for it.
+void changeMailItem(core::Context& context, qint64 id, const core::ContactRecord& contact);
 
 /// What a changed contact brings outside the book. A change makes no scheduler rows.
 void applyEditEffects(core::Context& context, const FormVariant& variant, const FormValues& values,

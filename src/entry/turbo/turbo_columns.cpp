@@ -1,5 +1,7 @@
 #include "entry/turbo/turbo_columns.h"
 
+#include "entry/form/entered_contact.h"
+
 using namespace Qt::StringLiterals;
 
 namespace entry {
@@ -66,40 +68,15 @@ constexpr ColumnRow kColumns[] = {
     {u"User3", u"TxtUser3", Rule::AsTyped},
 };
 
+/// The states are for the mail client only.
+constexpr ColumnRow kStates[] = {{u"h_state", u"TxtHState"}, {u"w_state", u"TxtWState"}};
+
 platform::MailContact turboMailContact(const FormValues& values)
 {
-    const auto text = [&values](QStringView box) { return values.trimmed(box); };
+    QList<ColumnRow> columns(std::begin(kColumns), std::end(kColumns));
+    columns << kStates[0] << kStates[1];
     platform::MailContact item;
-    item.first = text(u"txtfirst");
-    item.last = text(u"txtlast");
-    item.nick = text(u"txtnick");
-    item.fullName = item.fileAs = turboName(values);
-    item.company = QString(values.text(u"txtcompany") + values.text(u"txtcompsuffix")).trimmed();
-    item.jobTitle = text(u"txtJobTitle");
-    item.home = {text(u"txthadd1"), text(u"txthadd2"), text(u"txthcity"), text(u"TxtHState"),
-        text(u"TxthZip"), text(u"txthcountry")};
-    item.work = {text(u"txtwadd1"), text(u"txtwadd2"), text(u"txtwcity"), text(u"TxtWState"),
-        text(u"TxtwZip"), text(u"txthcountry")};
-    item.homePhone1 = text(u"txthph1");
-    item.homePhone2 = text(u"txthph2");
-    item.homePhone3 = text(u"txthph3");
-    item.workPhone1 = text(u"txtwph1");
-    item.workPhone2 = text(u"txtwph2");
-    item.workPhone3 = text(u"txtwph3");
-    item.mobile = text(u"txtMobile");
-    item.fax = text(u"txtfax");
-    if (!text(u"txthemail1").isEmpty())
-        item.email1 = values.text(u"txthemail1") + u'@' + values.text(u"txthemailSuffix");
-    item.email3 = text(u"txtwemail1");
-    item.homeWeb = text(u"txtHweb");
-    item.workWeb = text(u"txtWweb");
-    item.birthday = values.date(u"dtpBirtday").value_or(QDate());
-    item.anniversary = values.date(u"SSDateAnn").value_or(QDate());
-    item.spouse = text(u"TxtSpouse");
-    item.hobby = text(u"TxtHobbies");
-    item.user1 = text(u"TxtUser1");
-    item.user2 = text(u"TxtUser2");
-    item.user3 = text(u"TxtUser3");
+    core::fillMailItem(item, enteredContact(columns, values, turboName(values)), core::WorkAddress::Second);
     return item;
 }
 

@@ -3,6 +3,7 @@
 #include "core/contact_lookups.h"
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
+#include "core/list_presenter.h"
 #include "core/photo_file.h"
 #include "core/save_failure.h"
 #include "core/screens.h"
@@ -16,14 +17,15 @@
 #include "views/contact_pages/record_texts.h"
 #include "views/full_view/address_source.h"
 #include "views/full_view/category_tree.h"
-#include "views/full_view/found_strip.h"
 #include "views/full_view/full_view_edit.h"
 #include "views/full_view/full_view_header.h"
 #include "views/full_view/full_view_pages.h"
 #include "views/full_view/full_view_sql.h"
 #include "views/full_view/keyword_panel.h"
 #include "views/full_view/list_editing.h"
+#include "views/full_view/listed_book.h"
 #include "widgets/fields.h"
+#include "widgets/found_strip.h"
 #include "widgets/picture_box.h"
 #include "widgets/record_list.h"
 #include "widgets/theme.h"
@@ -75,7 +77,8 @@ FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* pa
     , m_listEditing(new ListEditing(DBList1))
     , m_header(new FullViewHeader)
     , m_edit(new FullViewEdit(context))
-    , m_found(new FoundStrip)
+    , m_found(new widgets::FoundStrip)
+    , m_list(new core::ListPresenter(context.data, DBList1, this))
     , lblCounter(new QLabel)
     , ssprevious(
           commandButton(u"ssprevious"_s, u"previous", tr("Previous contact"), {}, Qt::CTRL | Qt::Key_Up))
@@ -86,6 +89,9 @@ FullView::FullView(core::Context& context, const FullViewKind& kind, QWidget* pa
     , CmdRefresh(commandButton(u"CmdRefresh"_s, u"restore", tr("Show all contacts again"), {}, Qt::Key_F5))
 {
     setWindowTitle(QCoreApplication::translate("views", kind.title));
+    m_book = std::make_unique<OwnBook>(*this);
+    m_list->setStrip(m_found, core::contactCountSql());
+    m_list->showBrokenAsEmpty();
     layOut();
     makeMenus();
     connectControls();
@@ -124,7 +130,7 @@ void FullView::makeMenus()
 
 void FullView::connectControls()
 {
-    connect(DBList1, &widgets::RecordList::currentRowChanged, this, &FullView::rowChanged);
+    connect(m_list, &core::ListPresenter::currentChanged, this, &FullView::rowChanged);
     connect(tvwdb, &CategoryTree::contactChosen, this, &FullView::chooseInTree);
     connect(frmkeyword, &KeywordPanel::searched, this, [this](const QString& keyword) {
         if (!mayLeaveEdit())
@@ -141,7 +147,7 @@ void FullView::connectControls()
     connect(CmdList, &QToolButton::clicked, this, &FullView::showList);
     connect(CmdTree, &QToolButton::clicked, this, &FullView::showTree);
     connect(CmdRefresh, &QToolButton::clicked, this, &FullView::refresh);
-    connect(m_found, &FoundStrip::clearWanted, this, &FullView::refresh);
+    connect(m_found, &widgets::FoundStrip::clearWanted, this, &FullView::refresh);
     connect(m_header, &FullViewHeader::reachChosen, m_pages->summary(), &ContactPage::follow);
     connect(m_pages->summary(), &ContactPage::contactChosen, this, &FullView::goToAssociate);
     connect(CmdView, &QToolButton::clicked, this, [this] {
@@ -174,8 +180,7 @@ bool FullView::showContact(qint64 id)
         return false;
     if (!mayLeaveEdit())
         return true;
-    if (m_source)
-        browse(nullptr);
+    listOwnBook();
     if (DBList1->rowOf(id) < 0)
         openList(core::contactListSql());
     // Kept: the list is searched for the name, so of two people with one name it stops at the first.
@@ -193,8 +198,7 @@ void FullView::applyFilter(const QString& whereClause)
 {
     if (!mayLeaveEdit())
         return;
-    if (m_source)
-        browse(nullptr);
+    listOwnBook();
     openFound(core::contactListSql(whereClause), tr("Filter"));
 }
 
@@ -203,7 +207,7 @@ void FullView::bookChanged()
     // What is being entered stays until it is saved or left.
     if (isTouched())
         return;
-    reopenList();
+    m_book->listAgain();
     tvwdb->rebuild();
     if (TabsEdit->currentIndex() == kEditPage)
         m_edit->loadContact(m_id);
@@ -227,16 +231,8 @@ bool FullView::mayLeaveEdit()
 
 void FullView::openList(const QString& sql, const QString& foundBy)
 {
-    Data4 = sql;
-    m_foundBy = foundBy;
-    DBList1->fill(context().data.openRecordset(sql));
-    // Said outright that no row is current, else the list takes its first row when it gets the focus.
-    DBList1->setCurrentRow(-1);
+    m_list->open(sql, foundBy);
     showCounter();
-    if (foundBy.isEmpty())
-        return m_found->hide();
-    m_found->tell(foundBy, DBList1->rowCount(),
-        context().data.openRecordset(core::contactCountSql()).textAt(0).toInt());
 }
 
 // What was found is seen, also when the tree was in front.
@@ -246,26 +242,7 @@ void FullView::openFound(const QString& sql, const QString& foundBy)
     showList();
     if (DBList1->rowCount() == 0)
         return displayNothing();
-    const int row = m_id == 0 ? -1 : DBList1->rowOf(m_id);
-    DBList1->setCurrentRow(std::max(0, row));
-}
-
-void FullView::reopenList()
-{
-    if (m_source) {
-        const int row = DBList1->currentRow();
-        m_source->reload();
-        listSource();
-        DBList1->setCurrentRow(std::min(row, DBList1->rowCount() - 1));
-        if (DBList1->currentRow() < 0)
-            displayNothing();
-        return;
-    }
-    openList(Data4, m_foundBy);
-    if (!m_foundBy.isEmpty() && DBList1->rowCount() == 0)
-        displayNothing();
-    if (m_id != 0)
-        selectInList(m_id);
+    selectInList(m_id != 0 && DBList1->rowOf(m_id) >= 0 ? m_id : DBList1->keyAt(0));
 }
 
 void FullView::selectInList(qint64 id)
@@ -284,10 +261,24 @@ void FullView::selectInList(qint64 id)
 
 void FullView::browse(std::unique_ptr<AddressSource> source)
 {
-    // The rows go first, since they ask the old one for their texts.
+    if (source)
+        listBook(std::make_unique<OtherBook>(*this, std::move(source)));
+    else
+        listBook(std::make_unique<OwnBook>(*this));
+}
+
+void FullView::listOwnBook()
+{
+    if (!m_book->isOwn())
+        browse(nullptr);
+}
+
+void FullView::listBook(std::unique_ptr<ListedBook> book)
+{
+    // The rows go first, since they ask the old book for their texts.
     DBList1->clearRows();
-    m_source = std::move(source);
-    const bool own = !m_source;
+    m_book = std::move(book);
+    const bool own = m_book->isOwn();
     m_tools->action(u"Edit")->setChecked(false);
     m_listEditing->setEditable(false);
     for (const QStringView id : {u"Edit", u"Search"})
@@ -300,65 +291,25 @@ void FullView::browse(std::unique_ptr<AddressSource> source)
     m_pages->showBook(own);
     m_found->hide();
     displayNothing();
-    if (own) {
-        DBList1->showAs(u"Name"_s, {});
-        openList(core::contactListSql());
-    } else {
-        DBList1->showAs(u"Name"_s,
-            [this](const QVariant& row) { return m_source ? m_source->label(row.toInt()) : QString(); });
-        listSource();
-    }
+    m_book->list();
     Q_EMIT bookChosen(own);
-}
-
-// A row holds its number; its text is asked for when it comes in sight.
-void FullView::listSource()
-{
-    QList<QStringList> rows;
-    rows.reserve(m_source->count());
-    for (int row = 0; row < m_source->count(); ++row)
-        rows << QStringList{QString::number(row)};
-    DBList1->setRows(rows, {u"Name"_s});
-    DBList1->setCurrentRow(-1);
-    showCounter();
-}
-
-void FullView::showItem(int row)
-{
-    displayNothing();
-    showTexts(m_source->texts(row));
-    m_header->showPlainName(shownName().isEmpty() ? m_source->label(row) : QString());
-    m_record->setCurrentIndex(1);
-    showCounter();
 }
 
 void FullView::rowChanged(int row)
 {
-    if (row < 0)
-        return;
-    if (m_source)
-        return showItem(row);
-    shared().selectedContactId = DBList1->keyAt(row);
-    shared().selectedContactName = DBList1->textAt(row, u"Name"_s);
-    display(shared().selectedContactId);
-    showCounter();
+    if (row >= 0)
+        m_book->show(row);
 }
 
 void FullView::moveBy(int step)
 {
-    if (!mayLeaveEdit())
-        return;
-    const int row = DBList1->currentRow() + step;
-    if (row >= 0 && row < DBList1->rowCount())
-        DBList1->setCurrentRow(row);
+    if (mayLeaveEdit())
+        m_list->moveBy(step);
 }
 
 void FullView::showCounter()
 {
-    const int row = DBList1->currentRow();
-    lblCounter->setText(row < 0
-            ? QString()
-            : u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(DBList1->rowCount())));
+    lblCounter->setText(m_list->position());
 }
 
 void FullView::display(qint64 id)
@@ -439,18 +390,8 @@ void FullView::chooseInTree(qint64 id)
 
 void FullView::refresh()
 {
-    if (!mayLeaveEdit())
-        return;
-    if (m_source)
-        return reopenList();
-    openList(core::contactListSql());
-    tvwdb->rebuild();
-    if (m_id == 0)
-        return;
-    selectInList(m_id);
-    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(m_id));
-    tvwdb->reveal(
-        contact.textOrEmpty(u"category1"), contact.textOrEmpty(u"category2"), contact.textOrEmpty(u"Name"));
+    if (mayLeaveEdit())
+        m_book->listAll();
 }
 
 void FullView::pageChanged(int page)
@@ -500,7 +441,7 @@ void FullView::storeName(qint64 id, const QString& name)
     row.edit();
     row.set(u"name", name);
     const bool isStored = row.update();
-    reopenList();
+    m_book->listAgain();
     if (!isStored)
         return core::tellFailedSave(context());
     context().screens.tellBookChanged(this);

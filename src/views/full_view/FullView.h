@@ -15,18 +15,19 @@ class QTabWidget;
 class QToolButton;
 
 namespace widgets {
+class FoundStrip;
 class RecordList;
-}
+} // namespace widgets
 
 namespace core {
 class ContactTools;
-}
+class ListPresenter;
+} // namespace core
 
 namespace views {
 
 class AddressSource;
 class CategoryTree;
-class FoundStrip;
 class FullViewEdit;
 class FullViewHeader;
 class FullViewPages;
@@ -68,6 +69,10 @@ protected:
     void browse(std::unique_ptr<AddressSource> source);
 
 private:
+    class ListedBook;
+    class OwnBook;
+    class OtherBook;
+
     void layOut();
     QWidget* layOutBrowser();
     QWidget* layOutRecord();
@@ -76,12 +81,11 @@ private:
 
     void openList(const QString& sql, const QString& foundBy = {});
     void openFound(const QString& sql, const QString& foundBy);
-    void reopenList(); ///< the same selection, with the same contact selected
+    void listBook(std::unique_ptr<ListedBook> book);
+    void listOwnBook();
     void selectInList(qint64 id);
     void rowChanged(int row);
     void moveBy(int step);
-    void listSource();
-    void showItem(int row);
     void showCounter();
     void display(qint64 id);
     void showSummary(const jet::Recordset& contact);
@@ -102,12 +106,10 @@ private:
     QString shownName() const;
 
     const FullViewKind& m_kind;
-    QString Data4; ///< the statement behind the list
-    QString m_foundBy; ///< what the list was narrowed down by, empty for all contacts
     qint64 m_id = 0; ///< the contact shown
     QString m_picture; ///< its picture, as the program writes paths
     QHash<QString, QWidget*> m_controls; ///< those that show a text of the contact
-    std::unique_ptr<AddressSource> m_source; ///< what is listed, if not the own book
+    std::unique_ptr<ListedBook> m_book;
 
     core::ContactTools* m_tools;
     QMenu* m_menu = nullptr;
@@ -124,7 +126,8 @@ private:
     FullViewHeader* m_header;
     FullViewPages* m_pages = nullptr;
     FullViewEdit* m_edit;
-    FoundStrip* m_found;
+    widgets::FoundStrip* m_found;
+    core::ListPresenter* m_list;
     QLabel* lblCounter;
     QToolButton* ssprevious;
     QToolButton* ssnext;

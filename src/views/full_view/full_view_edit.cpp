@@ -6,10 +6,8 @@
 #include "core/settings.h"
 #include "core/touched_fields.h"
 #include "core/vocabularies.h"
-#include "platform/message_boxes.h"
 #include "views/field_label.h"
 #include "views/full_view/full_view_save.h"
-#include "views/full_view/full_view_sql.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -86,6 +84,7 @@ void setLimit(QWidget* control, qsizetype characters)
 FullViewEdit::FullViewEdit(core::Context& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
+    , m_editor(context)
 {
     auto* tabs = new QTabWidget;
     tabs->setDocumentMode(true);
@@ -273,8 +272,7 @@ void FullViewEdit::connectLists()
 
 void FullViewEdit::loadContact(qint64 id)
 {
-    const jet::Recordset row = m_context.data.openRecordset(core::contactByIdSql(id));
-    m_id = row.hasRow() ? id : 0;
+    const jet::Recordset row = m_editor.load(id);
     m_note->clear();
     for (const EditSource& source : editTexts()) {
         auto* control = child<QWidget>(this, source.control.toString());
@@ -292,8 +290,7 @@ void FullViewEdit::loadContact(qint64 id)
         child<widgets::DateBox>(this, source.control.toString())
             ->setDate(date.isValid() ? std::optional(date) : std::nullopt);
     }
-    child<QPushButton>(this, u"CmdSave"_s)->setEnabled(m_id != 0);
-    m_loaded = row.hasRow() ? core::LoadedRow(row) : core::LoadedRow();
+    child<QPushButton>(this, u"CmdSave"_s)->setEnabled(row.hasRow());
     m_fields.keepAsLoaded();
 }
 
@@ -304,31 +301,12 @@ bool FullViewEdit::saveContact()
         bad->askToMend();
         return false;
     }
-    jet::Recordset row = m_context.data.openRecordset(contactForEditSql(m_id));
-    if (!row.isValid()) {
-        core::tellFailedSave(m_context);
+    const auto outcome = m_editor.store(editPageColumns(m_fields.values(), core::touchedFieldsOf(m_fields)));
+    if (outcome == core::RecordEditor::Outcome::Gone)
+        m_editor.sayGone();
+    if (outcome != core::RecordEditor::Outcome::Stored)
         return false;
-    }
-    platform::MessageBoxes& boxes = m_context.services.boxes;
-    const QString& title = m_context.shared.AppTitle;
-    if (!row.hasRow()) {
-        boxes.warning(
-            tr("This contact was deleted while you were changing it. What you entered is still here."),
-            title);
-        return false;
-    }
-    const auto edits = editPageColumns(m_fields.values(), core::touchedFieldsOf(m_fields));
-    const auto clashes = m_loaded.clashes(row, edits);
-    if (!clashes.isEmpty()
-        && boxes.ask(core::clashQuestion(clashes), title, platform::Icon::Warning) != platform::Answer::Yes)
-        return false;
-    row.edit();
-    m_loaded.assign(row, edits);
-    if (!row.update()) {
-        core::tellFailedSave(m_context);
-        return false;
-    }
-    loadContact(m_id);
+    loadContact(m_editor.id());
     return true;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/context.h"
-#include "core/loaded_row.h"
+#include "core/record_editor.h"
 #include "widgets/field_set.h"
 
 #include <QWidget>
@@ -24,7 +24,7 @@ public:
 
     /// Fills the fields from the contact; without one they are blank.
     void loadContact(qint64 id);
-    qint64 contact() const { return m_id; }
+    qint64 contact() const { return m_editor.id(); }
     bool isTouched() const { return m_fields.isTouched(); }
     /// Writes what was changed; false when it was not stored, which the person has been told.
     bool saveContact();
@@ -44,8 +44,7 @@ private:
 
     core::Context& m_context;
     widgets::FieldSet m_fields;
-    core::LoadedRow m_loaded;
-    qint64 m_id = 0;
+    core::RecordEditor m_editor;
     QLabel* m_note = nullptr;
 };
 

@@ -1,11 +1,11 @@
 #include "core/contact_tools.h"
 #include "views/full_view/category_tree.h"
-#include "views/full_view/found_strip.h"
 #include "views/full_view/full_view_edit.h"
 #include "views/full_view/full_view_header.h"
 #include "views/full_view/full_view_pages.h"
 #include "views/full_view/FullView.h"
 #include "views/full_view/keyword_panel.h"
+#include "widgets/found_strip.h"
 #include "widgets/record_list.h"
 #include "widgets/theme.h"
 

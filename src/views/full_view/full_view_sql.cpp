@@ -26,11 +26,6 @@ QString keywordSql(const QString& keyword)
     return u"select id,name from cnt_main "_s + keywordClause(keyword);
 }
 
-QString contactForEditSql(qint64 id)
-{
-    return u"Select * from Cnt_Main where id = "_s + QString::number(id);
-}
-
 QString associateSql(const QString& name)
 {
     return u"Select * from cnt_Main where name='"_s + name + u'\'';

@@ -8,7 +8,6 @@ namespace views {
 QString keywordClause(const QString& keyword);
 QString keywordSql(const QString& keyword);
 
-QString contactForEditSql(qint64 id);
 /// The look-up behind an associate's name.
 QString associateSql(const QString& name);
 

@@ -3,6 +3,7 @@
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
 #include "core/handover/page_screen.h"
+#include "core/list_presenter.h"
 #include "core/screens.h"
 #include "views/search/place_tree.h"
 #include "views/search/search_clauses.h"
@@ -105,6 +106,8 @@ FormSearch::FormSearch(core::Context& context, QWidget* parent)
     , m_hitMenu(m_hits->makeMenu(u"HitMenu"_s, this))
     , FG1(new widgets::HeadingGrid)
     , GridKey(new widgets::HeadingGrid)
+    , m_contactList(new core::ListPresenter(context.data, FG1, this))
+    , m_hitList(new core::ListPresenter(context.data, GridKey, this))
     , m_grids(new QStackedWidget)
     , Frame3(new QFrame)
     , m_typing(new QTimer(this))
@@ -273,12 +276,14 @@ void FormSearch::connectControls()
     connect(Option1, &QRadioButton::toggled, this, &FormSearch::formatGrid);
     connect(cmdgo, &QPushButton::clicked, m_hits->action(u"OpenHit"), &QAction::trigger);
     connect(CmdHelp, &QPushButton::clicked, this, [this] { showHelp(u"CON0024"_s, CmdHelp); });
-    for (widgets::HeadingGrid* each : {FG1, GridKey}) {
-        connect(each, &widgets::HeadingGrid::chosen, m_hits->action(u"OpenHit"), &QAction::trigger);
-        connect(each, &widgets::HeadingGrid::currentRowChanged, this, [this, each](int row) {
-            if (each == grid()) // the hidden one may be read anew
+    for (core::ListPresenter* each : {m_contactList, m_hitList}) {
+        connect(each, &core::ListPresenter::currentChanged, this, [this, each](int row) {
+            if (each == shownList()) // the hidden one may be read anew
                 rowChanged(row);
         });
+    }
+    for (widgets::HeadingGrid* each : {FG1, GridKey}) {
+        connect(each, &widgets::HeadingGrid::chosen, m_hits->action(u"OpenHit"), &QAction::trigger);
         connect(each, &QWidget::customContextMenuRequested, this, [this, each](const QPoint& at) {
             if (each->currentRow() >= 0)
                 m_hitMenu->popup(each->viewport()->mapToGlobal(at));
@@ -290,7 +295,6 @@ void FormSearch::connectControls()
 void FormSearch::load()
 {
     setFrameTitle(u"Search"_s);
-    m_keywordSql = contactsByCategorySql();
     formatGrid();
     const SearchGrid words = keywordGrid();
     GridKey->setHeadings(words.headings, words.columns);
@@ -302,7 +306,7 @@ void FormSearch::bookChanged()
     m_filter->refill();
     query(builtSql);
     if (m_keywordRead)
-        queryKeyword(m_keywordSql);
+        queryKeyword(m_keywordRead ? m_hitList->sql() : contactsByCategorySql());
 }
 
 void FormSearch::showTree(const QString& kind)
@@ -335,40 +339,31 @@ void FormSearch::list(const QString& sql)
     showGrid(FG1);
 }
 
-// A statement that broke, as by an apostrophe, leaves the grid as it was.
 void FormSearch::query(const QString& sql)
 {
-    jet::Recordset rows = context().data.openRecordset(sql);
-    if (!rows.isValid())
+    if (!m_contactList->open(sql))
         return;
     builtSql = sql;
-    const qint64 current = FG1->currentKey();
-    FG1->fill(std::move(rows));
-    if (current == 0 || !FG1->selectKey(current))
-        FG1->setCurrentRow(-1);
     showCount();
 }
 
 void FormSearch::queryKeyword(const QString& sql)
 {
-    jet::Recordset rows = context().data.openRecordset(sql);
-    if (!rows.isValid())
-        return;
-    m_keywordSql = sql;
-    m_keywordRead = true;
+    m_keywordRead = m_hitList->open(sql, {}, [this](jet::Recordset rows) { fillHits(std::move(rows)); })
+        || m_keywordRead;
+    showCount();
+}
+
+// Some statements leave columns out.
+void FormSearch::fillHits(jet::Recordset rows)
+{
     const QStringList columns = keywordGrid().columns;
-    QList<int> unknown;
-    for (int column = 0; column < columns.size(); ++column) {
-        if (!columns[column].isEmpty() && rows.columnIndex(columns[column]) < 0)
-            unknown << column;
-    }
-    const qint64 current = GridKey->currentKey();
+    QList<bool> isKnown;
+    for (const QString& column : columns)
+        isKnown << (column.isEmpty() || rows.columnIndex(column) >= 0);
     GridKey->fill(std::move(rows));
     for (int column = 0; column < columns.size(); ++column)
-        GridKey->setColumnHidden(column, unknown.contains(column));
-    if (current == 0 || !GridKey->selectKey(current))
-        GridKey->setCurrentRow(-1);
-    showCount();
+        GridKey->setColumnHidden(column, !isKnown[column]);
 }
 
 void FormSearch::searchKeyword()
@@ -418,7 +413,7 @@ void FormSearch::showGrid(widgets::HeadingGrid* shown)
     if (Frame3->isHidden() ? txtkey->text() != word : txtkey->text().isEmpty())
         txtkey->setText(word);
     if (shown == GridKey && !m_keywordRead)
-        queryKeyword(m_keywordSql);
+        queryKeyword(m_keywordRead ? m_hitList->sql() : contactsByCategorySql());
     m_grids->setCurrentWidget(shown);
     showCount();
     rowChanged(shown->currentRow());
@@ -438,11 +433,12 @@ void FormSearch::rowChanged(int row)
     if (row < 0)
         return;
     m_hits->select(grid()->keyAt(row));
-    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(grid()->rowCount())));
+    setPosition(shownList()->position());
 }
 
 void FormSearch::showCount()
 {
+    setPosition(shownList()->position());
     const int count = grid()->rowCount();
     m_count->setText(count == 1 ? tr("1 contact") : tr("%1 contacts").arg(count));
 }
@@ -450,6 +446,11 @@ void FormSearch::showCount()
 widgets::HeadingGrid* FormSearch::grid() const
 {
     return m_grids->currentWidget() == GridKey ? GridKey : FG1;
+}
+
+core::ListPresenter* FormSearch::shownList() const
+{
+    return grid() == GridKey ? m_hitList : m_contactList;
 }
 
 } // namespace views

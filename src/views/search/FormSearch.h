@@ -13,6 +13,7 @@ class QTimer;
 
 namespace core {
 class ContactTools;
+class ListPresenter;
 class ToolSet;
 } // namespace core
 
@@ -52,6 +53,7 @@ private:
     void list(const QString& sql);
     void query(const QString& sql);
     void queryKeyword(const QString& sql);
+    void fillHits(jet::Recordset rows);
     void searchKeyword();
     void followKeyword();
     void enterGrid();
@@ -61,8 +63,8 @@ private:
     void rowChanged(int row);
     void showCount();
     widgets::HeadingGrid* grid() const;
+    core::ListPresenter* shownList() const;
 
-    QString m_keywordSql; ///< the statement behind the keyword grid
     bool m_keywordRead = false;
     QString m_word; ///< whose hits they are
 
@@ -72,6 +74,8 @@ private:
     QMenu* m_hitMenu;
     widgets::HeadingGrid* FG1;
     widgets::HeadingGrid* GridKey;
+    core::ListPresenter* m_contactList;
+    core::ListPresenter* m_hitList;
     QStackedWidget* m_grids;
     QFrame* Frame3;
     QLineEdit* txtkey = nullptr;

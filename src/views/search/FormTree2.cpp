@@ -1,6 +1,7 @@
 #include "views/search/FormTree2.h"
 
 #include "core/contact_tool_table.h"
+#include "core/list_presenter.h"
 #include "views/search/place_tree.h"
 #include "views/search/result_detail.h"
 #include "widgets/heading_grid.h"
@@ -56,6 +57,7 @@ FormTree2::FormTree2(core::Context& context, QWidget* parent)
           this))
     , m_menu(m_hits->makeMenu(u"HitMenu"_s, this))
     , FG1(new widgets::HeadingGrid)
+    , m_list(new core::ListPresenter(context.data, FG1, this))
     , m_detail(new ResultDetail(context.services.drive))
     , Option1(new QRadioButton(tr("Category")))
     , Option2(new QRadioButton(tr("Name")))
@@ -154,7 +156,7 @@ QWidget* FormTree2::layOutFoot()
 void FormTree2::connectControls()
 {
     connect(Option1, &QRadioButton::toggled, this, &FormTree2::viewChanged);
-    connect(FG1, &widgets::HeadingGrid::currentRowChanged, this, &FormTree2::rowChanged);
+    connect(m_list, &core::ListPresenter::currentChanged, this, &FormTree2::rowChanged);
     // Also the row that has been current all along: another list may have been chosen from meanwhile.
     connect(FG1, &widgets::HeadingGrid::clicked, this, &FormTree2::select);
     connect(FG1, &widgets::HeadingGrid::chosen, m_hits->action(u"OpenHit"), &QAction::trigger);
@@ -244,17 +246,13 @@ ViewBy FormTree2::view() const
     return Option1->isChecked() ? ViewBy::Category : ViewBy::Name;
 }
 
-// A statement that broke, as by an apostrophe, leaves the grid as it was.
 bool FormTree2::run(const Filter& filter)
 {
     const ResultQuery query = filter(view());
-    jet::Recordset rows = context().data.openRecordset(query.sql);
-    if (!rows.isValid())
+    const auto fill
+        = [this, query](jet::Recordset rows) { FG1->fill(query.headings, std::move(rows), query.columns); };
+    if (!m_list->open(query.sql, {}, fill))
         return false;
-    const qint64 current = FG1->currentKey();
-    FG1->fill(query.headings, std::move(rows), query.columns);
-    if (current == 0 || !FG1->selectKey(current))
-        FG1->setCurrentRow(-1);
     lblcount->setText(QString::number(FG1->rowCount()));
     rowChanged(FG1->currentRow());
     return true;
@@ -277,7 +275,7 @@ void FormTree2::rowChanged(int row)
     m_name = contact.textOrEmpty(u"Name");
     m_detail->display(contact);
     select();
-    setPosition(u"%1 of %2"_s.arg(QString::number(row + 1), QString::number(FG1->rowCount())));
+    setPosition(m_list->position());
 }
 
 void FormTree2::select()

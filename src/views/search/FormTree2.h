@@ -16,6 +16,10 @@ namespace widgets {
 class HeadingGrid;
 }
 
+namespace core {
+class ListPresenter;
+}
+
 namespace views {
 
 class PlaceTree;
@@ -78,6 +82,7 @@ private:
     QMenu* m_menu;
     PlaceTree* SSTree1 = nullptr; ///< alone only
     widgets::HeadingGrid* FG1;
+    core::ListPresenter* m_list;
     ResultDetail* m_detail;
     QRadioButton* Option1;
     QRadioButton* Option2;

@@ -4,6 +4,7 @@
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
 #include "core/frame.h"
+#include "core/list_presenter.h"
 #include "views/selector/quick_combos.h"
 #include "views/selector/selector_list.h"
 #include "views/selector/selector_page.h"
@@ -78,6 +79,7 @@ frmSelector::frmSelector(core::Context& context, QWidget* parent)
     , Tabs1(new widgets::AlphabetTabs)
     , Frame1(new QuickCombos(context.data))
     , FG1(new widgets::HeadingGrid)
+    , m_list(new core::ListPresenter(context.data, FG1, this))
     , m_page(new SelectorPage(context))
     , m_sorted(new QLabel)
     , m_count(new QLabel)
@@ -87,6 +89,7 @@ frmSelector::frmSelector(core::Context& context, QWidget* parent)
     , CmdView(button(u"CmdView"_s, u"list", tr("Menu"), tr("What can be done with the contact")))
 {
     setWindowTitle(tr("Record Selector"));
+    m_list->showBrokenAsEmpty();
     layOut();
     connectControls();
 }
@@ -212,7 +215,7 @@ void frmSelector::connectControls()
     connect(SSActiveTabs1, &QTabBar::currentChanged, this, &frmSelector::listAgain);
     connect(Tabs1, &widgets::AlphabetTabs::labelChosen, this, &frmSelector::listAgain);
     connect(Frame1, &QuickCombos::choicesChanged, this, [this] { narrow(quickClause(Frame1->choices())); });
-    connect(FG1, &widgets::HeadingGrid::currentRowChanged, this, &frmSelector::rowChanged);
+    connect(m_list, &core::ListPresenter::currentChanged, this, &frmSelector::rowChanged);
     connect(FG1, &widgets::HeadingGrid::chosen, this, [this](int row) {
         if (FG1->keyAt(row) != 0)
             setInFull(true);
@@ -246,7 +249,7 @@ void frmSelector::load()
     shared().selectorMdiFlag = u"MDI"_s;
     setSimple(false);
     list();
-    FG1->setCurrentRow(-1);
+    m_list->point(0);
 }
 
 void frmSelector::bookChanged()
@@ -290,10 +293,12 @@ void frmSelector::openPage(const QString& page)
 void frmSelector::list()
 {
     const SelectorSort& sort = selectorSorts()[static_cast<std::size_t>(SSActiveTabs1->currentIndex())];
-    FG1->setOutline({});
-    FG1->fill(sort.headings,
-        context().data.openRecordset(selectorSql(sort, letterWord(Tabs1->currentLabel()), m_clause)));
-    FG1->setOutline(sort.outline.toString());
+    m_list->open(selectorSql(sort, letterWord(Tabs1->currentLabel()), m_clause), {},
+        [this, &sort](jet::Recordset rows) {
+            FG1->setOutline({});
+            FG1->fill(sort.headings, std::move(rows));
+            FG1->setOutline(sort.outline.toString());
+        });
     fitColumns();
     m_sorted->setText(translated(sort.label));
     showState();
@@ -318,11 +323,9 @@ void frmSelector::fitColumns()
 // The contact that was current stays current, if the list still has it.
 void frmSelector::listAgain()
 {
-    const qint64 current = FG1->currentKey();
     list();
-    if (current != 0 && FG1->selectKey(current))
-        return;
-    FG1->setCurrentRow(-1);
+    if (FG1->currentKey() != 0)
+        return rowChanged(FG1->currentRow());
     m_page->showContact(0);
 }
 
@@ -369,31 +372,16 @@ void frmSelector::rememberPage()
 
 void frmSelector::forget(qint64 id)
 {
-    const qint64 neighbour = neighbourOf(id);
+    const qint64 neighbour = m_list->neighbourOf(id);
     if (shared().selectedContactId == id) {
         shared().selectedContactId = 0;
         shared().selectedContactName.clear();
     }
     m_page->showContact(0);
     list();
-    if (neighbour == 0 || !FG1->selectKey(neighbour))
-        FG1->setCurrentRow(-1);
+    if (m_list->point(neighbour))
+        rowChanged(FG1->currentRow());
     FG1->setFocus();
-}
-
-/// The contact below in the list, or the one above the last.
-qint64 frmSelector::neighbourOf(qint64 id) const
-{
-    const int row = FG1->rowOf(id);
-    for (int below = row + 1; row >= 0 && below < FG1->rowCount(); ++below) {
-        if (const qint64 key = FG1->keyAt(below))
-            return key;
-    }
-    for (int above = row - 1; above >= 0; --above) {
-        if (const qint64 key = FG1->keyAt(above))
-            return key;
-    }
-    return 0;
 }
 
 void frmSelector::setSimple(bool simple)

@@ -13,7 +13,8 @@ class QToolButton;
 
 namespace core {
 class ContactTools;
-}
+class ListPresenter;
+} // namespace core
 
 namespace widgets {
 class AlphabetTabs;
@@ -66,7 +67,6 @@ private:
     void showState();
     void rememberPage();
     void forget(qint64 id);
-    qint64 neighbourOf(qint64 id) const;
     void setSimple(bool simple);
     void setInFull(bool inFull);
 
@@ -78,6 +78,7 @@ private:
     widgets::AlphabetTabs* Tabs1;
     QuickCombos* Frame1;
     widgets::HeadingGrid* FG1;
+    core::ListPresenter* m_list;
     SelectorPage* m_page;
     QToolBar* m_bar = nullptr;
     QWidget* m_order = nullptr; ///< tabs and combos

@@ -1,4 +1,4 @@
-#include "views/contact_pages/FrmContacts.h"
+#include "entry/simple/FrmContacts.h"
 
 #include "core/contact_category.h"
 #include "core/contact_lookups.h"
@@ -6,17 +6,17 @@
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
 #include "core/date_patterns.h"
-#include "core/mail_key.h"
+#include "core/list_presenter.h"
 #include "core/merged_category.h"
-#include "core/save_failure.h"
-#include "core/scheduler_rows.h"
 #include "core/screens.h"
 #include "core/settings.h"
 #include "core/sound_files.h"
+#include "core/touched_fields.h"
 #include "core/vocabularies.h"
+#include "entry/form/entered_contact.h"
+#include "entry/form/save_effects.h"
+#include "entry/simple/simple_columns.h"
 #include "platform/clock.h"
-#include "platform/contact_sync.h"
-#include "platform/message_boxes.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -42,7 +42,7 @@ using namespace Qt::StringLiterals;
 using core::Vocabulary;
 using widgets::child;
 
-namespace views {
+namespace entry {
 
 namespace {
 
@@ -63,15 +63,17 @@ constexpr ListRow kLists[] = {
 
 FrmContacts::FrmContacts(core::Context& context, QWidget* parent)
     : Screen(context, parent)
+    , m_editor(context)
     , m_tools(new core::ContactTools(context, core::selectorTools(),
           {.callerForm = u"FrmContacts"_s,
               .chosen =
                   [this] {
-                      return core::ChosenContact{m_id, m_id};
+                      return core::ChosenContact{m_editor.id(), m_editor.id()};
                   },
               .sounds = true},
           this))
     , DBList1(new widgets::RecordList)
+    , m_list(new core::ListPresenter(context.data, DBList1, this))
     , lblname(new QLabel)
     , m_mode(new QLabel)
 {
@@ -157,7 +159,8 @@ void FrmContacts::layOutName(QWidget* page)
         .stretch()
         .button(u"Command1"_s, tr("&Save"), u"save", tr("Save what was entered (Ctrl+S)"))
         .button(u"CmdCancel"_s, tr("&Cancel"), u"cancel", tr("Take back what was entered (Esc)"));
-    DateBday = child<widgets::DateBox>(page, u"DateBday"_s);
+    m_fields = widgets::FieldSet(page);
+    m_fields.control<widgets::DateBox>(u"DateBday"_s)->setFormat(core::datePattern(shared().NationalMode));
 }
 
 void FrmContacts::setSources()
@@ -194,7 +197,7 @@ void FrmContacts::vocabulariesChanged()
     m_isMerged = shared().ContMerge;
     core::mergeCategoryLists(this, m_isMerged);
     if (!wasTouched)
-        m_untouched = values();
+        m_fields.keepAsLoaded();
 }
 
 void FrmContacts::connectControls()
@@ -204,15 +207,11 @@ void FrmContacts::connectControls()
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, handler);
     };
-    const auto startAnother = [this] {
-        if (mayDiscard())
-            startNew();
-    };
-    onClick(u"SSCommand3"_s, startAnother);
+    onClick(u"SSCommand3"_s, &FrmContacts::beginNew);
     onClick(u"CmdDelete"_s, [this] { m_tools->action(u"Delete")->trigger(); });
     onClick(u"Command1"_s, &FrmContacts::save);
     onClick(u"CmdCancel"_s, &FrmContacts::cancel);
-    connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, startAnother);
+    connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, &FrmContacts::beginNew);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, &FrmContacts::save);
     connect(m_tools, &core::ContactTools::contactDeleted, this, &FrmContacts::afterDelete);
 
@@ -225,7 +224,7 @@ void FrmContacts::connectControls()
     DBList1->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(DBList1, &QWidget::customContextMenuRequested, this,
         [this, menu](const QPoint& at) { menu->popup(DBList1->viewport()->mapToGlobal(at)); });
-    connect(DBList1, &widgets::RecordList::currentRowChanged, this, &FrmContacts::rowChanged);
+    connect(m_list, &core::ListPresenter::currentChanged, this, &FrmContacts::rowChanged);
     connect(DBList1, &widgets::RecordList::chosen, this,
         [this] { child<QWidget>(this, u"dtcmbfname"_s)->setFocus(); });
     for (const QString& name : {u"Cmbtitle"_s, u"dtcmbfname"_s, u"dtcmblname"_s, u"cmbnview"_s})
@@ -236,17 +235,17 @@ void FrmContacts::connectControls()
 void FrmContacts::load()
 {
     setFrameTitle(u"Contacts"_s);
-    DateBday->setFormat(core::datePattern(shared().NationalMode));
-    readList();
+    m_list->open(core::contactListSql());
     startNew();
 }
 
 // What is being typed stays.
 void FrmContacts::bookChanged()
 {
-    readList();
-    if (!isTouched() && m_id != 0)
-        display(m_id);
+    m_list->refresh();
+    m_list->point(m_editor.id());
+    if (!isTouched() && m_editor.id() != 0)
+        display(m_editor.id());
 }
 
 void FrmContacts::keyPressEvent(QKeyEvent* event)
@@ -261,238 +260,154 @@ void FrmContacts::keyPressEvent(QKeyEvent* event)
 
 bool FrmContacts::showContact(qint64 id)
 {
-    if (id == 0 || !context().data.openRecordset(core::contactByIdSql(id)).hasRow())
+    if (id == 0 || !context().data.openRecordset(core::contactNameSql(id)).hasRow())
         return false;
-    if (id == m_id || mayDiscard())
+    if (id == m_editor.id() || mayDiscard())
         display(id);
     return true;
 }
 
-void FrmContacts::readList()
+bool FrmContacts::beginNew()
 {
-    const bool quiet = std::exchange(m_quiet, true);
-    DBList1->fill(context().data.openRecordset(core::contactListSql()));
-    if (m_id == 0 || !DBList1->selectKey(m_id))
-        DBList1->setCurrentRow(-1);
-    m_quiet = quiet;
+    if (!mayDiscard())
+        return false;
+    startNew();
+    return true;
 }
 
 void FrmContacts::rowChanged(int row)
 {
     const qint64 id = DBList1->keyAt(row);
-    if (m_quiet || id == 0 || id == m_id)
+    if (id == 0 || id == m_editor.id())
         return;
     if (mayDiscard())
         return display(id);
     // The list goes back behind the event that moved it.
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            const bool quiet = std::exchange(m_quiet, true);
-            if (m_id == 0 || !DBList1->selectKey(m_id))
-                DBList1->setCurrentRow(-1);
-            m_quiet = quiet;
-        },
-        Qt::QueuedConnection);
+        this, [this] { m_list->point(m_editor.id()); }, Qt::QueuedConnection);
 }
 
 void FrmContacts::display(qint64 id)
 {
-    const jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(id));
+    const jet::Recordset contact = m_editor.load(id);
     if (!contact.hasRow())
         return startNew();
-    m_id = id;
-    m_loaded = core::LoadedRow(contact);
     shared().selectedContactId = id;
     shared().selectedContactName = contact.textOrEmpty(u"Name");
-    showValues(simpleValuesOf(contact, shared().ContMerge));
-    const bool quiet = std::exchange(m_quiet, true);
-    if (DBList1->currentKey() != id)
-        DBList1->selectKey(id);
-    m_quiet = quiet;
+    m_fields.showRow(contact, {u"DtcmbCate"_s, u"DtcmbSubCate"_s});
+    const core::Category category{contact.textOrEmpty(u"category1"), contact.textOrEmpty(u"category2")};
+    m_fields.setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+    m_fields.setText(u"DtcmbSubCate"_s, category.subcategory);
+    // Imported contacts may have none.
+    if (m_fields.text(u"cmbnview"_s).trimmed().isEmpty())
+        m_fields.setText(u"cmbnview"_s, core::nameViews().constFirst());
+    showForm();
 }
 
 void FrmContacts::startNew()
 {
-    m_id = 0;
-    SimpleValues blank;
+    m_editor.startNew();
+    m_fields.clear();
     const jet::Recordset setup = core::readSettings(context().data);
-    const core::Category category{setup.hasRow() ? setup.textOrEmpty(u"categ1") : QString(),
-        setup.hasRow() ? setup.textOrEmpty(u"categ2") : QString()};
-    blank.texts = {{u"Cmbtitle"_s, u"Mr."_s}, {u"cmbnview"_s, core::nameViews().constFirst()},
-        {u"DtcmbCate"_s,
-            category.category.isEmpty() ? QString() : core::shownCategory(category, shared().ContMerge)},
-        {u"DtcmbSubCate"_s, category.subcategory}};
-    showValues(blank);
-    const bool quiet = std::exchange(m_quiet, true);
-    DBList1->setCurrentRow(-1);
-    m_quiet = quiet;
-    child<QWidget>(this, u"dtcmbfname"_s)->setFocus();
+    const core::Category category{setup.textOrEmpty(u"categ1"), setup.textOrEmpty(u"categ2")};
+    if (!category.category.isEmpty())
+        m_fields.setText(u"DtcmbCate"_s, core::shownCategory(category, shared().ContMerge));
+    m_fields.setText(u"DtcmbSubCate"_s, category.subcategory);
+    m_fields.setText(u"Cmbtitle"_s, u"Mr."_s);
+    m_fields.setText(u"cmbnview"_s, core::nameViews().constFirst());
+    showForm();
+    m_fields.control(u"dtcmbfname"_s)->setFocus();
 }
 
-SimpleValues FrmContacts::values() const
+void FrmContacts::showForm()
 {
-    SimpleValues values;
-    for (const SimpleField& field : simpleFields())
-        values.texts.insert(
-            field.control.toString(), widgets::textOf(child<QWidget>(this, field.control.toString())));
-    for (const QString& name : {u"DtcmbCate"_s, u"DtcmbSubCate"_s, u"DateBday"_s})
-        values.texts.insert(name, widgets::textOf(child<QWidget>(this, name)));
-    values.birthday = DateBday->date();
-    return values;
-}
-
-void FrmContacts::showValues(const SimpleValues& shown)
-{
-    for (const SimpleField& field : simpleFields())
-        widgets::setTextOf(child<QWidget>(this, field.control.toString()), shown.text(field.control));
-    for (const QString& name : {u"DtcmbCate"_s, u"DtcmbSubCate"_s})
-        widgets::setTextOf(child<QWidget>(this, name), shown.text(name));
-    DateBday->setDate(shown.birthday);
-    m_untouched = values();
-    child<QPushButton>(this, u"CmdDelete"_s)->setEnabled(m_id != 0);
-    m_mode->setText(m_id == 0 ? tr("New contact") : QString());
+    m_fields.keepAsLoaded();
+    m_list->point(m_editor.id());
+    const bool isNew = m_editor.id() == 0;
+    child<QPushButton>(this, u"CmdDelete"_s)->setEnabled(!isNew);
+    m_mode->setText(isNew ? tr("New contact") : QString());
     showHead();
 }
 
 void FrmContacts::showHead()
 {
-    const auto text = [this](const QString& name) { return widgets::textOf(child<QWidget>(this, name)); };
-    const auto view = core::nameViewOf(text(u"cmbnview"_s));
-    const QString name = view
-        ? core::composeName(
-            *view, {text(u"Cmbtitle"_s), text(u"dtcmbfname"_s), text(u"dtcmblname"_s), text(u"txtcmpny"_s)})
-              .trimmed()
-        : QString();
-    lblname->setText(name);
+    lblname->setText(simpleName(m_fields.values()).trimmed());
 }
 
-void FrmContacts::refuse(SimpleRefusal refusal)
+void FrmContacts::refuse(const FormValues& now)
 {
-    switch (refusal) {
-    case SimpleRefusal::AllBlank:
-        inform(tr("First, Last and Company are blank. At least one of these should not be blank."));
-        break;
-    case SimpleRefusal::NoNameView: warn(tr("Not a Valid Name View")); break;
-    case SimpleRefusal::NoName: warn(tr("Either Name or Company should be entered")); break;
-    }
-    child<QWidget>(this, refusal == SimpleRefusal::AllBlank ? u"dtcmbfname"_s : u"cmbnview"_s)->setFocus();
+    const Refusal refusal = *refusalOfSimple(now);
+    tellRefusal(context(), refusal);
+    m_fields.control(refusal == Refusal::AllBlank ? u"dtcmbfname"_s : u"cmbnview"_s)->setFocus();
 }
 
 void FrmContacts::save()
 {
-    const SimpleValues now = values();
-    if (const auto refusal = refusalOf(now))
-        return refuse(*refusal);
-    if (DateBday->holdsBadText())
-        return DateBday->askToMend();
+    const FormValues now = m_fields.values();
+    if (refusalOfSimple(now))
+        return refuse(now);
+    if (widgets::DateBox* bad = m_fields.firstBadDate())
+        return bad->askToMend();
     // What could not be stored stays on the form, so that it can be saved again.
-    const bool isNew = m_id == 0;
-    const qint64 id = isNew ? add(now) : change(now);
+    const qint64 id = m_editor.id() == 0 ? add(now) : change(now);
     if (id == 0)
         return;
-    m_id = id;
-    tellMailClient(now, isNew);
-    readList();
-    display(m_id);
+    m_list->refresh();
+    display(id);
     context().screens.tellBookChanged(this);
     playSound(core::sounds::Save);
     tellSaved(shared().selectedContactName);
 }
 
-SimpleSave FrmContacts::saveOptions() const
+qint64 FrmContacts::add(const FormValues& now)
 {
-    const jet::Recordset setup = core::readSettings(context().data);
-    return {context().services.clock.today(), shared().ContMerge,
-        setup.hasRow() ? setup.textOrEmpty(u"Priority") : QString()};
+    FormValues stored = now;
+    stored.texts.insert(u"cmbpriority"_s, core::readSettings(context().data).textOrEmpty(u"Priority"));
+    NewContact contact;
+    contact.name = simpleName(now);
+    core::fillMailItem(contact.mail, enteredContact(simpleColumns(), now, contact.name));
+    contact.dates.first = contact.mail.first;
+    contact.dates.last = contact.mail.last;
+    contact.dates.birthday = now.date(u"DateBday");
+    const SaveOptions options{contact.name, context().services.clock.today(), shared().ContMerge};
+    return addContact(context(), contact, [&](jet::Recordset& rows) {
+        assign(rows, simpleColumns(), stored, options);
+        assign(rows, simpleColumnsOfNew(), stored, options);
+    });
 }
 
-bool FrmContacts::reachesOthers() const
+qint64 FrmContacts::change(const FormValues& now)
 {
-    const jet::Recordset setup = core::readSettings(context().data);
-    return setup.hasRow() && setup.flag(u"UpdOutllook");
-}
-
-// The contact and its rows of the scheduler, or neither.
-qint64 FrmContacts::add(const SimpleValues& now)
-{
-    jet::Batch batch(context().data);
-    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where 1>2");
-    rows.addNew();
-    assignNew(rows, now, saveOptions());
-    const qint64 id = rows.update() ? rows.lastAddedKey() : 0;
-    if (id != 0 && reachesOthers()) {
-        platform::MailContact item;
-        fillMailItem(item, now);
-        const core::ScheduledDates dates{id, item.first, item.last, {}, {}, now.birthday, {}, {}, {}};
-        core::addSchedulerRows(
-            context().data, core::schedulerRows(dates, context().services.clock.today().year()));
+    const QString name = simpleName(now);
+    const SaveOptions options{name, context().services.clock.today(), shared().ContMerge};
+    switch (m_editor.store(simpleEdits(now, options, core::touchedFieldsOf(m_fields)))) {
+    case core::RecordEditor::Outcome::Stored: break;
+    case core::RecordEditor::Outcome::Gone: m_editor.sayGone(); return 0;
+    case core::RecordEditor::Outcome::NotStored: return 0;
     }
-    if (batch.commit() && id != 0)
-        return id;
-    core::tellFailedSave(context());
-    return 0;
-}
-
-qint64 FrmContacts::change(const SimpleValues& now)
-{
-    jet::Recordset rows = context().data.openRecordset(u"Select * from cnt_main where id=%1"_s.arg(m_id));
-    if (!rows.hasRow()) {
-        warn(tr("This contact is not there any more. Choose New to enter it again."));
-        return 0;
-    }
-    const auto edits = changedColumns(now, saveOptions(),
-        {[this, &now](const QString& control) { return now.text(control) != m_untouched.text(control); },
-            [this](const QString& control) { return child<QWidget>(this, control)->accessibleName(); }});
-    const auto clashes = m_loaded.clashes(rows, edits);
-    if (!clashes.isEmpty()
-        && context().services.boxes.ask(
-               core::clashQuestion(clashes), shared().AppTitle, platform::Icon::Warning)
-            != platform::Answer::Yes)
-        return 0;
-    rows.edit();
-    m_loaded.assign(rows, edits);
-    if (rows.update())
-        return m_id;
-    core::tellFailedSave(context());
-    return 0;
-}
-
-void FrmContacts::tellMailClient(const SimpleValues& now, bool isNew)
-{
-    if (!reachesOthers())
-        return;
-    platform::MailContacts& client = context().services.mailContacts;
-    platform::MailContact item;
-    item.key = core::mailKeyOf(m_id);
-    if (!isNew) {
-        client.update(item.key, [&now](platform::MailContact& stored) { fillMailItem(stored, now); });
-        return;
-    }
-    fillMailItem(item, now);
-    client.add(item);
+    changeMailItem(context(), m_editor.id(), enteredContact(simpleColumns(), now, name));
+    return m_editor.id();
 }
 
 void FrmContacts::cancel()
 {
-    if (m_id != 0)
-        display(m_id);
+    if (m_editor.id() != 0)
+        display(m_editor.id());
     else
         startNew();
     playSound(core::sounds::Cancel);
 }
 
 // The contact below takes its place, or the one above the last.
-void FrmContacts::afterDelete()
+void FrmContacts::afterDelete(qint64 gone)
 {
-    const int row = DBList1->currentRow();
-    m_id = 0;
-    readList();
-    const qint64 neighbour = DBList1->keyAt(std::min(row, DBList1->rowCount() - 1));
+    const qint64 neighbour = m_list->neighbourOf(gone);
+    m_editor.startNew();
+    m_list->refresh();
     if (neighbour != 0)
         display(neighbour);
     else
         startNew();
 }
 
-} // namespace views
+} // namespace entry

@@ -1,34 +1,38 @@
 #pragma once
 
 #include "core/handover/contact_screen.h"
+#include "core/handover/entry_form.h"
+#include "core/record_editor.h"
 #include "core/screen.h"
-#include "views/contact_pages/simple_contact.h"
+#include "entry/form/form_values.h"
+#include "widgets/field_set.h"
 
 class QLabel;
 
 namespace core {
 class ContactTools;
-}
+class ListPresenter;
+} // namespace core
 
 namespace widgets {
-class DateBox;
 class RecordList;
-} // namespace widgets
+}
 
-namespace views {
+namespace entry {
 
 /// The quick view and the simple add: a list of names, and a short form with the fields used most. What was
 /// typed and not saved is never left without a question.
-class FrmContacts : public core::Screen, public core::ContactScreen {
+class FrmContacts : public core::Screen, public core::ContactScreen, public core::EntryForm {
     Q_OBJECT
 
 public:
     explicit FrmContacts(core::Context& context, QWidget* parent = nullptr);
 
     void load() override;
-    bool isTouched() const override { return values() != m_untouched; }
+    bool isTouched() const override { return m_fields.isTouched(); }
     void bookChanged() override;
     bool showContact(qint64 id) override;
+    bool beginNew() override;
     /// Category and subcategory may have become one entry, or two.
     void vocabulariesChanged() override;
 
@@ -41,34 +45,27 @@ private:
     void setSources();
     void connectControls();
 
-    SimpleValues values() const;
-    void showValues(const SimpleValues& values);
     void display(qint64 id);
     void startNew();
+    void showForm();
     void save();
-    SimpleSave saveOptions() const;
-    bool reachesOthers() const;
-    qint64 add(const SimpleValues& now);
-    qint64 change(const SimpleValues& now);
-    void tellMailClient(const SimpleValues& now, bool isNew);
-    void refuse(SimpleRefusal refusal);
+    qint64 add(const FormValues& now);
+    qint64 change(const FormValues& now);
+    void refuse(const FormValues& now);
     void cancel();
-    void afterDelete();
+    void afterDelete(qint64 gone);
     void rowChanged(int row);
-    void readList();
     void showHead();
 
-    qint64 m_id = 0; ///< the contact on the form, 0 for a new one
-    core::LoadedRow m_loaded; ///< the contact that is changed
-    SimpleValues m_untouched; ///< what stood on the form before anybody typed
-    bool m_quiet = false; ///< the list moves by itself
+    core::RecordEditor m_editor;
+    widgets::FieldSet m_fields;
     bool m_isMerged = false; ///< category and subcategory stand in one list
 
     core::ContactTools* m_tools;
     widgets::RecordList* DBList1;
-    widgets::DateBox* DateBday = nullptr;
+    core::ListPresenter* m_list;
     QLabel* lblname;
     QLabel* m_mode;
 };
 
-} // namespace views
+} // namespace entry

@@ -1,4 +1,4 @@
-#include "views/full_view/found_strip.h"
+#include "widgets/found_strip.h"
 
 #include "widgets/fields.h"
 
@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace views {
+namespace widgets {
 
 FoundStrip::FoundStrip(QWidget* parent)
     : QWidget(parent)
@@ -32,9 +32,8 @@ FoundStrip::FoundStrip(QWidget* parent)
 
 void FoundStrip::tell(const QString& foundBy, int found, int all)
 {
-    widgets::setTextOf(
-        lblFound, tr("%1 - %2 of %3").arg(foundBy, QString::number(found), QString::number(all)));
+    setTextOf(lblFound, tr("%1 - %2 of %3").arg(foundBy, QString::number(found), QString::number(all)));
     show();
 }
 
-} // namespace views
+} // namespace widgets

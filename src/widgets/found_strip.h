@@ -4,7 +4,7 @@
 
 class QLabel;
 
-namespace views {
+namespace widgets {
 
 /// Says above a list what it was narrowed down by, and how much of the book that is, with the way back to
 /// all of it.
@@ -23,4 +23,4 @@ private:
     QLabel* lblFound;
 };
 
-} // namespace views
+} // namespace widgets

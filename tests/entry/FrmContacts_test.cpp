@@ -1,5 +1,5 @@
+#include "entry/simple/FrmContacts.h"
 #include "support/screen_fixture.h"
-#include "views/contact_pages/FrmContacts.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/record_list.h"
@@ -30,14 +30,14 @@ private Q_SLOTS:
     void contactThatHasGoneIsSaidSo();
 
 private:
-    views::FrmContacts* open();
+    entry::FrmContacts* open();
     void type(const QString& control, const QString& text);
     QString text(const QString& control) const { return widgets::textOf(child<QWidget>(m_form, control)); }
     void click(const QString& button) { child<QPushButton>(m_form, button)->click(); }
     QStringList rows(const QString& sql) { return m_fixture->book.rows(sql); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
-    views::FrmContacts* m_form = nullptr;
+    entry::FrmContacts* m_form = nullptr;
 };
 
 void FrmContactsTest::init()
@@ -46,9 +46,9 @@ void FrmContactsTest::init()
     m_fixture->execute(u"delete * from cntb_setup"_s);
 }
 
-views::FrmContacts* FrmContactsTest::open()
+entry::FrmContacts* FrmContactsTest::open()
 {
-    m_form = m_fixture->open<views::FrmContacts>(u"FrmContacts"_s);
+    m_form = m_fixture->open<entry::FrmContacts>(u"FrmContacts"_s);
     return m_form;
 }
 
@@ -238,7 +238,8 @@ void FrmContactsTest::contactThatHasGoneIsSaidSo()
     open()->showContact(1);
     m_fixture->execute(u"delete * from cnt_main where id= 1"_s);
     type(u"txtMobile"_s, u"55"_s);
-    m_fixture->boxes.expect(u"This contact is not there any more. Choose New to enter it again."_s);
+    m_fixture->boxes.expect(
+        u"This contact was deleted while you were changing it. What you entered is still here."_s);
     click(u"Command1"_s);
     QCOMPARE(text(u"txtMobile"_s), u"55"_s);
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "entry/form/contact_columns.h"
+#include "entry/form/save_checks.h"
+
+namespace entry {
+
+/// The columns of the simple form: those that a change writes, and what a new contact gets beside them.
+std::span<const ColumnRow> simpleColumns();
+std::span<const ColumnRow> simpleColumnsOfNew();
+
+/// What a change writes: the columns of the form, and no other.
+QList<core::ColumnEdit> simpleEdits(
+    const FormValues& values, const SaveOptions& options, const core::TouchedFields& fields);
+
+/// The name that is put together of what stands in the form; blank without a view of names.
+QString simpleName(const FormValues& values);
+
+/// Why the form can not be saved; nothing when it can. A contact without a name could not be chosen in any
+/// list.
+std::optional<Refusal> refusalOfSimple(const FormValues& values);
+
+} // namespace entry
