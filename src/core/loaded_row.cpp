@@ -1,6 +1,7 @@
 #include "core/loaded_row.h"
 
 #include "core/contact_category.h"
+#include "jet/date_text.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -16,7 +17,7 @@ constexpr qsizetype kMostClashes = 8;
 
 QString textOf(const QVariant& value)
 {
-    return value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate) : value.toString();
+    return value.typeId() == QMetaType::QDate ? jet::isoDate(value.toDate()) : value.toString();
 }
 
 QString shortened(const QString& text)

@@ -15,7 +15,7 @@ constexpr int kYears = 3;
 QString inYear(const std::optional<QDate>& date, int year)
 {
     const QDate day = date ? date->addYears(year - date->year()) : QDate();
-    return day.isValid() ? jet::formatIsoDate(jet::isoDate(day), u"dd-mmm-yyyy") : QString();
+    return jet::formatDate(day, u"dd-mmm-yyyy");
 }
 
 void appendFamily(QList<SchedulerRow>& rows, const ScheduledDates& dates, const QString& person, int year,

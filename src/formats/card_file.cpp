@@ -1,6 +1,6 @@
 #include "formats/card_file.h"
 
-#include <QLocale>
+#include "jet/date_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,9 +59,8 @@ QStringList filledParts(QStringView value)
 QString shownDate(QStringView value)
 {
     const QString text = shownText(value);
-    const QString digits = QString(text).remove(u'-');
-    const QDate date = QDate::fromString(digits.left(8), u"yyyyMMdd"_s);
-    return date.isValid() ? QLocale::c().toString(date, u"dd/MMM/yyyy"_s) : text;
+    const QDate date = jet::dayOfIso(text);
+    return date.isValid() ? jet::formatDate(date, u"dd/mmm/yyyy") : text;
 }
 
 /// "12 Park Road - Pune (MH) India": what the card has of it. Kept: the pin code is not shown.
@@ -181,10 +180,7 @@ constexpr LineRow kLines[] = {
     {u"ADR;WORK:;office;", [](const CardValues& v) { return ownAddress(v.work); }},
     {u"ADR;HOME:;;", [](const CardValues& v) { return ownAddress(v.home); }},
     {u"ADR;POSTAL:;;", [](const CardValues& v) { return ownAddress(v.postal); }, Of::Contact},
-    {u"BDAY:",
-        [](const CardValues& v) {
-            return v.birthday.isValid() ? QLocale::c().toString(v.birthday, u"yyyyMMdd"_s) : QString();
-        }},
+    {u"BDAY:", [](const CardValues& v) { return jet::formatDate(v.birthday, u"yyyymmdd"); }},
     {u"EMAIL;PREF;INTERNET:", [](const CardValues& v) { return v.email; }},
     // Kept: in the card of a contact of the book this line stands empty.
     {u"EMAIL;INTERNET:", nothing, Of::Contact},

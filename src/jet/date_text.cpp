@@ -2,8 +2,8 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <array>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -14,81 +14,97 @@ namespace {
 constexpr std::array<QStringView, 12> kMonths{u"January", u"February", u"March", u"April", u"May", u"June",
     u"July", u"August", u"September", u"October", u"November", u"December"};
 
-/// 1 to 12 for a month's English name or its first three letters; 0 for anything else.
+/// 1 to 12 for a month's English name or a beginning of it that tells; 0 for anything else.
 int monthOfName(QStringView name)
 {
-    if (name.size() < 3)
-        return 0;
-    for (int month = 1; month <= 12; ++month) {
-        const QStringView full = kMonths[size_t(month - 1)];
-        if (name.compare(full, Qt::CaseInsensitive) == 0
-            || name.compare(full.left(3), Qt::CaseInsensitive) == 0)
-            return month;
-    }
-    return name.compare(u"Sept", Qt::CaseInsensitive) == 0 ? 9 : 0;
+    constexpr qsizetype kFewestLetters = 3;
+    const auto month = std::find_if(kMonths.begin(), kMonths.end(),
+        [name](QStringView full) { return full.startsWith(name, Qt::CaseInsensitive); });
+    return name.size() < kFewestLetters || month == kMonths.end() ? 0 : int(month - kMonths.begin()) + 1;
 }
 
-struct Piece {
-    QStringView text;
-    int number = -1; ///< -1 for a word
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+/// -1 when it is no number of at most so many digits.
+int number(QStringView digits, qsizetype most)
+{
+    const bool fits
+        = !digits.isEmpty() && digits.size() <= most && std::all_of(digits.begin(), digits.end(), isDigit);
+    return fits ? digits.toInt() : -1;
+}
+
+/// Three runs of letters or digits, with nothing between them but what stands in dates.
+using Pieces = std::array<QStringView, 3>;
+
+std::optional<Pieces> split(QStringView text)
+{
+    const auto isLetter = [](QChar c) { return c.isLetter(); };
+    const auto isBetween = [](QChar c) { return c.isSpace() || QStringView(u"-/.,").contains(c); };
+    Pieces pieces;
+    size_t count = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype from = at;
+        const auto pass = [&](auto fits) {
+            while (at < text.size() && fits(text[at]))
+                ++at;
+            return at > from;
+        };
+        if (pass(isBetween))
+            continue;
+        if ((!pass(isDigit) && !pass(isLetter)) || count == pieces.size())
+            return {};
+        pieces[count++] = text.mid(from, at - from);
+    }
+    return count == pieces.size() ? std::optional(pieces) : std::nullopt;
+}
+
+enum class Years { OfTwoOrFourDigits, OfAnyDigits };
+
+struct Reading {
+    DateOrder order;
+    Years years;
+    QDate latest = {};
 };
 
-std::optional<std::vector<Piece>> split(QStringView text)
+QDate dateOf(QStringView year, int month, QStringView day, const Reading& reading)
 {
-    std::vector<Piece> pieces;
-    qsizetype at = 0;
-    while (at < text.size()) {
-        const QChar c = text[at];
-        const qsizetype from = at;
-        if (c >= u'0' && c <= u'9') {
-            while (at < text.size() && text[at] >= u'0' && text[at] <= u'9')
-                ++at;
-            if (at - from > 4)
-                return {};
-            pieces.push_back({text.mid(from, at - from), text.mid(from, at - from).toInt()});
-        } else if (c.isLetter()) {
-            while (at < text.size() && text[at].isLetter())
-                ++at;
-            pieces.push_back({text.mid(from, at - from), -1});
-        } else if (c == u' ' || c == u'-' || c == u'/' || c == u',' || c == u'.') {
-            ++at;
-        } else {
-            return {};
-        }
-        if (pieces.size() > 3)
-            return {};
+    constexpr int kFirstYear = 100; // what is stored of an earlier one reads as a year of two digits
+    constexpr int kLastShortYear = 29;
+    const bool isShort = year.size() <= 2;
+    const int written = number(year, 4);
+    if (written < 0 || (!isShort && written < kFirstYear)
+        || (reading.years == Years::OfTwoOrFourDigits && year.size() % 2 != 0))
+        return {};
+    const int full = !isShort ? written : written + (written <= kLastShortYear ? 2000 : 1900);
+    const QDate date(full, month, number(day, 2));
+    if (isShort && reading.latest.isValid() && date > reading.latest)
+        return QDate(full - 100, month, date.day());
+    return date;
+}
+
+QDate dateOf(QStringView text, const Reading& reading)
+{
+    auto pieces = split(text);
+    if (!pieces)
+        return {};
+    auto& [first, second, third] = *pieces;
+    const auto word = std::find_if(
+        pieces->begin(), pieces->end(), [](QStringView piece) { return piece.front().isLetter(); });
+    if (word != pieces->end()) {
+        const int month = monthOfName(*word);
+        std::rotate(word, word + 1, pieces->end());
+        return first.size() > 2 ? dateOf(first, month, second, reading)
+                                : dateOf(second, month, first, reading);
     }
-    return pieces;
-}
-
-int fullYear(const Piece& piece)
-{
-    if (piece.text.size() > 2)
-        return piece.number;
-    return piece.number + (piece.number <= 29 ? 2000 : 1900);
-}
-
-QDate dateOf(QStringView text)
-{
-    const auto pieces = split(text);
-    if (!pieces || pieces->size() != 3)
-        return {};
-    const auto& [a, b, c] = std::tie((*pieces)[0], (*pieces)[1], (*pieces)[2]);
-    const int wordB = b.number < 0 ? monthOfName(b.text) : 0;
-    const int wordA = a.number < 0 ? monthOfName(a.text) : 0;
-    if (c.number < 0)
-        return {};
-    if (wordB > 0 && a.number >= 0)
-        return a.text.size() > 2 ? QDate(a.number, wordB, c.number) : QDate(fullYear(c), wordB, a.number);
-    if (wordA > 0 && b.number >= 0)
-        return QDate(fullYear(c), wordA, b.number);
-    if (a.number < 0 || b.number < 0)
-        return {};
-    if (a.text.size() > 2)
-        return QDate(a.number, b.number, c.number);
-    if (a.number > 12)
-        return QDate(fullYear(c), b.number, a.number);
-    return QDate(fullYear(c), a.number, b.number);
+    if (first.size() > 2)
+        return dateOf(first, number(second, 2), third, reading);
+    const bool isDayFirst = reading.order == DateOrder::DayFirst;
+    if (isDayFirst != (number(isDayFirst ? second : first, 2) > 12))
+        std::swap(first, second);
+    return dateOf(third, number(first, 2), second, reading);
 }
 
 std::optional<QTime> timeOf(QStringView text)
@@ -121,6 +137,12 @@ std::optional<QTime> timeOf(QStringView text)
 
 } // namespace
 
+std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest)
+{
+    const QDate date = dateOf(text, {order, Years::OfTwoOrFourDigits, latest});
+    return date.isValid() ? std::optional(date) : std::nullopt;
+}
+
 std::optional<QString> parseDateText(QStringView text)
 {
     text = text.trimmed();
@@ -141,10 +163,8 @@ std::optional<QString> parseDateText(QStringView text)
             return isoDate(QDate(1899, 12, 30), time);
         text = text.left(gap).trimmed();
     }
-    const QDate date = dateOf(text);
-    if (!date.isValid() || date.year() < 100 || date.year() > 9999)
-        return {};
-    return isoDate(date, time);
+    const QDate date = dateOf(text, {DateOrder::MonthFirst, Years::OfAnyDigits});
+    return date.isValid() ? std::optional(isoDate(date, time)) : std::nullopt;
 }
 
 QString isoDate(QDate date, QTime time)
@@ -157,11 +177,18 @@ QString isoDate(QDate date, QTime time)
     return iso;
 }
 
+QDate dayOfIso(QStringView iso)
+{
+    const bool hasDashes = iso.size() >= 10 && iso[4] == u'-' && iso[7] == u'-';
+    if (!hasDashes && iso.size() < 8)
+        return {};
+    return QDate(number(iso.first(4), 4), number(iso.mid(hasDashes ? 5 : 4, 2), 2),
+        number(iso.mid(hasDashes ? 8 : 6, 2), 2));
+}
+
 QVariant dateFromIso(QStringView iso)
 {
-    if (iso.size() < 10 || iso[4] != u'-' || iso[7] != u'-')
-        return {};
-    const QDate date(iso.mid(0, 4).toInt(), iso.mid(5, 2).toInt(), iso.mid(8, 2).toInt());
+    const QDate date = iso.size() >= 10 && iso[4] == u'-' ? dayOfIso(iso) : QDate();
     if (!date.isValid())
         return {};
     if (iso.size() == 10)
@@ -170,19 +197,17 @@ QVariant dateFromIso(QStringView iso)
     return time.isValid() ? QVariant(QDateTime(date, time)) : QVariant();
 }
 
-QString formatIsoDate(QStringView iso, QStringView pattern)
+QString formatDate(QDate date, QStringView pattern)
 {
-    const QVariant value = dateFromIso(iso);
-    const QDate date = value.toDate();
     if (!date.isValid())
         return {};
+    const QStringView month = kMonths[size_t(date.month() - 1)];
     QString result;
     for (qsizetype at = 0; at < pattern.size();) {
         const QChar letter = pattern[at].toLower();
         qsizetype run = 1;
         while (at + run < pattern.size() && pattern[at + run].toLower() == letter)
             ++run;
-        const QStringView month = kMonths[size_t(date.month() - 1)];
         if (letter == u'd' && run <= 2)
             result += u"%1"_s.arg(date.day(), int(run), 10, QChar(u'0'));
         else if (letter == u'm' && run <= 2)
@@ -191,7 +216,7 @@ QString formatIsoDate(QStringView iso, QStringView pattern)
             result += run == 3 ? month.left(3) : month;
         else if (letter == u'y')
             result += run <= 2 ? u"%1"_s.arg(date.year() % 100, 2, 10, QChar(u'0'))
-                               : QString::number(date.year());
+                               : u"%1"_s.arg(date.year(), 4, 10, QChar(u'0'));
         else
             result += pattern.mid(at, run);
         at += run;

@@ -8,11 +8,20 @@
 
 #include <optional>
 
+// The one place of the house that reads and writes dates. Months have English names in every locale.
+
 namespace jet {
 
-/// Reads a date as people and statements write it: 15-Jun-2026, 15 Jun-2026, 15/June/2026, Jun 15-2026,
-/// 2026-06-15, 6/15/2026 (month first, swapped when the first number is over 12), two-digit years (00 to 29
-/// are 20xx), each with or without a time. Month names are English in any case.
+/// The first of three numbers, unless that can be no month.
+enum class DateOrder { DayFirst, MonthFirst };
+
+/// Reads a date as a person types it: 15 Jun-2026, Jun 15, 2026 or 2026 June 15, the month in three letters
+/// or more of its name; 2026-06-15; 15/6/2026. Years of two digits, 00 to 29, are 20xx, unless that is after
+/// `latest`; no year lies before 100.
+std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest = {});
+
+/// The same for statements: the month comes first, a year may have one or three digits, and a time may
+/// follow.
 /// @return "YYYY-MM-DD", with " HH:MM:SS" only when there is a time; nothing when it is no date.
 std::optional<QString> parseDateText(QStringView text);
 
@@ -21,9 +30,11 @@ QString isoDate(QDate date, QTime time = {});
 /// The value of a stored date: QDate, or QDateTime when it has a time of day; an invalid variant for anything
 /// else.
 QVariant dateFromIso(QStringView iso);
+/// The day at the beginning of an ISO date, also without its dashes, as cards have it.
+QDate dayOfIso(QStringView iso);
 
-/// A date in the patterns of the dialect's format(): d, dd, mmm, mmmm, m, mm, yy, yyyy in any case; English
-/// names.
-QString formatIsoDate(QStringView iso, QStringView pattern);
+/// A date by a pattern of d, dd, m, mm, mmm, mmmm, yy, yyyy in any case; anything else stays as it is. "" for
+/// an invalid date.
+QString formatDate(QDate date, QStringView pattern);
 
 } // namespace jet

@@ -128,8 +128,10 @@ void format(sqlite3_context* context, int, sqlite3_value** arguments)
     if (isNull(arguments[0]))
         return;
     const QString value = stringOf(arguments[0]);
-    const auto iso = dateFromIso(value).isValid() ? std::optional(value) : parseDateText(value);
-    answer(context, iso ? formatIsoDate(*iso, stringOf(arguments[1])) : value);
+    QVariant date = dateFromIso(value);
+    if (!date.isValid())
+        date = dateFromIso(parseDateText(value).value_or(QString()));
+    answer(context, date.isValid() ? formatDate(date.toDate(), stringOf(arguments[1])) : value);
 }
 
 /// The number at the beginning of a text, 0 when there is none.

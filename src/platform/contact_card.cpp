@@ -4,6 +4,7 @@
 #include <array>
 
 #include "formats/vcard_lines.h"
+#include "jet/date_text.h"
 #include "platform/cp1252.h"
 
 using namespace Qt::StringLiterals;
@@ -107,12 +108,10 @@ template <QString MailContact::*field, Phone kind> constexpr Slot phone(const ch
 template <QDate MailContact::*field> constexpr Slot date(const char16_t* name)
 {
     return {name, u"", anyType, 1,
-        [](const MailContact& contact, const QString&) { return (contact.*field).toString(Qt::ISODate); },
-        [](MailContact& contact, const QString& value) {
-            contact.*field = QDate::fromString(value.left(10), Qt::ISODate);
-            if (!(contact.*field).isValid())
-                contact.*field = QDate::fromString(value.left(8), u"yyyyMMdd"_s);
-        }};
+        [](const MailContact& contact, const QString&) {
+            return jet::formatDate(contact.*field, u"yyyy-mm-dd");
+        },
+        [](MailContact& contact, const QString& value) { contact.*field = jet::dayOfIso(value); }};
 }
 
 template <MailAddress MailContact::*field>

@@ -4,6 +4,7 @@
 #include "core/store/book_schema.h"
 #include "core/store/durable_files.h"
 #include "jet/database.h"
+#include "jet/date_text.h"
 
 #include <QDate>
 #include <QFile>
@@ -178,7 +179,7 @@ public:
     void set(QStringView column, QStringView value) { set(column, value.toString()); }
     void set(QStringView column, int value) { set(column, QString::number(value)); }
     void setFlag(QStringView column, bool value) { set(column, value ? u"true"_s : u"false"_s); }
-    void set(QStringView column, QDate value) { set(column, value.toString(Qt::ISODate)); }
+    void set(QStringView column, QDate value) { set(column, jet::isoDate(value)); }
     void endRow()
     {
         Q_ASSERT(m_row.size() == m_columns.size());
@@ -319,8 +320,8 @@ private:
         const QString slot = QString::number(which);
         m_contacts.set(QString(u"kid"_s + slot),
             born ? m_dice.pick(m_dice.chance(50) ? country.men : country.women) : QString());
-        m_contacts.set(QString(u"Kid"_s + slot + u"_BD"_s),
-            born ? m_dice.date(1985, 2024).toString(Qt::ISODate) : QString());
+        m_contacts.set(
+            QString(u"Kid"_s + slot + u"_BD"_s), born ? jet::isoDate(m_dice.date(1985, 2024)) : QString());
     }
 
     QDate birthday(int index)

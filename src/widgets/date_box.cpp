@@ -15,7 +15,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace widgets {
 
@@ -23,111 +22,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<QStringView, 12> Months{u"january", u"february", u"march", u"april", u"may", u"june",
-    u"july", u"august", u"september", u"october", u"november", u"december"};
-constexpr int ShortestMonth = 3;
-constexpr int FirstYear = 100; ///< what is stored of an earlier one reads as a year of two digits
-
-/// The number of an English month, written out or cut after its third letter or later; 0 when it is none.
-int monthOf(QStringView word)
-{
-    if (word.size() < ShortestMonth)
-        return 0;
-    for (size_t i = 0; i < Months.size(); ++i) {
-        if (Months[i].startsWith(word, Qt::CaseInsensitive))
-            return static_cast<int>(i) + 1;
-    }
-    return word.compare(u"sept", Qt::CaseInsensitive) == 0 ? 9 : 0;
-}
-
-/// Runs of letters and runs of digits; nothing when there is anything but date punctuation between them.
-QStringList pieces(QStringView text)
-{
-    QStringList found;
-    bool inPiece = false;
-    for (const QChar c : text) {
-        const bool digit = c >= u'0' && c <= u'9';
-        if (digit || c.isLetter()) {
-            const bool sameKind = inPiece && found.constLast().back().isLetter() != digit;
-            if (sameKind)
-                found.last() += c;
-            else
-                found += QString(c);
-            inPiece = true;
-        } else if (c.isSpace() || c == u'-' || c == u'/' || c == u'.' || c == u',') {
-            inPiece = false;
-        } else {
-            return {};
-        }
-    }
-    return found;
-}
-
-std::optional<int> yearOf(const QString& digits)
-{
-    const int year = digits.toInt();
-    if (digits.size() == 4 && year >= FirstYear)
-        return year;
-    if (digits.size() != 2)
-        return {};
-    return year < 30 ? 2000 + year : 1900 + year;
-}
-
-std::optional<QDate> dateOf(const QString& year, int month, const QString& day, QDate latest)
-{
-    const auto fullYear = yearOf(year);
-    if (!fullYear || day.size() > 2)
-        return {};
-    QDate date(*fullYear, month, day.toInt());
-    if (year.size() == 2 && latest.isValid() && date > latest)
-        date = QDate(*fullYear - 100, month, day.toInt());
-    return date.isValid() ? std::optional(date) : std::nullopt;
-}
-
 std::function<QDate()>& todaysDate()
 {
-    static std::function<QDate()> today = &QDate::currentDate;
+    static std::function<QDate()> today = [] { return QDate(); };
     return today;
 }
 
 } // namespace
-
-QString formatDate(QDate date, QStringView pattern)
-{
-    if (!date.isValid())
-        return {};
-    // The C locale has English months; a small m would be minutes.
-    return QLocale::c().toString(date, pattern.toString().replace(u'm', u'M'));
-}
-
-std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest)
-{
-    const QStringList parts = pieces(text);
-    if (parts.size() != 3)
-        return {};
-
-    for (int i = 0; i < 3; ++i) {
-        if (!parts[i].front().isLetter())
-            continue;
-        const int month = monthOf(parts[i]);
-        const QString& first = parts[i == 0 ? 1 : 0];
-        const QString& second = parts[i == 2 ? 1 : 2];
-        if (month == 0 || first.front().isLetter() || second.front().isLetter())
-            return {};
-        return first.size() == 4 ? dateOf(first, month, second, latest)
-                                 : dateOf(second, month, first, latest);
-    }
-
-    if (parts[0].size() == 4)
-        return dateOf(parts[0], parts[1].toInt(), parts[2], latest);
-    if (parts[0].size() > 2 || parts[1].size() > 2)
-        return {};
-    QString day = parts[order == DateOrder::DayFirst ? 0 : 1];
-    QString month = parts[order == DateOrder::DayFirst ? 1 : 0];
-    if (month.toInt() > 12)
-        std::swap(day, month);
-    return dateOf(parts[2], month.toInt(), day, latest);
-}
 
 DateBox::DateBox(QWidget* parent)
     : QLineEdit(parent)
@@ -151,22 +52,23 @@ void DateBox::setFormat(const QString& pattern)
     mark();
 }
 
-DateOrder DateBox::order() const
+jet::DateOrder DateBox::order() const
 {
-    return m_format.startsWith(u'd', Qt::CaseInsensitive) ? DateOrder::DayFirst : DateOrder::MonthFirst;
+    return m_format.startsWith(u'd', Qt::CaseInsensitive) ? jet::DateOrder::DayFirst
+                                                          : jet::DateOrder::MonthFirst;
 }
 
 std::optional<QDate> DateBox::date() const
 {
-    if (m_exact && text() == formatDate(*m_exact, m_format))
+    if (m_exact && text() == jet::formatDate(*m_exact, m_format))
         return m_exact;
-    return readDate(text(), order(), todaysDate()());
+    return jet::readDate(text(), order(), todaysDate()());
 }
 
 void DateBox::setDate(const std::optional<QDate>& date)
 {
     m_exact = date;
-    setText(date ? formatDate(*date, m_format) : QString());
+    setText(date ? jet::formatDate(*date, m_format) : QString());
     setCursorPosition(0);
 }
 
@@ -208,14 +110,14 @@ QSize DateBox::minimumSizeHint() const
     constexpr int IconAndEdges = 42;
     int widest = 0;
     for (int month = 1; month <= 12; ++month)
-        widest
-            = std::max(widest, fontMetrics().horizontalAdvance(formatDate(QDate(2000, month, 28), m_format)));
+        widest = std::max(
+            widest, fontMetrics().horizontalAdvance(jet::formatDate(QDate(2000, month, 28), m_format)));
     return {widest + IconAndEdges, QLineEdit::minimumSizeHint().height()};
 }
 
 QString DateBox::complaint() const
 {
-    return tr("This is not a date. Write it like %1.").arg(formatDate(QDate(1990, 2, 1), m_format));
+    return tr("This is not a date. Write it like %1.").arg(jet::formatDate(QDate(1990, 2, 1), m_format));
 }
 
 void DateBox::followText()
@@ -232,7 +134,7 @@ void DateBox::followText()
 
 void DateBox::tidy()
 {
-    if (const auto typed = date(); typed && formatDate(*typed, m_format) != text())
+    if (const auto typed = date(); typed && jet::formatDate(*typed, m_format) != text())
         setDate(typed);
     mark();
 }
@@ -265,7 +167,8 @@ void DateBox::showCalendar()
     calendar->setObjectName(u"calendarOfDateBox"_s);
     calendar->setLocale(QLocale::c());
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setSelectedDate(date().value_or(todaysDate()()));
+    if (const QDate day = date().value_or(todaysDate()()); day.isValid())
+        calendar->setSelectedDate(day);
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(2, 2, 2, 2);
     layout->addWidget(calendar);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "jet/date_text.h"
+
 #include <QDate>
 #include <QLineEdit>
 
@@ -7,16 +9,6 @@
 #include <optional>
 
 namespace widgets {
-
-/// A date in one of the patterns "dd MMM-yyyy", "MMM dd-yyyy", "dd-MMM-yyyy", "dd/MMM/yyyy", "dd-MMM-yy",
-/// "MMM-dd-yy", with English months in every locale; "" for an invalid date.
-QString formatDate(QDate date, QStringView pattern);
-
-/// A date as a person types it: with the month as a word in any place, as 1990-02-01, or as three numbers, of
-/// which the first is the day or the month (and the other when it is over 12). Two-digit years 00 to 29 are
-/// 20xx, unless that is after `latest`; no year lies before 100.
-enum class DateOrder { DayFirst, MonthFirst };
-std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest = {});
 
 /// A date field that may be empty, with a calendar behind a button (or F4, or Alt+Down).
 ///
@@ -44,7 +36,8 @@ public:
     /// Turns to the page of the box, takes the focus to it and says what is wrong beside it.
     void askToMend();
 
-    /// Where the boxes have the day of today from, until told otherwise that of the computer.
+    /// Where the boxes have the day of today from. Untold they know none, and a year of two digits may lie
+    /// ahead.
     static void setToday(std::function<QDate()> today);
 
 Q_SIGNALS:
@@ -57,7 +50,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    DateOrder order() const;
+    jet::DateOrder order() const;
     void followText();
     void tidy();
     void mark();

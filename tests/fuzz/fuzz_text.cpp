@@ -22,7 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         if (!jet::dateFromIso(*iso).isValid() || jet::parseDateText(*iso) != iso)
             std::abort();
     }
-    jet::formatIsoDate(u"2026-06-15", text);
+    jet::formatDate(QDate(2026, 6, 15), text);
+    jet::readDate(text, jet::DateOrder::DayFirst, QDate(2026, 6, 15));
     jet::dateFromIso(text);
 
     for (const jet::Way way : {jet::Way::Dao, jet::Way::Ado}) {

@@ -84,6 +84,7 @@ private Q_SLOTS:
     void arrowsRunDownwards();
     void logicKnowsNoWidget();
     void onlyTheEngineKnowsItsDatabase();
+    void oneClockAndOneCalendar();
     void filesAreShort();
 
 private:
@@ -174,6 +175,30 @@ void IncludeGraphTest::onlyTheEngineKnowsItsDatabase()
         for (const QString& literal : literalsOf(file.text)) {
             if (words.match(literal).hasMatch())
                 wrong << file.path + u": "_s + literal;
+        }
+    }
+    QCOMPARE(wrong.join(u'\n'), QString());
+}
+
+// A test sets the clock, and a date that is read or written in one place is the same in all.
+void IncludeGraphTest::oneClockAndOneCalendar()
+{
+    const struct {
+        QRegularExpression words;
+        QString place;
+    } rules[] = {
+        {QRegularExpression(uR"(\bcurrent(Date|Time|DateTime|M?SecsSinceEpoch)\b|\bsystem_clock\b)"_s),
+            u"platform/clock.h"_s},
+        {QRegularExpression(
+             uR"(\bQDate(Time)?::fromString\b|\bISODate\b|\bc\(\)\.to(Date|String)\b|toString\(u".*(yy|MM))"_s),
+            u"jet/date_text.cpp"_s},
+    };
+    QStringList wrong;
+    for (const auto& rule : rules) {
+        for (const File& file : m_sources) {
+            const auto match = rule.words.match(file.text);
+            if (match.hasMatch() && file.path != rule.place)
+                wrong << file.path + u": "_s + match.captured();
         }
     }
     QCOMPARE(wrong.join(u'\n'), QString());

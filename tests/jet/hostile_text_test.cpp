@@ -1,13 +1,13 @@
 #include "support/test_book.h"
 
-#include "jet/date_text.h"
 #include "jet/letter_case.h"
 #include "jet/lexer.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QtTest>
+
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 using support::TestBook;
@@ -271,8 +271,7 @@ private Q_SLOTS:
         QFETCH(const QString, repeated);
         QFETCH(const QString, middle);
         QFETCH(const QString, closing);
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t begin = std::clock();
         for (const int times : {1, 20, 110, 1'000, 100'000}) {
             const QString sql = head + repeated.repeated(times) + middle + closing.repeated(times);
             m_failures = 0;
@@ -281,7 +280,7 @@ private Q_SLOTS:
                 = isAction ? m_book->data().execute(sql).ok : m_book->data().openRecordset(sql).isValid();
             QVERIFY(done == (m_failures == 0));
         }
-        QVERIFY2(timer.elapsed() < 20'000, qPrintable(u"%1 ms"_s.arg(timer.elapsed())));
+        QVERIFY2(secondsSince(begin) < 20, qPrintable(u"%1 s"_s.arg(secondsSince(begin))));
     }
 
     // What a person may well compose has to work, not just to do no harm.
@@ -302,13 +301,12 @@ private Q_SLOTS:
     {
         const QString value = u'\'' + QString(20'000, u'a') + u'\'';
         const QString pattern = u'\'' + u"*a"_s.repeated(2'000) + u"é*b'"_s;
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t begin = std::clock();
         QCOMPARE(m_book->data()
                      .openRecordset(u"select id from cnt_user where "_s + value + u" like "_s + pattern)
                      .count(),
             0);
-        QVERIFY(timer.elapsed() < 20'000);
+        QVERIFY(secondsSince(begin) < 20);
     }
 
     // ---- translations are kept by the shape of a statement: nothing else of it may stay
@@ -414,6 +412,8 @@ private Q_SLOTS:
     }
 
 private:
+    /// Of the processor: a busy machine makes no statement slow.
+    static double secondsSince(std::clock_t begin) { return double(std::clock() - begin) / CLOCKS_PER_SEC; }
     QStringList entries() const { return QDir(m_book->folder()).entryList(QDir::Files, QDir::Name); }
 
     std::unique_ptr<TestBook> m_book;

@@ -41,8 +41,12 @@ void DateBoxTest::formats()
 {
     QFETCH(QString, pattern);
     QLocale::setDefault(QLocale(QLocale::German)); // March is not März in a stored date
-    QTEST(formatDate(QDate(1990, 3, 5), pattern), "text");
-    QCOMPARE(formatDate({}, pattern), QString());
+    DateBox box;
+    box.setFormat(pattern);
+    box.setDate(QDate(1990, 3, 5));
+    QTEST(box.text(), "text");
+    box.setDate({});
+    QCOMPARE(box.text(), QString());
     QLocale::setDefault(QLocale::c());
 }
 
@@ -90,8 +94,12 @@ void DateBoxTest::reads_data()
 void DateBoxTest::reads()
 {
     QFETCH(QString, text);
-    QTEST(readDate(text, DateOrder::DayFirst).value_or(QDate()), "dayFirst");
-    QTEST(readDate(text, DateOrder::MonthFirst).value_or(QDate()), "monthFirst");
+    DateBox box;
+    box.setText(text);
+    QTEST(box.date().value_or(QDate()), "dayFirst");
+    box.setFormat(u"MMM dd-yyyy"_s);
+    box.setText(text);
+    QTEST(box.date().value_or(QDate()), "monthFirst");
 }
 
 void DateBoxTest::wrongTextStays()
@@ -168,7 +176,7 @@ void DateBoxTest::twoDigitsHaveBeen()
     QFETCH(QString, typed);
     QTest::keyClicks(&box, typed + u'\r');
     QTEST(box.date().value_or(QDate()), "date");
-    DateBox::setToday(&QDate::currentDate);
+    DateBox::setToday([] { return QDate(); });
 }
 
 void DateBoxTest::leavingABadOneSaysSo()

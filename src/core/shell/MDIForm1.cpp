@@ -14,12 +14,12 @@
 #include "core/shell/tool_actions.h"
 #include "core/shell/undo_command.h"
 #include "core/shell/window_state.h"
+#include "jet/date_text.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
 #include "platform/special_folders.h"
-#include "widgets/date_box.h"
 #include "widgets/heading_grid.h"
 #include "widgets/mnemonics.h"
 #include "widgets/theme.h"
@@ -491,7 +491,7 @@ void MDIForm1::showHead()
 
 void MDIForm1::showToday()
 {
-    m_datePane->setText(widgets::formatDate(
+    m_datePane->setText(jet::formatDate(
         m_context->services.clock.today(), core::datePattern(m_context->shared.NationalMode)));
 }
 

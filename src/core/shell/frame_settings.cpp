@@ -100,8 +100,8 @@ QString takeDeferredKey(jet::Database& data)
 
 QString dueMailsSql(QDate today)
 {
-    return u"Select * from time_email where date <=#"_s
-        + jet::formatIsoDate(jet::isoDate(today), u"dd-mmm-yyyy") + u"# and confirm=true"_s;
+    return u"Select * from time_email where date <=#"_s + jet::formatDate(today, u"dd-mmm-yyyy")
+        + u"# and confirm=true"_s;
 }
 
 } // namespace shell

@@ -36,8 +36,7 @@ QString changedLatelySql(QDate today)
 {
     constexpr int kDays = 30;
     return u"select id,name from cnt_main where datemodi >= #"_s
-        + jet::formatIsoDate(jet::isoDate(today.addDays(-kDays)), u"dd-mmm-yyyy")
-        + u"# order by datemodi desc,id desc"_s;
+        + jet::formatDate(today.addDays(-kDays), u"dd-mmm-yyyy") + u"# order by datemodi desc,id desc"_s;
 }
 
 QString contactCountSql()

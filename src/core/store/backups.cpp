@@ -3,6 +3,7 @@
 #include "core/store/book_files.h"
 #include "core/store/durable_files.h"
 #include "jet/database.h"
+#include "jet/date_text.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -35,6 +36,13 @@ constexpr auto kNoteSchema = "database,table,column,type,size\n"
                              "copy,OV_Copy,made,text,40\n"
                              "copy,OV_Copy,content,text,80\n";
 
+constexpr QStringView kTimeOfStamp = u"HHmmss";
+
+QString stampOf(const QDateTime& time)
+{
+    return jet::isoDate(time.date()) + u'-' + time.time().toString(kTimeOfStamp);
+}
+
 bool isNewer(const Backup& a, const Backup& b)
 {
     if (a.number != b.number)
@@ -55,7 +63,7 @@ Backup readBackup(const QFileInfo& file, const QDateTime& madeByName, bool befor
     if (!copy.tables().contains(kNote, Qt::CaseInsensitive))
         return backup;
     const auto note = copy.openRecordset(u"select * from "_s + kNote);
-    const QDateTime made = QDateTime::fromString(note.textOrEmpty(u"made"), Qt::ISODate);
+    const QDateTime made = jet::dateFromIso(note.textOrEmpty(u"made")).toDateTime();
     backup.number = note.number(u"number");
     backup.made = made.isValid() ? made : madeByName;
     backup.content = note.textOrEmpty(u"content");
@@ -70,9 +78,9 @@ QList<Backup> allBackups(const QString& folder)
     QList<Backup> found;
     for (const QFileInfo& entry : QDir(folder).entryInfoList({u"Orvanedata-*.dll"_s}, QDir::Files)) {
         const auto match = pattern.match(entry.fileName());
-        const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
+        const QDate day = jet::dayOfIso(match.captured(1));
         const bool beforeDeletion = !match.captured(3).isEmpty();
-        const QTime time = beforeDeletion ? QTime::fromString(match.captured(3), u"HHmmss"_s) : QTime(0, 0);
+        const QTime time = beforeDeletion ? QTime::fromString(match.captured(3), kTimeOfStamp) : QTime(0, 0);
         if (match.hasMatch() && day.isValid() && time.isValid() && !entry.isSymLink())
             found << readBackup(entry, QDateTime(day, time), beforeDeletion);
     }
@@ -115,7 +123,7 @@ bool writeNote(const QString& path, qint64 number, const QDateTime& made, const 
         copy.execute(u"drop table "_s + kNote);
     return copy.applySchema(jet::Schema::fromCsv(kNoteSchema), u"copy"_s)
         && copy.appendRows(kNote, {u"number"_s, u"made"_s, u"content"_s},
-            {{QString::number(number), made.toString(Qt::ISODate), content}});
+            {{QString::number(number), jet::isoDate(made.date(), made.time()), content}});
 }
 
 void takeNoteOut(const QString& path)
@@ -143,8 +151,7 @@ void keepDamaged(const QString& unchecked, const QString& folder, const QDateTim
         QFile::remove(unchecked);
         return;
     }
-    const QString path
-        = QDir(folder).filePath(now.toString(u"'Orvanedata-damaged-'yyyy-MM-dd-HHmmss'.dll'"_s));
+    const QString path = QDir(folder).filePath(u"Orvanedata-damaged-%1.dll"_s.arg(stampOf(now)));
     if (!putInPlace(unchecked, path))
         QFile::remove(unchecked);
     for (qsizetype i = kDamagedKept - 1; i < before.size(); ++i)
@@ -191,7 +198,7 @@ QStringList superfluous(QList<Backup> copies)
     qsizetype older = 0; // of the last ten, but the last of their month
     QSet<QString> lastOfMonth;
     for (qsizetype i = 0; i < copies.size(); ++i) {
-        const QString month = copies[i].made.toString(u"yyyy-MM"_s);
+        const QString month = jet::formatDate(copies[i].made.date(), u"yyyy-mm");
         if (months.contains(month))
             continue;
         months << month;
@@ -216,7 +223,7 @@ QStringList superfluous(QList<Backup> copies)
 
 BackupResult backUpIfChanged(jet::Database& database, const QString& folder, const QDateTime& now)
 {
-    const QString stem = QDir(folder).filePath(u"Orvanedata-"_s + now.date().toString(Qt::ISODate));
+    const QString stem = QDir(folder).filePath(u"Orvanedata-"_s + jet::isoDate(now.date()));
     QString path = stem + u".dll"_s;
     for (int i = 2; QFileInfo::exists(path); ++i)
         path = u"%1-%2.dll"_s.arg(stem).arg(i);
@@ -233,8 +240,8 @@ BackupResult backUpIfChanged(jet::Database& database, const QString& folder, con
 bool keepBeforeDeletion(jet::Database& database, const QString& folder, const QDateTime& now)
 {
     const auto pathAt = [&folder](const QDateTime& time) {
-        return QDir(folder).filePath(
-            time.toString(u"'Orvanedata-'yyyy-MM-dd'-before-deletion-'HHmmss'.dll'"_s));
+        return QDir(folder).filePath(u"Orvanedata-%1-before-deletion-%2.dll"_s.arg(
+            jet::isoDate(time.date()), time.toString(kTimeOfStamp)));
     };
     QDateTime time = now;
     while (QFileInfo::exists(pathAt(time)))
@@ -313,8 +320,8 @@ Restored restore(const QString& backup, const QString& dataFile, const QDateTime
     takeNoteOut(incoming);
 
     const QFileInfo present(dataFile);
-    const QString stem = present.absoluteDir().filePath(
-        present.completeBaseName() + now.toString(u"'-replaced-'yyyy-MM-dd-HHmmss"_s));
+    const QString stem
+        = present.absoluteDir().filePath(u"%1-replaced-%2"_s.arg(present.completeBaseName(), stampOf(now)));
     QString kept = stem + u".dll"_s;
     for (int i = 2; QFileInfo::exists(kept) || QFileInfo::exists(kept + u"-wal"_s); ++i)
         kept = u"%1-%2.dll"_s.arg(stem).arg(i);

@@ -273,7 +273,7 @@ QVariant dateValue(const std::optional<QDate>& date, bool inWords)
 {
     if (!date)
         return {};
-    return inWords ? QVariant(jet::formatIsoDate(jet::isoDate(*date), u"dd/mmm/yyyy")) : QVariant(*date);
+    return inWords ? QVariant(jet::formatDate(*date, u"dd/mmm/yyyy")) : QVariant(*date);
 }
 
 } // namespace

@@ -3,9 +3,9 @@
 #include "core/date_patterns.h"
 #include "core/frame.h"
 #include "core/screens.h"
+#include "jet/date_text.h"
 #include "views/contact_pages/linked_records.h"
 #include "views/contact_pages/note_pages.h"
-#include "widgets/date_box.h"
 #include "widgets/heading_grid.h"
 #include "widgets/theme.h"
 
@@ -166,7 +166,7 @@ void frmCntViewer::showDates()
     for (const QStringView column : kDates)
         m_rows->showAs(column.toString(), [pattern](const QVariant& value) {
             const QDate date = value.toDate();
-            return date.isValid() ? widgets::formatDate(date, pattern) : value.toString();
+            return date.isValid() ? jet::formatDate(date, pattern) : value.toString();
         });
     m_rows->showAs(u"Time"_s, [](const QVariant& value) {
         const QTime time = value.toTime();

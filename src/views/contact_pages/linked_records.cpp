@@ -1,9 +1,9 @@
 #include "views/contact_pages/linked_records.h"
 
 #include "core/date_patterns.h"
+#include "jet/date_text.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -125,7 +125,7 @@ QList<QStringList> relativesOf(const jet::Recordset& contact, bool nationalMode)
         if (name.isEmpty() && !born.isValid())
             continue;
         rows << QStringList{QCoreApplication::translate("views", relative.relation), name,
-            born.isValid() ? QLocale::c().toString(born, core::datePattern(nationalMode)) : QString()};
+            jet::formatDate(born, core::datePattern(nationalMode))};
     }
     return rows;
 }

@@ -1,9 +1,9 @@
 #include "views/contact_pages/note_pages.h"
 
 #include "core/date_patterns.h"
+#include "jet/date_text.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -156,8 +156,7 @@ QString joined(const QStringList& parts, const QString& between)
 
 QString dated(const jet::Recordset& row, QStringView column, bool nationalMode)
 {
-    const QDate date = row.date(column);
-    return date.isValid() ? QLocale::c().toString(date, core::datePattern(nationalMode)) : QString();
+    return jet::formatDate(row.date(column), core::datePattern(nationalMode));
 }
 
 QString aged(const jet::Recordset& row, QStringView column, bool nationalMode, QDate today)

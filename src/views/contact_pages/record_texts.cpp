@@ -1,8 +1,8 @@
 #include "views/contact_pages/record_texts.h"
 
 #include "core/date_patterns.h"
+#include "jet/date_text.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <array>
@@ -209,12 +209,6 @@ struct Moment {
     QDate today;
 };
 
-// English months in every locale, as in all stored and shown dates.
-QString dated(QDate date, const QString& pattern)
-{
-    return date.isValid() ? QLocale::c().toString(date, pattern) : QString();
-}
-
 // The age reached this year, as in the lists of birthdays, whether or not the day has passed.
 QString ageText(QDate born, QDate today)
 {
@@ -236,8 +230,9 @@ QString composed(const jet::Recordset& row, const TextRow& shown, const Moment& 
     case Compose::Places: return parts.join(u"  -  "_s);
     case Compose::Lines: return parts.join(u"\r\n"_s);
     case Compose::WithMaiden: return parts[0] + u'(' + parts[1] + u')';
-    case Compose::ShortDate: return dated(row.date(first), core::shortDatePattern(moment.nationalMode));
-    case Compose::Date: return dated(row.date(first), core::datePattern(moment.nationalMode));
+    case Compose::ShortDate:
+        return jet::formatDate(row.date(first), core::shortDatePattern(moment.nationalMode));
+    case Compose::Date: return jet::formatDate(row.date(first), core::datePattern(moment.nationalMode));
     case Compose::Age: return ageText(row.date(first), moment.today);
     case Compose::Association: return associationCaption(parts[0]);
     }

@@ -1,10 +1,10 @@
 #include "views/selector/selector_list.h"
 
+#include "jet/date_text.h"
 #include "views/filters/chosen_value.h"
 
 #include <QCoreApplication>
 #include <QDate>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -183,8 +183,8 @@ QString quickSubcategoriesSql(const QString& category)
 
 QString shortMonth(const QString& month)
 {
-    const QDate first = QLocale::c().toDate(month, u"MMM-yyyy"_s);
-    return first.isValid() ? QLocale::c().toString(first, u"MMM yy"_s) : month;
+    const auto first = jet::readDate(u"1-"_s + month, jet::DateOrder::DayFirst);
+    return first ? jet::formatDate(*first, u"mmm yy") : month;
 }
 
 } // namespace views
