@@ -47,8 +47,8 @@ private Q_SLOTS:
         QVERIFY(!info.openRecordset(u"select city from WIA_INDIA where city='Mumbai'"_s).isEmpty());
         QVERIFY(
             !info.openRecordset(u"select id from WIA_GLOBALMAS where country='United States'"_s).isEmpty());
-    QVERIFY(data.openRecordset(u"select city from CNT_TOPCITIES where city<>null"_s).isEmpty());
-    QVERIFY(!data.openRecordset(u"select city from CNT_TOPCITIES where city is not null"_s).isEmpty());
+        QVERIFY(data.openRecordset(u"select city from CNT_TOPCITIES where city<>null"_s).isEmpty());
+        QVERIFY(!data.openRecordset(u"select city from CNT_TOPCITIES where city is not null"_s).isEmpty());
         QCOMPARE(data.version(), kSchemaVersion);
         QCOMPARE(info.version(), kSchemaVersion);
         const QStringList left
