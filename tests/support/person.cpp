@@ -36,7 +36,8 @@ void type(const QWidget* screen, const QString& name, const QString& text)
     if (auto* combo = qobject_cast<QComboBox*>(field))
         field = combo->lineEdit();
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_Delete);
+    if (text.isEmpty())
+        QTest::keyClick(field, Qt::Key_Delete);
     QTest::keyClicks(field, text);
 }
 
@@ -65,6 +66,39 @@ void doubleClickRow(QAbstractItemView* list, int row, int column)
     clickRow(list, row, column);
     QTest::mouseDClick(
         list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(row, column)).center());
+}
+
+QTreeWidgetItem* branchOf(const QTreeWidget* tree, const QStringList& path)
+{
+    QTreeWidgetItem* branch = tree->topLevelItem(0);
+    for (const QString& step : path) {
+        branch->setExpanded(true);
+        const qsizetype at = textsBelow(branch).indexOf(step);
+        if (at < 0)
+            qFatal("no branch %s", qUtf8Printable(step));
+        branch = branch->child(int(at));
+    }
+    branch->setExpanded(true);
+    return branch;
+}
+
+QStringList textsBelow(const QTreeWidgetItem* branch)
+{
+    QStringList texts;
+    for (int i = 0; i < branch->childCount(); ++i)
+        texts << branch->child(i)->text(0);
+    return texts;
+}
+
+void clickLink(QTextBrowser* page, const QString& text)
+{
+    QTextCursor found = page->document()->find(text);
+    if (found.isNull() || !found.charFormat().isAnchor())
+        qFatal("no link %s in %s", qUtf8Printable(text), qUtf8Printable(page->toPlainText()));
+    found.setPosition(found.selectionStart() + 2);
+    page->setTextCursor(found);
+    page->ensureCursorVisible();
+    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, page->cursorRect(found).center());
 }
 
 void clickDay(QCalendarWidget* calendar, int day)

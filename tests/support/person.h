@@ -4,6 +4,9 @@
 
 class QAbstractItemView;
 class QCalendarWidget;
+class QTextBrowser;
+class QTreeWidget;
+class QTreeWidgetItem;
 class QWidget;
 
 namespace widgets {
@@ -23,6 +26,11 @@ void type(const QWidget* screen, const QString& name, const QString& text);
 void choose(const QWidget* screen, const QString& combo, const QString& value);
 void clickRow(QAbstractItemView* list, int row, int column = 0);
 void doubleClickRow(QAbstractItemView* list, int row, int column = 0);
+/// The branch at the end of the path, and the branches on the way opened.
+QTreeWidgetItem* branchOf(const QTreeWidget* tree, const QStringList& path);
+QStringList textsBelow(const QTreeWidgetItem* branch);
+/// The link that holds the text.
+void clickLink(QTextBrowser* page, const QString& text);
 void clickDay(QCalendarWidget* calendar, int day); ///< of the month that it shows
 
 /// The keys of all rows, with commas between.

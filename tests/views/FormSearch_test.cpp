@@ -1,3 +1,4 @@
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/search/FormSearch.h"
 #include "views/search/search_clauses.h"
@@ -46,10 +47,8 @@ private Q_SLOTS:
     void menuHandsOver();
     void editingWhatIsGone();
     void toolsOpenScreens();
-    void absentScreensDisableTools();
     void seesWhatAnotherScreenSaved();
     void keysAlone();
-    void helpIsShown();
 
 private:
     FormSearch* open();
@@ -62,24 +61,23 @@ private:
     {
         return control<widgets::HeadingGrid>(name);
     }
-    QString listed(const QString& name = u"FG1"_s) const;
+    QString listed(const QString& name = u"FG1"_s) const { return support::keysOf(grid(name)); }
+    QStringList shownHeadings(const QString& name) const { return support::headingsOf(grid(name)); }
     QString text(const QString& combo) const { return widgets::textOf(control(combo)); }
     bool shows(const QString& name) const { return control(name)->isVisible(); }
-    void click(const QString& button) { QTest::mouseClick(control<QAbstractButton>(button), Qt::LeftButton); }
-    void type(const QString& combo, const QString& text)
+    void click(const QString& button) { support::click(m_form, button); }
+    /// Opens the pane of the further conditions for one that stands there.
+    const QString& reached(const QString& name)
     {
-        auto* line = control<QComboBox>(combo)->lineEdit();
-        line->selectAll();
-        QTest::keyClicks(line, text);
+        if (control(u"Frame1"_s)->isAncestorOf(control(name)) && !shows(u"Frame1"_s))
+            click(u"SSCommand1"_s);
+        return name;
     }
+    void type(const QString& combo, const QString& text) { support::type(m_form, reached(combo), text); }
     void choose(const QString& combo, const QString& value)
     {
-        auto* list = control<widgets::FilledCombo>(combo);
-        const auto row = list->values().indexOf(value);
-        QVERIFY2(row >= 0, qPrintable(value));
-        list->setCurrentIndex(static_cast<int>(row));
+        support::choose(m_form, reached(combo), value);
     }
-    QStringList shownHeadings(const QString& name) const;
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
     FormSearch* m_form = nullptr;
@@ -105,25 +103,6 @@ FormSearch* FormSearchTest::open()
 {
     m_form = m_fixture->open<FormSearch>(u"FormSearch"_s);
     return m_form;
-}
-
-QString FormSearchTest::listed(const QString& name) const
-{
-    QStringList ids;
-    for (int row = 0; row < grid(name)->rowCount(); ++row)
-        ids << QString::number(grid(name)->keyAt(row));
-    return ids.join(u',');
-}
-
-QStringList FormSearchTest::shownHeadings(const QString& name) const
-{
-    QStringList texts;
-    const QAbstractItemModel* model = grid(name)->model();
-    for (int column = 0; column < model->columnCount(); ++column) {
-        if (!grid(name)->isColumnHidden(column))
-            texts << model->headerData(column, Qt::Horizontal).toString();
-    }
-    return texts;
 }
 
 void FormSearchTest::opensWithAllContacts()
@@ -567,16 +546,6 @@ void FormSearchTest::toolsOpenScreens()
     QCOMPARE(closing.count(), 1);
 }
 
-void FormSearchTest::absentScreensDisableTools()
-{
-    open();
-    for (const QString& id : {u"Search4"_s, u"Search5"_s, u"Search6"_s, u"Call"_s, u"EditDetails"_s}) {
-        const QAction* action = child<QAction>(m_form, id);
-        QVERIFY2(!action->isEnabled(), qPrintable(id));
-        QVERIFY2(action->toolTip().contains(u"Not available yet"_s), qPrintable(id));
-    }
-}
-
 void FormSearchTest::seesWhatAnotherScreenSaved()
 {
     open();
@@ -614,16 +583,6 @@ void FormSearchTest::keysAlone()
     QTest::keyClick(grid(), Qt::Key_W);
     QTest::keyClick(grid(), Qt::Key_Return);
     QCOMPARE(m_fixture->target(u"FullView"_s)->contacts, QList<qint64>{2});
-}
-
-void FormSearchTest::helpIsShown()
-{
-    m_fixture->execute(u"insert into ov_tooltip (Code, Tooltip) values ('CON0024', 'Type a word.')"_s);
-    open();
-    click(u"CmdHelp"_s);
-    const auto labels = m_form->window()->findChildren<QLabel*>();
-    QVERIFY(std::any_of(labels.begin(), labels.end(),
-        [](const QLabel* label) { return label->isVisible() && label->text().contains(u"Type a word."_s); }));
 }
 
 QTEST_MAIN(FormSearchTest)

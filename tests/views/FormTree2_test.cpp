@@ -1,3 +1,4 @@
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/search/FormTree2.h"
 #include "views/search/place_tree.h"
@@ -33,10 +34,13 @@ private Q_SLOTS:
 private:
     void open(TreeKind kind);
     void add(const QString& values);
-    QTreeWidgetItem* branch(const QStringList& path) const;
-    QStringList texts(const QStringList& path) const;
+    QTreeWidgetItem* branch(const QStringList& path) const
+    {
+        return support::branchOf(control<QTreeWidget>(u"SSTree1"_s), path);
+    }
+    QStringList texts(const QStringList& path) const { return support::textsBelow(branch(path)); }
     void click(const QStringList& path);
-    QString listed() const;
+    QString listed() const { return support::keysOf(control<widgets::HeadingGrid>(u"FG1"_s)); }
     template <class T> T* control(const QString& name) const { return child<T>(m_form, name); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
@@ -78,48 +82,12 @@ void FormTree2Test::open(TreeKind kind)
     QTRY_COMPARE(m_fixture->book.firstText(unclassifiedSql()), u"0"_s); // once it has been seen
 }
 
-QTreeWidgetItem* FormTree2Test::branch(const QStringList& path) const
-{
-    QTreeWidgetItem* found = control<QTreeWidget>(u"SSTree1"_s)->topLevelItem(0);
-    for (const QString& step : path) {
-        found->setExpanded(true);
-        QTreeWidgetItem* next = nullptr;
-        for (int i = 0; i < found->childCount(); ++i) {
-            if (found->child(i)->text(0) == step)
-                next = found->child(i);
-        }
-        if (!next)
-            qFatal("no branch %s", qUtf8Printable(step));
-        found = next;
-    }
-    return found;
-}
-
-QStringList FormTree2Test::texts(const QStringList& path) const
-{
-    QTreeWidgetItem* item = branch(path);
-    item->setExpanded(true);
-    QStringList texts;
-    for (int i = 0; i < item->childCount(); ++i)
-        texts << item->child(i)->text(0);
-    return texts;
-}
-
 void FormTree2Test::click(const QStringList& path)
 {
     QTreeWidgetItem* item = branch(path);
     auto* tree = control<QTreeWidget>(u"SSTree1"_s);
     tree->scrollToItem(item);
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(item).center());
-}
-
-QString FormTree2Test::listed() const
-{
-    auto* grid = control<widgets::HeadingGrid>(u"FG1"_s);
-    QStringList ids;
-    for (int row = 0; row < grid->rowCount(); ++row)
-        ids << QString::number(grid->keyAt(row));
-    return ids.join(u',');
 }
 
 void FormTree2Test::kindCanBeChosenWhileItIsOpen()

@@ -1,5 +1,6 @@
 #include "core/handover/refreshable.h"
 #include "core/sound_files.h"
+#include "support/columns.h"
 #include "support/screen_fixture.h"
 #include "views/filters/find_columns.h"
 #include "views/filters/FrmFind.h"
@@ -36,7 +37,6 @@ private Q_SLOTS:
     void cleanup();
     void everyFieldOfEveryCaller_data();
     void everyFieldOfEveryCaller();
-    void statements();
     void wholeValuesOnly();
     void asksBeforeItBlanks();
     void openForTheNextCaller();
@@ -111,15 +111,6 @@ void FrmFindTest::everyFieldOfEveryCaller()
     }
 }
 
-void FrmFindTest::statements()
-{
-    QCOMPARE(replaceSql(findTarget(u"Letters"), u"Type", u" a"_s, u"b"_s),
-        u"update cnt_letters set Type = 'b' where Type = ' a'"_s);
-    // A name of two words stands in brackets.
-    QCOMPARE(replaceSql(findTarget(u"emailtodb"), u"Product Group", u"a"_s, u"b"_s),
-        u"update cnt_emaildb set [Product Group] = 'b' where [Product Group] = 'a'"_s);
-}
-
 // Else it would change the table of the caller before.
 void FrmFindTest::openForTheNextCaller()
 {
@@ -180,10 +171,7 @@ void FrmFindTest::refusedDateChangesNothing()
 
 void FrmFindTest::onlyTheCallerReadsAgain_data()
 {
-    QTest::addColumn<QString>("caller");
-    QTest::addColumn<QString>("form");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("sql");
+    support::columns<QString, QString, QString, QString>("caller", "form", "field", "sql");
     QTest::newRow("letters") << u"Letters"_s << u"FrmLetterRecord"_s << u"Person"_s << QString();
     QTest::newRow("meetings") << u"Associations"_s << u"FrmAssoParty"_s << u"Place"_s << QString();
     QTest::newRow("mail database") << u"emailtodb"_s << u"FrmEmailtoDb"_s << u"to"_s << QString();

@@ -1,3 +1,5 @@
+#include "support/disk.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/full_view/FullViewWeb.h"
 #include "widgets/fields.h"
@@ -34,7 +36,10 @@ private:
     void open() { m_view = m_fixture->open<FullViewWeb>(u"FullViewWeb"_s); }
     void choose(const QString& tool) { child<QAction>(m_view, tool)->trigger(); }
     QStringList toolsDown() const;
-    void put(const QString& path, const QByteArray& bytes) const;
+    void put(const QString& path, const QByteArray& bytes) const
+    {
+        support::put(m_fixture->drive.local(path), bytes);
+    }
     void setCardPath(const QString& path)
     {
         m_fixture->execute(u"insert into cntb_setup (VCFPath) values ('"_s + path + u"')"_s);
@@ -67,15 +72,6 @@ void FullViewWebTest::init()
 void FullViewWebTest::cleanup()
 {
     QCOMPARE(m_fixture->verify(), QString());
-}
-
-void FullViewWebTest::put(const QString& path, const QByteArray& bytes) const
-{
-    const QString local = m_fixture->drive.local(path);
-    QVERIFY(QDir().mkpath(QFileInfo(local).path()));
-    QFile file(local);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 QStringList FullViewWebTest::toolsDown() const
@@ -163,7 +159,7 @@ void FullViewWebTest::mailClientIsListedAndShown()
     QCOMPARE(text(u"lblCounter"_s), u"1 of 2"_s);
     QCOMPARE(text(u"SSCommand8"_s), u"Cy Young"_s);
     QCOMPARE(text(u"lblid"_s), QString());
-    QTest::mouseClick(child<QAbstractButton>(m_view, u"ssnext"_s), Qt::LeftButton);
+    support::click(m_view, u"ssnext"_s);
     QCOMPARE(shown(), QStringList());
     QCOMPARE(text(u"lblPlainName"_s), u"Tea & Co"_s);
 }
@@ -277,11 +273,11 @@ void FullViewWebTest::refreshReadsTheFolderAgain()
     choose(u"UseMSOullookExpressDatabase"_s);
     QCOMPARE(listed(), QStringList());
     put(u"C:\\Application Data\\Address Book\\asha.vcf"_s, kAsha.toByteArray());
-    QTest::mouseClick(child<QAbstractButton>(m_view, u"CmdRefresh"_s), Qt::LeftButton);
+    support::click(m_view, u"CmdRefresh"_s);
     QCOMPARE(listed(), QStringList{u"Asha Rao"_s});
     list()->setCurrentRow(0);
     QFile::remove(m_fixture->drive.local(u"C:\\Application Data\\Address Book\\asha.vcf"));
-    QTest::mouseClick(child<QAbstractButton>(m_view, u"CmdRefresh"_s), Qt::LeftButton);
+    support::click(m_view, u"CmdRefresh"_s);
     QCOMPARE(listed(), QStringList());
     QCOMPARE(shown(), QStringList());
 }
@@ -290,22 +286,22 @@ void FullViewWebTest::folderIsChosen()
 {
     put(u"C:\\My Cards\\a.vcf"_s, "BEGIN:VCARD\nFN:A\n");
     open();
-    auto* button = child<QAbstractButton>(m_view, u"FolderViewOff"_s);
+    const auto press = [this] { support::click(m_view, u"FolderViewOff"_s); };
     const QString title = u"Folder of the vCard files"_s;
     m_fixture->boxes.expectChoice(title, {});
-    button->click();
+    press();
     m_fixture->boxes.expectChoice(title, u"/elsewhere"_s);
     m_fixture->boxes.expect(u"This folder lies outside drive C:, where vCard files are looked for."_s);
-    button->click();
+    press();
     QCOMPARE(m_fixture->book.rows(u"select VCFPath from cntb_setup"_s), QStringList());
     m_fixture->boxes.expectChoice(title, m_fixture->drive.local(u"C:\\My Cards"));
-    button->click();
+    press();
     QCOMPARE(m_fixture->book.rows(u"select VCFPath from cntb_setup"_s), QStringList{u"C:\\My Cards"_s});
     choose(u"UseVCFFiles"_s);
     QCOMPARE(listed(), QStringList{u"A"_s});
     put(u"C:\\Other\\b.vcf"_s, "BEGIN:VCARD\nFN:B\n");
     m_fixture->boxes.expectChoice(title, m_fixture->drive.local(u"C:\\Other"));
-    button->click();
+    press();
     QCOMPARE(listed(), QStringList{u"B"_s});
 }
 
@@ -323,15 +319,17 @@ void FullViewWebTest::toolsOfItsOwn()
     QCOMPARE(m_fixture->target(u"FrmlblReport"_s)->pages, QStringList{u"Type3"_s});
     auto* menu = child<QMenu>(m_view, u"Menu"_s);
     for (const bool mailEdition : {false, true}) {
-        Q_EMIT child<QWidget>(m_view, u"SSCommand8"_s)->customContextMenuRequested({});
+        auto* name = child<QWidget>(m_view, u"SSCommand8"_s);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, name->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(name, &asked);
         QVERIFY(menu->isVisible());
         QCOMPARE(menu->defaultAction(), mailEdition ? child<QAction>(m_view, u"Email2"_s) : nullptr);
         menu->close();
         m_fixture->execute(u"update ov_setup set Email=true"_s);
     }
-    child<QAbstractButton>(m_view, u"CmdKey"_s)->click();
+    support::click(m_view, u"CmdKey"_s);
     QTest::keyClicks(child<QLineEdit>(m_view, u"txtkeyword"_s), u"cy"_s);
-    child<QAbstractButton>(m_view, u"CmdSearch"_s)->click();
+    support::click(m_view, u"CmdSearch"_s);
     QCOMPARE(listed(), QStringList{u"Cy Young"_s});
 }
 

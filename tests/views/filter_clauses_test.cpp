@@ -1,3 +1,4 @@
+#include "support/columns.h"
 #include "support/test_book.h"
 #include "views/filters/filter_clauses.h"
 
@@ -13,10 +14,7 @@ class FilterClausesTest : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
-    void commonClause_data();
-    void commonClause();
-    void tabClause_data();
-    void tabClause();
+    void choicesLookIntoTheirColumns();
     void choicesFind_data();
     void choicesFind();
     void keywordLooksIntoEachField_data();
@@ -39,20 +37,14 @@ private:
 
 namespace {
 
-FilterChoices allCombos()
-{
-    return {{u"cboCateg"_s, u"C1"_s}, {u"cboSubCateg"_s, u"C2"_s}, {u"cboPriority"_s, u"1"_s},
-        {u"cboStatus"_s, u"S"_s}, {u"cboRegion"_s, u"R"_s}, {u"cboRelation"_s, u"L"_s},
-        {u"cboCountry"_s, u"Y"_s}, {u"cboCity"_s, u"T"_s}};
-}
-
-FilterChoices allLists()
-{
-    return {{u"lstFirst"_s, u"F"_s}, {u"lstLast"_s, u"L"_s}, {u"lstPriority"_s, u"1"_s},
-        {u"lstProduct"_s, u"P"_s}, {u"lstCateg"_s, u"C"_s}, {u"lstCategSub"_s, u"A-B"_s},
-        {u"lstRegion"_s, u"R"_s}, {u"lstCountry"_s, u"Y"_s}, {u"lstCity"_s, u"T"_s},
-        {u"lstRelation"_s, u"N"_s}, {u"lstStatus"_s, u"S"_s}};
-}
+/// The columns into which each control looks.
+const QStringList kCombos{u"cboCateg category1"_s, u"cboSubCateg category2"_s, u"cboPriority priority"_s,
+    u"cboStatus status"_s, u"cboRegion region"_s, u"cboRelation relation"_s,
+    u"cboCountry h_country b_country w_country"_s, u"cboCity h_city b_city w_city"_s};
+const QStringList kLists{u"lstFirst first"_s, u"lstLast last"_s, u"lstPriority priority"_s,
+    u"lstProduct product"_s, u"lstCateg category1"_s, u"lstRegion region"_s,
+    u"lstCountry h_country b_country w_country"_s, u"lstCity h_city b_city w_city"_s,
+    u"lstRelation relation"_s, u"lstStatus status"_s};
 
 } // namespace
 
@@ -90,97 +82,39 @@ QStringList FilterClausesTest::found(const QString& clause)
     return m_book.rows(u"SELECT name FROM cnt_main "_s + clause + u" ORDER BY Name "_s);
 }
 
-void FilterClausesTest::commonClause_data()
+// Each choice finds whoever has it in one of its columns, and all together whoever has them all.
+void FilterClausesTest::choicesLookIntoTheirColumns()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<FilterChoices>("choices");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing chosen") << u""_s << FilterChoices{} << u""_s;
-    QTest::newRow("All in any case, and blanks")
-        << u" "_s
-        << FilterChoices{{u"cboCateg"_s, u"All"_s}, {u"cboCity"_s, u"all"_s}, {u"cboRegion"_s, u"  "_s}}
-        << u""_s;
-    QTest::newRow("first condition") << u""_s << FilterChoices{{u"cboCateg"_s, u"Work"_s}}
-                                     << u" Where category1 ='Work'"_s;
-    QTest::newRow("later one, two blanks")
-        << u""_s << FilterChoices{{u"cboStatus"_s, u"New"_s}, {u"cboSubCateg"_s, u"A-B"_s}}
-        << u" Where category2 ='A-B' and  status ='New'"_s;
-    QTest::newRow("country alone")
-        << u""_s << FilterChoices{{u"cboCountry"_s, u"India"_s}}
-        << u" Where (h_country ='India' or b_country='India' or w_country ='India')"_s;
-    QTest::newRow("all, in their order")
-        << u""_s << allCombos()
-        << u" Where category1 ='C1' and  category2 ='C2' and  priority ='1' and  status ='S' and  region ='R'"
-           u" and  relation ='L' and  (h_country ='Y' or b_country='Y' or w_country ='Y')"
-           u" and  (h_city ='T' or b_city ='T' or w_city ='T')"_s;
-    QTest::newRow("a value that looks like a mark")
-        << u""_s << FilterChoices{{u"cboCity"_s, u"%1"_s}}
-        << u" Where (h_city ='%1' or b_city ='%1' or w_city ='%1')"_s;
-    QTest::newRow("keyword wins over all choices")
-        << u"k %1"_s << allCombos()
-        << QString(u" Where name like '*#*' or company like '*#*' or Priority like '*#*' or h_add1 like '*#*'"
-                   u" or h_add2 like '*#*' or h_city like '*#*' or h_state like '*#*' or h_Pin like '*#*'"
-                   u" or h_country like '*#*' or w_add1 like '*#*' or w_add2 like '*#*' or W_city like '*#*'"
-                   u" or W_state like '*#*' or w_pin like '*#*' or w_country like '*#*' or b_add1 like '*#*'"
-                   u" or b_add2 like '*#*' or b_city like '*#*' or b_state like '*#*' or b_pin like '*#*'"
-                   u" or b_country like '*#*' or category1 like '*#*' or category2 like '*#*'"
-                   u" or product like '*#*' or region like '*#*' or relation like '*#*' or status like '*#*'"
-                   u" or education like '*#*' or Hobbies like '*#*' or job_title like '*#*'"
-                   u" or Spouse like '*#*'"_s)
-               .replace(u'#', u"k %1"_s);
-}
-
-void FilterClausesTest::commonClause()
-{
-    QFETCH(QString, keyword);
-    QFETCH(FilterChoices, choices);
-    const QString clause = commonFilterClause(keyword, choices);
-    QTEST(clause, "expected");
-    found(clause);
-}
-
-void FilterClausesTest::tabClause_data()
-{
-    QTest::addColumn<FilterChoices>("choices");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing chosen") << FilterChoices{{u"lstFirst"_s, u"All"_s}, {u"lstCity"_s, u""_s}}
-                                    << u""_s;
-    QTest::newRow("first and last") << FilterChoices{{u"lstFirst"_s, u"Ann"_s}, {u"lstLast"_s, u"Lee"_s}}
-                                    << u" where first ='Ann' and last ='Lee'"_s;
-    QTest::newRow("category alone") << FilterChoices{{u"lstCateg"_s, u"Work"_s}, {u"lstCategSub"_s, u"All"_s}}
-                                    << u" where category1  ='Work'"_s;
-    QTest::newRow("subcategory wins over its category") << FilterChoices{{u"lstCateg"_s, u"Home"_s},
-        {u"lstCategSub"_s, u"Work-Sales"_s}} << u" where category1  ='Work' and category2 ='Sales'"_s;
-    QTest::newRow("subcategory without a dash")
-        << FilterChoices{{u"lstCategSub"_s, u"Work"_s}} << u" where category1  ='Work' and category2 =''"_s;
-    QTest::newRow("Kept: cut inside a category with a dash")
-        << FilterChoices{{u"lstCategSub"_s, u"A-B-C"_s}} << u" where category1  ='A' and category2 ='B'"_s;
-    QTest::newRow("country alone") << FilterChoices{{u"lstCountry"_s,
-        u"India"_s}} << u" where ( h_Country  ='India' or b_Country ='India' or w_Country ='India') "_s;
-    QTest::newRow("city alone") << FilterChoices{{u"lstCity"_s, u"Pune"_s}}
-                                << u" where ( h_City  ='Pune' or b_City ='Pune' or w_City ='Pune') "_s;
-    QTest::newRow("Kept: later city looks at the country")
-        << FilterChoices{{u"lstFirst"_s, u"Ann"_s}, {u"lstCity"_s, u"Pune"_s}}
-        << u" where first ='Ann' and  ( h_City  ='Pune' or b_City ='Pune' or w_Country ='Pune') "_s;
-    QTest::newRow("all, in their order")
-        << allLists()
-        << u" where first ='F' and last ='L' and priority ='1' and product ='P' and category1  ='A'"
-           u" and category2 ='B' and region ='R' and ( h_Country  ='Y' or b_Country ='Y' or w_Country ='Y') "
-           u" and  ( h_City  ='T' or b_City ='T' or w_Country ='T')  and relation ='N' and status ='S'"_s;
-}
-
-void FilterClausesTest::tabClause()
-{
-    QFETCH(FilterChoices, choices);
-    const QString clause = tabFilterClause(choices);
-    QTEST(clause, "expected");
-    found(clause);
+    using Clause = std::function<QString(const FilterChoices&)>;
+    const std::pair<QStringList, Clause> forms[]
+        = {{kCombos, [](const FilterChoices& choices) { return commonFilterClause({}, choices); }},
+            {kLists, [](const FilterChoices& choices) { return tabFilterClause(choices); }}};
+    for (const auto& [controls, clause] : forms) {
+        init();
+        FilterChoices all;
+        QStringList columns;
+        for (const QString& control : controls) {
+            all.insert(control.section(u' ', 0, 0), u"%1"_s);
+            columns << control.section(u' ', 1).split(u' ');
+            for (const QString& column : control.section(u' ', 1).split(u' '))
+                add(u"Name,"_s + column, u"'%1','%2'"_s.arg(control, u"%1"_s));
+        }
+        for (const QString& control : controls) {
+            const QStringList names(control.count(u' '), control);
+            QCOMPARE(found(clause({{control.section(u' ', 0, 0), u"%1"_s}})), names);
+        }
+        QCOMPARE(found(clause(all)), QStringList());
+        add(u"Name,"_s + columns.join(u','), u"'all'"_s + u",'%1'"_s.repeated(columns.size()));
+        QCOMPARE(found(clause(all)), QStringList{u"all"_s});
+    }
+    QCOMPARE(commonFilterClause(u" "_s, {{u"cboCity"_s, u"all"_s}, {u"cboRegion"_s, u"  "_s}}), QString());
+    QCOMPARE(tabFilterClause({{u"lstCateg"_s, u"Home"_s}, {u"lstCategSub"_s, u"Work"_s}}),
+        u" where category1  ='Work' and category2 =''"_s);
 }
 
 void FilterClausesTest::choicesFind_data()
 {
-    QTest::addColumn<QString>("clause");
-    QTest::addColumn<QStringList>("names");
+    support::columns<QString, QStringList>("clause", "names");
     const auto common = [](const FilterChoices& choices) { return commonFilterClause({}, choices); };
     QTest::newRow("nothing: everybody")
         << tabFilterClause({}) << QStringList{u"Ann"_s, u"Bob"_s, u"Cy"_s, u"Dot"_s};
@@ -196,6 +130,8 @@ void FilterClausesTest::choicesFind_data()
         << tabFilterClause({{u"lstRegion"_s, u"East"_s}, {u"lstCity"_s, u"Pune"_s}}) << QStringList{u"Bob"_s};
     QTest::newRow("Kept: later city misses a third address")
         << tabFilterClause({{u"lstFirst"_s, u"Cy"_s}, {u"lstCity"_s, u"Norway"_s}}) << QStringList{};
+    QTest::newRow("keyword wins over the choices")
+        << commonFilterClause(u"agra"_s, {{u"cboCity"_s, u"Pune"_s}}) << QStringList{u"Bob"_s};
     QTest::newRow("category with a dash") << common({{u"cboCateg"_s, u"A-B"_s}}) << QStringList{u"Ann"_s};
     QTest::newRow("Kept: its subcategory finds the others")
         << tabFilterClause({{u"lstCategSub"_s, u"A-B-C"_s}}) << QStringList{u"Bob"_s};
@@ -210,8 +146,7 @@ void FilterClausesTest::choicesFind()
 
 void FilterClausesTest::keywordLooksIntoEachField_data()
 {
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<int>("found");
+    support::columns<QString, int>("column", "found");
     for (const char* column : {"Name", "Priority", "h_add2", "h_Pin", "w_add1", "w_state", "b_country",
              "region", "status", "Hobbies", "Job_Title", "Spouse"})
         QTest::newRow(column) << QString::fromLatin1(column) << 1;
@@ -230,9 +165,7 @@ void FilterClausesTest::keywordLooksIntoEachField()
 
 void FilterClausesTest::keywordMarks_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<bool>("fails");
+    support::columns<QString, QStringList, bool>("keyword", "names", "fails");
     QTest::newRow("* stands for anything") << u"5*ff"_s << QStringList{u"5 off"_s, u"50% off"_s} << false;
     QTest::newRow("% stands for itself") << u"0%"_s << QStringList{u"50% off"_s} << false;
     QTest::newRow("? stands for one character") << u"5? o"_s << QStringList{} << false;
@@ -256,9 +189,7 @@ void FilterClausesTest::keywordMarks()
 
 void FilterClausesTest::listsOffer_data()
 {
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<FilterChoices>("choices");
-    QTest::addColumn<QStringList>("values");
+    support::columns<QString, FilterChoices, QStringList>("control", "choices", "values");
     QTest::newRow("countries of all addresses")
         << u"lstCountry"_s << FilterChoices{{u"lstRegion"_s, u"All"_s}}
         << QStringList{u"India"_s, u"Nepal"_s, u"Norway"_s, u"Pune"_s};
@@ -298,25 +229,23 @@ void FilterClausesTest::everyListCanBeRead()
             controls << list.control.toString();
         }
     }
-    const QStringList offered = allCombos().keys() + allLists().keys();
-    QCOMPARE(controls, QSet<QString>(offered.begin(), offered.end()));
+    QSet<QString> offered{u"lstCategSub"_s};
+    for (const QString& control : kCombos + kLists)
+        offered << control.section(u' ', 0, 0);
+    QCOMPARE(controls, offered);
 }
 
 void FilterClausesTest::delivery_data()
 {
-    QTest::addColumn<FilterForm>("form");
-    QTest::addColumn<QString>("caller");
-    QTest::addColumn<QString>("clause");
-    QTest::addColumn<QString>("text"); ///< null for nothing
+    // text: null for nothing
+    support::columns<FilterForm, QString, QString, QString>("form", "caller", "clause", "text");
     const QString common = u" Where category1 ='Nowhere' and  status ='where'"_s;
     const QString tab = u" where first ='Where'"_s;
-    for (const QString& caller :
-        {u"FullView"_s, u"FormUserEdit"_s, u"FrmAddFullRptView"_s, u"FrmAddFullRptNew"_s}) {
+    for (const QString& caller : {u"FullView"_s, u"FormUserEdit"_s, u"FrmAddFullRptView"_s,
+             u"FrmAddFullRptNew"_s, u"FrmListDetails"_s})
         QTest::addRow("common, %s", qUtf8Printable(caller))
             << FilterForm::Common << caller << common << common;
-        QTest::addRow("tabs, %s", qUtf8Printable(caller)) << FilterForm::Tab << caller << tab << tab;
-    }
-    QTest::newRow("common, list of details") << FilterForm::Common << u"FrmListDetails"_s << common << common;
+    QTest::newRow("tabs, full view") << FilterForm::Tab << u"FullView"_s << tab << tab;
     QTest::newRow("tabs, list of details")
         << FilterForm::Tab << u"FrmListDetails"_s << tab
         << u"Select Name from cnt_Main  where first ='Where' order by category1,priority"_s;

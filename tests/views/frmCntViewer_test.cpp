@@ -1,3 +1,4 @@
+#include "support/columns.h"
 #include "support/screen_fixture.h"
 #include "views/contact_pages/frmCntViewer.h"
 #include "views/contact_pages/linked_records.h"
@@ -19,7 +20,6 @@ private Q_SLOTS:
     void cleanup() { QCOMPARE(m_fixture->verify(), QString()); }
     void listsFindTheirRows_data();
     void listsFindTheirRows();
-    void mailStatement();
     void everyHeadingHasItsColumn();
     void showsCountsAndRows();
     void apostropheInANameBreaksNothing();
@@ -72,8 +72,7 @@ const views::LinkedList& FrmCntViewerTest::list(const QString& key)
 
 void FrmCntViewerTest::listsFindTheirRows_data()
 {
-    QTest::addColumn<int>("ann");
-    QTest::addColumn<int>("bob");
+    support::columns<int, int>("ann", "bob");
     const std::tuple<const char*, int, int> rows[] = {{"Letters", 1, 1}, {"Emails", 1, 0},
         {"TimedEmails", 1, 0}, {"Calls", 2, 0}, {"PhoneLists", 1, 0}, {"QuickDial", 1, 0},
         {"MailLists", 1, 0}, {"Groups", 1, 0}, {"Meetings", 1, 0}, {"Associates", 1, 1}, {"NamedBy", 1, 2},
@@ -96,11 +95,6 @@ void FrmCntViewerTest::listsFindTheirRows()
             found += m_fixture->book.firstText(views::linkedCountSql(linked, id, from, from)).toInt();
         QTEST(found, column);
     }
-}
-
-void FrmCntViewerTest::mailStatement()
-{
-    QCOMPARE(views::linkedSql(list(u"Emails"_s), 17), u"select * from CNT_EMAILS where [PERID] =17"_s);
 }
 
 void FrmCntViewerTest::everyHeadingHasItsColumn()

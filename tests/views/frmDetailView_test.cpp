@@ -1,3 +1,4 @@
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/contact_pages/frmDetailView.h"
 #include "widgets/fields.h"
@@ -33,10 +34,10 @@ void frmDetailViewTest::followsAssociates()
     QCOMPARE(text(u"lblname"_s), u"Ann"_s);
     QCOMPARE(text(u"lblage"_s), u"( 24 )"_s);
     QVERIFY(!child<QWidget>(view, u"cmdass2"_s)->isEnabled());
-    child<QPushButton>(view, u"cmdass1"_s)->click();
+    support::click(view, u"cmdass1"_s);
     QCOMPARE(text(u"dtcmbfname"_s), u"Rd"_s);
     QCOMPARE(text(u"lblage"_s), QString());
-    child<QPushButton>(view, u"cmdass2"_s)->click(); // nobody of that name
+    support::click(view, u"cmdass2"_s); // nobody of that name
     QCOMPARE(text(u"lblid"_s), u"2"_s);
     QCOMPARE(fixture.verify(), QString());
 }

@@ -1,4 +1,6 @@
 #include "core/sound_files.h"
+#include "support/columns.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/filters/frmFilter.h"
 #include "views/filters/frmTabFilter.h"
@@ -41,7 +43,6 @@ private Q_SLOTS:
     void tabFilterKeepsTheCaller();
     void enterInAListFilters();
     void enterOnCancelCancels();
-    void helpIsTheFiltersOwn();
 
 private:
     void add(const QString& columns, const QString& values)
@@ -56,17 +57,9 @@ private:
     }
     void openCommon() { open<frmFilter>(u"frmFilter"_s); }
     void openTabs() { open<frmTabFilter>(u"frmTabFilter"_s); }
-    void click(const QString& button)
-    {
-        QTest::mouseClick(child<QAbstractButton>(m_filter, button), Qt::LeftButton);
-    }
+    void click(const QString& button) { support::click(m_filter, button); }
+    void choose(const QString& combo, const QString& value) { support::choose(m_filter, combo, value); }
     widgets::FilledCombo* combo(const QString& name) { return child<widgets::FilledCombo>(m_filter, name); }
-    void choose(const QString& name, const QString& value)
-    {
-        const int row = int(combo(name)->values().indexOf(value));
-        QVERIFY2(row >= 0, qPrintable(value));
-        combo(name)->setCurrentIndex(row);
-    }
     QTabWidget* tabs() { return child<QTabWidget>(m_filter, u"SSActiveTabs1"_s); }
     widgets::RecordList* list(const QString& name) { return child<widgets::RecordList>(m_filter, name); }
     QStringList offered(const QString& name)
@@ -76,7 +69,11 @@ private:
             values << list(name)->textAt(row, u"Name"_s);
         return values;
     }
-    void chooseInTab(int page, const QString& name, const QString& value);
+    void chooseInTab(int page, const QString& name, const QString& value)
+    {
+        tabs()->setCurrentIndex(page);
+        support::clickRow(list(name), int(offered(name).indexOf(value)));
+    }
     QStringList delivered(const QString& form = u"FullView"_s)
     {
         support::TargetScreen* target = m_fixture->target(form);
@@ -87,14 +84,6 @@ private:
     core::Screen* m_filter = nullptr;
     std::unique_ptr<QSignalSpy> m_closed;
 };
-
-void FrmFilterTest::chooseInTab(int page, const QString& name, const QString& value)
-{
-    tabs()->setCurrentIndex(page);
-    const int row = int(offered(name).indexOf(value));
-    QVERIFY2(row >= 0, qPrintable(value));
-    list(name)->setCurrentRow(row);
-}
 
 void FrmFilterTest::init()
 {
@@ -210,9 +199,7 @@ void FrmFilterTest::cancelDeliversNothing()
 
 void FrmFilterTest::filterGoesToTheCallerAndBringsItBack_data()
 {
-    QTest::addColumn<QString>("caller");
-    QTest::addColumn<QString>("common");
-    QTest::addColumn<QString>("tab");
+    support::columns<QString, QString, QString>("caller", "common", "tab");
     const QString common = u" Where category1 ='Work'"_s;
     const QString tab = u" where first ='Ann'"_s;
     QTest::newRow("FrmAddFullRptNew") << u"FrmAddFullRptNew"_s << common << tab;
@@ -379,23 +366,6 @@ void FrmFilterTest::enterOnCancelCancels()
     QTest::keyClick(cancel, Qt::Key_Return);
     QCOMPARE(m_closed->count(), 1);
     QCOMPARE(m_fixture->sounds.played, QStringList{core::sounds::Cancel.toString()});
-}
-
-void FrmFilterTest::helpIsTheFiltersOwn()
-{
-    m_fixture->execute(u"insert into ov_tooltip (Code, Tooltip) values ('C0014', 'Common help')"_s);
-    m_fixture->execute(u"insert into ov_tooltip (Code, Tooltip) values ('CON0069', 'Tab help')"_s);
-    const auto shown = [this](const QString& text) {
-        const QList<QLabel*> labels = m_filter->window()->findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(),
-            [&](const QLabel* label) { return label->isVisible() && label->text().contains(text); });
-    };
-    openCommon();
-    click(u"CmdHelp"_s);
-    QVERIFY(shown(u"Common help"_s));
-    openTabs();
-    click(u"CmdHelp"_s);
-    QVERIFY(shown(u"Tab help"_s));
 }
 
 QTEST_MAIN(FrmFilterTest)

@@ -1,3 +1,5 @@
+#include "support/columns.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/contact_pages/frmNoteView.h"
 #include "widgets/fields.h"
@@ -26,7 +28,8 @@ private Q_SLOTS:
 private:
     views::frmNoteView* open();
     QString text() const { return child<QTextBrowser>(m_form, u"NotePage"_s)->toPlainText(); }
-    void click(const QString& text);
+
+    void click(const QString& text) { support::clickLink(child<QTextBrowser>(m_form, u"NotePage"_s), text); }
 
     std::unique_ptr<support::ScreenFixture> m_fixture;
     views::frmNoteView* m_form = nullptr;
@@ -44,24 +47,9 @@ views::frmNoteView* FrmNoteViewTest::open()
     return m_form;
 }
 
-/// Follows the link of that text, as a click does.
-void FrmNoteViewTest::click(const QString& text)
-{
-    auto* page = child<QTextBrowser>(m_form, u"NotePage"_s);
-    const QTextCursor found = page->document()->find(text);
-    QVERIFY2(!found.isNull() && found.charFormat().isAnchor(), qPrintable(text));
-    QTextCursor inside = found;
-    inside.setPosition(found.selectionStart() + 1);
-    page->setTextCursor(inside);
-    page->ensureCursorVisible();
-    QTest::mouseClick(page->viewport(), Qt::LeftButton, {}, page->cursorRect(inside).center());
-}
-
 void FrmNoteViewTest::sectionsOfViews_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QStringList>("there");
-    QTest::addColumn<QStringList>("missing");
+    support::columns<QString, QStringList, QStringList>("page", "there", "missing");
     QTest::newRow("brief") << u"Brief"_s
                            << QStringList{u"022 22110045"_s, u"Mumbai 400001"_s, u"15 Jun-1975 ( 49 )"_s}
                            << QStringList{u"Tata Steel"_s, u"Diya"_s, u"Work 2"_s};

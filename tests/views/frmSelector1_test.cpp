@@ -1,3 +1,4 @@
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/filters/frmFilter.h"
 #include "views/selector/frmSelector1.h"
@@ -37,10 +38,10 @@ private Q_SLOTS:
 private:
     frmSelector1* open();
     void openPictures();
-    QString listed() const;
-    QString shownHeadings() const;
-    void choose(const QString& combo, const QString& value);
-    void press(const QString& button) { QTest::mouseClick(control<QAbstractButton>(button), Qt::LeftButton); }
+    QString listed() const { return support::keysOf(grid()); }
+    QString shownHeadings() const { return support::headingsOf(grid()).join(u'|'); }
+    void choose(const QString& combo, const QString& value) { support::choose(m_form, combo, value); }
+    void press(const QString& button) { support::click(m_form, button); }
     template <class T> T* control(const QString& name) const { return child<T>(m_form, name); }
     widgets::HeadingGrid* grid() const { return control<widgets::HeadingGrid>(u"FG1"_s); }
 
@@ -71,32 +72,6 @@ frmSelector1* FrmSelector1Test::open()
 {
     m_form = m_fixture->open<frmSelector1>(u"frmSelector1"_s);
     return m_form;
-}
-
-QString FrmSelector1Test::listed() const
-{
-    QStringList ids;
-    for (int row = 0; row < grid()->rowCount(); ++row)
-        ids << QString::number(grid()->keyAt(row));
-    return ids.join(u',');
-}
-
-QString FrmSelector1Test::shownHeadings() const
-{
-    QStringList texts;
-    for (int column = 0; column < grid()->model()->columnCount(); ++column) {
-        if (!grid()->isColumnHidden(column))
-            texts << grid()->model()->headerData(column, Qt::Horizontal).toString();
-    }
-    return texts.join(u'|');
-}
-
-void FrmSelector1Test::choose(const QString& combo, const QString& value)
-{
-    auto* list = control<widgets::FilledCombo>(combo);
-    const auto row = list->values().indexOf(value);
-    QVERIFY2(row >= 0, qPrintable(combo + u": "_s + list->values().join(u',')));
-    list->setCurrentIndex(int(row));
 }
 
 void FrmSelector1Test::pagesAndTitles()
@@ -208,8 +183,7 @@ void FrmSelector1Test::thumbnails()
     auto* view = control<widgets::ThumbnailView>(u"Thumb"_s);
     QCOMPARE(view->count(), 2);
     QTRY_VERIFY(!view->pictureOf(1).isNull());
-    QTest::mouseClick(
-        view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(1, 0)).center());
+    support::clickRow(view, 1);
     QCOMPARE(listed(), u"3"_s);
     QCOMPARE(shownHeadings(), u"|Category|First|Last|H City|H Std"_s);
     QCOMPARE(grid()->model()->index(0, 2).data().toString(), u"Cy"_s);

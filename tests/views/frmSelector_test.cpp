@@ -1,3 +1,5 @@
+#include "support/columns.h"
+#include "support/person.h"
 #include "support/screen_fixture.h"
 #include "views/selector/frmSelector.h"
 #include "widgets/alphabet_tabs.h"
@@ -36,7 +38,7 @@ private Q_SLOTS:
 private:
     QStringList names() const;
     void chooseLetter(const QString& label);
-    void choose(const QString& combo, const QString& text);
+    void choose(const QString& combo, const QString& text) { support::choose(m_form, combo, text); }
     void trigger(const QString& tool) { child<QAction>(m_form, tool)->trigger(); }
     bool isSeen(const QString& name) const { return child<QWidget>(m_form, name)->isVisible(); }
 
@@ -76,13 +78,6 @@ void FrmSelectorTest::chooseLetter(const QString& label)
         if (tabs->tabText(tab) == label)
             QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
     }
-}
-
-void FrmSelectorTest::choose(const QString& combo, const QString& text)
-{
-    auto* list = child<widgets::FilledCombo>(m_form, combo);
-    QVERIFY(list->values().contains(text));
-    list->setCurrentText(text);
 }
 
 void FrmSelectorTest::opensWithTheListOnly()
@@ -129,7 +124,7 @@ void FrmSelectorTest::quickCombosNarrow()
     QCOMPARE(names(), (QStringList{u"City Hospital"_s, u"Sara Stone"_s}));
     chooseLetter(u"S"_s); // the choices stay
     QCOMPARE(names(), QStringList{u"Sara Stone"_s});
-    child<QAbstractButton>(m_form, u"ShowAll"_s)->click();
+    support::click(m_form, u"ShowAll"_s);
     QCOMPARE(names().size(), 12);
     QCOMPARE(widgets::textOf(child<QWidget>(m_form, u"cboCity"_s)), u"All"_s);
 }
@@ -157,7 +152,7 @@ void FrmSelectorTest::filterStartsFromAllAndComesBack()
     choose(u"cboCity"_s, u"Pune"_s);
     chooseLetter(u"S"_s);
     QCOMPARE(names(), QStringList());
-    child<QAbstractButton>(m_form, u"CmdFilter"_s)->click();
+    support::click(m_form, u"CmdFilter"_s);
     QCOMPARE(m_fixture->shared.CallerForm, u"frmSelector"_s);
     QCOMPARE(m_fixture->frame.placed.constLast(), u"frmFilter modally"_s);
     QCOMPARE(names().size(), 12);
@@ -170,10 +165,7 @@ void FrmSelectorTest::filterStartsFromAllAndComesBack()
 
 void FrmSelectorTest::pagesAndTheirWord_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("form");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("caption");
+    support::columns<QString, QString, QString, QString>("page", "form", "shown", "caption");
     QTest::newRow("Detail") << u"Detail"_s << u"frmDetailView"_s << u"Detail"_s << QString();
     QTest::newRow("Brief") << u"Brief"_s << u"frmNoteView"_s << u"Brief"_s << QString();
     QTest::newRow("Full") << u"Full"_s << u"frmNoteView"_s << u"Full"_s << QString();
@@ -228,7 +220,7 @@ void FrmSelectorTest::simpleAndInFull()
     QVERIFY(isSeen(u"Frame1"_s) && isSeen(u"cmbmulto"_s));
     QVERIFY(child<QAction>(m_form, u"Letter2"_s)->isVisible());
     m_grid->selectKey(3);
-    Q_EMIT m_grid->chosen(m_grid->currentRow());
+    QTest::keyClick(m_grid, Qt::Key_Return);
     QVERIFY(!isSeen(u"FG1"_s) && isSeen(u"frmDetailView"_s));
     QTest::keyClick(child<QWidget>(m_form, u"frmDetailView"_s), Qt::Key_Escape);
     QVERIFY(isSeen(u"FG1"_s));

@@ -1,3 +1,4 @@
+#include "support/columns.h"
 #include "support/test_book.h"
 #include "views/full_view/full_view_sql.h"
 
@@ -17,8 +18,7 @@ private Q_SLOTS:
 
 void FullViewSqlTest::keywordLooksIntoEachField_data()
 {
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<int>("found");
+    support::columns<QString, int>("column", "found");
     for (const char* column : {"First", "Company", "h_city", "W_AddType", "fam_note", "altcontact"})
         QTest::newRow(column) << QString::fromLatin1(column) << 1;
     for (const char* column : {"Name", "memo1", "w_city", "nick"})
