@@ -22,38 +22,34 @@ class BookFilesTest final : public QObject {
 private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
-    void firstStart_data()
-    {
-        QTest::addColumn<bool>("national");
-        QTest::newRow("at home") << true;
-        QTest::newRow("abroad") << false;
-    }
-
     void firstStart()
     {
-        QFETCH(const bool, national);
-        QVERIFY(files().makeMissing(national));
-        jet::Database data;
-        jet::Database info;
-        const BookReport report = files().openData(data);
-        QVERIFY2(report, qPrintable(report.text));
-        QVERIFY(files().openInfo(info));
+        for (const bool national : {true, false}) {
+            init();
+            QVERIFY(files().makeMissing(national));
+            jet::Database data;
+            jet::Database info;
+            const BookReport report = files().openData(data);
+            QVERIFY2(report, qPrintable(report.text));
+            QVERIFY(files().openInfo(info));
 
-        const jet::Recordset setup = data.openRecordset(u"select * from ov_Setup"_s);
-        QCOMPARE(setup.count(), 1);
-        QCOMPARE(setup.flag(u"national"), national);
-        QCOMPARE(data.openRecordset(u"select * from cntb_setup"_s).count(), 1);
-        QVERIFY(data.openRecordset(u"select id from cnt_main"_s).isEmpty());
-        QVERIFY(!info.openRecordset(u"select city from WIA_INDIA where city='Mumbai'"_s).isEmpty());
-        QVERIFY(
-            !info.openRecordset(u"select id from WIA_GLOBALMAS where country='United States'"_s).isEmpty());
-        QVERIFY(data.openRecordset(u"select city from CNT_TOPCITIES where city<>null"_s).isEmpty());
-        QVERIFY(!data.openRecordset(u"select city from CNT_TOPCITIES where city is not null"_s).isEmpty());
-        QCOMPARE(data.version(), kSchemaVersion);
-        QCOMPARE(info.version(), kSchemaVersion);
-        const QStringList left
-            = QDir(path(u"program"_s)).entryList({u"*.new*"_s}, QDir::Files | QDir::Hidden);
-        QCOMPARE(left, QStringList());
+            const jet::Recordset setup = data.openRecordset(u"select * from ov_Setup"_s);
+            QCOMPARE(setup.count(), 1);
+            QCOMPARE(setup.flag(u"national"), national);
+            QCOMPARE(data.openRecordset(u"select * from cntb_setup"_s).count(), 1);
+            QVERIFY(data.openRecordset(u"select id from cnt_main"_s).isEmpty());
+            QVERIFY(!info.openRecordset(u"select city from WIA_INDIA where city='Mumbai'"_s).isEmpty());
+            QVERIFY(!info.openRecordset(u"select id from WIA_GLOBALMAS where country='United States'"_s)
+                         .isEmpty());
+            QVERIFY(data.openRecordset(u"select city from CNT_TOPCITIES where city<>null"_s).isEmpty());
+            QVERIFY(
+                !data.openRecordset(u"select city from CNT_TOPCITIES where city is not null"_s).isEmpty());
+            QCOMPARE(data.version(), kSchemaVersion);
+            QCOMPARE(info.version(), kSchemaVersion);
+            const QStringList left
+                = QDir(path(u"program"_s)).entryList({u"*.new*"_s}, QDir::Files | QDir::Hidden);
+            QCOMPARE(left, QStringList());
+        }
     }
 
     void everyShippedRowArrives()

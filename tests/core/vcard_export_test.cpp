@@ -61,20 +61,13 @@ private Q_SLOTS:
             "EMAIL;PREF;INTERNET:H_email1|EMAIL;INTERNET:|EMAIL;INTERNET:b_email1|URL:http://h_web"_s);
     }
 
-    void namesStayInTheirFolder_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"../up", "..\\up", "a/b", "C:x", "what?", "a\nb"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
-
     void namesStayInTheirFolder()
     {
-        QFETCH(QString, name);
-        add(u"Name"_s, u'\'' + name + u'\'');
-        const CardsWritten result = write(u"1"_s);
+        for (const QString& name : {u"../up"_s, u"..\\up"_s, u"a/b"_s, u"C:x"_s, u"what?"_s, u"a\nb"_s})
+            add(u"Name"_s, u'\'' + name + u'\'');
+        const CardsWritten result = write(u"1,2,3,4,5,6"_s);
         QCOMPARE(result.written, 0);
-        QCOMPARE(result.badNames, 1);
+        QCOMPARE(result.badNames, 6);
         QCOMPARE(files(), QStringList());
         QCOMPARE(QDir(m_root->path()).entryList(QDir::Files), QStringList());
     }
