@@ -8,15 +8,6 @@
 using namespace Qt::StringLiterals;
 using namespace widgets;
 
-/// Texts and icons can be read in both looks, also where they are highlighted.
-class ThemeTest : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void contrasts_data();
-    void contrasts();
-};
-
 namespace {
 
 double brightness(const QColor& colour)
@@ -49,33 +40,39 @@ double contrastOf(const QIcon& icon, QIcon::Mode mode, const QColor& ground)
 
 } // namespace
 
-void ThemeTest::contrasts_data()
-{
-    QTest::addColumn<Look>("look");
-    QTest::newRow("light") << Look::Light;
-    QTest::newRow("dark") << Look::Dark;
-}
+/// Texts and icons can be read in both looks, also where they are highlighted.
+class ThemeTest : public QObject {
+    Q_OBJECT
 
-void ThemeTest::contrasts()
-{
-    QFETCH(Look, look);
-    widgets::apply(*qApp, look);
-    const QPalette colours = QApplication::palette();
-    for (const auto ground : {QPalette::Base, QPalette::Window}) {
-        for (const QColor& text : {colours.color(QPalette::PlaceholderText), colours.color(QPalette::Text),
-                 quietTextColor(), warningColor()})
-            QVERIFY2(contrast(text, colours.color(ground)) >= 4.5, qPrintable(text.name()));
+private Q_SLOTS:
+    void contrasts_data()
+    {
+        QTest::addColumn<Look>("look");
+        QTest::newRow("light") << Look::Light;
+        QTest::newRow("dark") << Look::Dark;
     }
-    const QColor highlight = colours.color(QPalette::Highlight);
-    QVERIFY(contrast(colours.color(QPalette::HighlightedText), highlight) >= 4.5);
-    QStyle* style = QApplication::style();
-    for (const QIcon& each :
-        {icon(u"save"), icon(u"folder"), style->standardIcon(QStyle::SP_MessageBoxWarning),
-            style->standardIcon(QStyle::SP_DirIcon), style->standardIcon(QStyle::SP_TitleBarCloseButton)}) {
-        QVERIFY(contrastOf(each, QIcon::Normal, colours.color(QPalette::Window)) >= 3);
-        QVERIFY(contrastOf(each, QIcon::Selected, highlight) >= 4.5);
+
+    void contrasts()
+    {
+        QFETCH(Look, look);
+        widgets::apply(*qApp, look);
+        const QPalette colours = QApplication::palette();
+        for (const auto ground : {QPalette::Base, QPalette::Window}) {
+            for (const QColor& text : {colours.color(QPalette::PlaceholderText),
+                     colours.color(QPalette::Text), quietTextColor(), warningColor()})
+                QVERIFY2(contrast(text, colours.color(ground)) >= 4.5, qPrintable(text.name()));
+        }
+        const QColor highlight = colours.color(QPalette::Highlight);
+        QVERIFY(contrast(colours.color(QPalette::HighlightedText), highlight) >= 4.5);
+        QStyle* style = QApplication::style();
+        for (const QIcon& each : {icon(u"save"), icon(u"folder"),
+                 style->standardIcon(QStyle::SP_MessageBoxWarning), style->standardIcon(QStyle::SP_DirIcon),
+                 style->standardIcon(QStyle::SP_TitleBarCloseButton)}) {
+            QVERIFY(contrastOf(each, QIcon::Normal, colours.color(QPalette::Window)) >= 3);
+            QVERIFY(contrastOf(each, QIcon::Selected, highlight) >= 4.5);
+        }
     }
-}
+};
 
 QTEST_MAIN(ThemeTest)
 #include "theme_test.moc"
