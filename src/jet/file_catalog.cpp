@@ -35,13 +35,15 @@ QString columnText(sqlite3_stmt* statement, int column)
 
 const CatalogTable* FileCatalog::table(QStringView name)
 {
+    if (m_last && sameName(m_last->name, name))
+        return m_last;
     const QString key = name.toString().toLower();
     if (const auto known = m_tables.find(key); known != m_tables.end())
-        return known->second.get();
+        return m_last = known->second.get();
     if (key.startsWith(u"sqlite_"))
         return nullptr;
     auto table = read(key);
-    return table ? m_tables.emplace(key, std::move(table)).first->second.get() : nullptr;
+    return table ? m_last = m_tables.emplace(key, std::move(table)).first->second.get() : nullptr;
 }
 
 std::unique_ptr<CatalogTable> FileCatalog::read(const QString& name)

@@ -22,7 +22,11 @@ public:
 
     /// Null when there is none, and for the file engine's own.
     const CatalogTable* table(QStringView name);
-    void forget() { m_tables.clear(); }
+    void forget()
+    {
+        m_tables.clear();
+        m_last = nullptr;
+    }
 
     void setColumnsNeverEqualToNull(const QList<ColumnName>& columns) { m_neverEqualToNull = columns; }
     const QList<ColumnName>& columnsNeverEqualToNull() const { return m_neverEqualToNull; }
@@ -33,6 +37,7 @@ private:
     Statements& m_statements;
     QList<ColumnName> m_neverEqualToNull;
     std::unordered_map<QString, std::unique_ptr<CatalogTable>> m_tables; ///< by lower-case name
+    const CatalogTable* m_last = nullptr; ///< a statement asks for the same table time and again
 };
 
 } // namespace jet

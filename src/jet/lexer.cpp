@@ -75,7 +75,7 @@ private:
             ++m_at;
         const QStringView text = m_sql.mid(from, m_at - from);
         mark(text);
-        add(Token::Kind::Word, text);
+        add(Token::Kind::Word, text, keywordOf(text));
     }
 
     // 06 is six, and 022 in trim(022) counts two digits.
@@ -134,7 +134,7 @@ private:
         m_shape += u'[';
         m_shape += name;
         m_shape += u']';
-        add(Token::Kind::Name, name.trimmed());
+        add(Token::Kind::Name, name.trimmed(), keywordOf(name.trimmed()));
     }
 
     void quotedText(QChar quote)
@@ -197,7 +197,10 @@ private:
         m_shape += u' ';
     }
 
-    void add(Token::Kind kind, QStringView text) { m_result.tokens.push_back({kind, text, -1}); }
+    void add(Token::Kind kind, QStringView text, Keyword keyword = Keyword::None)
+    {
+        m_result.tokens.push_back({kind, keyword, -1, text});
+    }
 
     void addLiteral(Literal::Kind kind, Token::Kind tokenKind, const QString& text)
     {
@@ -208,7 +211,7 @@ private:
         m_shape += char16_t((1 + int(kind) + (repeated ? 3 : 0)));
         m_result.literals.push_back({kind, text});
         m_result.tokens.push_back(
-            {tokenKind, m_result.literals.back().text, int(m_result.literals.size()) - 1});
+            {tokenKind, Keyword::None, int(m_result.literals.size()) - 1, m_result.literals.back().text});
     }
 
     void fail(const QString& error)

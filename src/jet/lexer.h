@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jet/same_name.h"
+#include "jet/keywords.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,12 +13,13 @@ namespace jet {
 /// One word of the dialect. Texts are unescaped, names are without their brackets. The text is a view into
 /// the statement, or into what the Lexed keeps.
 struct Token {
-    enum class Kind { Word, Name, Text, Number, Date, Symbol, End };
+    enum class Kind : unsigned char { Word, Name, Text, Number, Date, Symbol, End };
     Kind kind = Kind::End;
-    QStringView text; ///< word, name, text value, normalised number, ISO date, or the symbol
+    Keyword keyword = Keyword::None; ///< of a word or name
     int literal = -1; ///< its place among the values that are bound, -1 for one that stays in the statement
+    QStringView text; ///< word, name, text value, normalised number, ISO date, or the symbol
 
-    bool isWord(QStringView word) const { return kind == Kind::Word && sameName(text, word); }
+    bool isWord(Keyword word) const { return keyword == word && kind == Kind::Word; }
     bool isSymbol(char16_t symbol) const
     {
         return kind == Kind::Symbol && text.size() == 1 && text.front() == symbol;

@@ -1,7 +1,8 @@
 #include "jet/parser.h"
 
+#include "jet/same_name.h"
+
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -11,17 +12,23 @@ namespace {
 
 constexpr int kDeepest = 120;
 
-// In operand position any other word is a name: columns are called default, group, from, to, desc, date.
-constexpr std::array<QStringView, 14> kNeverNames{u"select", u"and", u"or", u"not", u"like", u"in",
-    u"between", u"is", u"union", u"where", u"having", u"null", u"true", u"false"};
-constexpr std::array<QStringView, 9> kNeverAliases{
-    u"where", u"union", u"having", u"on", u"inner", u"left", u"right", u"join", u"set"};
-constexpr std::array<QStringView, 3> kHiddenKeys{u"rowid", u"oid", u"_rowid_"};
-
-template <class Words> bool isOneOf(QStringView word, const Words& words)
+bool isNeverName(Keyword word)
 {
-    return std::any_of(
-        words.begin(), words.end(), [word](QStringView other) { return sameName(word, other); });
+    return word >= Keyword::Select && word <= Keyword::False;
+}
+
+bool isNeverAlias(Keyword word)
+{
+    return (word >= Keyword::On && word <= Keyword::Set) || word == Keyword::Where || word == Keyword::Union
+        || word == Keyword::Having;
+}
+
+bool isComparison(const Token& token)
+{
+    if (token.kind != Token::Kind::Symbol)
+        return false;
+    const QChar first = token.text.front();
+    return first == u'=' || first == u'<' || first == u'>';
 }
 
 /// Stops the parse; caught in this file only. The grammar would drown in error checks without it.
@@ -39,13 +46,13 @@ public:
     Statement statement()
     {
         Statement result;
-        if (takeWord(u"update"))
+        if (takeWord(Keyword::Update))
             result = update();
-        else if (takeWord(u"delete"))
+        else if (takeWord(Keyword::Delete))
             result = remove();
-        else if (takeWord(u"insert"))
+        else if (takeWord(Keyword::Insert))
             result = insert();
-        else if (takeWord(u"drop"))
+        else if (takeWord(Keyword::Drop))
             result = drop();
         else
             result.select = select();
@@ -84,7 +91,7 @@ private:
         Statement result;
         result.kind = Statement::Kind::Update;
         result.table.name = name();
-        expectWord(u"set");
+        expectWord(Keyword::Set);
         do {
             Assignment assignment;
             assignment.column = name();
@@ -103,7 +110,7 @@ private:
         Statement result;
         result.kind = Statement::Kind::Delete;
         takeSymbol(u'*');
-        expectWord(u"from");
+        expectWord(Keyword::From);
         result.table.name = name();
         result.where = whereClause();
         return result;
@@ -113,7 +120,7 @@ private:
     {
         Statement result;
         result.kind = Statement::Kind::Insert;
-        expectWord(u"into");
+        expectWord(Keyword::Into);
         result.table.name = name();
         if (takeSymbol(u'(')) {
             do
@@ -121,7 +128,7 @@ private:
             while (takeSymbol(u','));
             expectSymbol(u')');
         }
-        expectWord(u"values");
+        expectWord(Keyword::Values);
         expectSymbol(u'(');
         do
             result.values.push_back(expression());
@@ -136,7 +143,7 @@ private:
     {
         Statement result;
         result.kind = Statement::Kind::Drop;
-        expectWord(u"table");
+        expectWord(Keyword::Table);
         result.table.name = name();
         return result;
     }
@@ -146,8 +153,8 @@ private:
         const Level level(*this);
         Select result;
         result.arms.push_back(arm(result));
-        while (takeWord(u"union")) {
-            const bool keepsDoubles = takeWord(u"all");
+        while (takeWord(Keyword::Union)) {
+            const bool keepsDoubles = takeWord(Keyword::All);
             result.arms.push_back(arm(result));
             result.arms.back().keepsDoubles = keepsDoubles;
         }
@@ -167,31 +174,31 @@ private:
                 result.orderBy = orderBy();
             return result;
         }
-        expectWord(u"select");
+        expectWord(Keyword::Select);
         SelectArm result;
-        result.distinct = takeWord(u"distinct");
+        result.distinct = takeWord(Keyword::Distinct);
         if (!result.distinct)
-            takeWord(u"all");
+            takeWord(Keyword::All);
         constexpr size_t kUsualItems = 16;
         result.items.reserve(kUsualItems);
         do
             result.items.push_back(selectItem());
         while (takeSymbol(u','));
-        if (takeWord(u"into"))
+        if (takeWord(Keyword::Into))
             into(whole);
-        if (takeWord(u"from")) {
+        if (takeWord(Keyword::From)) {
             do
                 result.tables.push_back(tableName());
             while (takeSymbol(u','));
         }
         result.where = whereClause();
-        if (isPair(u"group", u"by")) {
+        if (isPair(Keyword::Group, Keyword::By)) {
             m_at += 2;
             do
                 result.groupBy.push_back(expression());
             while (takeSymbol(u','));
         }
-        if (takeWord(u"having"))
+        if (takeWord(Keyword::Having))
             result.having = expression();
         if (isOrderBy())
             result.orderBy = orderBy();
@@ -221,7 +228,7 @@ private:
             return item;
         }
         item.expression = expression();
-        if (takeWord(u"as"))
+        if (takeWord(Keyword::As))
             item.alias = name();
         return item;
     }
@@ -230,7 +237,7 @@ private:
     {
         TableName table;
         table.name = name();
-        if (takeWord(u"as"))
+        if (takeWord(Keyword::As))
             table.alias = name();
         else if (isName(peek()) && !isClauseWord())
             table.alias = name();
@@ -240,12 +247,12 @@ private:
     bool isClauseWord() const
     {
         return peek().kind == Token::Kind::Word
-            && (isOneOf(peek().text, kNeverAliases) || isOrderBy() || isPair(u"group", u"by"));
+            && (isNeverAlias(peek().keyword) || isOrderBy() || isPair(Keyword::Group, Keyword::By));
     }
 
-    ExpressionPtr whereClause() { return takeWord(u"where") ? expression() : nullptr; }
+    ExpressionPtr whereClause() { return takeWord(Keyword::Where) ? expression() : nullptr; }
 
-    bool isOrderBy() const { return isPair(u"order", u"by"); }
+    bool isOrderBy() const { return isPair(Keyword::Order, Keyword::By); }
 
     std::vector<OrderTerm> orderBy()
     {
@@ -254,9 +261,9 @@ private:
         do {
             OrderTerm term;
             term.expression = expression();
-            term.descending = takeWord(u"desc");
+            term.descending = takeWord(Keyword::Desc);
             if (!term.descending)
-                takeWord(u"asc");
+                takeWord(Keyword::Asc);
             terms.push_back(std::move(term));
         } while (takeSymbol(u','));
         return terms;
@@ -267,11 +274,11 @@ private:
     ExpressionPtr expression()
     {
         const Level level(*this);
-        return chain(Expression::Kind::Or, u"or",
-            [this] { return chain(Expression::Kind::And, u"and", [this] { return negation(); }); });
+        return chain(Expression::Kind::Or, Keyword::Or,
+            [this] { return chain(Expression::Kind::And, Keyword::And, [this] { return negation(); }); });
     }
 
-    template <class Next> ExpressionPtr chain(Expression::Kind kind, QStringView word, Next next)
+    template <class Next> ExpressionPtr chain(Expression::Kind kind, Keyword word, Next next)
     {
         ExpressionPtr first = next();
         if (!peek().isWord(word))
@@ -285,7 +292,7 @@ private:
 
     ExpressionPtr negation()
     {
-        if (!peek().isWord(u"not"))
+        if (!peek().isWord(Keyword::Not))
             return comparison();
         const Level level(*this);
         ++m_at;
@@ -297,31 +304,31 @@ private:
     // A comparison may itself be compared or tested: region='West' is not null.
     ExpressionPtr comparison()
     {
-        static constexpr std::array<QStringView, 6> operators{u"=", u"<>", u"<", u">", u"<=", u">="};
         ExpressionPtr left = joined();
         for (;;) {
-            if (peek().kind == Token::Kind::Symbol && isOneOf(peek().text, operators)) {
+            if (isComparison(peek())) {
                 const QStringView op = take().text;
                 left = binary(Expression::Kind::Compare, op, std::move(left), joined());
                 continue;
             }
-            if (takeWord(u"is")) {
+            if (takeWord(Keyword::Is)) {
                 auto test = make(Expression::Kind::IsNull);
-                test->negated = takeWord(u"not");
-                expectWord(u"null");
+                test->negated = takeWord(Keyword::Not);
+                expectWord(Keyword::Null);
                 adopt(*test, std::move(left));
                 left = std::move(test);
                 continue;
             }
-            const bool negated = peek().isWord(u"not")
-                && (peek(1).isWord(u"like") || peek(1).isWord(u"in") || peek(1).isWord(u"between"));
+            const bool negated = peek().isWord(Keyword::Not)
+                && (peek(1).isWord(Keyword::Like) || peek(1).isWord(Keyword::In)
+                    || peek(1).isWord(Keyword::Between));
             if (negated)
                 ++m_at;
-            if (takeWord(u"like"))
+            if (takeWord(Keyword::Like))
                 left = binary(Expression::Kind::Like, {}, std::move(left), joined());
-            else if (takeWord(u"between"))
+            else if (takeWord(Keyword::Between))
                 left = between(std::move(left));
-            else if (takeWord(u"in"))
+            else if (takeWord(Keyword::In))
                 left = in(std::move(left));
             else
                 return left;
@@ -332,7 +339,7 @@ private:
     ExpressionPtr between(ExpressionPtr value)
     {
         auto result = binary(Expression::Kind::Between, {}, std::move(value), joined());
-        expectWord(u"and");
+        expectWord(Keyword::And);
         adopt(*result, joined());
         return result;
     }
@@ -342,7 +349,7 @@ private:
         expectSymbol(u'(');
         auto result = make(Expression::Kind::In);
         adopt(*result, std::move(value));
-        if (peek().isWord(u"select")) {
+        if (peek().isWord(Keyword::Select)) {
             result->kind = Expression::Kind::InSelect;
             result->select = std::make_unique<Select>(select());
         } else {
@@ -357,7 +364,7 @@ private:
     /// How tightly an operator between two values binds; 0 for what is none.
     static int tightness(const Token& token)
     {
-        if (token.isWord(u"mod"))
+        if (token.isWord(Keyword::Mod))
             return 3;
         if (token.kind != Token::Kind::Symbol || token.text.size() != 1)
             return 0;
@@ -411,14 +418,14 @@ private:
         case Token::Kind::End: throw SyntaxError{u"the statement ends too early"_s};
         default: break;
         }
-        if (token.isWord(u"null") || token.isWord(u"true") || token.isWord(u"false")) {
-            const auto kind = token.isWord(u"null") ? Expression::Kind::Null
-                : token.isWord(u"true")             ? Expression::Kind::True
-                                                    : Expression::Kind::False;
+        if (token.isWord(Keyword::Null) || token.isWord(Keyword::True) || token.isWord(Keyword::False)) {
+            const auto kind = token.keyword == Keyword::Null ? Expression::Kind::Null
+                : token.keyword == Keyword::True             ? Expression::Kind::True
+                                                             : Expression::Kind::False;
             ++m_at;
             return make(kind);
         }
-        if (token.isWord(u"exists") && peek(1).isSymbol(u'(')) {
+        if (token.isWord(Keyword::Exists) && peek(1).isSymbol(u'(')) {
             m_at += 2;
             auto result = make(Expression::Kind::Exists);
             result->select = std::make_unique<Select>(select());
@@ -428,7 +435,7 @@ private:
         if (token.kind == Token::Kind::Word && peek(1).isSymbol(u'('))
             return call();
         if (token.kind == Token::Kind::Word
-            && (isOneOf(token.text, kNeverNames) || isOrderBy() || isPair(u"group", u"by")))
+            && (isNeverName(token.keyword) || isOrderBy() || isPair(Keyword::Group, Keyword::By)))
             throw SyntaxError{u"an operand is missing before "_s + token.text.toString()};
         auto column = make(Expression::Kind::Column);
         column->name = name();
@@ -455,7 +462,7 @@ private:
     {
         expectSymbol(u'(');
         ExpressionPtr result;
-        if (peek().isWord(u"select")) {
+        if (peek().isWord(Keyword::Select)) {
             result = make(Expression::Kind::Subselect);
             result->select = std::make_unique<Select>(select());
         } else {
@@ -522,7 +529,7 @@ private:
             ++m_at;
         return token;
     }
-    bool isPair(QStringView first, QStringView second) const
+    bool isPair(Keyword first, Keyword second) const
     {
         return peek().isWord(first) && peek(1).isWord(second);
     }
@@ -530,12 +537,12 @@ private:
     {
         return token.kind == Token::Kind::Name || token.kind == Token::Kind::Word;
     }
-    bool takeWord(QStringView word) { return peek().isWord(word) && ++m_at; }
+    bool takeWord(Keyword word) { return peek().isWord(word) && ++m_at; }
     bool takeSymbol(char16_t symbol) { return peek().isSymbol(symbol) && ++m_at; }
-    void expectWord(QStringView word)
+    void expectWord(Keyword word)
     {
         if (!takeWord(word))
-            throw SyntaxError{word.toString() + u" is missing before "_s + shown()};
+            throw SyntaxError{textOf(word).toString() + u" is missing before "_s + shown()};
     }
     void expectSymbol(char16_t symbol)
     {
@@ -557,7 +564,7 @@ private:
     {
         if (!isName(peek()))
             throw SyntaxError{u"a name is missing before "_s + shown()};
-        if (isOneOf(peek().text, kHiddenKeys))
+        if (peek().keyword == Keyword::HiddenKey)
             throw SyntaxError{u"no such name: "_s + peek().text.toString()};
         return take().text;
     }
