@@ -101,8 +101,8 @@ void ExpressionEmitter::expression(const Expression& e)
     case Expression::Kind::True: m_out += u"1"_s; return;
     case Expression::Kind::False: m_out += u"0"_s; return;
     case Expression::Kind::Null: m_out += u"NULL"_s; return;
-    case Expression::Kind::Negative: return prefixed(u"(-", e);
-    case Expression::Kind::Not: return prefixed(u"(NOT ", e);
+    case Expression::Kind::Negative: return wrapped(u"(-", *e.parts[0]);
+    case Expression::Kind::Not: return wrapped(u"(NOT ", *e.parts[0]);
     case Expression::Kind::And: return terms(e, u" AND ");
     case Expression::Kind::Or: return orTerms(e);
     case Expression::Kind::Arithmetic: return arithmetic(e);
@@ -138,10 +138,10 @@ void ExpressionEmitter::literal(const Expression& e, Slot::Reading reading)
     m_slots.push_back({e.literal, reading});
 }
 
-void ExpressionEmitter::prefixed(QStringView prefix, const Expression& e)
+void ExpressionEmitter::wrapped(QStringView opening, const Expression& e)
 {
-    m_out += prefix;
-    expression(*e.parts[0]);
+    m_out += opening;
+    expression(e);
     m_out += u')';
 }
 
@@ -335,6 +335,24 @@ void ExpressionEmitter::read(const Expression& e, Type type)
     if (text && type == Type::YesNo)
         return literal(e, Slot::Reading::YesNo);
     expression(e);
+}
+
+/// A value on its way into a column.
+void ExpressionEmitter::stored(const Expression& e, ColumnType type)
+{
+    if (type == ColumnType::YesNo) {
+        m_out += u"ifnull(("_s;
+        read(e, Type::YesNo);
+        m_out += u") <> 0, 0)"_s;
+        return;
+    }
+    // Only a date may reach a date column, and only a number a number column, also out of a text column.
+    const bool convert = e.kind != Expression::Kind::Literal && typeOf(e) == Type::Text;
+    if (convert && type == ColumnType::Date)
+        return wrapped(u"jet_date(", e);
+    if (convert && (type == ColumnType::Number || type == ColumnType::AutoNumber))
+        return wrapped(u"jet_number(", e);
+    read(e, typeOfColumn(type));
 }
 
 void ExpressionEmitter::like(const Expression& e)

@@ -46,7 +46,7 @@ protected:
     void expression(const Expression& e);
     void column(const Expression& e);
     void literal(const Expression& e, Slot::Reading reading);
-    void prefixed(QStringView prefix, const Expression& e);
+    void wrapped(QStringView opening, const Expression& e);
     void terms(const Expression& e, QStringView between);
     static bool isPlainLike(const Expression& e);
     /// What a condition asks of the texts of a row; nothing when rows can fit whatever their texts are.
@@ -64,6 +64,7 @@ protected:
     void leftSide(const Expression& e, Type other);
     void collated(const Expression& e);
     void read(const Expression& e, Type type);
+    void stored(const Expression& e, ColumnType type);
     void like(const Expression& e);
     void inList(const Expression& e);
     void inSelect(const Expression& e);

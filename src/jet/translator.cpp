@@ -147,7 +147,8 @@ private:
                 tableAs(from);
                 stretch ? whereInStretch(*stretch, arm) : whereOf(arm);
             }
-            orderBy(arm.orderBy);
+            orderBy(
+                arm.orderBy, result.filter && !narrowed && !stretch && looksBesideOrder(*result.filter, arm));
             // A search may be run in several ways. Rows that are equal to its order come the same in each.
             if (result.filter) {
                 m_out += arm.orderBy.empty() ? u" ORDER BY "_s : u", "_s;
@@ -215,6 +216,16 @@ private:
             return nullptr;
         const auto found = std::find_if(filter.parts.begin(), filter.parts.end(), fits);
         return found == filter.parts.end() ? nullptr : &*found;
+    }
+
+    /// Whether a search reads more of a row than the index of its order holds. Found rows are few: to sort
+    /// them is quicker than to fetch every row in that order.
+    bool looksBesideOrder(const TextFilter& filter, const SelectArm& arm) const
+    {
+        if (filter.kind != TextFilter::Kind::Pattern)
+            return std::any_of(filter.parts.begin(), filter.parts.end(),
+                [&](const TextFilter& part) { return looksBesideOrder(part, arm); });
+        return !arm.orderBy.empty() && !orderedBy(filter, arm);
     }
 
     void whereInStretch(const TextFilter& stretch, const SelectArm& arm)
@@ -446,11 +457,14 @@ private:
         truth(*arm.where);
     }
 
-    void orderBy(const std::vector<OrderTerm>& terms)
+    /// With a plus before it the file engine sorts by a column and walks no index of it.
+    void orderBy(const std::vector<OrderTerm>& terms, bool sorts = false)
     {
         bool first = true;
         for (const OrderTerm& term : terms) {
             m_out += first ? u" ORDER BY "_s : u", "_s;
+            if (sorts)
+                m_out += u'+';
             // An alias of this very selection is found by the file engine alone.
             if (term.expression->kind == Expression::Kind::Column)
                 column(*term.expression);
@@ -535,31 +549,6 @@ private:
         m_out += u')';
         result.main = takePiece();
         return result;
-    }
-
-    /// A value on its way into a column.
-    void stored(const Expression& e, ColumnType type)
-    {
-        if (type == ColumnType::YesNo) {
-            m_out += u"ifnull(("_s;
-            read(e, Type::YesNo);
-            m_out += u") <> 0, 0)"_s;
-            return;
-        }
-        // Only a date may reach a date column, and only a number a number column, also out of a text column.
-        const bool convert = e.kind != Expression::Kind::Literal && typeOf(e) == Type::Text;
-        if (convert && type == ColumnType::Date)
-            return wrapped(u"jet_date(", e);
-        if (convert && (type == ColumnType::Number || type == ColumnType::AutoNumber))
-            return wrapped(u"jet_number(", e);
-        read(e, typeOfColumn(type));
-    }
-
-    void wrapped(QStringView function, const Expression& e)
-    {
-        m_out += function;
-        expression(e);
-        m_out += u')';
     }
 
     bool m_isNamed = true; ///< the columns of the arm that is written need names
