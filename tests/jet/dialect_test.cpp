@@ -56,11 +56,13 @@ private Q_SLOTS:
                 = line.section(u": "_s, 1).replace(u"\\n"_s, u"\r\n"_s).replace(u"\\t"_s, u"\t"_s);
             QStringList expected;
             while (i + 1 < lines.size() && lines[i + 1].startsWith(u'='))
-                expected << lines[++i].mid(2);
-            m_reason.clear();
-            const QString problem = check(verb, sql, expected);
-            if (!problem.isEmpty())
-                wrong << u"line %1: %2\n    %3 %4"_s.arg(firstLine + int(i)).arg(line, problem, m_reason);
+                expected << lines[++i].mid(2).split(u" / "_s);
+            for (const QString& each : sql.split(u" | "_s)) {
+                m_reason.clear();
+                const QString problem = check(verb, each, expected);
+                if (!problem.isEmpty())
+                    wrong << u"line %1: %2\n    %3 %4"_s.arg(firstLine + int(i)).arg(each, problem, m_reason);
+            }
         }
         QVERIFY2(wrong.isEmpty(), qPrintable(u'\n' + wrong.join(u'\n')));
     }
@@ -101,22 +103,7 @@ private:
     QStringList rows(const QString& sql, jet::Way way)
     {
         const jet::Recordset set = m_data.openRecordset(sql, way);
-        if (!set.isValid())
-            return {u"(refused)"_s};
-        QStringList result;
-        for (int row = 0; row < set.count(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < set.columns().size(); ++column) {
-                const QVariant value = set.valueAt(row, column);
-                cells << (!value.isValid()                   ? u"null"_s
-                        : value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate)
-                        : value.typeId() == QMetaType::QDateTime
-                        ? value.toDateTime().toString(u"yyyy-MM-dd HH:mm:ss")
-                        : value.toString());
-            }
-            result << cells.join(u'|');
-        }
-        return result;
+        return set.isValid() ? support::TestBook::rowsOf(set) : QStringList{u"(refused)"_s};
     }
 
     void openFresh()

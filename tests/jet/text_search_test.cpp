@@ -17,7 +17,6 @@ private Q_SLOTS:
     void sameRows();
     void sameRowsForAnyWord();
     void changedRowsAreSeen();
-    void manyChangedRowsAreSeen();
     void whatIsWrittenWhileItReads();
     void whatWasGivenUpNeverWas();
     void changesOfAnotherProgramAreSeen();
@@ -60,7 +59,7 @@ void TextSearchTest::initTestCase()
                                               "data,cnt_main,Company,text,\n"
                                               "data,few,id,autonumber,\n"
                                               "data,few,Name,text,60\n");
-    schema.indexes = support::TestBook::schema().indexes;
+    schema.indexes = support::TestBook::indexesFor(schema);
     QVERIFY(book.applySchema(schema, u"data"_s));
     const QStringList firsts{
         u"Asha"_s, u"ÉMILE"_s, u"émile"_s, u"Жанна"_s, u"Bo*b"_s, u"Ann[e]"_s, u"Çelik"_s};
@@ -141,7 +140,7 @@ void TextSearchTest::sameRows_data()
     row(u"category1 like '*nes*' and category2 like '*ub 1*'"_s);
     row(u"city like '*pun*' and note like '*99*'"_s);
     row(u"city like '*pune*' and year(born) = 1950"_s);
-    row(u"city like '*pune*' or id < 20"_s);
+    row(u"city like '*agr*' or id < 20"_s);
     row(u"city like 'Pune' or city like '*agr*'"_s);
     row(u"city like '*[gq]ra*' and Name like '*[*]*'"_s);
     row(u"not city like '*pune*'"_s);
@@ -212,14 +211,6 @@ void TextSearchTest::changedRowsAreSeen()
     QCOMPARE(found(tea), drinkers);
 }
 
-void TextSearchTest::manyChangedRowsAreSeen()
-{
-    QVERIFY(!found(u"city like '*pune*'"_s).isEmpty());
-    QVERIFY(m_book.execute(u"update cnt_main set city='Nagpur' where city='Pune'"_s));
-    QCOMPARE(found(u"city like '*pune*'"_s), QList<qint64>());
-    QCOMPARE(found(u"city like '*agp*'"_s).size(), kPeople / 3);
-}
-
 void TextSearchTest::whatIsWrittenWhileItReads()
 {
     const auto begin
@@ -235,7 +226,12 @@ void TextSearchTest::whatIsWrittenWhileItReads()
         batch.rollBack();
     }
     QCOMPARE(found(u"city like '*quince*'"_s), QList<qint64>());
-    QVERIFY(m_book.execute(u"update cnt_main set note='x'"_s)); // nearly all: they are read anew
+    QVERIFY(found(u"city like '*pun*'"_s).contains(8));
+    // Many rows are read anew.
+    QVERIFY(m_book.execute(u"update cnt_main set city='Nagpur' where city='Pune'"_s));
+    QCOMPARE(found(u"city like '*pune*'"_s), QList<qint64>());
+    QCOMPARE(found(u"city like '*agp*'"_s).size(), kPeople / 3);
+    QVERIFY(m_book.execute(u"update cnt_main set note='x'"_s));
     begin();
     m_book.close();
     init();
@@ -244,16 +240,15 @@ void TextSearchTest::whatIsWrittenWhileItReads()
     QCOMPARE(found(u"Name like '*quince*'"_s).size(), kPeople);
 }
 
+// Without a log the first search reads by itself, also what is not committed.
 void TextSearchTest::whatWasGivenUpNeverWas()
 {
-    {
-        jet::Batch batch(m_book);
-        QVERIFY(m_book.execute(u"update cnt_main set Name='Quince' where id=3"_s));
-        QCOMPARE(found(u"Name like '*quince*'"_s), QList<qint64>{3});
-        batch.rollBack();
-    }
-    QCOMPARE(found(u"Name like '*quince*'"_s), QList<qint64>());
-    QVERIFY(found(u"Name like '*émile*'"_s).contains(3));
+    QCOMPARE(m_book.open(m_book.path(), jet::Database::Kind::Information), jet::Database::OpenResult::Opened);
+    jet::Batch batch(m_book);
+    QVERIFY(m_book.execute(u"update cnt_main set Name='Quince' where id=1"_s));
+    QCOMPARE(found(u"Name like '*quince*'"_s), QList<qint64>{1});
+    batch.rollBack();
+    QVERIFY(found(u"Name like '*quince*'"_s).isEmpty() && found(u"Name like '*asha*'"_s).contains(1));
 }
 
 void TextSearchTest::changesOfAnotherProgramAreSeen()

@@ -1,9 +1,10 @@
 #include "support/test_book.h"
 
-#include <QDate>
+#include <QDateTime>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,8 @@ QString cell(const QVariant& value)
 {
     if (!value.isValid())
         return u"null"_s;
+    if (value.typeId() == QMetaType::QDateTime)
+        return value.toDateTime().toString(u"yyyy-MM-dd HH:mm:ss");
     return value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate) : value.toString();
 }
 
@@ -80,6 +83,22 @@ jet::Schema TestBook::schema()
     return all;
 }
 
+QList<jet::SchemaIndex> TestBook::indexesFor(const jet::Schema& small)
+{
+    static const QRegularExpression name(u"\\[(\\w+)\\]"_s);
+    QList<jet::SchemaIndex> indexes = schema().indexes;
+    indexes.removeIf([&small](const jet::SchemaIndex& index) {
+        QStringList needed = index.columns;
+        for (const auto& match : name.globalMatch(index.condition))
+            needed << match.captured(1);
+        const jet::SchemaTable* table = small.table(index.table);
+        for (const jet::SchemaColumn& column : table ? table->columns : QList<jet::SchemaColumn>())
+            needed.removeAll(column.name);
+        return !needed.isEmpty();
+    });
+    return indexes;
+}
+
 QList<jet::ColumnName> TestBook::columnsNeverEqualToNull()
 {
     return jet::columnNamesFromCsv(shipped("never_equal_to_null.csv"));
@@ -103,10 +122,9 @@ QString TestBook::unexpected()
     return problems.join(u'\n');
 }
 
-QStringList TestBook::rows(const QString& sql, jet::Way way)
+QStringList TestBook::rowsOf(const jet::Recordset& set)
 {
     QStringList result;
-    jet::Recordset set = m_data.openRecordset(sql, way);
     for (int row = 0; row < set.count(); ++row) {
         QStringList cells;
         for (int column = 0; column < set.columns().size(); ++column)
@@ -114,6 +132,11 @@ QStringList TestBook::rows(const QString& sql, jet::Way way)
         result << cells.join(u'|');
     }
     return result;
+}
+
+QStringList TestBook::rows(const QString& sql, jet::Way way)
+{
+    return rowsOf(m_data.openRecordset(sql, way));
 }
 
 QString TestBook::firstText(const QString& sql)

@@ -21,6 +21,8 @@ public:
     QString folder() const { return m_folder.path(); }
     QString path() const;
     static jet::Schema schema();
+    /// The product's indexes that these tables can have, which may lack columns.
+    static QList<jet::SchemaIndex> indexesFor(const jet::Schema& schema);
     static QList<jet::ColumnName> columnsNeverEqualToNull();
 
     void expectFailure(const QString& piece) { m_expected << piece; }
@@ -29,6 +31,7 @@ public:
     QString unexpected();
 
     /// All rows of a selection, the columns joined by "|", null as "null".
+    static QStringList rowsOf(const jet::Recordset& set);
     QStringList rows(const QString& sql, jet::Way way = jet::Way::Dao);
     QString firstText(const QString& sql);
 
