@@ -169,6 +169,8 @@ std::optional<QString> parseDateText(QStringView text)
 
 QString isoDate(QDate date, QTime time)
 {
+    if (!date.isValid())
+        return {};
     QString iso = u"%1-%2-%3"_s.arg(date.year(), 4, 10, QChar(u'0'))
                       .arg(date.month(), 2, 10, QChar(u'0'))
                       .arg(date.day(), 2, 10, QChar(u'0'));

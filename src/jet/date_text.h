@@ -25,7 +25,7 @@ std::optional<QDate> readDate(QStringView text, DateOrder order, QDate latest = 
 /// @return "YYYY-MM-DD", with " HH:MM:SS" only when there is a time; nothing when it is no date.
 std::optional<QString> parseDateText(QStringView text);
 
-/// The stored form of a date column.
+/// The stored form of a date column; "" for an invalid date.
 QString isoDate(QDate date, QTime time = {});
 /// The value of a stored date: QDate, or QDateTime when it has a time of day; an invalid variant for anything
 /// else.
