@@ -69,12 +69,11 @@ public:
         const QString list = u'[' + m_columns.join(u"],["_s) + u']';
         run(u"INSERT INTO cnt_main (%1) SELECT %1 FROM book.cnt_main"_s.arg(list));
         run(u"DETACH book"_s);
-        run(u"CREATE INDEX byname ON cnt_main (Name)"_s);
-        run(u"CREATE INDEX bycategory ON cnt_main (category1, category2)"_s);
-        run(u"CREATE INDEX bysubcategory ON cnt_main (category2, Name)"_s);
-        run(u"CREATE INDEX blank ON cnt_main (id) WHERE length(trim(Name)) = 0 AND length(trim([First])) = 0 "
-            u"AND "
-            "length(trim([Last])) = 0 AND length(trim(Company)) = 0"_s);
+        for (const jet::SchemaIndex& index : schema.indexes) {
+            if (index.table == u"cnt_main")
+                run(u"CREATE INDEX %1 ON cnt_main (%2)"_s.arg(index.name, index.columns.join(u','))
+                    + (index.condition.isEmpty() ? QString() : u" WHERE "_s + index.condition));
+        }
         run(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
     }
     /// Other tables with the columns given.
@@ -415,6 +414,15 @@ private:
             {u"location tree: root",
                 u"Select region from cnt_main where region is not null group by region order by region "_s,
                 u"SELECT region FROM cnt_main WHERE region IS NOT NULL GROUP BY region ORDER BY region"_s},
+            {u"location tree: all contacts",
+                u"select id,region,h_Country,h_State,h_City,First,Last,h_Std from cnt_main order by region "_s,
+                u"SELECT id FROM cnt_main ORDER BY region"_s},
+            {u"start page: changed lately",
+                u"select id,name from cnt_main where datemodi >= #20-May-2024# order by datemodi desc,id desc"_s,
+                u"SELECT id, name FROM cnt_main WHERE DateModi >= '2024-05-20' ORDER BY DateModi DESC, id DESC"_s},
+            {u"selector: sorted by last change",
+                u"Select id,format(DateModi,'mmm-yyyy') ,name from cnt_main order by DateModi desc ,name"_s,
+                u"SELECT id, DateModi, name FROM cnt_main ORDER BY DateModi DESC, name"_s},
         };
         for (const List& list : lists) {
             same(list.name.toString(), openList(m_book, list.ours), m_plain->walk(list.plain));

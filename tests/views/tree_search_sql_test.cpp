@@ -236,6 +236,13 @@ void TreeSearchSqlTest::normalisingFillsWhatIsEmpty()
     // Kept: the empty text is looked for in the country of the home, so an empty one at work stays.
     QCOMPARE(book.rows(u"select w_country from cnt_main"_s), QStringList{u""_s});
     QCOMPARE(book.firstText(unclassifiedSql()), u"0"_s);
+    // To the letter, or the index is not used and each look takes as long as a search.
+    for (const jet::SchemaIndex& index : support::TestBook::schema().indexes) {
+        QString condition = index.condition.toLower().remove(u'[').remove(u']');
+        condition.replace(u"length"_s, u"len"_s).replace(u" = "_s, u"="_s);
+        if (index.name == u"cnt_main_unclassified")
+            QVERIFY2(unclassifiedSql().endsWith(u" where "_s + condition), qPrintable(condition));
+    }
 }
 
 void TreeSearchSqlTest::listsOffer_data()
