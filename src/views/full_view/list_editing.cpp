@@ -59,6 +59,11 @@ bool ListEditing::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_editor && event->type() == QEvent::FocusOut) {
         finish(true);
+    } else if (event->type() == QEvent::ShortcutOverride && watched == m_list && m_editable
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2) {
+        // The frame has a command on this key too.
+        event->accept();
+        return true;
     } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (watched == m_list && key == Qt::Key_F2) {
