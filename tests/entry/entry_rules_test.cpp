@@ -69,28 +69,6 @@ private Q_SLOTS:
         QCOMPARE(m_book.rows(cityListSql(choice)).join(u','), cities == u"fails" ? QString() : cities);
     }
 
-    void scopes_data()
-    {
-        support::columns<int, bool, QString, QString, QString>(
-            "scope", "mainOnly", "countries", "states", "country");
-        QTest::newRow("all") << 0 << false << u"All,Fiji,India,United States"_s << u""_s << u""_s;
-        QTest::newRow("all, main") << 0 << true << u"All,India,United States"_s << u""_s << u""_s;
-        QTest::newRow("usa") << 1 << false << u"United States"_s << u"All,MA,OR"_s << u"United States"_s;
-        QTest::newRow("india") << 2 << true << u"India"_s << u"All,Maharashtra,Tamil Nadu"_s << u"India"_s;
-    }
-
-    void scopes()
-    {
-        QFETCH(int, scope);
-        QFETCH(bool, mainOnly);
-        CityScopeLists lists = cityScopeLists(m_book.data(), CityScope(scope), mainOnly);
-        QVERIFY(lists.countries.size() < 2 || lists.countries.constFirst() == u"All");
-        lists.countries.sort();
-        QTEST(lists.countries.join(u','), "countries");
-        QTEST(lists.states.join(u','), "states");
-        QTEST(lists.country, "country");
-    }
-
     void spouseNames_data()
     {
         support::columns<QString, bool, QString>("sex", "national", "names");

@@ -97,6 +97,30 @@ private Q_SLOTS:
             QCOMPARE(item.work.city + item.first, u"Punedtcmbfname"_s);
     }
 
+    // Each control in its field there.
+    void mailContactIsWhole()
+    {
+        enter(u"FormMain"_s);
+        const platform::MailContact& c = m_form->mailContacts.contacts.back();
+        QStringList texts{
+            c.key, c.title, c.first, c.middle, c.last, c.fullName, c.fileAs, c.nick, c.company, c.jobTitle};
+        for (const platform::MailAddress& at : {c.home, c.work, c.other})
+            texts << at.street1 << at.street2 << at.city << at.state << at.pin << at.country;
+        texts << c.homePhone1 << c.homePhone2 << c.homePhone3 << c.workPhone1 << c.workPhone2 << c.workPhone3
+              << c.mobile << c.fax << c.email1 << c.email2 << c.email3 << c.homeWeb << c.workWeb << c.spouse
+              << c.hobby << c.user1 << c.user2 << c.user3 << c.note;
+        QCOMPARE(texts.join(u'|'),
+            u"1OV|Cmbtitle|dtcmbfname|dtcmbmid|dtcmblname|dtcmbfname dtcmblname|dtcmbfname "
+            u"dtcmblname|dtcmbnick|"
+            "txtcmpnyPrefix "
+            "txtcmpnySuffix|dtcmbjob|txtadd1|txtadd2|dtcmbcity|dtcmbstate|dtcmbpin|dtcmbcountry|"
+            "txtbadd1|txtbadd2|dtcmbbcity|dtcmbbstate|dtcmbbpin|dtcmbbcountry|txtwadd1|txtwadd2|dtcmbwcity|"
+            "dtcmbwstate|dtcmbwpin|dtcmbwcountry|txtph1|txtph2|txtph3|txtbph1|txtbph2|txtbph3|txtMobile|"
+            "txtfax|"
+            "txtemail1@cboemail1|txtemail2|txtbemail1|txtweb|txtbweb|dtcspouse|txthobby|cmbuser1|cmbuser2|"
+            "cmbuser3|txtMemo"_s);
+    }
+
     void favouritesOfAnAddAndAnEdit()
     {
         enter(u"FormMain1"_s);
