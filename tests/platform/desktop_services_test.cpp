@@ -198,15 +198,7 @@ private Q_SLOTS:
 
     void scriptedBoxes()
     {
-        support::ScriptedBoxes boxes;
-        boxes.expect(u"Sure?"_s, Answer::Yes);
-        boxes.expectChoice(u"Open"_s, u"/a"_s);
-        boxes.expect(u"Done"_s);
-        QCOMPARE(boxes.ask(u"Sure?"_s, {}, Icon::Question), Answer::Yes);
-        QCOMPARE(boxes.openFile(u"Open"_s, {}), u"/a"_s);
-        boxes.warning(u"Done"_s, {});
-        QCOMPARE(boxes.verify(), QString());
-
+        support::ScriptedBoxes boxes; // what goes wrong in them fails a test
         boxes.expect(u"Sure?"_s, Answer::Yes);
         QCOMPARE(boxes.ask(u"Really?"_s, {}, Icon::Question), Answer::No);
         QVERIFY(boxes.verify().contains(u"Really?"_s));
