@@ -261,12 +261,12 @@ private Q_SLOTS:
         const auto on = [&] { return rows(all).constFirst().count(u"true"_s); };
         m_fixture->execute(u"update %1 set %2 = true"_s.arg(table, column));
         open(tab);
-        auto* box = child<QCheckBox>(m_form, QString::fromLatin1(QTest::currentDataTag()));
-        QVERIFY(box->isChecked());
-        box->click();
+        const QString box = QString::fromLatin1(QTest::currentDataTag());
+        QVERIFY(child<QCheckBox>(m_form, box)->isChecked());
+        click(box);
         QCOMPARE(rows(u"select %1 from %2"_s.arg(column, table)), QStringList{u"false"_s});
         QCOMPARE(on(), 0);
-        box->click();
+        click(box);
         QCOMPARE(rows(u"select %1 from %2"_s.arg(column, table)), QStringList{u"true"_s});
         QCOMPARE(on(), table == u"ov_setup" ? 0 : 1);
         QCOMPARE(m_fixture->shared.ContMerge, table == u"ov_setup");
