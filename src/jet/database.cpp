@@ -178,6 +178,11 @@ TakenBack Database::redoLastChange()
     return m_engine->moveStep(StepDirection::Again);
 }
 
+void Database::setStepsHandler(StepsHandler handler)
+{
+    m_engine->setStepsHandler(std::move(handler));
+}
+
 size_t Database::searchMemory() const
 {
     return m_engine->searchMemory();

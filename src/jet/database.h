@@ -79,6 +79,7 @@ public:
     /// All of the step or nothing.
     TakenBack undoLastChange();
     TakenBack redoLastChange();
+    void setStepsHandler(StepsHandler handler);
 
     /// What is kept in memory so that searches for a piece of text are quick, in bytes.
     size_t searchMemory() const;

@@ -59,6 +59,7 @@ void Engine::takeUp()
 void Engine::takeSettings(const Engine& other)
 {
     m_failureHandler = other.m_failureHandler;
+    m_stepsHandler = other.m_stepsHandler;
     m_file.setWaitHandler(other.m_file.waitHandler());
     m_catalog.setColumnsNeverEqualToNull(other.m_catalog.columnsNeverEqualToNull());
 }
@@ -302,6 +303,7 @@ void Engine::keepChanges(const QList<ColumnName>& labels)
     m_undo = isOpen() && !isReadOnly() ? std::make_unique<UndoLog>(*this, labels) : nullptr;
     if (m_undo)
         m_undo->setUpkeep(m_upkeeps > 0);
+    tellSteps();
 }
 
 TakenBack Engine::moveStep(StepDirection direction)

@@ -87,6 +87,12 @@ public:
     void setFailureHandler(FailureHandler handler) { m_failureHandler = std::move(handler); }
     void setWaitHandler(WaitHandler handler) { m_file.setWaitHandler(std::move(handler)); }
     void setColumnsNeverEqualToNull(const QList<ColumnName>& columns);
+    void setStepsHandler(StepsHandler handler) { m_stepsHandler = std::move(handler); }
+    void tellSteps() const
+    {
+        if (m_stepsHandler)
+            m_stepsHandler();
+    }
     void takeSettings(const Engine& other);
     void setLimits(const StatementLimits& limits) { m_file.setLimits(limits); }
     bool isTooMuch(qint64 bytes) const { return m_file.limits().bytes > 0 && bytes > m_file.limits().bytes; }
@@ -115,6 +121,7 @@ private:
     int m_upkeeps = 0;
     int m_openSteps = 0;
     FailureHandler m_failureHandler;
+    StepsHandler m_stepsHandler;
     Failure m_lastReport;
     std::optional<Failure> m_lastFailure;
     QString m_refusal; ///< why the last values were not bound; the file engine knows nothing of it

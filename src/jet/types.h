@@ -64,6 +64,9 @@ enum class TakenBack {
 using StepFollower = std::function<void(StepDirection)>;
 
 using FailureHandler = std::function<void(const Failure&)>;
+/// Called when other changes than before can be taken back or done again. It may be in the middle of a write,
+/// so it looks later.
+using StepsHandler = std::function<void()>;
 /// Called about every 50 milliseconds while a write waits for another program; false gives up. It may paint
 /// and read, and must not close the database.
 using WaitHandler = std::function<bool()>;

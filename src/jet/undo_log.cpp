@@ -234,6 +234,7 @@ void UndoLog::closeStep()
         step.change.id = m_nextId++;
         m_undone.clear();
         m_done.push_back(std::move(step));
+        m_engine.tellSteps();
     }
     if (m_done.size() > kMostSteps)
         m_done.pop_front();
@@ -290,6 +291,7 @@ void UndoLog::settle(StepDirection direction, TakenBack result)
         return; // another time it may be possible
     Step step = std::move(from.back());
     from.pop_back();
+    m_engine.tellSteps();
     if (result != TakenBack::Done)
         return;
     const std::vector<StepFollower> followers = step.followers;

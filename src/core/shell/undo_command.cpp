@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -26,12 +27,15 @@ UndoCommand::UndoCommand(core::Context& context, QMenu* edit)
     connect(m_undo, &QAction::triggered, this, [this] { core::takeBack(m_context); });
     connect(
         m_redo, &QAction::triggered, this, [this] { core::takeBack(m_context, jet::StepDirection::Again); });
-    connect(edit, &QMenu::aboutToShow, this, &UndoCommand::tellWhatComesNext);
-    // The shortcuts work while the menu was never opened.
-    connect(edit, &QMenu::aboutToHide, this, [this] {
-        m_undo->setEnabled(true);
-        m_redo->setEnabled(true);
+    // At the end of what is being done, which may be several steps and is not a moment to read in.
+    m_due.setSingleShot(true);
+    m_due.setInterval(0);
+    connect(&m_due, &QTimer::timeout, this, &UndoCommand::tellWhatComesNext);
+    m_context.data.setStepsHandler([command = QPointer(this)] {
+        if (command)
+            command->m_due.start();
     });
+    tellWhatComesNext();
 }
 
 void UndoCommand::tellWhatComesNext()

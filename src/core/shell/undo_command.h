@@ -3,6 +3,7 @@
 #include "core/context.h"
 
 #include <QObject>
+#include <QTimer>
 
 class QAction;
 class QMenu;
@@ -10,7 +11,7 @@ class QMenu;
 namespace shell {
 
 /// Undo and Redo of the Edit menu: the last changes of the address book in this run, whatever screen made
-/// them.
+/// them. Each says what it would do, and is grey while there is nothing.
 class UndoCommand : public QObject {
     Q_OBJECT
 
@@ -23,6 +24,7 @@ private:
     core::Context& m_context;
     QAction* m_undo;
     QAction* m_redo;
+    QTimer m_due; ///< other changes than before can be taken back
 };
 
 } // namespace shell
