@@ -255,6 +255,27 @@ private Q_SLOTS:
         QCOMPARE(p.verify(), QString());
     }
 
+    // Where the folder should be there is a file.
+    void failedBackup()
+    {
+        Program p;
+        p.makeBook(false);
+        QVERIFY(QDir().mkpath(QFileInfo(p.backupFolder()).path()));
+        QVERIFY(QFile(p.backupFolder()).open(QIODevice::WriteOnly));
+        p.begin();
+        const auto said = [&] {
+            const auto* strip = p.window.findChild<QWidget*>(u"NoticeStrip"_s);
+            return strip && strip->isVisible() ? strip->accessibleName().section(u" The folder"_s, 0, 0)
+                                               : QString();
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(
+            said(), u"No backup of the address book was made: the folder could not be made."_s, 8000);
+        QVERIFY(QFile::remove(p.backupFolder()));
+        QTest::mouseClick(p.window.findChild<QToolButton*>(u"cmdNotice"_s), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(core::listBackups(p.backupFolder()).size(), 1, 8000);
+        QCOMPARE(p.verify(), QString());
+    }
+
     // A box of the desktop itself, at a start that has something to say: the splash goes below it, not with
     // it.
     void noticeAtTheStart()

@@ -133,7 +133,7 @@ QWidget* StartPage::layOutTools(const std::function<bool(const core::Action&)>& 
         button->setToolTip(QCoreApplication::translate("shell", favourite.toolTip));
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIconSize({32, 32});
-        button->setFixedSize(132, 84);
+        button->setFixedSize(146, 84);
         widgets::setIcon(button, favourite.icon);
         button->setEnabled(action && isAvailable(*action));
         connect(button, &QToolButton::clicked, this, [this, tool] { Q_EMIT toolWanted(tool); });
@@ -185,6 +185,7 @@ void StartPage::readBook()
     m_bookRead = m_context.data.state();
     const qint64 contacts = m_context.data.openRecordset(contactCountSql()).number(u"n");
     m_count->setText(contacts == 1 ? tr("1 contact") : tr("%1 contacts").arg(QLocale().toString(contacts)));
+    m_count->setVisible(contacts > 0); // of an empty book the button says enough
     m_first->setVisible(contacts == 0);
     m_search->setVisible(contacts > 0);
     search();

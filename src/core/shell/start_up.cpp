@@ -304,33 +304,55 @@ void StartUp::restoreNow(const core::Backup& backup)
         boxes.warning(restored ? m_report.text : restored.reason, title);
 }
 
-// A while after the frame came up, on a thread and a connection of its own: nobody should wait for it.
+// A while after the frame came up.
 void StartUp::backUpLater()
 {
-    QTimer::singleShot(3000, this, [this] {
-        if (m_backup || !m_context.data.isOpen())
-            return;
-        m_backup.reset(QThread::create([this, file = m_files.dataFile(), names = m_files.infoFile(),
-                                           folder = m_backupFolder, now = m_context.services.clock.now()] {
-            using Opened = jet::Database::OpenResult;
-            jet::Database book;
-            auto result = core::BackupResult::Failed;
-            if (book.open(file) == Opened::Opened)
-                result = core::backUpIfChanged(book, folder, now);
-            if (result == core::BackupResult::Failed && book.isOpen() && !book.checkSoundness().isEmpty())
-                result = core::BackupResult::BookUnsound;
-            jet::Database info;
-            const bool infoIsSound = info.open(names, jet::Database::Kind::Information) != Opened::Opened
-                || info.checkSoundness().isEmpty();
-            QMetaObject::invokeMethod(
-                this, [this, result, infoIsSound] { backedUp(result, infoIsSound); }, Qt::QueuedConnection);
-        }));
-        m_backup->start(QThread::IdlePriority);
-    });
+    QTimer::singleShot(3000, this, &StartUp::backUp);
+}
+
+// On a thread and a connection of its own: nobody should wait for it.
+void StartUp::backUp()
+{
+    if (m_backup || !m_context.data.isOpen())
+        return;
+    m_backup.reset(QThread::create([this, file = m_files.dataFile(), names = m_files.infoFile(),
+                                       folder = m_backupFolder, now = m_context.services.clock.now()] {
+        using Opened = jet::Database::OpenResult;
+        jet::Database book;
+        auto result = core::BackupResult::Failed;
+        if (book.open(file) == Opened::Opened)
+            result = core::backUpIfChanged(book, folder, now);
+        if (result == core::BackupResult::Failed && book.isOpen() && !book.checkSoundness().isEmpty())
+            result = core::BackupResult::BookUnsound;
+        jet::Database info;
+        const bool infoIsSound = info.open(names, jet::Database::Kind::Information) != Opened::Opened
+            || info.checkSoundness().isEmpty();
+        QMetaObject::invokeMethod(
+            this, [this, result, infoIsSound] { backedUp(result, infoIsSound); }, Qt::QueuedConnection);
+    }));
+    m_backup->start(QThread::IdlePriority);
+}
+
+// Who works on without a backup should know it, and why, while it can still be mended.
+void StartUp::tellFailedBackup()
+{
+    const bool hasRoom = platform::isWritable(m_backupFolder)
+        && platform::freeBytes(m_backupFolder) > 2 * QFileInfo(m_files.dataFile()).size();
+    const QString why
+        = hasRoom ? tr("the address book could not be read") : platform::whyNotWritable(m_backupFolder);
+    m_frame.showNotice(tr("No backup of the address book was made: %1. The folder is \"%2\".")
+                           .arg(why, QDir::toNativeSeparators(m_backupFolder)),
+        tr("Try again"), [this] {
+            m_backup->wait();
+            m_backup.reset();
+            backUp();
+        });
 }
 
 void StartUp::backedUp(core::BackupResult result, bool infoIsSound)
 {
+    if (result == core::BackupResult::Failed)
+        tellFailedBackup();
     if (!infoIsSound && m_context.info.isOpen()) {
         remakeInformation();
         tellNotices();

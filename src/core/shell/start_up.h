@@ -51,6 +51,8 @@ private:
     void noteWhatIsWrong(bool hasLock);
     void tellNotices();
     void backUpLater();
+    void backUp();
+    void tellFailedBackup();
     void backedUp(core::BackupResult result, bool infoIsSound);
 
     core::Context& m_context;
