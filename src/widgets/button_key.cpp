@@ -1,23 +1,18 @@
 #include "widgets/button_key.h"
 
 #include <QAbstractButton>
-#include <QAction>
+#include <QShortcut>
 
 namespace widgets {
-
-using namespace Qt::StringLiterals;
 
 void setKey(QAbstractButton* button, const QKeySequence& key)
 {
     if (key.isEmpty())
         return;
-    auto* action = new QAction(button);
-    action->setObjectName(u"key"_s);
-    action->setShortcut(key);
-    action->setAutoRepeat(false);
-    // A disabled button has a disabled action, as keys of hidden and disabled widgets do not work.
-    button->addAction(action);
-    QObject::connect(action, &QAction::triggered, button, &QAbstractButton::click);
+    // Not an action of the button, which would show a menu with it.
+    auto* shortcut = new QShortcut(key, button);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
 }
 
 } // namespace widgets

@@ -14,6 +14,8 @@ namespace widgets {
 
 namespace {
 
+constexpr auto kTaken = "takenMnemonics"; ///< of a form that was settled
+
 /// Something with a text that may hold a mnemonic.
 struct Caption {
     QString text;
@@ -139,7 +141,17 @@ QString settleIn(QWidget* form, QString used)
 
 void settleMnemonics(QWidget* form, const QString& taken)
 {
+    form->setProperty(kTaken, taken);
     settleIn(form, taken.toLower());
+}
+
+void setCaption(QLabel* label, const QString& text)
+{
+    label->setText(text);
+    for (QWidget* form = label; form; form = form->parentWidget()) {
+        if (const QVariant taken = form->property(kTaken); taken.isValid())
+            return settleMnemonics(form, taken.toString());
+    }
 }
 
 QChar mnemonicOf(const QString& text)

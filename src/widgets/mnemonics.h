@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QLabel;
 class QWidget;
 
 namespace widgets {
@@ -11,6 +12,9 @@ namespace widgets {
 /// is taken, another one of the text is; where none is left, there is none. Buttons choose first, then what
 /// is always seen, then each page of tabs by itself.
 void settleMnemonics(QWidget* form, const QString& taken);
+
+/// Another text for a label of a form that is settled, which then fits in with the others.
+void setCaption(QLabel* label, const QString& text);
 
 /// The letter behind the & of a text, in small; a null character when there is none.
 QChar mnemonicOf(const QString& text);

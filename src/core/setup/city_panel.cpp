@@ -5,6 +5,7 @@
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 #include "widgets/heading_grid.h"
+#include "widgets/mnemonics.h"
 #include "widgets/record_list.h"
 #include "widgets/theme.h"
 
@@ -161,7 +162,7 @@ void CityPanel::scopeChanged()
         national ? tr("Selected Top National Cities") : tr("Selected Top International Cities"));
     if (auto* group = qobject_cast<QGroupBox*>(DataGrid->parentWidget()))
         group->setTitle(DataGrid->accessibleName());
-    m_placeLabel->setText(national ? tr("&State") : tr("Co&untry"));
+    widgets::setCaption(m_placeLabel, national ? tr("&State") : tr("Co&untry"));
     m_place->setAccessibleName(national ? tr("State") : tr("Country"));
     {
         const QSignalBlocker quiet(m_place);
