@@ -61,10 +61,7 @@ bool RecordEditor::write(jet::Recordset& stored, const QList<ColumnEdit>& edits)
 {
     stored.edit();
     m_loaded.assign(stored, edits);
-    if (stored.update())
-        return true;
-    tellFailedSave(m_context);
-    return false;
+    return stored.update();
 }
 
 RecordEditor::Outcome RecordEditor::store(const QList<ColumnEdit>& edits) const
@@ -76,7 +73,12 @@ RecordEditor::Outcome RecordEditor::store(const QList<ColumnEdit>& edits) const
     }
     if (!row.hasRow())
         return Outcome::Gone;
-    return mayOverwrite(row, edits) && write(row, edits) ? Outcome::Stored : Outcome::NotStored;
+    if (!mayOverwrite(row, edits))
+        return Outcome::NotStored;
+    if (write(row, edits))
+        return Outcome::Stored;
+    tellFailedSave(m_context);
+    return Outcome::NotStored;
 }
 
 void RecordEditor::sayGone() const

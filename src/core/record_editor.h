@@ -25,7 +25,8 @@ public:
     void take(const jet::Recordset& row); ///< one that the form has read itself
     void startNew();
 
-    /// The three steps of store(), for a save that does more between them.
+    /// The three steps of store(), for a save that does more between them. A failure of the last is told by
+    /// the caller, when nothing of the save is under way any more.
     jet::Recordset open() const;
     bool mayOverwrite(const jet::Recordset& stored, const QList<ColumnEdit>& edits) const;
     bool write(jet::Recordset& stored, const QList<ColumnEdit>& edits) const;

@@ -499,13 +499,17 @@ qint64 FormMain::add(const FormValues& values, const QString& name)
     StoredPhoto photo = m_photo->store();
     FormValues stored = values;
     stored.texts[u"Photo"_s] = photo.path();
-    jet::Step step(context().data, {});
-    step.follow(photo.follower());
-    const qint64 id = addContact(
-        context(), newContactOf(m_variant, values, name), [this, &stored, &name](jet::Recordset& rows) {
-            assign(rows, m_variant.addColumns, stored, saveOptions(name));
-        });
-    if (id != 0)
+    const qint64 id = [&] {
+        jet::Step step(context().data, {});
+        step.follow(photo.follower());
+        return addContact(
+            context(), newContactOf(m_variant, values, name), [this, &stored, &name](jet::Recordset& rows) {
+                assign(rows, m_variant.addColumns, stored, saveOptions(name));
+            });
+    }();
+    if (id == 0)
+        core::tellFailedSave(context());
+    else
         photo.keep();
     return id;
 }
@@ -529,10 +533,15 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
                 }});
     if (!m_editor.mayOverwrite(rows, edits))
         return 0;
-    jet::Step step(context().data, {});
-    step.follow(photo.follower());
-    if (!m_editor.write(rows, edits))
+    const bool isStored = [&] {
+        jet::Step step(context().data, {});
+        step.follow(photo.follower());
+        return m_editor.write(rows, edits);
+    }();
+    if (!isStored) {
+        core::tellFailedSave(context());
         return 0;
+    }
     photo.keep();
     applyEditEffects(context(), m_variant, values, name, m_editor.id());
     return m_editor.id();

@@ -1,7 +1,6 @@
 #include "entry/form/save_effects.h"
 
 #include "core/mail_key.h"
-#include "core/save_failure.h"
 #include "core/settings.h"
 #include "entry/form/entered_contact.h"
 #include "platform/clock.h"
@@ -63,10 +62,8 @@ qint64 addContact(
         core::addSchedulerRows(context.data,
             core::schedulerRows(contact.dates, context.services.clock.today().year(), contact.family));
     }
-    if (!batch.commit() || id == 0) {
-        core::tellFailedSave(context);
+    if (!batch.commit() || id == 0)
         return 0;
-    }
     if (reachesOthers) {
         contact.mail.key = core::mailKeyOf(id);
         platform::MailContacts& client = context.services.mailContacts;

@@ -31,7 +31,7 @@ struct NewContact {
 NewContact newContactOf(const FormVariant& variant, const FormValues& values, const QString& name);
 
 /// Stores a new contact and its rows of the scheduler, all or nothing, then what it brings outside the book.
-/// A failure is told to the person.
+/// A failure is told by the caller, when its own step is closed.
 /// @param assign fills the columns of the new row
 /// @return the number of the contact, 0 when it was not stored
 qint64 addContact(

@@ -9,6 +9,7 @@
 #include "core/list_presenter.h"
 #include "core/merged_category.h"
 #include "core/screens.h"
+#include "core/save_failure.h"
 #include "core/settings.h"
 #include "core/sound_files.h"
 #include "core/touched_fields.h"
@@ -370,10 +371,13 @@ qint64 FrmContacts::add(const FormValues& now)
     contact.dates.last = contact.mail.last;
     contact.dates.birthday = now.date(u"DateBday");
     const SaveOptions options{contact.name, context().services.clock.today(), shared().ContMerge};
-    return addContact(context(), contact, [&](jet::Recordset& rows) {
+    const qint64 id = addContact(context(), contact, [&](jet::Recordset& rows) {
         assign(rows, simpleColumns(), stored, options);
         assign(rows, simpleColumnsOfNew(), stored, options);
     });
+    if (id == 0)
+        core::tellFailedSave(context());
+    return id;
 }
 
 qint64 FrmContacts::change(const FormValues& now)

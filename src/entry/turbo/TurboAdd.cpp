@@ -2,6 +2,7 @@
 
 #include "core/date_patterns.h"
 #include "core/frame.h"
+#include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
 #include "entry/assists/city_chain.h"
@@ -285,9 +286,13 @@ bool TurboAdd::mayBeNameless()
 bool TurboAdd::store()
 {
     const FormValues values = m_boxes->values();
-    return addContact(context(), newTurboContact(values), [this, &values](jet::Recordset& rows) {
+    const auto fill = [this, &values](jet::Recordset& rows) {
         assign(rows, turboColumns(), values, {turboName(values), context().services.clock.today(), true});
-    }) != 0;
+    };
+    if (addContact(context(), newTurboContact(values), fill) != 0)
+        return true;
+    core::tellFailedSave(context());
+    return false;
 }
 
 bool TurboAdd::isTouched() const
