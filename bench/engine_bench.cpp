@@ -422,7 +422,7 @@ private:
                 u"SELECT id, name FROM cnt_main WHERE DateModi >= '2024-05-20' ORDER BY DateModi DESC, id DESC"_s},
             {u"selector: sorted by last change",
                 u"Select id,format(DateModi,'mmm-yyyy') ,name from cnt_main order by DateModi desc ,name"_s,
-                u"SELECT id, DateModi, name FROM cnt_main ORDER BY DateModi DESC, name"_s},
+                u"SELECT id, strftime('%m-%Y', DateModi), name FROM cnt_main ORDER BY DateModi DESC, name"_s},
         };
         for (const List& list : lists) {
             same(list.name.toString(), openList(m_book, list.ours), m_plain->walk(list.plain));

@@ -171,9 +171,7 @@ QString isoDate(QDate date, QTime time)
 {
     if (!date.isValid())
         return {};
-    QString iso = u"%1-%2-%3"_s.arg(date.year(), 4, 10, QChar(u'0'))
-                      .arg(date.month(), 2, 10, QChar(u'0'))
-                      .arg(date.day(), 2, 10, QChar(u'0'));
+    QString iso = formatDate(date, u"yyyy-mm-dd");
     if (time.isValid() && (time != QTime(0, 0) || date == QDate(1899, 12, 30)))
         iso += u' ' + time.toString(u"HH:mm:ss"_s);
     return iso;
@@ -205,20 +203,24 @@ QString formatDate(QDate date, QStringView pattern)
         return {};
     const QStringView month = kMonths[size_t(date.month() - 1)];
     QString result;
+    const auto number = [&result](int value, qsizetype digits) {
+        result += QString::number(value).rightJustified(digits, u'0');
+    };
     for (qsizetype at = 0; at < pattern.size();) {
         const QChar letter = pattern[at].toLower();
         qsizetype run = 1;
         while (at + run < pattern.size() && pattern[at + run].toLower() == letter)
             ++run;
         if (letter == u'd' && run <= 2)
-            result += u"%1"_s.arg(date.day(), int(run), 10, QChar(u'0'));
+            number(date.day(), run);
         else if (letter == u'm' && run <= 2)
-            result += u"%1"_s.arg(date.month(), int(run), 10, QChar(u'0'));
+            number(date.month(), run);
         else if (letter == u'm')
             result += run == 3 ? month.left(3) : month;
+        else if (letter == u'y' && run <= 2)
+            number(date.year() % 100, 2);
         else if (letter == u'y')
-            result += run <= 2 ? u"%1"_s.arg(date.year() % 100, 2, 10, QChar(u'0'))
-                               : u"%1"_s.arg(date.year(), 4, 10, QChar(u'0'));
+            number(date.year(), 4);
         else
             result += pattern.mid(at, run);
         at += run;
