@@ -1,5 +1,7 @@
 #include "widgets/alphabet_tabs.h"
 
+#include "widgets/look_style.h"
+
 #include <QSignalBlocker>
 
 namespace widgets {
@@ -10,6 +12,7 @@ AlphabetTabs::AlphabetTabs(QWidget* parent)
     setExpanding(false);
     setDrawBase(false);
     setUsesScrollButtons(true);
+    setProperty(kNarrowTabs, true);
     setLabels(alphabet(tr("All")));
     connect(this, &QTabBar::currentChanged, this, [this] { Q_EMIT labelChosen(currentLabel()); });
     connect(this, &QTabBar::tabBarClicked, this, [this](int tab) {

@@ -4,6 +4,7 @@
 #include "widgets/filled_combo.h"
 #include "widgets/line_guard.h"
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -94,9 +95,21 @@ FormKit& FormKit::nextColumn(int stretch)
     m_column = new QVBoxLayout;
     m_column->setSpacing(BetweenGroups);
     m_column->addStretch(1);
-    m_columns->addLayout(m_column, stretch);
+    if (m_wrapped)
+        m_wrapped->add(m_column, stretch);
+    else
+        m_columns->addLayout(m_column, stretch);
     m_group = nullptr;
     m_buttons = nullptr;
+    return *this;
+}
+
+FormKit& FormKit::wrap()
+{
+    Q_ASSERT_X(!m_column, "FormKit::wrap", "there is a column already");
+    m_wrapped = new WrappingRow;
+    m_wrapped->setSpacing(BetweenColumns);
+    m_columns->addLayout(m_wrapped);
     return *this;
 }
 
@@ -138,6 +151,13 @@ FormKit& FormKit::beside(int stretch)
 {
     Q_ASSERT_X(m_row || m_buttons, "FormKit::beside", "there is no control before");
     m_beside = stretch;
+    return *this;
+}
+
+FormKit& FormKit::grow(int stretch)
+{
+    Q_ASSERT(m_row && last());
+    m_row->setStretchFactor(last(), stretch);
     return *this;
 }
 

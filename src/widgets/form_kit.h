@@ -18,6 +18,8 @@ class QWidget;
 
 namespace widgets {
 
+class WrappingRow;
+
 /// One control of a form, and the column that it shows ("" when it shows none).
 struct Control {
     QString name;
@@ -45,10 +47,15 @@ public:
     FormKit& group(const QString& title = {});
     /// The groups that follow stand to the right of those so far.
     FormKit& nextColumn(int stretch = 1);
+    /// Before the first group: where the page is too narrow for all columns they go on below one another. The
+    /// page must be one that scrolls.
+    FormKit& wrap();
     /// The buttons that follow stand in a row below all columns, until the next group.
     FormKit& buttonRow();
     /// Puts the next control into the row of the previous one; its label, if any, stands between them.
     FormKit& beside(int stretch = 1);
+    /// The control before takes as many shares of the room in its row.
+    FormKit& grow(int stretch);
     /// Takes up the room that is left: below the group so far, or between the buttons of a button row.
     FormKit& stretch();
 
@@ -98,6 +105,7 @@ private:
     SizeOf m_sizeOf;
     QVBoxLayout* m_outer;
     QHBoxLayout* m_columns; ///< of groups, side by side
+    WrappingRow* m_wrapped = nullptr; ///< in place of them
     QVBoxLayout* m_column = nullptr;
     QWidget* m_group = nullptr;
     QGridLayout* m_grid = nullptr;

@@ -1,5 +1,6 @@
 #include "widgets/heading_grid.h"
 
+#include "widgets/line_delegate.h"
 #include "widgets/rows_model.h"
 #include "widgets/theme.h"
 
@@ -9,7 +10,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
@@ -20,100 +20,12 @@ namespace widgets {
 
 namespace {
 
-constexpr int CellPadding = 14;
 constexpr int RowPadding = 8;
 constexpr int WidestMargin = 2; ///< characters of a column that shows nothing
-constexpr int BranchMargin = 4;
-constexpr int BranchWidth = 14; ///< of the mark that folds a group
 constexpr int OrdinarySize = 8; ///< of a grid whose texts are as large as all others
 constexpr auto SizeProperty = "orvaneGridFont"; ///< of the application object
 
 } // namespace
-
-/// Paints headings over the whole width, and leaves out what stands in the heading or the merged cell above.
-class HeadingGrid::LineDelegate : public QStyledItemDelegate {
-public:
-    explicit LineDelegate(HeadingGrid* grid)
-        : QStyledItemDelegate(grid)
-        , m_grid(grid)
-    {
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        if (m_grid->m_model->isHeading(index.row()))
-            paintHeading(painter, option, index.row());
-        else
-            QStyledItemDelegate::paint(painter, option, index);
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (isPaintedAbove(index))
-            option->text.clear();
-    }
-
-private:
-    bool isPaintedAbove(const QModelIndex& index) const
-    {
-        const RowsModel* model = m_grid->m_model;
-        if (index.column() == model->groupColumn())
-            return true;
-        if (index.row() == m_grid->rowAt(0) || !isMerged(index.column()))
-            return false;
-        // As in a tree, a text that follows from another one is the same only below the same other one.
-        for (int column = 0; column <= index.column(); ++column) {
-            const bool counts = !m_grid->isColumnHidden(column) && !model->showsNothing(column);
-            if (counts && !model->repeatsAbove(index.siblingAtColumn(column)))
-                return false;
-        }
-        return true;
-    }
-
-    bool isMerged(int column) const
-    {
-        return std::any_of(m_grid->m_merged.cbegin(), m_grid->m_merged.cend(),
-            [&](const QString& name) { return m_grid->m_model->columnOf(name) == column; });
-    }
-
-    void paintHeading(QPainter* painter, const QStyleOptionViewItem& option, int line) const
-    {
-        const RowsModel* model = m_grid->m_model;
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        painter->save();
-        painter->setClipRect(option.rect);
-        painter->fillRect(
-            option.rect, option.palette.brush(selected ? QPalette::Highlight : QPalette::Button));
-
-        const int group = model->groupOf(line);
-        const QRect row(-m_grid->horizontalScrollBar()->value(), option.rect.top(),
-            m_grid->viewport()->width() + m_grid->horizontalScrollBar()->value(), option.rect.height());
-        QStyleOptionViewItem branch = option;
-        branch.rect = QRect(row.left() + BranchMargin, row.top(), BranchWidth, row.height());
-        branch.state = QStyle::State_Enabled | QStyle::State_Children;
-        branch.state.setFlag(QStyle::State_Open, !model->isFolded(group));
-        if (selected) {
-            for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-                branch.palette.setColor(role, option.palette.color(QPalette::HighlightedText));
-        }
-        m_grid->style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, m_grid);
-
-        QFont bold = option.font;
-        bold.setBold(true);
-        painter->setFont(bold);
-        painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::ButtonText));
-        QString text = model->index(line, model->groupColumn()).data().toString();
-        if (!model->isOutlining())
-            text += u"   (%1)"_s.arg(model->rowsIn(group));
-        painter->drawText(row.adjusted(2 * BranchMargin + BranchWidth, 0, 0, 0),
-            Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
-        painter->restore();
-    }
-
-    HeadingGrid* m_grid;
-};
 
 int gridFontSize()
 {
@@ -542,8 +454,15 @@ void HeadingGrid::fitToContent()
     const QFontMetrics metrics(font());
     const int widest = WidestColumn * metrics.averageCharWidth();
     const QList<Heading>& headings = m_model->headings();
+    const auto isFitted = [&](int column) {
+        return !headings[column].text.isEmpty() && !m_model->showsNothing(column) && !isColumnHidden(column);
+    };
+    int fitted = 0;
+    for (int column = 0; column < headings.size(); ++column)
+        fitted += isFitted(column) ? 1 : 0;
+    const bool isAlone = fitted == 1;
     for (int column = 0; column < headings.size(); ++column) {
-        if (headings[column].text.isEmpty() || m_model->showsNothing(column) || isColumnHidden(column))
+        if (!isFitted(column))
             continue;
         int content = 0;
         const bool paintsTexts = column != m_model->groupColumn();
@@ -554,7 +473,9 @@ void HeadingGrid::fitToContent()
             }
         }
         const int written = horizontalHeader()->sectionSizeHint(column);
-        const int wanted = std::max(written, std::min(content, widest) + CellPadding);
+        // A column that stands alone ends where the grid does, rather than that the grid scrolls sideways.
+        const int most = isAlone ? std::min(widest, viewport()->width() - CellPadding) : widest;
+        const int wanted = std::max(written, std::min(content, most) + CellPadding);
         setColumnWidth(column, m_hasFitted ? std::max(wanted, columnWidth(column)) : wanted);
     }
     m_hasFitted = true;

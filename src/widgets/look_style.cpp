@@ -189,7 +189,12 @@ QPixmap LookStyle::standardPixmap(
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     constexpr int EasyToHit = 24;
-    return metric == PM_ToolBarExtensionExtent ? EasyToHit : QProxyStyle::pixelMetric(metric, option, widget);
+    constexpr int Narrow = 17;
+    if (metric == PM_ToolBarExtensionExtent)
+        return EasyToHit;
+    if (metric == PM_TabBarTabHSpace && widget && widget->property(kNarrowTabs).toBool())
+        return Narrow;
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int LookStyle::styleHint(

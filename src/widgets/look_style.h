@@ -4,6 +4,9 @@
 
 namespace widgets {
 
+/// Under this property a bar of tabs says that they stand close together.
+inline constexpr char kNarrowTabs[] = "narrowTabs";
+
 /// Fusion with clear outlines. Fusion derives them from the window's colour, and on a dark window they
 /// vanish: fields have no edge and an unticked box can not be seen. The icons that Qt asks a style for are
 /// our own. Labels and tool tips show their text as it is: what a person stored is never markup.

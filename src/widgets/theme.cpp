@@ -95,15 +95,26 @@ QPalette paletteOf(const Colours& colours)
 QString styleSheetOf(const Colours& colours)
 {
     QString sheet = uR"(
-QToolBar { border: none; border-bottom: 1px solid @line; spacing: 2px; padding: 3px; }
+QToolBar { border: none; border-bottom: 1px solid @line; spacing: 1px; padding: 3px; }
+QFrame[continuesBar="true"] { border: none; border-bottom: 1px solid @line; }
 QToolBar::separator { background: @line; width: 1px; margin: 5px 4px; }
 QToolBar QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 4px; }
-QToolBar QToolButton[popupMode="1"] { padding-right: 18px; }
-QToolBar QToolButton::menu-button { border: none; width: 16px; border-radius: 5px; }
+QToolBar QToolButton[popupMode="1"] { padding-right: 16px; }
+QToolBar QToolButton::menu-button { border: none; width: 15px; border-radius: 5px; }
 QToolBar QToolButton::menu-button:hover { background: @pressed; }
 QToolBar QToolButton:hover { background: @hover; }
 QToolBar QToolButton:pressed, QToolBar QToolButton:checked { background: @pressed; border-color: @line; }
 QToolBar QToolButton:focus { border-color: @accent; }
+QScrollBar { background: transparent; border: none; }
+QScrollBar:vertical { width: 13px; }
+QScrollBar:horizontal { height: 13px; }
+QScrollBar::handle { background: @edge; border-radius: 4px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 28px; }
+QScrollBar::handle:horizontal { min-width: 28px; }
+QScrollBar::handle:hover { background: @quiet; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QHeaderView { background: @window; }
 QHeaderView::section { background: @window; color: @quiet; border: none; border-bottom: 1px solid @line;
     padding: 4px 3px; font-weight: 600; }
@@ -131,6 +142,7 @@ QToolTip { background: @toolTip; color: @text; border: 1px solid @line; padding:
     const auto put
         = [&sheet](const QString& mark, QStringView colour) { sheet.replace(mark, colour.toString()); };
     put(u"@line"_s, colours.line);
+    put(u"@edge"_s, colours.edge);
     put(u"@hover"_s, faded(0.07));
     put(u"@pressed"_s, faded(0.14));
     put(u"@window"_s, colours.window);
