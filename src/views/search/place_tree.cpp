@@ -3,8 +3,10 @@
 #include "widgets/long_text.h"
 #include "widgets/theme.h"
 
+#include <QElapsedTimer>
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,10 @@ namespace {
 constexpr int PathRole = Qt::UserRole;
 constexpr int KeyRole = Qt::UserRole + 1;
 constexpr int FilledRole = Qt::UserRole + 2;
+
+constexpr int kStepMs = 25; ///< that the normalising may hold the window
+constexpr qint64 kFewest = 100; ///< contacts of a step
+constexpr qint64 kMost = 20'000;
 
 QStringList pathOf(const QTreeWidgetItem* item)
 {
@@ -67,28 +73,41 @@ void PlaceTree::timerEvent(QTimerEvent* event)
         QTreeWidget::timerEvent(event);
 }
 
-// Twelve passes over the book for nothing would cost the most where there is most to read, so one pass asks
-// first.
 void PlaceTree::normaliseSome()
 {
     if (std::exchange(m_isDue, false)) {
-        m_statements.clear();
-        if (m_book.openRecordset(unclassifiedSql()).textAt(0) != u"0")
-            m_statements = normalisingStatements();
+        m_unclassified = m_book.openRecordset(unclassifiedSql());
+        m_lookedAt = 0;
     }
-    const bool hadWork = !m_statements.isEmpty();
-    if (hadWork) {
-        const jet::Upkeep upkeep(m_book);
-        m_book.execute(m_statements.takeFirst());
-    }
-    if (!m_statements.isEmpty())
+    const bool isFilled = m_lookedAt > 0;
+    if (m_lookedAt < m_unclassified.count() && normaliseNext())
         return;
     m_upkeep.stop();
+    m_unclassified = {};
     m_normalised = m_book.state();
-    if (!hadWork)
+    if (!isFilled)
         return;
     grow();
     Q_EMIT normalised();
+}
+
+// False when it can not be written, which goes for the others, too.
+bool PlaceTree::normaliseNext()
+{
+    QElapsedTimer clock;
+    clock.start();
+    const int last = std::min(m_lookedAt + m_contactsAStep, m_unclassified.count()) - 1;
+    const jet::Upkeep upkeep(m_book);
+    jet::Batch batch(m_book);
+    for (const QString& statement :
+        normalisingStatements(m_unclassified.keyAt(m_lookedAt), m_unclassified.keyAt(last)))
+        m_book.execute(statement);
+    if (!batch.commit())
+        return false;
+    m_lookedAt = last + 1;
+    const qint64 took = std::max<qint64>(1, clock.elapsed());
+    m_contactsAStep = int(std::clamp<qint64>(m_contactsAStep * kStepMs / took, kFewest, kMost));
+    return true;
 }
 
 void PlaceTree::grow()

@@ -13,7 +13,7 @@ QString treeSearchTitle(TreeKind kind);
 
 /// The address book as a tree of categories and subcategories, or of regions, countries, states and cities. A
 /// branch is read when it is opened. Once a tree can be seen, "Undefined" is written where a column of it is
-/// empty, statement by statement, so that the window stays alive; then it is built again.
+/// empty, some contacts at a time, so that the window stays alive; then it is built again.
 class PlaceTree : public QTreeWidget {
     Q_OBJECT
 
@@ -39,6 +39,7 @@ protected:
 private:
     void grow();
     void normaliseSome();
+    bool normaliseNext();
     QTreeWidgetItem* node(const QString& text, const QStringList& path) const;
     void fill(QTreeWidgetItem* branch);
     QList<QStringList> openPaths() const;
@@ -47,7 +48,9 @@ private:
     jet::Database& m_book;
     QString m_normalised; ///< the state of the book when it was looked through last
     QBasicTimer m_upkeep;
-    QStringList m_statements; ///< of the normalising, those that are still to be run
+    jet::Recordset m_unclassified; ///< contacts that are being normalised
+    int m_lookedAt = 0; ///< so many of them
+    int m_contactsAStep = 1000;
     bool m_isDue = false; ///< the book is to be looked through when the tree has been seen
     TreeKind m_kind = TreeKind::Location;
 };

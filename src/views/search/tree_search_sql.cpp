@@ -163,12 +163,13 @@ QString placesSql(const QStringList& path)
 struct Normalised {
     QStringView column;
     QStringView empty; ///< the column whose empty text counts
+    bool alone = false; ///< in an index, which would be written for each row that any column is written of
 };
 
 constexpr Normalised kNormalised[] = {
-    {u"category1", u"category1"},
-    {u"category2", u"category2"},
-    {u"region", u"region"},
+    {u"category1", u"category1", true},
+    {u"category2", u"category2", true},
+    {u"region", u"region", true},
     {u"h_country", u"h_country"},
     // Kept: the empty text is looked for in the country of the home, so an empty one at work stays.
     {u"w_country", u"h_country"},
@@ -181,9 +182,10 @@ constexpr Normalised kNormalised[] = {
     {u"b_city", u"b_city"},
 };
 
-QString unclassified(const Normalised& row)
+/// What is still to be filled in when the columns before have been.
+QString isToFill(const Normalised& row)
 {
-    return row.empty.toString() + u"='' or "_s + row.column.toString() + u" is null"_s;
+    return (row.empty == row.column ? u"%1='' or %1 is null"_s : u"%1 is null"_s).arg(row.column);
 }
 
 constexpr TreeList kLists[] = {
@@ -320,16 +322,26 @@ QString unclassifiedSql()
     QStringList terms;
     for (const Normalised& row : kNormalised)
         terms << u"len(%1)=0 or %2 is null"_s.arg(row.empty, row.column);
-    return u"select count(*) from cnt_main where "_s + terms.join(u" or "_s);
+    return u"select id from cnt_main where "_s + terms.join(u" or "_s);
 }
 
-QStringList normalisingStatements()
+QStringList normalisingStatements(qint64 first, qint64 last)
 {
+    const auto within = [first, last](const QStringList& terms) {
+        return u" where id between %1 and %2 and (%3)"_s.arg(first).arg(last).arg(terms.join(u" or "_s));
+    };
     QStringList statements;
-    for (const Normalised& row : kNormalised)
-        statements << u"Update cnt_main  set "_s + row.column.toString() + u"='Undefined' where "_s
-                + unclassified(row);
-    return statements;
+    QStringList columns;
+    QStringList terms;
+    for (const Normalised& row : kNormalised) {
+        if (row.alone) {
+            statements << u"Update cnt_main set %1='Undefined'"_s.arg(row.column) + within({isToFill(row)});
+            continue;
+        }
+        columns << u"%1=iif(%2,'Undefined',%1)"_s.arg(row.column, isToFill(row));
+        terms << isToFill(row);
+    }
+    return statements << u"Update cnt_main set "_s + columns.join(u", "_s) + within(terms);
 }
 
 std::span<const TreeList> treeLists()

@@ -57,11 +57,10 @@ int treeDepth(TreeKind kind);
 /// The statement behind the branches of a node that is no leaf.
 QString treeBranchesSql(TreeKind kind, const QStringList& path);
 
-/// How many contacts the normalising statements have something to do for: one pass over the book in place of
-/// twelve.
+/// The ids of the contacts that have an empty category or place. An index holds them: none, as a rule.
 QString unclassifiedSql();
-/// Writes "Undefined" where a column of the trees is empty, so that every contact stands under some branch.
-QStringList normalisingStatements();
+/// Writes "Undefined" into what is empty of the contacts with these ids: all in one go would hold the window.
+QStringList normalisingStatements(qint64 first, qint64 last);
 
 /// The lists behind the combos of the advanced search, by the combo's name.
 struct TreeList {
