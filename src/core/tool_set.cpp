@@ -1,6 +1,7 @@
 #include "core/tool_set.h"
 
 #include "core/screens.h"
+#include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
 
 #include <QAction>
@@ -71,6 +72,7 @@ QToolBar* ToolSet::makeToolBar(QWidget* parent) const
     auto* bar = new QToolBar(parent);
     bar->setIconSize({20, 20});
     addTo(bar);
+    widgets::letTextsGiveWay(bar);
     return bar;
 }
 

@@ -3,6 +3,7 @@
 #include "widgets/fields.h"
 #include "widgets/long_text.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +32,11 @@ void showFieldLabel(const QWidget* page, const QString& field, const QString& te
     label->setText(shown.replace(u"&"_s, u"&&"_s));
     label->setToolTip(text.size() > kMost ? widgets::tipOf(text) : QString());
     widgets::child<QWidget>(page, field)->setAccessibleName(text);
+}
+
+QString workTitle(int number)
+{
+    return QCoreApplication::translate("views", "Work %1 (elsewhere Work %2)").arg(number).arg(3 - number);
 }
 
 } // namespace views

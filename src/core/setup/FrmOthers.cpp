@@ -8,7 +8,9 @@
 #include "core/setup/list_panel.h"
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"
+#include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -40,6 +42,7 @@ FrmOthers::FrmOthers(core::Context& context, QWidget* parent)
     setWindowTitle(tr("Address Book Setup"));
     sstab1->setObjectName(u"sstab1"_s);
     sstab1->setAccessibleName(tr("Subjects"));
+    widgets::letIconsGiveWay(sstab1);
     addTab(new DefaultPanel(context), tr("Default"), u"setup");
     addTab(listsPage(ListTab::SavedCalls), tr("Saved Calls"), u"phone");
     addTab(listsPage(ListTab::Personal), tr("Personal"), u"family");
@@ -80,7 +83,7 @@ void FrmOthers::addTab(QWidget* page, const QString& caption, QStringView icon)
 QWidget* FrmOthers::listsPage(ListTab tab)
 {
     auto* page = new QWidget;
-    auto* layout = new QHBoxLayout(page);
+    auto* layout = new widgets::WrappingRow(page);
     layout->setContentsMargins(6, 0, 6, 0);
     layout->setSpacing(0);
     QList<const WordList*> lists;
@@ -92,7 +95,7 @@ QWidget* FrmOthers::listsPage(ListTab tab)
         auto* panel = new ListPanel(context(), ofPanel);
         panel->setMaximumWidth(kWidestList);
         watch(panel);
-        layout->addWidget(panel, 1);
+        layout->add(panel);
     };
     // Lists with the same buttons share a panel.
     if (lists.size() > 1 && lists[0]->saveButton == lists[1]->saveButton) {
@@ -102,9 +105,7 @@ QWidget* FrmOthers::listsPage(ListTab tab)
             add({list});
     }
     if (tab == ListTab::General)
-        layout->addWidget(addresses(), 2);
-    else
-        layout->addStretch(0);
+        layout->add(addresses(), 2);
     return page;
 }
 

@@ -22,6 +22,7 @@
 #include "platform/special_folders.h"
 #include "widgets/heading_grid.h"
 #include "widgets/mnemonics.h"
+#include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
 
 #include <QAction>
@@ -224,6 +225,7 @@ void MDIForm1::buildToolBar()
             [tool, placed] { placed->setVisible(tool->isVisible()); });
         placed->setVisible(tool->isVisible());
     }
+    widgets::letTextsGiveWay(SSActiveToolBars1);
 }
 
 void MDIForm1::fillMenu(QMenu* menu, std::span<const MenuRow> rows)
@@ -403,6 +405,7 @@ void MDIForm1::place(core::Screen* screen, core::Shown shown)
             disconnect(screen, nullptr, this, nullptr);
             showTabOrStartPage();
         }
+        widgets::settleMnemonics(screen, {});
         (new ScreenDialog(screen, this))->open();
         return;
     } else {
@@ -417,7 +420,7 @@ void MDIForm1::addTab(core::Screen* screen)
     widgets::settleMnemonics(screen, menuLetters());
     m_tabs->setCurrentIndex(m_tabs->addTab(screen, {}));
     const auto name = [this, screen] {
-        m_tabs->setTabText(m_tabs->indexOf(screen), nameOfTab(screen));
+        m_tabs->setTabText(m_tabs->indexOf(screen), nameOf(screen).replace(u'&', u"&&"_s)); // no mnemonic
         showHead();
     };
     name();
@@ -427,16 +430,15 @@ void MDIForm1::addTab(core::Screen* screen)
         screen, &core::Screen::closeRequested, this, [this, screen] { closeTab(m_tabs->indexOf(screen)); });
 }
 
-// One name in tab and title, but where two screens share a title: there each has its own.
-QString MDIForm1::nameOfTab(core::Screen* screen) const
+// One name in tab and title. Where two screens share a title each has its own.
+QString MDIForm1::nameOf(const core::Screen* screen) const
 {
-    QString name = screen->frameTitle();
     for (int i = 0; i < m_tabs->count(); ++i) {
         const auto* other = qobject_cast<core::Screen*>(m_tabs->widget(i));
-        if (other && other != screen && other->frameTitle() == name)
-            name = screen->windowTitle();
+        if (other && other != screen && other->frameTitle() == screen->frameTitle())
+            return screen->windowTitle();
     }
-    return name.replace(u'&', u"&&"_s); // it is no mnemonic
+    return screen->frameTitle();
 }
 
 core::Screen* MDIForm1::screenInFront() const
@@ -481,7 +483,7 @@ void MDIForm1::showTabOrStartPage()
 void MDIForm1::showHead()
 {
     const core::Screen* screen = screenInFront();
-    const QString title = screen ? screen->frameTitle() : QString();
+    const QString title = screen ? nameOf(screen) : QString();
     const QString program = tr("Orvane Contacts");
     setWindowTitle(title.startsWith(program) ? title
             : title.isEmpty()                ? program

@@ -70,7 +70,7 @@ private:
     void deleteInFront();
     void openLastScreens();
     core::Screen* screenInFront() const;
-    QString nameOfTab(core::Screen* screen) const;
+    QString nameOf(const core::Screen* screen) const;
     void showTabOrStartPage();
     void showHead(); ///< title and position of the screen in front
     void showToday();

@@ -44,7 +44,7 @@ ListBar::ListBar(const IsAvailable& isAvailable, QWidget* parent)
         QFont bold = font();
         bold.setBold(true);
         top->setFont(0, bold);
-        top->setSizeHint(0, QSize(0, 30));
+        top->setSizeHint(0, QSize(0, 26));
         for (const ListBarRow& row : area.rows) {
             auto* item = new QTreeWidgetItem(top, {translated(row.caption)});
             item->setData(0, kKind, int(row.kind));

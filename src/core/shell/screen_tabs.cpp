@@ -30,7 +30,6 @@ ScreenTabs::ScreenTabs(QWidget* parent)
     auto* menu = new QMenu(m_list);
     m_list->setMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, &ScreenTabs::listTabs);
-    setCornerWidget(m_list);
     m_list->hide();
 }
 
@@ -50,12 +49,19 @@ bool ScreenTabs::eventFilter(QObject* watched, QEvent* event)
 void ScreenTabs::tabInserted(int index)
 {
     QTabWidget::tabInserted(index);
-    m_list->setVisible(count() > 1);
+    offerList();
 }
 
 void ScreenTabs::tabRemoved(int index)
 {
     QTabWidget::tabRemoved(index);
+    offerList();
+}
+
+// A hidden widget in the corner would leave a hole in the line below the tabs.
+void ScreenTabs::offerList()
+{
+    setCornerWidget(count() > 1 ? m_list : nullptr);
     m_list->setVisible(count() > 1);
 }
 

@@ -21,6 +21,7 @@ protected:
 
 private:
     void listTabs();
+    void offerList();
 
     QToolButton* m_list;
 };

@@ -28,6 +28,7 @@ ToolActions::ToolActions(const IsAvailable& isAvailable, QWidget* window)
         auto* menu = new QMenu(QCoreApplication::translate("shell", group.caption), window);
         menu->setObjectName(u"page_"_s + group.page.toString());
         menu->setToolTipsVisible(true);
+        menu->setWindowTitle(menu->title());
         menu->setIcon(widgets::icon(group.icon));
         m_pages.insert(group.page.toString(), menu);
         for (const Tool& tool : group.tools) {

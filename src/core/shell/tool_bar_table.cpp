@@ -19,7 +19,7 @@ constexpr Tool AddTools[] = {
         QT_TRANSLATE_NOOP("shell", "Type many contacts one below another, as in a table"), u"list"},
     {u"TurboAdd", QT_TRANSLATE_NOOP("shell", "Contacts Turbo Add"),
         QT_TRANSLATE_NOOP("shell", "Add a contact with the fewest keys: autotext fills the rest"),
-        u"person-add", u"Ctrl+Shift+N"},
+        u"person-add", u"Ctrl+Shift+T"},
     {u"AddBus", QT_TRANSLATE_NOOP("shell", "Contacts Business Add/Edit"),
         QT_TRANSLATE_NOOP("shell", "A short form for firms and business contacts"), u"work"},
     {u"RecDupe", QT_TRANSLATE_NOOP("shell", "Record Duplicator"),

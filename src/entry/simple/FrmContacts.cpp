@@ -82,14 +82,14 @@ FrmContacts::FrmContacts(core::Context& context, QWidget* parent)
     DBList1->setObjectName(u"DBList1"_s);
     DBList1->setAccessibleName(tr("Contacts"));
     DBList1->setEmptyText(tr("No contacts yet"));
-    DBList1->setMinimumWidth(200);
+    DBList1->setMinimumWidth(180);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(DBList1);
     splitter->addWidget(layOutForm());
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({240, 700});
+    splitter->setSizes({185, 755});
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->addWidget(splitter);
@@ -138,7 +138,7 @@ void FrmContacts::layOutName(QWidget* page)
     form.group(tr("Note"));
     form.memo(u"txtMemo"_s, {}, u"memo1"_s, 4);
     form.last()->setAccessibleName(tr("Note"));
-    form.nextColumn()
+    form.nextColumn(2)
         .group(tr("Phone and e-mail"))
         .line(u"txtMobile"_s, tr("&Mobile"), u"Mobile"_s)
         .line(u"txtstd"_s, tr("&Home"), u"h_std"_s, widgets::KeyFilter::NoLetters)

@@ -153,6 +153,7 @@ TurboBoxes::TurboBoxes(const FormKit::SizeOf& sizeOf, QWidget* parent)
 void TurboBoxes::layOut(QWidget* page, const FormKit::SizeOf& sizeOf)
 {
     FormKit kit(page, sizeOf);
+    kit.wrap();
     personColumn(kit);
     homeColumn(kit);
     workColumn(kit);

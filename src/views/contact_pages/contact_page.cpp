@@ -79,28 +79,35 @@ void ContactPage::changeEvent(QEvent* event)
 
 void ContactPage::render()
 {
-    m_links.clear();
     m_wide = viewport()->width() >= kWidthOfTwoColumns;
+    setHtml(html(m_wide));
+    // A long word, such as an e-mail address, is never broken.
+    if (m_wide && document()->size().width() > viewport()->width())
+        setHtml(html(false));
+}
+
+QString ContactPage::html(bool inTwoColumns)
+{
+    m_links.clear();
     qsizetype all = 0;
     for (const NoteSection& section : std::as_const(m_sections))
         all += heightOf(section);
     QString columns[2];
     qsizetype used = 0;
     for (const NoteSection& section : std::as_const(m_sections)) {
-        const bool right = m_wide && 2 * used >= all;
+        const bool right = inTwoColumns && 2 * used >= all;
         QString& column = columns[right ? 1 : 0];
         column += sectionHtml(section, column.isEmpty());
         used += heightOf(section);
     }
-    QString html = columns[0];
-    if (m_wide)
-        html = u"<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\"><tr>"
-               u"<td width=\"50%\">%1</td><td width=\"24\"></td><td width=\"50%\">%2</td></tr></table>"_s.arg(
-                   columns[0], columns[1]);
     if (m_sections.isEmpty())
-        html = u"<p style=\"color:%1\">%2</p>"_s.arg(
+        return u"<p style=\"color:%1\">%2</p>"_s.arg(
             widgets::quietTextColor().name(), tr("There is nothing to read in this view.").toHtmlEscaped());
-    setHtml(html);
+    if (!inTwoColumns)
+        return columns[0];
+    return u"<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\"><tr>"
+           u"<td width=\"50%\">%1</td><td width=\"24\"></td><td width=\"50%\">%2</td></tr></table>"_s.arg(
+               columns[0], columns[1]);
 }
 
 QString ContactPage::sectionHtml(const NoteSection& section, bool isFirst)

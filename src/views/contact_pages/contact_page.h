@@ -28,6 +28,7 @@ protected:
 
 private:
     void render();
+    QString html(bool inTwoColumns);
     QString sectionHtml(const NoteSection& section, bool isFirst);
     QString htmlOf(const NoteText& text);
     void followLink(const QUrl& link);

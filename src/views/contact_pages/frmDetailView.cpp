@@ -90,7 +90,8 @@ QWidget* frmDetailView::layOutHead()
 void frmDetailView::layOutContact(QWidget* page)
 {
     FormKit form(page);
-    form.group(tr("Person"))
+    form.wrap()
+        .group(tr("Person"))
         .readOnly(u"dtcmbfname"_s, tr("First name"))
         .readOnly(u"dtcmblname"_s, tr("Last name"))
         .readOnly(u"txtcmpny"_s, tr("Company"))
@@ -118,6 +119,7 @@ void frmDetailView::layOutContact(QWidget* page)
         .readOnly(u"txtadd1"_s, tr("Address"))
         .readOnly(u"txtadd2"_s, {})
         .readOnly(u"dtcmbcity"_s, tr("City"))
+        .grow(2)
         .beside()
         .readOnly(u"dtcmbpin"_s, tr("Pin"))
         .least(kPin)
@@ -148,9 +150,10 @@ void frmDetailView::layOutFamily(QWidget* page)
         {tr("Child 3"), u"dtckid3"_s, u"datekid3"_s, u"lblk3age"_s},
     };
     FormKit form(page);
-    form.group(tr("Family"));
+    form.wrap().group(tr("Family"));
     for (const Relative& relative : relatives) {
         form.readOnly(relative.name, relative.label)
+            .grow(3)
             .beside()
             .readOnly(relative.date, tr("born"))
             .least(kDate)
@@ -175,12 +178,14 @@ void frmDetailView::layOutFamily(QWidget* page)
 void frmDetailView::layOutBusiness(QWidget* page)
 {
     FormKit form(page);
-    form.group(tr("Work 1"))
+    form.wrap()
+        .group(tr("Work 1"))
         .readOnly(u"dtcmbjob"_s, tr("Job title"))
         .readOnly(u"txtbaddty"_s, tr("Type"))
         .readOnly(u"txtbadd1"_s, tr("Address"))
         .readOnly(u"txtbadd2"_s, {})
         .readOnly(u"dtcmbbcity"_s, tr("City"))
+        .grow(2)
         .beside()
         .readOnly(u"dtcmbbpin"_s, tr("Pin"))
         .least(kPin)
@@ -198,6 +203,7 @@ void frmDetailView::layOutBusiness(QWidget* page)
         .readOnly(u"txtwadd1"_s, tr("Address"))
         .readOnly(u"txtwadd2"_s, {})
         .readOnly(u"dtcmbwcity"_s, tr("City"))
+        .grow(2)
         .beside()
         .readOnly(u"dtcmbwpin"_s, tr("Pin"))
         .least(kPin)

@@ -31,6 +31,8 @@ namespace views {
 
 namespace {
 
+constexpr QStringView kMailAddress = u"somebody@an.example.org";
+
 struct ListRow {
     QStringView combo;
     Vocabulary list;
@@ -182,7 +184,7 @@ void FullViewEdit::layOutAddresses(QWidget* page)
         .line(u"TxtEHState"_s, tr("&State"), u"h_state"_s)
         .combo(u"CmbEHCountry"_s, tr("Cou&ntry"), u"h_country"_s);
     form.nextColumn()
-        .group(tr("Work 1"))
+        .group(workTitle(1))
         .line(u"TxtEWType"_s, tr("&Type"), u"W_AddType"_s)
         .line(u"TxtEWAdd1"_s, tr("A&ddress"), u"w_add1"_s)
         .line(u"TxtEWAdd2"_s, {}, u"w_add2"_s)
@@ -191,7 +193,7 @@ void FullViewEdit::layOutAddresses(QWidget* page)
         .line(u"TxtEWState"_s, tr("State"), u"w_State"_s)
         .combo(u"CmbEWCountry"_s, tr("Co&untry"), u"w_country"_s);
     form.nextColumn()
-        .group(tr("Work 2"))
+        .group(workTitle(2))
         .line(u"TxtEBType"_s, tr("T&ype"), u"B_Add_Type"_s)
         .line(u"TxtEBAdd1"_s, tr("Add&ress"), u"b_add1"_s)
         .line(u"TxtEBAdd2"_s, {}, u"b_add2"_s)
@@ -204,7 +206,8 @@ void FullViewEdit::layOutAddresses(QWidget* page)
 void FullViewEdit::layOutNumbers(QWidget* page)
 {
     FormKit form = kit(page);
-    form.nextColumn()
+    form.wrap()
+        .nextColumn()
         .group(tr("Home"))
         .line(u"TxtEHStd"_s, tr("&Area code"), u"h_std"_s, KeyFilter::NoLetters)
         .line(u"TxtEHPh1"_s, tr("&Numbers"), u"H_Ph1"_s)
@@ -212,20 +215,22 @@ void FullViewEdit::layOutNumbers(QWidget* page)
         .line(u"TxtEHPh3"_s, {}, u"h_ph3"_s)
         .line(u"TxtEMobile"_s, tr("&Mobile"), u"Mobile"_s)
         .line(u"TxtEHEmail1"_s, tr("&E-mail"), u"H_email1"_s)
+        .least(kMailAddress)
         .line(u"TxtEHEmail2"_s, {}, u"h_email2"_s)
         .line(u"TxtEHWeb"_s, tr("&Web"), u"h_web"_s);
     form.nextColumn()
-        .group(tr("Work 1"))
+        .group(workTitle(1))
         .line(u"TxtEWStd"_s, tr("A&rea code"), u"W_std"_s, KeyFilter::NoLetters)
         .line(u"TxtEWPh1"_s, tr("N&umbers"), u"w_Ph1"_s)
         .line(u"TxtEWPh2"_s, {}, u"w_Ph2"_s)
         .line(u"TxtEWPh3"_s, {}, u"w_ph3"_s)
         .line(u"TxtESpMobile"_s, tr("&Spouse's mobile"), u"SP_Mobile"_s)
         .line(u"TxtEWEmail1"_s, tr("E-mai&l"), u"b_email1"_s)
+        .least(kMailAddress)
         .line(u"TxtEWEmail2"_s, {}, u"b_email2"_s)
         .line(u"TxtEWWeb"_s, tr("We&b"), u"B_Web"_s);
     form.nextColumn()
-        .group(tr("Work 2"))
+        .group(workTitle(2))
         .line(u"TxtEBStd"_s, tr("Area &code"), u"B_std"_s, KeyFilter::NoLetters)
         .line(u"TxtEBPh1"_s, tr("Numbers"), u"B_Ph1"_s)
         .line(u"TxtEBPh2"_s, {}, u"B_Ph2"_s)

@@ -27,11 +27,16 @@ void FullView::layOut()
     lblCounter->setObjectName(u"lblCounter"_s);
     lblCounter->setAccessibleName(tr("Position in the list"));
     // Beside the tools, which may give way to their overflow arrow; the steps never do.
-    auto* head = new QHBoxLayout;
-    head->setContentsMargins(0, 0, 8, 0);
-    head->addWidget(bar, 1);
+    auto* steps = new QFrame;
+    steps->setProperty("continuesBar", true);
+    auto* stepsLayout = new QHBoxLayout(steps);
+    stepsLayout->setContentsMargins(0, 0, 8, 0);
     for (QWidget* step : std::initializer_list<QWidget*>{ssprevious, lblCounter, ssnext})
-        head->addWidget(step);
+        stepsLayout->addWidget(step);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(0);
+    head->addWidget(bar, 1);
+    head->addWidget(steps);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     m_browser = layOutBrowser();

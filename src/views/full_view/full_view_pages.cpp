@@ -5,6 +5,7 @@
 #include "views/full_view/labelled_lines.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
+#include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
 
 #include <QLabel>
@@ -29,6 +30,7 @@ FullViewPages::FullViewPages(core::Context& context, bool browsesOthers, QWidget
     layOutMail();
     layOutFamily();
     showBook(true);
+    widgets::letIconsGiveWay(this);
 }
 
 void FullViewPages::showBook(bool own)
@@ -99,8 +101,8 @@ void FullViewPages::layOutAddresses()
     };
     const Address addresses[] = {
         {tr("Home"), {}, u"txthadd"_s, u"txthcity"_s, u"txthstate"_s},
-        {tr("Work 1"), u"txtwtype"_s, u"txtwadd"_s, u"txtwcity"_s, u"txtwstate"_s},
-        {tr("Work 2"), u"txtbtype"_s, u"txtbadd"_s, u"txtbcity"_s, u"txtbstate"_s},
+        {workTitle(1), u"txtwtype"_s, u"txtwadd"_s, u"txtwcity"_s, u"txtwstate"_s},
+        {workTitle(2), u"txtbtype"_s, u"txtbadd"_s, u"txtbcity"_s, u"txtbstate"_s},
     };
     FormKit form(addPage(u"FrmVAdd"_s, tr("Addresses"), u"home"));
     for (const Address& address : addresses) {
@@ -124,8 +126,8 @@ void FullViewPages::layOutTelephones(bool browsesOthers)
     };
     const Numbers addresses[] = {
         {tr("Home"), u"txthph1"_s, tr("Mobile"), u"txthph2"_s, tr("Number 2")},
-        {tr("Work 1"), u"txtwph1"_s, tr("Spouse's mobile"), u"txtwph2"_s, tr("Number 2")},
-        {tr("Work 2"), u"txtbph1"_s, tr("Fax"), u"txtfax"_s, tr("Fax")},
+        {workTitle(1), u"txtwph1"_s, tr("Spouse's mobile"), u"txtwph2"_s, tr("Number 2")},
+        {workTitle(2), u"txtbph1"_s, tr("Fax"), u"txtfax"_s, tr("Fax")},
     };
     FormKit form(addPage(u"FrmVTel"_s, tr("Telephone"), u"phone"));
     for (const Numbers& numbers : addresses) {
@@ -147,7 +149,7 @@ void FullViewPages::layOutTelephones(bool browsesOthers)
 
 void FullViewPages::layOutMail()
 {
-    FormKit form(addPage(u"FrmVEmail"_s, tr("E-mail and web"), u"envelope"));
+    FormKit form(addPage(u"FrmVEmail"_s, tr("E-mail"), u"envelope"));
     form.nextColumn()
         .group(tr("Home"))
         .readOnly(u"txthemail1"_s, tr("E-mail"), 2)
@@ -160,7 +162,7 @@ void FullViewPages::layOutMail()
 
 void FullViewPages::layOutFamily()
 {
-    FormKit form(addPage(u"FrmVOther1"_s, tr("Family and notes"), u"family"));
+    FormKit form(addPage(u"FrmVOther1"_s, tr("Family"), u"family"));
     form.nextColumn()
         .group(tr("Family"))
         .readOnly(u"TxtSpouse"_s, tr("Spouse"))

@@ -176,6 +176,7 @@ QWidget* FormSearch::layOutKeyword()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(word, 1);
+    layout->addWidget(m_count);
     layout->addWidget(Frame3);
     for (QWidget* part : {word, static_cast<QWidget*>(Frame3)})
         part->layout()->setContentsMargins(0, 0, 0, 0);
@@ -234,8 +235,6 @@ QWidget* FormSearch::layOutFoot()
     layout->addWidget(new QLabel(tr("View by")));
     layout->addWidget(Option1);
     layout->addWidget(Option2);
-    layout->addSpacing(12);
-    layout->addWidget(m_count);
     layout->addStretch(1);
     layout->addWidget(SSCommand3);
     layout->addWidget(cmdgo);

@@ -6,13 +6,14 @@
 #include "widgets/fields.h"
 #include "widgets/long_text.h"
 #include "widgets/picture_box.h"
+#include "widgets/wrapping_row.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +22,7 @@ namespace views {
 namespace {
 
 constexpr QSize kPictureSize{92, 116};
-constexpr int kLeastWidth = 600; ///< below which the panel scrolls
+constexpr int kLeastGroup = 170; ///< as wide as a block must be, to stand beside others
 
 enum Column { Person, Home, Work, Telephones };
 
@@ -72,16 +73,33 @@ QString translated(const char* text)
     return QCoreApplication::translate("views", text);
 }
 
-/// A text that is too long is cut off rather than that it moves the columns; its tool tip has it whole.
+/// A text wraps rather than that it moves the columns.
 QLabel* shownText(QStringView name)
 {
     auto* label = new QLabel;
     label->setObjectName(name.toString());
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label->setWordWrap(true);
+    label->setMinimumWidth(1);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
+}
+
+QGridLayout* addBlock(widgets::WrappingRow* blocks, int stretch)
+{
+    auto* block = new QWidget;
+    block->setMinimumWidth(kLeastGroup);
+    auto* layout = new QVBoxLayout(block);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(1);
+    grid->setColumnStretch(1, 1);
+    layout->addLayout(grid);
+    layout->addStretch(1);
+    blocks->add(block, stretch);
+    return grid;
 }
 
 } // namespace
@@ -92,7 +110,6 @@ ResultDetail::ResultDetail(const platform::Drive& drive, QWidget* parent)
     , Picture1(new widgets::PictureBox)
 {
     setFrameShape(QFrame::NoFrame);
-    setMinimumWidth(kLeastWidth);
     Picture1->setObjectName(u"Picture1"_s);
     Picture1->setAccessibleName(tr("Picture"));
     Picture1->setFixedSize(kPictureSize);
@@ -112,36 +129,39 @@ ResultDetail::ResultDetail(const platform::Drive& drive, QWidget* parent)
     layout->addLayout(right, 1);
 }
 
-// Each column is two of the grid, of which an address takes both.
+// As many blocks side by side as there is room for, the two addresses in one. A label stands before its text,
+// an address takes both columns.
 QLayout* ResultDetail::layOutTexts()
 {
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(1);
-    int next[std::size(kGroups)] = {};
-    for (int column = 0; column < int(std::size(kGroups)); ++column) {
-        auto* title = new QLabel(translated(kGroups[column].title));
-        title->setStyleSheet(u"font-weight: 600;"_s);
-        grid->addWidget(title, next[column]++, 2 * column, 1, 2);
-        grid->setColumnStretch(2 * column + 1, kGroups[column].stretch);
-    }
-    constexpr int Rows = 11;
+    auto* blocks = new widgets::WrappingRow;
+    blocks->setSpacing(14);
+    QGridLayout* grid = nullptr;
+    int group = -1;
     for (const Shown& shown : kShown) {
+        const bool isAddress = shown.column == Home || shown.column == Work;
+        const QString title = translated(kGroups[shown.column].title);
+        if (std::exchange(group, shown.column) != shown.column) {
+            if (shown.column != Work)
+                grid = addBlock(blocks, kGroups[shown.column].stretch);
+            auto* heading = new QLabel(title);
+            heading->setStyleSheet(u"font-weight: 600;"_s);
+            grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
+        }
         QLabel* text = shownText(shown.name);
-        const int row = next[shown.column]++;
-        const int column = 2 * shown.column;
-        if (shown.column == Home || shown.column == Work) {
-            text->setAccessibleName(translated(kGroups[shown.column].title));
-            grid->addWidget(text, row, column, Rows - row, 2);
+        const int row = grid->rowCount();
+        if (isAddress) {
+            text->setAccessibleName(title);
+            grid->addWidget(text, row, 0, 1, 2);
             continue;
         }
         auto* label = new QLabel(shown.label ? translated(shown.label) : QString());
         label->setForegroundRole(QPalette::PlaceholderText);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         text->setAccessibleName(label->text());
-        grid->addWidget(label, row, column);
-        grid->addWidget(text, row, column + 1);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(text, row, 1);
     }
-    return grid;
+    return blocks;
 }
 
 void ResultDetail::display(const jet::Recordset& contact)

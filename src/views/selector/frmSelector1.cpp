@@ -97,8 +97,7 @@ frmSelector1::frmSelector1(core::Context& context, QWidget* parent)
     connectControls();
 }
 
-// The tools of the selectors, then those of a contact that are not among them and can do something. All are
-// in sight in a narrow window, so only the first has its text.
+// The tools of the selectors, then those of a contact that are not among them and can do something.
 QToolBar* frmSelector1::layOutTools()
 {
     QToolBar* bar = m_tools->makeToolBar(this);
@@ -111,10 +110,6 @@ QToolBar* frmSelector1::layOutTools()
     m_contactTools->addTo(bar, without);
     bar->addSeparator();
     m_results->tools()->addTo(bar);
-    for (QAction* tool : bar->actions().mid(1)) {
-        if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(tool)))
-            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    }
     m_pageTools = bar->actions().mid(own);
     m_pageTools.removeOne(m_contactTools->action(u"Search")); // brings the search back
     return bar;
