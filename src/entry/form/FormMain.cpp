@@ -173,8 +173,7 @@ void FormMain::load()
     const auto fill = [this](const QString& name, const QStringList& values) {
         widgets::child<widgets::FilledCombo>(this, name)->setValues(values);
     };
-    fill(u"Cmbtitle"_s, {u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
-    fill(u"cmbnview"_s, core::nameViews());
+    setFixedLists(this);
     QStringList sexes;
     for (const QStringView sex : m_variant.sexes)
         sexes << sex.toString();
@@ -196,13 +195,7 @@ void FormMain::vocabulariesChanged()
     Screen::vocabulariesChanged();
     if (m_userFields)
         m_userFields->showLabels();
-    if (m_isMerged == shared().ContMerge)
-        return;
-    const bool wasTouched = isTouched();
-    m_isMerged = shared().ContMerge;
-    core::mergeCategoryLists(this, m_isMerged);
-    if (!wasTouched)
-        m_fields.keepAsLoaded();
+    followCategorySwitch(this, m_fields, m_isMerged, shared().ContMerge);
 }
 
 void FormMain::go(Mode mode)

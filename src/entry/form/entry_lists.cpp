@@ -1,6 +1,7 @@
 #include "entry/form/entry_lists.h"
 
 #include "core/contact_names.h"
+#include "core/merged_category.h"
 #include "core/vocabularies.h"
 #include "widgets/filled_combo.h"
 
@@ -103,6 +104,23 @@ void setListSources(QWidget* form, core::Context& context)
         sub->setSource([all, category = comboOf(form, u"DtcmbCate")] {
             return core::firstColumn(all->data, core::subcategoriesSql(category->currentText()));
         });
+}
+
+void setFixedLists(QWidget* form)
+{
+    comboOf(form, u"Cmbtitle")->setValues({u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
+    comboOf(form, u"cmbnview")->setValues(core::nameViews());
+}
+
+void followCategorySwitch(QWidget* form, widgets::FieldSet& fields, bool& isMerged, bool merges)
+{
+    if (isMerged == merges)
+        return;
+    const bool wasTouched = fields.isTouched();
+    isMerged = merges;
+    core::mergeCategoryLists(form, merges);
+    if (!wasTouched)
+        fields.keepAsLoaded();
 }
 
 void refillLists(QWidget* form)

@@ -8,13 +8,13 @@
 #include "core/date_patterns.h"
 #include "core/list_presenter.h"
 #include "core/merged_category.h"
-#include "core/screens.h"
 #include "core/save_failure.h"
+#include "core/screens.h"
 #include "core/settings.h"
 #include "core/sound_files.h"
 #include "core/touched_fields.h"
-#include "core/vocabularies.h"
 #include "entry/form/entered_contact.h"
+#include "entry/form/entry_lists.h"
 #include "entry/form/save_effects.h"
 #include "entry/simple/simple_columns.h"
 #include "platform/clock.h"
@@ -40,7 +40,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using core::Vocabulary;
 using widgets::child;
 
 namespace entry {
@@ -48,17 +47,6 @@ namespace entry {
 namespace {
 
 constexpr QStringView kRowTools[] = {u"Edit", u"Delete", u"Caller", u"ID_Ex", u"Letter2"};
-
-struct ListRow {
-    QStringView control;
-    Vocabulary list;
-};
-constexpr ListRow kLists[] = {
-    {u"dtcmbfname", Vocabulary::FirstNames},
-    {u"dtcmblname", Vocabulary::LastNames},
-    {u"dtcmbcity", Vocabulary::TopCities},
-    {u"dtcmbcountry", Vocabulary::Countries},
-};
 
 } // namespace
 
@@ -166,23 +154,10 @@ void FrmContacts::layOutName(QWidget* page)
 
 void FrmContacts::setSources()
 {
-    const auto combo
-        = [this](QStringView name) { return child<widgets::FilledCombo>(this, name.toString()); };
-    const auto words = [this](Vocabulary list) {
-        return core::readVocabulary(context().data, context().info, list, shared().NationalMode);
-    };
-    for (const ListRow& row : kLists)
-        combo(row.control)->setSource([words, list = row.list] { return words(list); });
-    combo(u"DtcmbCate")->setSource([this, words] {
-        return words(shared().ContMerge ? Vocabulary::MergedCategories : Vocabulary::Categories);
-    });
-    combo(u"DtcmbSubCate")->setSource([this, combo] {
-        return core::firstColumn(context().data, core::subcategoriesSql(combo(u"DtcmbCate")->currentText()));
-    });
-    connect(combo(u"DtcmbCate"), &QComboBox::currentTextChanged, combo(u"DtcmbSubCate"),
-        &widgets::FilledCombo::refill);
-    combo(u"Cmbtitle")->setValues({u"Dr."_s, u"Miss."_s, u"Mr."_s, u"Mrs."_s, u"Ms."_s, u"Prof."_s});
-    combo(u"cmbnview")->setValues(core::nameViews());
+    setListSources(this, context());
+    setFixedLists(this);
+    connect(m_fields.control<QComboBox>(u"DtcmbCate"_s), &QComboBox::currentTextChanged,
+        m_fields.control<widgets::FilledCombo>(u"DtcmbSubCate"_s), &widgets::FilledCombo::refill);
     m_isMerged = shared().ContMerge;
     if (m_isMerged)
         core::showSubcategory(this, false);
@@ -192,13 +167,7 @@ void FrmContacts::setSources()
 void FrmContacts::vocabulariesChanged()
 {
     Screen::vocabulariesChanged();
-    if (m_isMerged == shared().ContMerge)
-        return;
-    const bool wasTouched = isTouched();
-    m_isMerged = shared().ContMerge;
-    core::mergeCategoryLists(this, m_isMerged);
-    if (!wasTouched)
-        m_fields.keepAsLoaded();
+    followCategorySwitch(this, m_fields, m_isMerged, shared().ContMerge);
 }
 
 void FrmContacts::connectControls()
