@@ -46,14 +46,14 @@ void RoomTest::look(const QString& where, const QWidget* screen)
             note(area, u"scrolls sideways"_s);
         const auto* label = qobject_cast<QLabel*>(widget);
         const auto* button = qobject_cast<QAbstractButton*>(widget);
-        if (!label && (!button || qobject_cast<const QToolButton*>(button)))
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        if (text.isEmpty() || qobject_cast<const QToolButton*>(button))
             continue;
         ++m_labels;
-        const QString text = label ? label->text() : button->text();
         const bool elides
             = label && (label->wordWrap() || label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored);
         const int needed = widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
-        if (!elides && widget->width() < needed + (button && !button->icon().isNull() ? 24 : 0))
+        if (!elides && widget->width() < needed + (button && !button->icon().isNull() ? 22 : 0))
             note(widget, u"cuts "_s + text);
     }
 }

@@ -231,7 +231,7 @@ QWidget* FormSearch::layOutFoot()
     auto* foot = new QWidget;
     auto* layout = new QHBoxLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(10);
+    layout->setSpacing(6);
     layout->addWidget(new QLabel(tr("View by")));
     layout->addWidget(Option1);
     layout->addWidget(Option2);
