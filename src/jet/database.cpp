@@ -328,6 +328,28 @@ bool Database::appendRows(const QString& table, const QStringList& columns, cons
     return batch.commit() && done;
 }
 
+bool Database::isWithoutTable(const QString& path, const QString& table)
+{
+    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + "?mode=ro&immutable=1";
+    const QByteArray name = table.toUtf8();
+    sqlite3* connection = nullptr;
+    sqlite3_stmt* look = nullptr;
+    bool isWithout = false;
+    if (sqlite3_open_v2(uri.constData(), &connection,
+            SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOFOLLOW, nullptr)
+            == SQLITE_OK
+        && sqlite3_prepare_v2(connection,
+               "select count(*) from sqlite_master where type = 'table' and name = ?1 collate nocase", -1,
+               &look, nullptr)
+            == SQLITE_OK) {
+        sqlite3_bind_text(look, 1, name.constData(), int(name.size()), SQLITE_STATIC);
+        isWithout = sqlite3_step(look) == SQLITE_ROW && sqlite3_column_int(look, 0) == 0;
+    }
+    sqlite3_finalize(look);
+    sqlite3_close(connection);
+    return isWithout;
+}
+
 bool Database::create(const QString& path)
 {
     if (QFileInfo::exists(path))

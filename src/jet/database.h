@@ -44,6 +44,9 @@ public:
 
     /// Opens an existing file. Neither creates nor changes one.
     OpenResult open(const QString& path, Kind kind = Kind::Data);
+    /// Whether the file can be read as it stands and has no such table. Neither the file nor a log that waits
+    /// beside it is touched, which may be somebody else's.
+    static bool isWithoutTable(const QString& path, const QString& table);
     void close();
     bool isOpen() const;
     /// A file that can only be read for now. Each write looks whether that is still so.

@@ -248,9 +248,14 @@ private Q_SLOTS:
 
         // Another database without our tables is no book either.
         QVERIFY(QFile::remove(files().dataFile()));
+        // What stands beside it may be the log of another program.
         QVERIFY(QFile::copy(files().infoFile(), files().dataFile()));
+        put(files().dataFile() + u"-journal"_s, "not ours");
+        const QByteArray before = bytesOf(files().dataFile());
         jet::Database other;
         QCOMPARE(files().openData(other).fault, Fault::NotADatabase);
+        QCOMPARE(bytesOf(files().dataFile() + u"-journal"_s), "not ours");
+        QCOMPARE(bytesOf(files().dataFile()), before);
     }
 
     // After a crash the newest rows, and perhaps the growth of the file, stand in the log beside it.

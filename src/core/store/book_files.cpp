@@ -218,6 +218,15 @@ BookReport BookFiles::open(jet::Database& database, BookPart part) const
         database.close();
         return BookReport{fault, path, text};
     };
+    const QString mainTable = part == BookPart::Data ? u"cnt_main"_s : u"wia_cntnames"_s;
+    const auto noBook = [&] {
+        return refuse(Fault::NotADatabase,
+            tr("The database \"%1\" holds no address book of Orvane Contacts. It was left as it is.")
+                .arg(shown));
+    };
+    // Asked first, since to open a file with a log beside it can change it.
+    if (jet::Database::isWithoutTable(path, mainTable))
+        return noBook();
     database.setColumnsNeverEqualToNull(columnsNeverEqualToNull());
     switch (database.open(path, kindOf(part))) {
     case jet::Database::OpenResult::Opened: break;
@@ -227,12 +236,8 @@ BookReport BookFiles::open(jet::Database& database, BookPart part) const
         return refuse(Fault::Damaged,
             tr("The database \"%1\" is damaged and can not be opened. It was left as it is.").arg(shown));
     }
-    const QStringList tables = database.tables();
-    const QString mainTable = part == BookPart::Data ? u"cnt_main"_s : u"wia_cntnames"_s;
-    if (!tables.contains(mainTable, Qt::CaseInsensitive))
-        return refuse(Fault::NotADatabase,
-            tr("The database \"%1\" holds no address book of Orvane Contacts. It was left as it is.")
-                .arg(shown));
+    if (!database.tables().contains(mainTable, Qt::CaseInsensitive))
+        return noBook();
     const int version = database.version();
     // The number may have stood in a log that was waiting beside the file.
     if (version > kSchemaVersion)
