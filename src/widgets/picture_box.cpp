@@ -3,6 +3,7 @@
 #include "widgets/theme.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QKeyEvent>
@@ -14,6 +15,7 @@
 #include <QThreadPool>
 
 #include <algorithm>
+#include <memory>
 
 namespace widgets {
 
@@ -69,6 +71,26 @@ QImage readPicture(const QString& path, QSize within)
     if (!reader.read(&image))
         return {};
     return image;
+}
+
+// Should the program end meanwhile, nobody waits any more and what was read goes nowhere.
+QImage readPictureAside(const QString& path, QSize within)
+{
+    const auto picture = std::make_shared<QImage>();
+    QEventLoop waiting;
+    QThreadPool::globalInstance()->start([path, within, picture, waiter = QPointer(&waiting)] {
+        const QImage image = readPicture(path, within);
+        QMetaObject::invokeMethod(
+            qApp,
+            [picture, waiter, image] {
+                *picture = image;
+                if (waiter)
+                    waiter->quit();
+            },
+            Qt::QueuedConnection);
+    });
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    return *picture;
 }
 
 PictureBox::PictureBox(QWidget* parent)

@@ -11,6 +11,9 @@ namespace widgets {
 /// compressed, large, or made of other pictures, as nobody can tell beforehand what it takes. May be called
 /// on any thread; of several large pictures one is read at a time.
 QImage readPicture(const QString& path, QSize within);
+/// The same on another thread, for a caller that has to know: the window is painted meanwhile, and takes no
+/// input.
+QImage readPictureAside(const QString& path, QSize within);
 
 /// Shows a picture file, scaled into the box, as soon as another thread has read it; a quiet placeholder
 /// stands for a picture that is missing or broken. The path that was set is kept in any case.

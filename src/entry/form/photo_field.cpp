@@ -6,6 +6,7 @@
 #include "widgets/picture_box.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -45,7 +46,11 @@ void PhotoField::choose()
         tr("Pictures") + u" (*.png *.jpg *.jpeg *.bmp *.gif *.webp)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.webp"_s);
     if (!chosen)
         return;
-    if (widgets::readPicture(*chosen, {64, 64}).isNull())
+    const QPointer<PhotoField> field(this); // the form may close while the picture is read
+    const bool isPicture = !widgets::readPictureAside(*chosen, {64, 64}).isNull();
+    if (!field)
+        return;
+    if (!isPicture)
         return boxes.warning(tr("This file is no picture that can be shown."), m_context.shared.AppTitle);
     show(*chosen);
     m_isChosen = true;
