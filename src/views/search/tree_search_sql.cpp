@@ -316,13 +316,14 @@ QString treeBranchesSql(TreeKind kind, const QStringList& path)
         : placesSql(path);
 }
 
-// By the length, and in the order of the list: the index cnt_main_unclassified holds just these rows.
+// By the length, and in the order of the list: the index cnt_main_unclassified holds just these rows. By id,
+// since they are filled from one id to another.
 QString unclassifiedSql()
 {
     QStringList terms;
     for (const Normalised& row : kNormalised)
         terms << u"len(%1)=0 or %2 is null"_s.arg(row.empty, row.column);
-    return u"select id from cnt_main where "_s + terms.join(u" or "_s);
+    return u"select id from cnt_main where "_s + terms.join(u" or "_s) + u" order by id"_s;
 }
 
 QStringList normalisingStatements(qint64 first, qint64 last)
