@@ -8,6 +8,7 @@
 #include "core/store/book_files.h"
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
+#include "output/register_output.h"
 #include "platform/clock.h"
 #include "platform/desktop_boxes.h"
 #include "platform/desktop_shell.h"
@@ -99,6 +100,7 @@ int main(int argc, char** argv)
     shell::registerShell(screens);
     setup::registerSetup(screens);
     entry::registerEntry(screens);
+    output::registerOutput(screens);
     views::registerViews(screens);
 
     const shell::StorageNotice storageNotice(context);

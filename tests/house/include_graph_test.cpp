@@ -16,12 +16,13 @@ const QHash<QString, QStringList> kArrows{
     {u"platform"_s, {u"formats"_s, u"jet"_s}},
     {u"widgets"_s, {u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"core"_s, {u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
-    {u"core/shell"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
-    {u"core/setup"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
+    {u"output"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
+    {u"core/shell"_s, {u"output"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
+    {u"core/setup"_s, {u"output"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"tools"_s, {u"core"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
 };
 /// Every other room under src is a subsystem.
-const QStringList kOfASubsystem{u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s};
+const QStringList kOfASubsystem{u"output"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s};
 
 QList<File> filesUnder(const QStringList& folders, const QStringList& names)
 {
