@@ -19,6 +19,7 @@
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
+#include "reports/register_reports.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
 #include "widgets/theme.h"
@@ -102,6 +103,7 @@ int main(int argc, char** argv)
     entry::registerEntry(screens);
     output::registerOutput(screens);
     views::registerViews(screens);
+    reports::registerReports(screens);
 
     const shell::StorageNotice storageNotice(context);
     const QString backupFolder = drive.local(u"C:\\OVUserFiles\\Others\\Backup");
