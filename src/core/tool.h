@@ -20,6 +20,8 @@ enum class ToolTask {
     SaveCard, ///< among the program's own files
     SaveCardToDesktop,
     SaveAllCardsToDesktop,
+    SaveTextToDesktop,
+    SaveAllTextToDesktop,
     RequestReport, ///< the address book, printed by the program that does this
 };
 

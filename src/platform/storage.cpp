@@ -43,4 +43,19 @@ QString whyNotWritable(const QString& folder)
                               : tr("nothing may be written in this folder");
 }
 
+QString whyNotReplaced(const QString& localPath)
+{
+    const QFileInfo file(localPath);
+    const auto tr = [](const char* text) { return QCoreApplication::translate("platform", text); };
+    // What common file systems allow for one name, less what the draft beside it has behind it.
+    constexpr qsizetype kLongestName = 248;
+    if (QFile::encodeName(file.fileName()).size() > kLongestName)
+        return tr("the name is too long");
+    if (file.isDir())
+        return tr("a folder has this name");
+    if (file.exists() && !file.isWritable())
+        return tr("the file may not be changed");
+    return whyNotWritable(file.absolutePath());
+}
+
 } // namespace platform

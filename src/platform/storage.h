@@ -14,4 +14,7 @@ bool isWritable(const QString& folder);
 /// A piece of a sentence for a person: why no file can be made or changed in the folder.
 QString whyNotWritable(const QString& folder);
 
+/// The same for one file of that name, which may be there already.
+QString whyNotReplaced(const QString& localPath);
+
 } // namespace platform

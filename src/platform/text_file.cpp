@@ -2,10 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "platform/cp1252.h"
 #include "platform/drive.h"
+#include "platform/storage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +50,29 @@ bool writeText(const QString& localPath, QStringView text)
 bool writeText(const Drive& drive, QStringView path, QStringView text)
 {
     return writeText(drive.local(path), text);
+}
+
+TextFileWriter::TextFileWriter(const QString& localPath)
+    : m_file(localPath)
+{
+    if (!localPath.isEmpty())
+        m_file.open(QIODevice::WriteOnly);
+}
+
+bool TextFileWriter::writeLine(QStringView text)
+{
+    const QByteArray bytes = toCp1252(text) + "\r\n";
+    return m_file.write(bytes) == bytes.size() && m_file.error() == QFileDevice::NoError;
+}
+
+bool TextFileWriter::commit()
+{
+    return m_file.isOpen() && m_file.commit();
+}
+
+QString TextFileWriter::whyNot() const
+{
+    return whyNotReplaced(m_file.fileName());
 }
 
 } // namespace platform
