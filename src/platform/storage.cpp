@@ -6,11 +6,17 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+bool commitWhole(QSaveFile& file)
+{
+    return file.isOpen() && file.flush() && file.error() == QFileDevice::NoError && file.commit();
+}
 
 qint64 freeBytes(const QString& folder)
 {

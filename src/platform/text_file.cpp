@@ -44,7 +44,7 @@ bool writeText(const QString& localPath, QStringView text)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(toCp1252(lines));
-    return file.commit();
+    return commitWhole(file);
 }
 
 bool writeText(const Drive& drive, QStringView path, QStringView text)
@@ -67,7 +67,7 @@ bool TextFileWriter::writeLine(QStringView text)
 
 bool TextFileWriter::commit()
 {
-    return m_file.isOpen() && m_file.commit();
+    return commitWhole(m_file);
 }
 
 QString TextFileWriter::whyNot() const
