@@ -11,6 +11,7 @@
 #include "output/register_output.h"
 #include "platform/clock.h"
 #include "platform/desktop_boxes.h"
+#include "platform/desktop_printer.h"
 #include "platform/desktop_shell.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
@@ -87,6 +88,7 @@ int main(int argc, char** argv)
     platform::WindowHelpViewer help(drive, desktop);
     platform::VdirContacts mailContacts(QDir(folder).filePath(u"MailContacts"_s));
     platform::SystemClock clock;
+    platform::DesktopPrinter printer;
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -96,7 +98,7 @@ int main(int argc, char** argv)
     core::Screens screens;
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
-        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock}};
+        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

@@ -10,6 +10,7 @@ class Favourites;
 class HelpViewer;
 class MailContacts;
 class MessageBoxes;
+class Printer;
 class Shell;
 class Sounds;
 class SpecialFolders;
@@ -31,6 +32,7 @@ struct Services {
     platform::HelpViewer& help;
     platform::MailContacts& mailContacts;
     platform::Clock& clock;
+    platform::Printer& printer;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

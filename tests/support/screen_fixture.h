@@ -95,6 +95,7 @@ public:
     RecordingHelpViewer help;
     RecordingMailContacts mailContacts;
     FixedClock clock;
+    RecordingPrinter printer;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
