@@ -42,6 +42,9 @@ QByteArray beginOf(int kind)
     return record(biff::Bof, Bytes().u16(0x0600).u16(kind).u16(0x0DBB).u16(0x07CC).u32(0x41).u32(6).bytes());
 }
 
+constexpr int kOrdinaryWeight = 400;
+constexpr int kBoldWeight = 700;
+
 QByteArray font(int weight)
 {
     constexpr int kTenPoints = 200;
@@ -49,7 +52,7 @@ QByteArray font(int weight)
     return record(biff::Font,
         Bytes()
             .u16(kTenPoints)
-            .u16(0)
+            .u16(weight > kOrdinaryWeight ? 1 : 0)
             .u16(kAutomaticColor)
             .u16(weight)
             .u16(0)
@@ -136,7 +139,8 @@ public:
         for (GsfOutput* output : {m_book, m_container ? GSF_OUTPUT(m_container) : nullptr, m_sink}) {
             if (!output)
                 continue;
-            m_isWhole = gsf_output_close(output) && m_isWhole;
+            // The container closes its sink.
+            m_isWhole = (gsf_output_is_closed(output) || gsf_output_close(output)) && m_isWhole;
             g_object_unref(output);
         }
         m_book = nullptr;
@@ -228,8 +232,8 @@ QByteArray WorkbookWriter::globals(qint64 sizeOfTexts) const
         Bytes().u16(0).u16(0).u16(0x4000).u16(0x2000).u16(0x0038).u16(0).u16(0).u16(1).u16(0x0258).bytes());
     head += record(biff::DateMode, Bytes().u16(0).bytes());
     for (int number = 0; number < kOrdinaryFonts; ++number)
-        head += font(400);
-    head += font(700);
+        head += font(kOrdinaryWeight);
+    head += font(kBoldWeight);
     head += record(biff::Format, Bytes().u16(kDateFormat).longText(m_datePattern).bytes());
     head += record(biff::Format, Bytes().u16(kTimeFormat).longText(m_datePattern + u" hh:mm"_s).bytes());
     head += cellFormats();
