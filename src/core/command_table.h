@@ -57,7 +57,7 @@ struct RequestReport {
     QStringView subModule = {};
 };
 
-/// Writes the selected contacts to a text file, with or without a label before each value.
+/// Writes the address book to a text file, with or without a label before each value.
 struct TextReport {
     bool labels = true;
 };

@@ -120,6 +120,16 @@ constexpr Tool kViewTools[] = {
         .text = QT_TRANSLATE_NOOP("core", "Save all to the desktop"),
         .task = Task::SaveAllCardsToDesktop,
         .places = Menu},
+    {.id = u"SaveRecordText",
+        .icon = u"note",
+        .text = QT_TRANSLATE_NOOP("core", "Save as text to the desktop"),
+        .task = Task::SaveTextToDesktop,
+        .places = Menu},
+    {.id = u"SaveAllText",
+        .icon = u"note",
+        .text = QT_TRANSLATE_NOOP("core", "Save all as text to the desktop"),
+        .task = Task::SaveAllTextToDesktop,
+        .places = Menu},
 };
 
 constexpr Tool kSelectorTools[] = {

@@ -10,6 +10,7 @@
 #include "core/report_request.h"
 #include "core/save_cards.h"
 #include "core/save_failure.h"
+#include "core/save_texts.h"
 #include "core/screens.h"
 #include "core/settings.h"
 #include "core/sound_files.h"
@@ -52,6 +53,7 @@ void ContactTools::perform(const Tool& tool)
     case ToolTask::Filter: return askFilter(tool.form);
     case ToolTask::RequestReport: return requestReport();
     case ToolTask::SaveAllCardsToDesktop: return saveAllCards();
+    case ToolTask::SaveAllTextToDesktop: saveBookText(m_context, true, m_screen); return;
     case ToolTask::EditContact: return edit();
     default: break;
     }
@@ -70,6 +72,7 @@ void ContactTools::performOnContact(const Tool& tool, const jet::Recordset& cont
     switch (tool.task) {
     case ToolTask::SaveCard: return saveCards(QString::number(id), u"C:\\OVUserFiles\\VCF"_s);
     case ToolTask::SaveCardToDesktop: return saveCards(QString::number(id), folder());
+    case ToolTask::SaveTextToDesktop: return saveContactText(m_context, id);
     default: break;
     }
     select(contact);

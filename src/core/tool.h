@@ -21,6 +21,8 @@ enum class ToolTask {
     SaveCardToDesktop,
     SaveAllCardsToDesktop,
     PrintContact, ///< the contacts of its name, in the form
+    SaveTextToDesktop,
+    SaveAllTextToDesktop,
     RequestReport, ///< the address book, printed by the program that does this
 };
 

@@ -6,11 +6,17 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+bool commitWhole(QSaveFile& file)
+{
+    return file.isOpen() && file.flush() && file.error() == QFileDevice::NoError && file.commit();
+}
 
 qint64 freeBytes(const QString& folder)
 {
@@ -41,6 +47,21 @@ QString whyNotWritable(const QString& folder)
         return tr("the disk is full");
     return isWritable(folder) ? tr("there is not enough room on the disk")
                               : tr("nothing may be written in this folder");
+}
+
+QString whyNotReplaced(const QString& localPath)
+{
+    const QFileInfo file(localPath);
+    const auto tr = [](const char* text) { return QCoreApplication::translate("platform", text); };
+    // What common file systems allow for one name, less what the draft beside it has behind it.
+    constexpr qsizetype kLongestName = 248;
+    if (QFile::encodeName(file.fileName()).size() > kLongestName)
+        return tr("the name is too long");
+    if (file.isDir())
+        return tr("a folder has this name");
+    if (file.exists() && !file.isWritable())
+        return tr("the file may not be changed");
+    return whyNotWritable(file.absolutePath());
 }
 
 } // namespace platform

@@ -2,7 +2,13 @@
 
 #include <QString>
 
+class QSaveFile;
+
 namespace platform {
+
+/// Puts a file in the place of the old one when every byte of it was written; else the old one stays. Commits
+/// alone do not notice when the last bytes, which wait in memory, find no room.
+bool commitWhole(QSaveFile& file);
 
 /// Bytes that this user can still write in the folder; -1 when the folder isn't there.
 qint64 freeBytes(const QString& folder);
@@ -13,5 +19,8 @@ bool isWritable(const QString& folder);
 
 /// A piece of a sentence for a person: why no file can be made or changed in the folder.
 QString whyNotWritable(const QString& folder);
+
+/// The same for one file of that name, which may be there already.
+QString whyNotReplaced(const QString& localPath);
 
 } // namespace platform

@@ -2,10 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "platform/cp1252.h"
 #include "platform/drive.h"
+#include "platform/storage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,12 +44,35 @@ bool writeText(const QString& localPath, QStringView text)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(toCp1252(lines));
-    return file.commit();
+    return commitWhole(file);
 }
 
 bool writeText(const Drive& drive, QStringView path, QStringView text)
 {
     return writeText(drive.local(path), text);
+}
+
+TextFileWriter::TextFileWriter(const QString& localPath)
+    : m_file(localPath)
+{
+    if (!localPath.isEmpty())
+        m_file.open(QIODevice::WriteOnly);
+}
+
+bool TextFileWriter::writeLine(QStringView text)
+{
+    const QByteArray bytes = toCp1252(text) + "\r\n";
+    return m_file.write(bytes) == bytes.size() && m_file.error() == QFileDevice::NoError;
+}
+
+bool TextFileWriter::commit()
+{
+    return commitWhole(m_file);
+}
+
+QString TextFileWriter::whyNot() const
+{
+    return whyNotReplaced(m_file.fileName());
 }
 
 } // namespace platform

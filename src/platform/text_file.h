@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QSaveFile>
 #include <QString>
 
 namespace platform {
@@ -18,5 +19,22 @@ std::optional<QString> readText(const Drive& drive, QStringView path);
 /// Replaces the file as a whole or leaves the old one as it was. Any kind of line end is written as CR LF.
 bool writeText(const QString& localPath, QStringView text);
 bool writeText(const Drive& drive, QStringView path, QStringView text);
+
+/// A text file that is written line by line, as long as it may become. It takes the place of the file of that
+/// name when it is whole; what is not committed leaves nothing behind.
+class TextFileWriter {
+public:
+    explicit TextFileWriter(const QString& localPath);
+
+    bool isOpen() const { return m_file.isOpen(); }
+    /// Writes the text and ends its line. The text itself has CR LF where it has several lines.
+    bool writeLine(QStringView text);
+    bool commit();
+    /// A piece of a sentence: why the last of these failed.
+    QString whyNot() const;
+
+private:
+    QSaveFile m_file;
+};
 
 } // namespace platform

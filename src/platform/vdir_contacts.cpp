@@ -11,6 +11,7 @@
 
 #include "platform/contact_card.h"
 #include "platform/drive.h"
+#include "platform/storage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -150,7 +151,7 @@ bool VdirContacts::write(const QString& file, const ContactCard& card)
     if (!target.open(QIODevice::WriteOnly))
         return false;
     target.write(bytes);
-    if (!target.commit())
+    if (!commitWhole(target))
         return false;
     // Our own write changed the folder's time; a bulk transfer must not read the whole folder again for each
     // card.

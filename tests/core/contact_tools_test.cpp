@@ -35,6 +35,7 @@ private Q_SLOTS:
     void cardsGoToTheirFolders();
     void nameThatIsNoFileName();
     void cardsOfManyCanBeStopped();
+    void textsGoToTheDesktop();
     void printRecordLeavesTheRequest_data();
     void printRecordLeavesTheRequest();
 
@@ -395,6 +396,26 @@ void ContactToolsTest::cardsOfManyCanBeStopped()
     trigger(u"SaveToDesktopAll"_s);
     QCOMPARE(stopper.contacts, 1000);
     QVERIFY(filesIn(u"C:\\Desktop"_s).size() <= 25);
+}
+
+void ContactToolsTest::textsGoToTheDesktop()
+{
+    m_fixture->boxes.expect(u"File saved successfully"_s);
+    trigger(u"SaveRecordText"_s);
+    QCOMPARE(filesIn(u"C:\\Desktop"_s), QStringList{u"Details of   Bob.txt"_s});
+    m_fixture->boxes.expect(u"File saved on C:\\Desktop\\All Contact Address.txt"_s);
+    trigger(u"SaveAllText"_s);
+    QCOMPARE(filesIn(u"C:\\Desktop"_s).first(), u"All Contact Address.txt"_s);
+    m_fixture->execute(u"update cnt_main set Name='Tea/Coffee' where id=2"_s);
+    m_name = u"Tea/Coffee"_s;
+    m_fixture->boxes.expect(
+        u"The file was not written: a contact whose name can not be the name of a file has none."_s);
+    trigger(u"SaveRecordText"_s);
+    m_fixture->execute(u"delete * from cnt_main"_s);
+    for (const QString& id : {u"SaveRecordText"_s, u"SaveAllText"_s}) {
+        m_fixture->boxes.expect(u"Record not selected"_s);
+        trigger(id);
+    }
 }
 
 void ContactToolsTest::printRecordLeavesTheRequest_data()

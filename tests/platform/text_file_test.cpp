@@ -53,6 +53,21 @@ private Q_SLOTS:
         QCOMPARE(support::bytesOf(path), bytes);
     }
 
+    // Also when all of the text is too short to be written before the end.
+    void fullDisk()
+    {
+        const QTemporaryDir folder;
+        const QString path = support::put(folder.filePath(u"a.txt"_s), "old");
+        {
+            const support::FullDisk full(10);
+            QVERIFY(!writeText(path, QString(100, u'x')));
+            TextFileWriter lines(path);
+            QVERIFY(lines.isOpen() && lines.writeLine(QString(100, u'x')));
+            QVERIFY(!lines.commit() && !lines.whyNot().isEmpty());
+        }
+        QCOMPARE(support::bytesOf(path), "old");
+    }
+
     void read()
     {
         const QTemporaryDir folder;

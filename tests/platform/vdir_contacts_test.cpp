@@ -56,6 +56,19 @@ private Q_SLOTS:
         QVERIFY(contacts.list().at(0) == blank);
     }
 
+    void cardStaysOnAFullDisk()
+    {
+        VdirContacts contacts(m_folder->path());
+        MailContact contact = fullContact();
+        QVERIFY(contacts.add(contact));
+        {
+            const support::FullDisk full(10);
+            QVERIFY(!rewrite(contacts, contact));
+        }
+        contact.item = u"17OV.vcf"_s;
+        QVERIFY(contacts.list().at(0) == contact);
+    }
+
     void blankNumberKeepsThePlaces()
     {
         VdirContacts contacts(m_folder->path());

@@ -5,6 +5,7 @@
 #include "core/handover/entry_form.h"
 #include "core/handover/page_screen.h"
 #include "core/report_request.h"
+#include "core/save_texts.h"
 #include "core/screens.h"
 #include "core/sibling_start.h"
 #include "platform/drive.h"
@@ -48,9 +49,6 @@ bool ActionPerformer::perform(const core::Action& action)
 
 bool ActionPerformer::canPerform(const core::Action& action) const
 {
-    // The text reports have no builder yet.
-    if (std::holds_alternative<core::TextReport>(action))
-        return false;
     const QStringView form = std::visit(ScreenNeeded{}, action);
     return form.isEmpty() || m_context.screens.has(form);
 }
@@ -122,9 +120,9 @@ bool ActionPerformer::run(const core::RequestReport& request)
             u"update ov_setup set rptSubMod='"_s + report + u"'"_s});
 }
 
-bool ActionPerformer::run(const core::TextReport&)
+bool ActionPerformer::run(const core::TextReport& report)
 {
-    return false;
+    return core::saveBookText(m_context, report.labels, qobject_cast<QWidget*>(parent()));
 }
 
 bool ActionPerformer::run(const core::OpenFile& open)
