@@ -47,6 +47,9 @@ struct GridCell {
     CellLook look = {};
 };
 
+/// What a person reads in a cell: of a check box a "Y" or nothing.
+QString textOf(const GridColumn& column, const GridCell& cell);
+
 struct GridRow {
     bool isHidden = false;
     bool hasHeight = true;
@@ -77,9 +80,9 @@ public:
 };
 
 struct GridTable {
-    QString title;
-    QList<GridColumn> columns;
-    std::shared_ptr<const GridRows> rows;
+    QString title = {};
+    QList<GridColumn> columns = {};
+    std::shared_ptr<const GridRows> rows = {};
     QString fontName = {};
     int clientWidth = 0; ///< twips, of which widths are told as a part; that of all columns where it is 0
     int fixedColumns = 0; ///< which look like the headings
