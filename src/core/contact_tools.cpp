@@ -5,13 +5,14 @@
 #include "core/handover/contact_screen.h"
 #include "core/handover/mail_composer.h"
 #include "core/handover/page_screen.h"
+#include "core/handover/report_screen.h"
 #include "core/mail_key.h"
+#include "core/report_request.h"
 #include "core/save_cards.h"
 #include "core/save_failure.h"
 #include "core/save_texts.h"
 #include "core/screens.h"
 #include "core/settings.h"
-#include "core/sibling_start.h"
 #include "core/sound_files.h"
 #include "platform/contact_sync.h"
 #include "platform/message_boxes.h"
@@ -80,6 +81,7 @@ void ContactTools::performOnContact(const Tool& tool, const jet::Recordset& cont
     case ToolTask::HandOver: return handOver(tool.form, id);
     case ToolTask::AddRecipient: return addRecipient(tool.form, id);
     case ToolTask::OpenPage: return openPage(tool, id);
+    case ToolTask::PrintContact: return printContact(tool.form, contact.textOrEmpty(u"Name"));
     default: break;
     }
 }
@@ -187,18 +189,24 @@ void ContactTools::askFilter(QStringView form)
     m_context.screens.show(form, Shown::Modally);
 }
 
+void ContactTools::printContact(QStringView form, const QString& name)
+{
+    if (auto* screen = m_context.screens.load<ReportScreen>(form))
+        screen->showContactReport(name);
+    m_context.screens.show(form);
+}
+
 void ContactTools::requestReport()
 {
-    startSibling(m_context,
-        {.program = kLinkAndSync,
-            .statements = {
-                u"update ov_setup set key='report'"_s,
-                u"update ov_setup set key='report'"_s,
-                // Kept: the misspelt word is written and overwritten at once.
-                u"update ov_setup set rptMod='Contacs'"_s,
-                u"update ov_setup set rptMod='Contacts'"_s,
-                u"update ov_setup set rptSubMod='Address Book- Full'"_s,
-            }});
+    core::requestReport(m_context, u"Address Book- Full"_s,
+        {
+            u"update ov_setup set key='report'"_s,
+            u"update ov_setup set key='report'"_s,
+            // Kept: the misspelt word is written and overwritten at once.
+            u"update ov_setup set rptMod='Contacs'"_s,
+            u"update ov_setup set rptMod='Contacts'"_s,
+            u"update ov_setup set rptSubMod='Address Book- Full'"_s,
+        });
 }
 
 void ContactTools::saveCards(const QString& ids, const QString& folder)

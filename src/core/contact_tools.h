@@ -55,6 +55,7 @@ private:
     void addRecipient(QStringView form, qint64 id);
     void openPage(const Tool& tool, qint64 id);
     void askFilter(QStringView form);
+    void printContact(QStringView form, const QString& name);
     void requestReport();
     void saveCards(const QString& ids, const QString& folder);
     void saveAllCards();

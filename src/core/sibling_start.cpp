@@ -18,6 +18,8 @@ bool startSibling(Context& context, const SiblingStart& start)
             context.data.execute(statement);
     }
     if (!isThere) {
+        if (start.instead && start.instead())
+            return true;
         context.screens.show(u"FrmProjectMsg", Shown::Modally);
         return false;
     }

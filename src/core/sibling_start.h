@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace core {
 
 inline constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
@@ -13,11 +15,12 @@ inline constexpr QStringView kLinkAndSync = u"Orvane Link & Sync.exe";
 struct SiblingStart {
     QStringView program; ///< its file
     QStringList statements = {}; ///< that leave word for it in the book
+    std::function<bool()> instead = {}; ///< what is done when it is not there; false when that failed too
 };
 
 /// Starts the sibling and ends this program, when no open screen objects for something typed. A sibling that
 /// is not there gets its word left all the same.
-/// @return whether the sibling was started
+/// @return whether the sibling was started, or what stands in for it was done
 bool startSibling(Context& context, const SiblingStart& start);
 
 } // namespace core

@@ -20,6 +20,7 @@ enum class ToolTask {
     SaveCard, ///< among the program's own files
     SaveCardToDesktop,
     SaveAllCardsToDesktop,
+    PrintContact, ///< the contacts of its name, in the form
     SaveTextToDesktop,
     SaveAllTextToDesktop,
     RequestReport, ///< the address book, printed by the program that does this

@@ -1,9 +1,15 @@
 #include "reports/register_reports.h"
 
 #include "core/screens.h"
+#include "reports/FrmAddFullRptView.h"
+
+using namespace Qt::StringLiterals;
 
 namespace reports {
 
-void registerReports(core::Screens&) { }
+void registerReports(core::Screens& screens)
+{
+    screens.add<FrmAddFullRptView>(u"FrmAddFullRptView"_s);
+}
 
 } // namespace reports

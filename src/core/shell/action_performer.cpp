@@ -4,6 +4,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/handover/entry_form.h"
 #include "core/handover/page_screen.h"
+#include "core/report_request.h"
 #include "core/save_texts.h"
 #include "core/screens.h"
 #include "core/sibling_start.h"
@@ -113,10 +114,10 @@ bool ActionPerformer::run(const core::StartSibling& start)
 
 bool ActionPerformer::run(const core::RequestReport& request)
 {
-    return core::startSibling(m_context,
-        {.program = core::kLinkAndSync,
-            .statements = {u"update ov_setup set key='report'"_s, u"update ov_setup set rptMod='Contacts'"_s,
-                u"update ov_setup set rptSubMod='"_s + request.subModule.toString() + u"'"_s}});
+    const QString report = request.subModule.toString();
+    return core::requestReport(m_context, report,
+        {u"update ov_setup set key='report'"_s, u"update ov_setup set rptMod='Contacts'"_s,
+            u"update ov_setup set rptSubMod='"_s + report + u"'"_s});
 }
 
 bool ActionPerformer::run(const core::TextReport& report)

@@ -42,9 +42,10 @@ PageView::PageView(PictureOf pictures, QWidget* parent)
 
 PageView::~PageView() = default;
 
-void PageView::show(const Report& report)
+void PageView::show(const Report& report, int page)
 {
     clear();
+    m_wanted = page > 1 ? page : 0;
     if (!report.isEmpty()) {
         m_pager = std::make_unique<ReportPager>(report);
         m_pager->step(0);
@@ -299,6 +300,8 @@ void PageView::countOn()
         viewport()->update();
     }
     layOut();
+    if (m_wanted > 0 && (pageCount() >= m_wanted || !isCounting()))
+        goToPage(std::exchange(m_wanted, 0));
     Q_EMIT pagesChanged();
 }
 

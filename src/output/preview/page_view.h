@@ -23,8 +23,9 @@ public:
     explicit PageView(PictureOf pictures, QWidget* parent = nullptr);
     ~PageView() override;
 
-    /// In place of the one shown; a report without rows is an empty view.
-    void show(const Report& report);
+    /// In place of the one shown, at a page that comes in sight when it is known; a report without rows is an
+    /// empty view.
+    void show(const Report& report, int page = 1);
     using QAbstractScrollArea::show;
     void clear();
     /// No more pages are looked for; those that are known stay.
@@ -32,6 +33,7 @@ public:
 
     bool hasPages() const { return pageCount() > 0; }
     int pageCount() const; ///< known so far
+    int rowsDone() const { return m_pager ? m_pager->rowsDone() : 0; }
     bool isCounting() const { return m_timer.isActive(); }
     int currentPage() const; ///< from 1; 0 without a page
     void goToPage(int number);
@@ -85,6 +87,7 @@ private:
     double m_zoom = 1;
     Fit m_fit = Fit::Width;
     int m_current = 0;
+    int m_wanted = 0; ///< the page to go to when it is known
     QString m_sought;
     QBasicTimer m_searching;
     int m_searchPage = 0;

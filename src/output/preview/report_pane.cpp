@@ -226,10 +226,10 @@ void ReportPane::followPages()
     m_tools->action(u"StopPages")->setEnabled(arV->isCounting());
 }
 
-void ReportPane::show(const Report& report)
+void ReportPane::show(const Report& report, int page)
 {
     m_find->clear();
-    arV->show(report);
+    arV->show(report, page);
 }
 
 void ReportPane::clear()

@@ -24,7 +24,7 @@ public:
     explicit ReportPane(core::Context& context, QWidget* parent = nullptr);
 
     /// A report without rows leaves the pane empty.
-    void show(const Report& report);
+    void show(const Report& report, int page = 1);
     using QWidget::show;
     void clear();
 
