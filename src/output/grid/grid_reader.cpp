@@ -84,6 +84,7 @@ GridTable gridTableOf(widgets::HeadingGrid* grid, const QString& title)
         .fontName = grid->font().family(),
         .clientWidth = grid->viewport()->width() * kTwipsAPixel};
     const widgets::GridContents& contents = rows->contents();
+    table.groupColumn = contents.groupColumn();
     for (int column = 0; column < contents.columns(); ++column) {
         const CellKind kind = kindOf(contents.type(column));
         table.columns << GridColumn{.heading = contents.heading(column),

@@ -86,6 +86,7 @@ struct GridTable {
     QString fontName = {};
     int clientWidth = 0; ///< twips, of which widths are told as a part; that of all columns where it is 0
     int fixedColumns = 0; ///< which look like the headings
+    int groupColumn = -1; ///< whose texts stand in the headings of groups
     // A file looks the same whatever look the program has.
     ColorNumber back = 0xFFFFFF;
     ColorNumber gridLine = 0xC0C0C0;
