@@ -24,6 +24,12 @@ QString fromUtf8OrCp1252(const QByteArray& bytes)
     return utf8.hasError() ? fromCp1252(bytes) : text;
 }
 
+bool isInCp1252(QStringView text)
+{
+    const auto isPlain = [](QChar letter) { return letter.unicode() < 0x80; };
+    return std::all_of(text.begin(), text.end(), isPlain) || fromCp1252(toCp1252(text)) == text;
+}
+
 QByteArray toCp1252(QStringView text)
 {
     QByteArray bytes;

@@ -18,6 +18,8 @@ inline constexpr std::array<char16_t, 32> cp1252Specials{0x20AC, 0, 0x201A, 0x01
 QString fromCp1252(QByteArrayView bytes);
 /// The text of bytes that may be either: UTF-8 when they are, otherwise the code page.
 QString fromUtf8OrCp1252(const QByteArray& bytes);
+/// Whether the code page has all letters of a text.
+bool isInCp1252(QStringView text);
 /// A character that the code page lacks becomes '?'.
 QByteArray toCp1252(QStringView text);
 

@@ -101,6 +101,7 @@ protected:
 
 private:
     class LineDelegate;
+    friend class GridContents;
 
     void startOutline();
     void restoreLines(int row, int top);

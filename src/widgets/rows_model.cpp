@@ -325,7 +325,12 @@ QString RowsModel::headingText(int line) const
 {
     if (m_isOutlining)
         return Placeholder.toString();
-    const QString text = shownText(m_outline.firstRow(m_outline.at(line).group), m_outlineSource);
+    return groupText(m_outline.at(line).group);
+}
+
+QString RowsModel::groupText(int group) const
+{
+    const QString text = shownText(m_outline.firstRow(group), m_outlineSource);
     return text.isEmpty() ? tr("(none)") : text;
 }
 
@@ -361,10 +366,40 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
 QString RowsModel::shownText(int row, int source) const
 {
     if (const auto wording = m_wordingsBySource.constFind(source); wording != m_wordingsBySource.cend())
-        return (*wording)(m_fromList ? QVariant(sourceText(row, source)) : m_recordset.valueAt(row, source));
+        return wordedText(row, source, *wording);
     // A line break would show as a box, or make the row look empty; no cell is as wide as a long text.
     constexpr qsizetype MostLetters = 500;
     return sourceText(row, source).left(MostLetters).replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
+}
+
+QString RowsModel::wordedText(int row, int source, const Wording& wording) const
+{
+    return wording(m_fromList ? QVariant(sourceText(row, source)) : m_recordset.valueAt(row, source));
+}
+
+QString RowsModel::recordText(int row, int column) const
+{
+    const int source = m_sources.value(column, -1);
+    if (source < 0 || row < 0 || row >= recordCount())
+        return {};
+    const auto wording = m_wordingsBySource.constFind(source);
+    return wording == m_wordingsBySource.cend() ? sourceText(row, source) : wordedText(row, source, *wording);
+}
+
+QVariant RowsModel::recordValue(int row, int column) const
+{
+    const int source = m_sources.value(column, -1);
+    if (source < 0 || row < 0 || row >= recordCount())
+        return {};
+    return m_fromList ? QVariant(m_rows[row].value(source)) : m_recordset.valueAt(row, source);
+}
+
+jet::ColumnType RowsModel::typeOf(int column) const
+{
+    const int source = m_sources.value(column, -1);
+    const auto type = m_fromList || source < 0 ? jet::ColumnType::Text : m_recordset.columnType(source);
+    return m_wordingsBySource.contains(source) && type != jet::ColumnType::Date ? jet::ColumnType::Text
+                                                                                : type;
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -40,6 +40,13 @@ public:
     /// The row of a line; of a heading, the first one below it.
     int rowAtOrBelow(int line) const;
 
+    // What stands in a row, for readers other than a view: whole texts, also of folded rows.
+    QString recordText(int row, int column) const;
+    QVariant recordValue(int row, int column) const;
+    /// Text also for what a wording makes of another type, other than of a date.
+    jet::ColumnType typeOf(int column) const;
+    const RowOutline& outline() const { return m_outline; }
+
     // Groups. A fill makes one group of all rows; the steps that follow find where each text ends.
     void setOutline(const QString& name);
     bool isOutlining() const { return m_isOutlining; }
@@ -49,6 +56,7 @@ public:
     bool isHeading(int line) const;
     int headingOf(int group) const { return m_outline.headingOf(group); }
     int rowsIn(int group) const { return m_outline.rowsIn(group); }
+    QString groupText(int group) const; ///< as its heading has it
     bool isFolded(int group) const { return m_outline.isFolded(group); }
     void fold(int group, bool folded);
     void foldAll(bool folded);
@@ -70,6 +78,7 @@ private:
     qint64 sourceNumber(int row, int source) const;
     qint64 sourceKey(int row) const;
     QString shownText(int row, int source) const;
+    QString wordedText(int row, int source, const Wording& wording) const;
 
     QList<Heading> m_headings;
     QStringList m_columns; ///< as given for the headings

@@ -7,6 +7,7 @@
 #include "core/shell/frame_settings.h"
 #include "core/shell/key_arbiter.h"
 #include "core/shell/list_bar.h"
+#include "core/shell/list_commands.h"
 #include "core/shell/menu_table.h"
 #include "core/shell/notice_strip.h"
 #include "core/shell/screen_tabs.h"
@@ -270,6 +271,7 @@ void MDIForm1::buildMenus()
     look();
     connect(contacts, &QMenu::aboutToShow, this, look);
     connect(m_tabs, &QTabWidget::currentChanged, this, look);
+    new ListCommands(*m_context, [this]() -> QWidget* { return screenInFront(); }, contacts, *m_keys);
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     new UndoCommand(*m_context, edit);
     edit->addSeparator();

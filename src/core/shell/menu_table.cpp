@@ -24,6 +24,10 @@ constexpr MenuRow kContactsMenu[] = {
     {kPage, u"ID_DataTransfer", QT_TRANSLATE_NOOP("shell", "E&xport")},
     {kTool, u"RestoreBackup", QT_TRANSLATE_NOOP("shell", "&Restore from a backup")},
     kLine,
+    {kTool, {}, QT_TRANSLATE_NOOP("shell", "&Print the list..."), u"ListPrint"},
+    {kTool, {}, QT_TRANSLATE_NOOP("shell", "Export the &list..."), u"FileExport"},
+    {kTool, {}, QT_TRANSLATE_NOOP("shell", "&Size of its texts"), u"ListSize"},
+    kLine,
     {kTool, u"Exit"},
 };
 constexpr MenuRow kViewMenu[] = {

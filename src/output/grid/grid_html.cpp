@@ -33,6 +33,8 @@ constexpr const char* kAlignments[] = {
 /// The bytes of the code page, and the number of each character that it lacks.
 QByteArray pageBytes(QStringView text)
 {
+    if (platform::isInCp1252(text))
+        return platform::toCp1252(text);
     QByteArray bytes;
     bytes.reserve(text.size());
     for (qsizetype at = 0; at < text.size();) {
@@ -186,8 +188,7 @@ private:
     /// One cell on a line of its own.
     QByteArray td(const GridCell& cell, int column, const MergedRange& range, bool isFixed, int level) const
     {
-        const bool isCheckBox = m_grid.columns[column].kind == CellKind::CheckBox && cell.value.isValid();
-        const QString text = isCheckBox ? (cell.value.toInt() != 0 ? u"Y"_s : QString()) : cell.text;
+        const QString text = textOf(m_grid.columns[column], cell);
         QByteArray line = "<TD WIDTH=" + extent(column, range);
         if (cell.look.back || isFixed)
             line += " BGCOLOR=" + htmlColor(cell.look.back.value_or(m_grid.fixedBack));

@@ -2,6 +2,13 @@
 
 namespace output {
 
+QString textOf(const GridColumn& column, const GridCell& cell)
+{
+    if (column.kind != CellKind::CheckBox || !cell.value.isValid())
+        return cell.text;
+    return cell.value.toInt() != 0 ? QStringLiteral("Y") : QString();
+}
+
 QList<int> GridTable::shownColumns() const
 {
     QList<int> shown;

@@ -47,6 +47,9 @@ struct GridCell {
     CellLook look = {};
 };
 
+/// What a person reads in a cell: of a check box a "Y" or nothing.
+QString textOf(const GridColumn& column, const GridCell& cell);
+
 struct GridRow {
     bool isHidden = false;
     bool hasHeight = true;
@@ -77,12 +80,13 @@ public:
 };
 
 struct GridTable {
-    QString title;
-    QList<GridColumn> columns;
-    std::shared_ptr<const GridRows> rows;
+    QString title = {};
+    QList<GridColumn> columns = {};
+    std::shared_ptr<const GridRows> rows = {};
     QString fontName = {};
     int clientWidth = 0; ///< twips, of which widths are told as a part; that of all columns where it is 0
     int fixedColumns = 0; ///< which look like the headings
+    int groupColumn = -1; ///< whose texts stand in the headings of groups
     // A file looks the same whatever look the program has.
     ColorNumber back = 0xFFFFFF;
     ColorNumber gridLine = 0xC0C0C0;
