@@ -19,6 +19,7 @@
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
 #include "widgets/theme.h"
@@ -101,6 +102,7 @@ int main(int argc, char** argv)
     setup::registerSetup(screens);
     entry::registerEntry(screens);
     output::registerOutput(screens);
+    transfer::registerTransfer(screens);
     views::registerViews(screens);
 
     const shell::StorageNotice storageNotice(context);

@@ -6,11 +6,18 @@
 #include <initializer_list>
 #include <span>
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace formats {
 
 namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("formats", text);
+}
 
 constexpr QStringView kNote = u"memo1";
 /// Where the value stands in the book that wrote the card.
@@ -240,7 +247,7 @@ void Mapper::take(const P& property)
 {
     if (property.depth > 0) {
         if (property.isBinary)
-            m_contact.left << u"a picture of the card within the card"_s;
+            m_contact.left << translated("a picture of the card within the card");
         else
             note(u"Agent - "_s + labelOf(property), m_card.text(property));
         return;
@@ -248,8 +255,9 @@ void Mapper::take(const P& property)
     if (property.isUnread)
         return note(u"Line that is no property"_s, property.value);
     if (property.isTooLong)
-        m_contact.left << (property.isBinary ? labelOf(property) + u": too large"_s
-                                             : labelOf(property) + u": the end of a text that is too long"_s);
+        m_contact.left << (property.isBinary
+                ? translated("%1: too large").arg(labelOf(property))
+                : translated("%1: the end of a text that is too long").arg(labelOf(property)));
     if (property.isBinary)
         return takeBinary(property);
     if (property.name == "X-ABLABEL"_L1)
@@ -574,9 +582,9 @@ void Mapper::takeBinary(const P& property)
     if (property.name == "PHOTO"_L1 && isPicture && m_contact.photo.isEmpty())
         m_contact.photo = property.bytes;
     else if (property.name == "PHOTO"_L1 && !isPicture)
-        m_contact.left << u"Photo: it is no picture that can be shown"_s;
+        m_contact.left << translated("Photo: it is no picture that can be shown");
     else
-        m_contact.left << labelOf(property) + u": the book has no place for it"_s;
+        m_contact.left << translated("%1: the book has no place for it").arg(labelOf(property));
 }
 
 // A label whose value nobody has is a value of its own.

@@ -52,8 +52,9 @@ QString textOfBytes(const QByteArray& bytes, const QByteArray& charset)
     if (!isNamed && !decode(QStringDecoder(QStringDecoder::Utf8, whole), bytes, &text)
         && !decode(QStringDecoder("windows-1252", whole), bytes, &text))
         text = QString::fromLatin1(bytes);
-    if (text.contains(QChar::Null))
-        text.remove(QChar::Null);
+    text.removeIf([](QChar c) {
+        return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r' && c != u'\t';
+    });
     return text;
 }
 

@@ -75,11 +75,19 @@ Answer DesktopBoxes::ask(const QString& text, const QString& title, Icon icon)
                                                                                            : Answer::No;
 }
 
-std::optional<QString> DesktopBoxes::openFile(const QString& title, const QString& filter)
+std::optional<QString> DesktopBoxes::openFile(
+    const QString& title, const QString& filter, const QString& folder)
 {
-    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
+    QFileDialog dialog(windowBelow(), title, folder, dialogFilter(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosen(dialog);
+}
+
+std::optional<QStringList> DesktopBoxes::openFiles(const QString& title, const QString& filter)
+{
+    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    return chosen(dialog) ? std::optional(dialog.selectedFiles()) : std::nullopt;
 }
 
 std::optional<QString> DesktopBoxes::saveFile(const QString& title, const QString& filter)

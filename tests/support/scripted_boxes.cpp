@@ -65,9 +65,15 @@ Answer ScriptedBoxes::ask(const QString& text, const QString& title, platform::I
     return next(Kind::Question, text).answer;
 }
 
-std::optional<QString> ScriptedBoxes::openFile(const QString& title, const QString&)
+std::optional<QString> ScriptedBoxes::openFile(const QString& title, const QString&, const QString&)
 {
     return choose(u"openFile: "_s, title);
+}
+
+std::optional<QStringList> ScriptedBoxes::openFiles(const QString& title, const QString&)
+{
+    const auto choice = choose(u"openFiles: "_s, title);
+    return choice ? std::optional(choice->split(u'\n')) : std::nullopt;
 }
 
 std::optional<QString> ScriptedBoxes::saveFile(const QString& title, const QString&)
