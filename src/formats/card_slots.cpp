@@ -1,5 +1,6 @@
 #include "formats/card_slots.h"
 
+#include "formats/card_words.h"
 #include "jet/date_text.h"
 
 #include <algorithm>
@@ -22,9 +23,6 @@ QString translated(const char* text)
 constexpr QStringView kNote = u"memo1";
 /// Where the value stands in the book that wrote the card.
 constexpr QStringView kColumnParameter = u"X-ORVANE-COLUMN";
-
-constexpr QStringView kOfOneBook[]
-    = {u"id", u"PhotLoc", u"selected", u"fmtree", u"gen_id", u"palm", u"code_1b"};
 
 constexpr QStringView kHomePhones[] = {u"H_Ph1", u"h_ph2", u"h_ph3"};
 constexpr QStringView kWorkPhones[] = {u"B_Ph1", u"B_Ph2", u"B_ph3", u"w_Ph1", u"w_Ph2", u"w_ph3"};
@@ -62,43 +60,6 @@ constexpr TextRow kTexts[] = {
 constexpr QLatin1StringView kAnniversaries[] = {"ANNIVERSARY"_L1, "X-ANNIVERSARY"_L1,
     "X-EVOLUTION-ANNIVERSARY"_L1, "X-KADDRESSBOOK-X-ANNIVERSARY"_L1, "X-WAB-WEDDING_ANNIVERSARY"_L1};
 
-/// What a line of the note calls a property; any other is called by its own name.
-struct LabelRow {
-    QLatin1StringView property;
-    QLatin1StringView label;
-};
-constexpr LabelRow kLabels[] = {
-    {"FN"_L1, "Name"_L1},
-    {"N"_L1, "Name"_L1},
-    {"NICKNAME"_L1, "Nick name"_L1},
-    {"ORG"_L1, "Organisation"_L1},
-    {"TITLE"_L1, "Job title"_L1},
-    {"ROLE"_L1, "Role"_L1},
-    {"TEL"_L1, "Telephone"_L1},
-    {"EMAIL"_L1, "E-mail"_L1},
-    {"ADR"_L1, "Address"_L1},
-    {"LABEL"_L1, "Address label"_L1},
-    {"URL"_L1, "Web"_L1},
-    {"BDAY"_L1, "Birthday"_L1},
-    {"ANNIVERSARY"_L1, "Anniversary"_L1},
-    {"X-ANNIVERSARY"_L1, "Anniversary"_L1},
-    {"GENDER"_L1, "Gender"_L1},
-    {"IMPP"_L1, "Messenger"_L1},
-    {"GEO"_L1, "Position"_L1},
-    {"TZ"_L1, "Time zone"_L1},
-    {"LANG"_L1, "Language"_L1},
-    {"MAILER"_L1, "Mail program"_L1},
-    {"CATEGORIES"_L1, "Categories"_L1},
-    {"RELATED"_L1, "Related"_L1},
-    {"X-ABRELATEDNAMES"_L1, "Related"_L1},
-    {"X-ABDATE"_L1, "Date"_L1},
-    {"PHOTO"_L1, "Photo"_L1},
-    {"LOGO"_L1, "Logo"_L1},
-    {"SOUND"_L1, "Sound"_L1},
-    {"KEY"_L1, "Key"_L1},
-    {"X-ABADR"_L1, "Address format"_L1},
-};
-
 /// Types that say nothing to a person.
 constexpr QLatin1StringView kQuietTypes[]
     = {"PREF"_L1, "VOICE"_L1, "INTERNET"_L1, "POSTAL"_L1, "PARCEL"_L1, "DOM"_L1, "INTL"_L1, "OTHER"_L1};
@@ -117,48 +78,6 @@ template <class List> bool isIn(const List& list, const QString& text)
 QString addressColumn(QStringView prefix, QStringView part)
 {
     return prefix.toString() + part.toString();
-}
-
-QString onOneLine(const QString& text)
-{
-    QStringList lines;
-    for (const QString& line : text.split(u'\n')) {
-        if (!line.trimmed().isEmpty())
-            lines << line.trimmed();
-    }
-    return lines.join(u", "_s);
-}
-
-/// "_$!<HomePage>!$_" is a label that the writer would translate.
-QString plainLabel(const QString& label)
-{
-    if (label.startsWith("_$!<"_L1) && label.endsWith(">!$_"_L1))
-        return label.mid(4, label.size() - 8);
-    return label.trimmed();
-}
-
-/// Day and perhaps time of a date in one of the ways of cards; blank for one without a year or a day.
-struct CardDate {
-    QString day;
-    QString time;
-};
-CardDate cardDate(const QString& text)
-{
-    QString iso = text.trimmed();
-    if (iso.size() >= 10 && (iso[4] == u'/' || iso[4] == u'.') && iso[7] == iso[4])
-        iso[4] = iso[7] = u'-';
-    const QDate day = jet::dayOfIso(iso);
-    if (!day.isValid())
-        return {};
-    QString rest = iso.mid(iso.size() > 4 && iso[4] == u'-' ? 10 : 8);
-    if (!rest.isEmpty() && rest[0] != u'T' && rest[0] != u' ')
-        return {};
-    return {jet::isoDate(day), rest.mid(1)};
-}
-
-bool isMidnight(const QString& time)
-{
-    return std::none_of(time.begin(), time.end(), [](QChar c) { return c >= u'1' && c <= u'9'; });
 }
 
 class Mapper {
@@ -309,7 +228,7 @@ bool Mapper::takeOwn(const P& property)
         QTime time = QTime::fromString(date.time, u"HH:mm:ss"_s);
         if (!time.isValid())
             time = QTime::fromString(date.time, u"HHmmss"_s);
-        text = jet::isoDate(QDate::fromString(date.day, Qt::ISODate), time.isValid() ? time : QTime());
+        text = jet::isoDate(jet::dayOfIso(date.day), time.isValid() ? time : QTime());
     } else if (column->type == jet::ColumnType::YesNo) {
         text = text == "true"_L1 ? text : QString();
     } else if (property.name == "GENDER"_L1) {
@@ -621,11 +540,7 @@ QString Mapper::customLabel(const P& property) const
 
 QString Mapper::labelOf(const P& property) const
 {
-    QString label = property.name;
-    const auto* row = std::find_if(std::begin(kLabels), std::end(kLabels),
-        [&](const LabelRow& one) { return property.name == one.property; });
-    if (row != std::end(kLabels))
-        label = row->label;
+    const QString label = labelOfProperty(property.name);
     QStringList words;
     for (const QString& type : property.types) {
         if (!isIn(kQuietTypes, type))
@@ -673,80 +588,9 @@ void Mapper::note(const QString& label, const QString& text)
 
 } // namespace
 
-CardColumns::CardColumns(const jet::SchemaTable& contacts, QStringList nameViews)
-    : m_nameViews(std::move(nameViews))
-{
-    for (const jet::SchemaColumn& column : contacts.columns) {
-        const bool isOfOneBook = std::any_of(std::begin(kOfOneBook), std::end(kOfOneBook),
-            [&](QStringView name) { return name.compare(column.name, Qt::CaseInsensitive) == 0; });
-        if (isOfOneBook)
-            continue;
-        m_byName.insert(column.name.toLower(), m_all.size());
-        m_byProperty.insert(propertyOf(column.name), m_all.size());
-        m_all.append({column.name, column.type, column.size});
-    }
-}
-
-const CardColumns::Column* CardColumns::find(QStringView name) const
-{
-    const auto found = m_byName.constFind(name.toString().toLower());
-    return found == m_byName.constEnd() ? nullptr : &m_all[*found];
-}
-
-const CardColumns::Column* CardColumns::ofProperty(QStringView property) const
-{
-    const auto found = m_byProperty.constFind(property.toString());
-    return found == m_byProperty.constEnd() ? nullptr : &m_all[*found];
-}
-
-QString CardColumns::propertyOf(QStringView column)
-{
-    return u"X-ORVANE-"_s + column.toString().toUpper().replace(u'_', u'-').replace(u' ', u'-');
-}
-
-QString CardContact::text(QStringView column) const
-{
-    for (const Value& value : values) {
-        if (column.size() == value.column.size() && column.compare(value.column, Qt::CaseInsensitive) == 0)
-            return value.text;
-    }
-    return {};
-}
-
-void CardContact::set(QStringView column, const QString& text)
-{
-    const auto found = std::find_if(values.begin(), values.end(),
-        [&](const Value& value) { return column.compare(value.column, Qt::CaseInsensitive) == 0; });
-    if (found != values.end() && text.isEmpty())
-        values.erase(found);
-    else if (found != values.end())
-        found->text = text;
-    else if (!text.isEmpty())
-        values.push_back({column.toString(), text});
-}
-
 CardContact contactOf(const ForeignCard& card, const CardColumns& columns)
 {
     return Mapper(card, columns).map();
-}
-
-QString pictureEnding(const QByteArray& bytes)
-{
-    struct Kind {
-        QByteArrayView start;
-        QLatin1StringView ending;
-    };
-    static constexpr Kind kinds[] = {
-        {QByteArrayView("\xff\xd8\xff"), "jpg"_L1},
-        {QByteArrayView("\x89PNG\r\n\x1a\n"), "png"_L1},
-        {QByteArrayView("GIF8"), "gif"_L1},
-        {QByteArrayView("BM"), "bmp"_L1},
-    };
-    for (const Kind& kind : kinds) {
-        if (bytes.startsWith(kind.start))
-            return kind.ending;
-    }
-    return bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WEBP" ? u"webp"_s : QString();
 }
 
 } // namespace formats

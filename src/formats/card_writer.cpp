@@ -1,5 +1,7 @@
 #include "formats/card_writer.h"
 
+#include "formats/vcard_lines.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

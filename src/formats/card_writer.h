@@ -1,6 +1,6 @@
 #pragma once
 
-#include "formats/card_slots.h"
+#include "formats/card_contact.h"
 
 namespace formats {
 

@@ -44,7 +44,8 @@ bool writeText(const QString& localPath, QStringView text)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(toCp1252(lines));
-    return file.commit();
+    // What is still in memory at the commit could fail unnoticed, and leave an empty file.
+    return file.flush() && file.commit();
 }
 
 bool writeText(const Drive& drive, QStringView path, QStringView text)

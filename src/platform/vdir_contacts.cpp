@@ -150,7 +150,8 @@ bool VdirContacts::write(const QString& file, const ContactCard& card)
     if (!target.open(QIODevice::WriteOnly))
         return false;
     target.write(bytes);
-    if (!target.commit())
+    // What is still in memory at the commit could fail unnoticed, and leave an empty file.
+    if (!target.flush() || !target.commit())
         return false;
     // Our own write changed the folder's time; a bulk transfer must not read the whole folder again for each
     // card.

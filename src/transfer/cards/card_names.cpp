@@ -95,10 +95,12 @@ void completeName(CardContact& contact)
     }
     if (isNameless(contact))
         contact.set(u"First", u"(no name)"_s);
+    // What stands there is kept, also when it is none of the views.
+    const bool isTold = !contact.text(u"Nview").isEmpty();
     const NameView view = told.value_or(viewFor(contact));
-    if (!told)
+    if (!isTold)
         contact.set(u"Nview", wordsOf(view));
-    if (name.isEmpty() && !told)
+    if (name.isEmpty() && !isTold)
         contact.set(u"Name", core::composeName(view, partsOf(contact)).trimmed());
 }
 

@@ -82,7 +82,8 @@ public:
         return replace(m_folder + u'/' + free + u".vcf"_s, card);
     }
 
-    bool finish() { return !m_isOneFile || m_file.commit(); }
+    // What is still in memory at the commit could fail unnoticed.
+    bool finish() { return !m_isOneFile || (m_file.flush() && m_file.commit()); }
     void giveUp()
     {
         if (m_isOneFile)
