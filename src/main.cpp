@@ -21,6 +21,7 @@
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
 #include "reports/register_reports.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
 #include "widgets/theme.h"
@@ -104,6 +105,7 @@ int main(int argc, char** argv)
     setup::registerSetup(screens);
     entry::registerEntry(screens);
     output::registerOutput(screens);
+    transfer::registerTransfer(screens);
     views::registerViews(screens);
     reports::registerReports(screens);
 
