@@ -8,6 +8,8 @@ class Clock;
 class Drive;
 class Favourites;
 class HelpViewer;
+class MailAccounts;
+class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Shell;
@@ -31,6 +33,8 @@ struct Services {
     platform::HelpViewer& help;
     platform::MailContacts& mailContacts;
     platform::Clock& clock;
+    platform::MailClient& mail;
+    platform::MailAccounts& mailAccounts;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

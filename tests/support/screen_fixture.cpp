@@ -49,7 +49,7 @@ ScreenFixture::ScreenFixture(TestBook::Rows rows)
     , clock(QDate(2024, 3, 15))
     , schema(TestBook::schema())
     , context{book.data(), book.data(), schema, shared, screens, frame,
-          {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock}}
+          {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock, mail, mailAccounts}}
 {
     screens.setContext(context);
     widgets::DateBox::setToday([this] { return clock.today(); });

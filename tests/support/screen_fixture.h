@@ -95,6 +95,8 @@ public:
     RecordingHelpViewer help;
     RecordingMailContacts mailContacts;
     FixedClock clock;
+    RecordingMail mail;
+    RecordingMailAccounts mailAccounts;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
