@@ -12,6 +12,7 @@
 #include "output/register_output.h"
 #include "platform/clock.h"
 #include "platform/desktop_boxes.h"
+#include "platform/desktop_printer.h"
 #include "platform/desktop_shell.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
@@ -25,6 +26,7 @@
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
+#include "reports/register_reports.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
 #include "widgets/theme.h"
@@ -95,6 +97,7 @@ int main(int argc, char** argv)
     platform::WindowHelpViewer help(drive, desktop);
     platform::VdirContacts mailContacts(QDir(folder).filePath(u"MailContacts"_s));
     platform::SystemClock clock;
+    platform::DesktopPrinter printer;
     platform::KeychainSecrets secrets;
     platform::MailAccountFile mailAccounts(QDir(folder).filePath(u"mail.ini"_s), secrets, clock);
     const QString mailBox = QDir(folder).filePath(u"MailBox"_s);
@@ -110,13 +113,15 @@ int main(int argc, char** argv)
     core::Screens screens;
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
-        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, mail, mailAccounts}};
+        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
+            mailAccounts}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);
     entry::registerEntry(screens);
     output::registerOutput(screens);
     views::registerViews(screens);
+    reports::registerReports(screens);
 
     const shell::StorageNotice storageNotice(context);
     const shell::MailNotice mailNotice(context, post);

@@ -12,6 +12,7 @@ class MailAccounts;
 class MailClient;
 class MailContacts;
 class MessageBoxes;
+class Printer;
 class Shell;
 class Sounds;
 class SpecialFolders;
@@ -33,6 +34,7 @@ struct Services {
     platform::HelpViewer& help;
     platform::MailContacts& mailContacts;
     platform::Clock& clock;
+    platform::Printer& printer;
     platform::MailClient& mail;
     platform::MailAccounts& mailAccounts;
 };

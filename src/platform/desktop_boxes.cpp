@@ -75,18 +75,24 @@ Answer DesktopBoxes::ask(const QString& text, const QString& title, Icon icon)
                                                                                            : Answer::No;
 }
 
-std::optional<QString> DesktopBoxes::openFile(const QString& title, const QString& filter)
+std::optional<QString> DesktopBoxes::openFile(
+    const QString& title, const QString& filter, const QString& folder)
 {
-    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
+    QFileDialog dialog(windowBelow(), title, folder, dialogFilter(filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosen(dialog);
 }
 
-std::optional<QString> DesktopBoxes::saveFile(const QString& title, const QString& filter)
+std::optional<QString> DesktopBoxes::saveFile(
+    const QString& title, const QString& filter, const FileSuggestion& suggestion)
 {
-    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
+    QFileDialog dialog(windowBelow(), title, suggestion.folder, dialogFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(defaultSuffix(filter));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& chosenFilter) {
+        dialog.setDefaultSuffix(defaultSuffix(filter, dialog.nameFilters().indexOf(chosenFilter)));
+    });
+    dialog.selectFile(suggestion.name);
     return chosen(dialog);
 }
 

@@ -11,8 +11,10 @@ public:
     void warning(const QString& text, const QString& title) override;
     void stop(const QString& text, const QString& title) override;
     Answer ask(const QString& text, const QString& title, Icon icon) override;
-    std::optional<QString> openFile(const QString& title, const QString& filter) override;
-    std::optional<QString> saveFile(const QString& title, const QString& filter) override;
+    std::optional<QString> openFile(
+        const QString& title, const QString& filter, const QString& folder) override;
+    std::optional<QString> saveFile(
+        const QString& title, const QString& filter, const FileSuggestion& suggestion) override;
     std::optional<QString> folder(const QString& title) override;
     std::optional<QString> inputText(const QString& title, const QString& label) override;
 };

@@ -36,10 +36,11 @@ QString dialogFilter(QStringView barred)
     return filters.join(u";;"_s);
 }
 
-QString defaultSuffix(QStringView barred)
+QString defaultSuffix(QStringView barred, qsizetype label)
 {
     const auto parts = barred.split(u'|');
-    const QString first = patterns(parts.size() < 2 ? barred : parts[1]).section(u' ', 0, 0);
+    const QString first
+        = patterns(parts.size() < 2 ? barred : parts.value(2 * label + 1)).section(u' ', 0, 0);
     const QString suffix = first.section(u'.', -1);
     return first.startsWith("*."_L1) && !suffix.contains(u'*') && !suffix.contains(u'?') ? suffix : QString();
 }

@@ -9,7 +9,7 @@ namespace platform {
 /// ";" between; a text without a bar is one pattern.
 QString dialogFilter(QStringView barred);
 
-/// The extension of the first pattern, which a name without one gets on saving; empty for "*.*".
-QString defaultSuffix(QStringView barred);
+/// The extension of the first pattern of a label, which a name without one gets on saving; empty for "*.*".
+QString defaultSuffix(QStringView barred, qsizetype label = 0);
 
 } // namespace platform

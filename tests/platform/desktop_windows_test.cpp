@@ -107,7 +107,7 @@ private Q_SLOTS:
             dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(wanted);
             static_cast<QDialog*>(dialog)->accept();
         });
-        QCOMPARE(boxes.saveFile(u"T"_s, u"VCF (*.vcf)|*.vcf"_s), QString(wanted + u".vcf"_s));
+        QCOMPARE(boxes.saveFile(u"T"_s, u"VCF (*.vcf)|*.vcf"_s, {}), QString(wanted + u".vcf"_s));
     }
 
     void shellEndsTheProgram()

@@ -1,5 +1,8 @@
 #include "support/recording_services.h"
 
+#include <QImage>
+#include <QPainter>
+
 #include <algorithm>
 
 #include <QRegularExpression>
@@ -81,6 +84,17 @@ bool RecordingFavourites::AddFavourite(QStringView url, QStringView name, QStrin
 void RecordingHelpViewer::openHelp(QStringView path)
 {
     opened << path.toString();
+}
+
+platform::Printed RecordingPrinter::print(const platform::PrintJob& job, QWidget*)
+{
+    QImage paper(60, 80, QImage::Format_RGB32);
+    for (int page = 1; page <= job.pages; ++page) {
+        QPainter painter(&paper);
+        job.paint(painter, page);
+    }
+    printed << job.title + u": "_s + QString::number(job.pages);
+    return answer;
 }
 
 bool RecordingMailContacts::add(const MailContact& contact)

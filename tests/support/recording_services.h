@@ -12,6 +12,7 @@
 #include "platform/help_viewer.h"
 #include "platform/mail_account.h"
 #include "platform/mail_client.h"
+#include "platform/printer.h"
 #include "platform/shell.h"
 #include "platform/sounds.h"
 #include "platform/special_folders.h"
@@ -76,6 +77,15 @@ public:
     void openHelp(QStringView path) override;
 
     QStringList opened;
+};
+
+/// Draws every page to nowhere, as a printer does, and keeps what was printed.
+class RecordingPrinter final : public platform::Printer {
+public:
+    platform::Printed print(const platform::PrintJob& job, QWidget* over) override;
+
+    QStringList printed; ///< "title: pages"
+    platform::Printed answer = platform::Printed::Yes;
 };
 
 /// A mail client whose contacts lie in memory.

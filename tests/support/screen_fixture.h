@@ -95,6 +95,7 @@ public:
     RecordingHelpViewer help;
     RecordingMailContacts mailContacts;
     FixedClock clock;
+    RecordingPrinter printer;
     RecordingMail mail;
     RecordingMailAccounts mailAccounts;
     jet::Schema schema;

@@ -65,13 +65,15 @@ Answer ScriptedBoxes::ask(const QString& text, const QString& title, platform::I
     return next(Kind::Question, text).answer;
 }
 
-std::optional<QString> ScriptedBoxes::openFile(const QString& title, const QString&)
+std::optional<QString> ScriptedBoxes::openFile(const QString& title, const QString&, const QString&)
 {
     return choose(u"openFile: "_s, title);
 }
 
-std::optional<QString> ScriptedBoxes::saveFile(const QString& title, const QString&)
+std::optional<QString> ScriptedBoxes::saveFile(
+    const QString& title, const QString&, const platform::FileSuggestion& suggestion)
 {
+    suggested << suggestion.folder + u'/' + suggestion.name;
     return choose(u"saveFile: "_s, title);
 }
 

@@ -32,14 +32,17 @@ public:
     void warning(const QString& text, const QString& title) override;
     void stop(const QString& text, const QString& title) override;
     platform::Answer ask(const QString& text, const QString& title, platform::Icon icon) override;
-    std::optional<QString> openFile(const QString& title, const QString& filter) override;
-    std::optional<QString> saveFile(const QString& title, const QString& filter) override;
+    std::optional<QString> openFile(
+        const QString& title, const QString& filter, const QString& folder) override;
+    std::optional<QString> saveFile(
+        const QString& title, const QString& filter, const platform::FileSuggestion& suggestion) override;
     std::optional<QString> folder(const QString& title) override;
     std::optional<QString> inputText(const QString& title, const QString& label) override;
 
     /// All boxes shown, as "warning: text", for what a script can't say, with their titles.
     QStringList shown;
     QStringList titles;
+    QStringList suggested; ///< where dialogs that save began, as "folder/name"
 
 private:
     enum class Kind { Notice, Question, Choice };

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "output/report/text_measure.h"
+#include "output/report/text_template.h"
+
+#include <vector>
+
+namespace output {
+
+enum class BlockKind { ReportHeader, GroupHeader, Detail, GroupFooter, ReportFooter, ColumnHeads };
+
+struct Cell {
+    double x = 0; ///< from the left margin
+    double width = 0;
+    QString label = {};
+    QStringList lines = {};
+    TextRole role = TextRole::Value;
+    Align align = Align::Left;
+
+    QString text() const { return lines.join(u'\n'); }
+};
+
+struct Line {
+    std::vector<Cell> cells;
+    double height = 0;
+    bool isRuled = false;
+};
+
+/// A section of a report as it is set, for one row.
+struct Block {
+    BlockKind kind = BlockKind::Detail;
+    std::vector<Line> lines = {};
+    QString picture = {}; ///< its path as the book has it; empty for none
+    double spaceBelow = 0;
+    double height = 0; ///< with the picture and the space below
+
+    bool isEmpty() const { return lines.empty(); }
+};
+
+/// A picture of a block stands at its right end.
+inline constexpr double kPictureWidth = 1250;
+inline constexpr double kPictureHeight = 1500;
+inline constexpr double kCellGap = 110; ///< between a cell and the one to its right
+
+/// Where one is in a report: in which section, for which row.
+struct Place {
+    int row = 0;
+    BlockKind kind = BlockKind::ReportHeader;
+    int line = 0; ///< the first of its lines that is not on a page yet
+    int groupStart = 0; ///< the first row of the group
+    bool atEnd = false;
+};
+
+/// Walks through the sections of a report and sets them one by one. Nothing is kept of those passed.
+class ReportSetter {
+public:
+    explicit ReportSetter(const Report& report);
+
+    const Report& report() const { return m_report; }
+    const TextMeasure& measure() const { return m_measure; }
+    double textWidth() const { return m_report.paper.width - 2 * m_report.paper.margin; }
+
+    Place first() const;
+    Place after(const Place& place) const;
+    Block block(const Place& place) const;
+    Block columnHeads() const;
+
+private:
+    struct Column {
+        TextTemplate text;
+        CellRule rule;
+    };
+    struct SetLine {
+        std::vector<Column> cells;
+        double shares = 0;
+        bool isRuled = false;
+    };
+    struct SetSection {
+        std::vector<SetLine> lines;
+        int picture = -1;
+        double spaceBelow = 0;
+    };
+    SetSection prepare(const Section& section) const;
+    SetLine prepare(const LineRule& rule) const;
+    Block set(const SetSection& section, BlockKind kind, int row, const NamedTexts& names) const;
+    void setLine(const SetLine& rule, double width, int row, const NamedTexts& names, Block& block) const;
+    QString groupKey(int row) const;
+    bool endsGroup(int row) const;
+
+    Report m_report;
+    TextMeasure m_measure;
+    int m_groupField = -1;
+    SetSection m_header;
+    SetSection m_groupHeader;
+    SetSection m_detail;
+    SetSection m_groupFooter;
+    SetSection m_footer;
+    SetLine m_columnHeads;
+};
+
+} // namespace output
