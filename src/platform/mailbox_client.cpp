@@ -249,9 +249,13 @@ MailResult MailboxClient::showPreview(const MailItem& item, const formats::MailD
 QString MailboxClient::pathOf(const QString& folder) const
 {
     const QStringList parts = folder.split(u'/');
-    const bool isLegal
-        = parts.size() <= kMaxDepth && std::all_of(parts.begin(), parts.end(), Drive::isLegalName);
-    return isLegal ? m_mailBox + u'/' + folder : QString();
+    QString path = m_mailBox;
+    for (const QString& part : parts) {
+        path += u'/' + part;
+        if (!Drive::isLegalName(part) || QFileInfo(path).isSymLink())
+            return {};
+    }
+    return parts.size() <= kMaxDepth ? path : QString();
 }
 
 const Maildir* MailboxClient::folderOf(const QString& folder)

@@ -15,8 +15,11 @@ import json
 import os
 import ssl
 import sys
+import warnings
 
 from aiosmtpd.smtp import AuthResult, SMTP
+
+warnings.simplefilter("ignore")
 
 
 def opinion(raw):
@@ -74,8 +77,8 @@ class Handler:
         found = opinion(envelope.original_content)
         found["sender"] = envelope.mail_from
         found["recipients"] = envelope.rcpt_tos
-        found["login"] = getattr(session, "auth_data", None) is not None
-        found["encrypted"] = session.ssl is not None
+        found["login"] = session.authenticated
+        found["encrypted"] = server.transport.get_extra_info("ssl_object") is not None
         draft = os.path.join(self.folder, ".draft")
         with open(draft, "w") as file:
             json.dump(found, file)
@@ -86,7 +89,8 @@ class Handler:
 
 
 def judge(server, session, envelope, mechanism, data):
-    return AuthResult(success=data.login == b"asha" and data.password == b"se&cret\xc3\xa9")
+    good = data.login == b"asha" and data.password == "se&crété".encode()
+    return AuthResult(success=good, handled=False)
 
 
 async def serve(folder, kind, certificate, key):
