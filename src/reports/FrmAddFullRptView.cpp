@@ -471,11 +471,11 @@ void FrmAddFullRptView::showList(const QString& name)
     const QString sql = listSql(row, m_filter, context().services.clock.today().year());
     const ReportHead listHead = head(QCoreApplication::translate("reports", row.title));
     if (name == u"Family Tree")
-        return show(listReport(row,
+        return show(printedList(row,
             std::make_shared<output::ListSource>(
                 familyColumns(), familyRows(context().data.openRecordset(sql))),
             listHead));
-    show(listReport(row, rowsOf(sql), listHead));
+    show(printedList(row, rowsOf(sql), listHead));
 }
 
 void FrmAddFullRptView::show(const output::Report& report)
