@@ -1,6 +1,7 @@
 #include "core/context.h"
 #include "core/screens.h"
 #include "core/setup/register_setup.h"
+#include "core/shell/mail_notice.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
 #include "core/shell/start_up.h"
@@ -15,12 +16,18 @@
 #include "platform/desktop_shell.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
+#include "platform/keychain_secrets.h"
+#include "platform/mail_account_file.h"
+#include "platform/mail_post.h"
+#include "platform/mail_preview.h"
+#include "platform/mailbox_client.h"
 #include "platform/player_sounds.h"
 #include "platform/shortcut_favourites.h"
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
 #include "reports/register_reports.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
 #include "widgets/theme.h"
@@ -30,10 +37,13 @@
 #include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kFirstLookAtOutboxMs = 3000;
 
 /// The program's own folder for this user; the variable is for tests and repairs.
 QString programFolder()
@@ -89,6 +99,12 @@ int main(int argc, char** argv)
     platform::VdirContacts mailContacts(QDir(folder).filePath(u"MailContacts"_s));
     platform::SystemClock clock;
     platform::DesktopPrinter printer;
+    platform::KeychainSecrets secrets;
+    platform::MailAccountFile mailAccounts(QDir(folder).filePath(u"mail.ini"_s), secrets, clock);
+    const QString mailBox = QDir(folder).filePath(u"MailBox"_s);
+    platform::MailPost post(mailBox, mailAccounts);
+    platform::MailboxClient mail(mailBox, mailAccounts, post, desktop, clock);
+    mail.setPreview([](const platform::MailItem& item) { return platform::showMailPreview(item); });
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -98,16 +114,19 @@ int main(int argc, char** argv)
     core::Screens screens;
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
-        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer}};
+        {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
+            mailAccounts}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);
     entry::registerEntry(screens);
     output::registerOutput(screens);
+    transfer::registerTransfer(screens);
     views::registerViews(screens);
     reports::registerReports(screens);
 
     const shell::StorageNotice storageNotice(context);
+    const shell::MailNotice mailNotice(context, post);
     const QString backupFolder = drive.local(u"C:\\OVUserFiles\\Others\\Backup");
     core::BookFiles files(folder, backupFolder);
     shell::StartUp startUp(context, frame, files, backupFolder);
@@ -116,6 +135,8 @@ int main(int argc, char** argv)
     QObject::connect(
         &storageNotice, &shell::StorageNotice::damageFound, &startUp, &shell::StartUp::bookIsDamaged);
     startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
+    // The frame is there first; what was on its way when the program ended last is asked about.
+    QTimer::singleShot(kFirstLookAtOutboxMs, &post, &platform::MailPost::begin);
     const int result = QApplication::exec();
     // Screens read the books, so they go first.
     screens.unloadAll();

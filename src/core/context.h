@@ -8,6 +8,8 @@ class Clock;
 class Drive;
 class Favourites;
 class HelpViewer;
+class MailAccounts;
+class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
@@ -33,6 +35,8 @@ struct Services {
     platform::MailContacts& mailContacts;
     platform::Clock& clock;
     platform::Printer& printer;
+    platform::MailClient& mail;
+    platform::MailAccounts& mailAccounts;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

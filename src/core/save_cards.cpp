@@ -22,17 +22,28 @@ QString aboutSharedNames(const CardsWritten& result)
 {
     if (result.shared.isEmpty())
         return {};
-    constexpr qsizetype kNamesShown = 10;
-    QString names = result.shared.mid(0, kNamesShown).join(u", "_s);
-    if (result.shared.size() > kNamesShown)
-        names = translated("%1 and %2 more").arg(names).arg(result.shared.size() - kNamesShown);
     return u"\n\n"_s
-        + translated("Contacts of one name share a file, which holds the last of them: %1").arg(names);
+        + translated("Contacts of one name share a file, which holds the last of them: %1")
+              .arg(namesForReading(result.shared, static_cast<int>(result.shared.size())));
 }
 
 } // namespace
 
-void saveCards(Context& context, const QString& idList, const QString& folder, QWidget* over)
+QString namesForReading(const QStringList& names, int all)
+{
+    constexpr qsizetype kNamesShown = 10;
+    constexpr qsizetype kLettersShown = 60;
+    QStringList shown;
+    for (const QString& name : names.mid(0, kNamesShown)) {
+        const QString line = name.simplified();
+        shown << (line.size() > kLettersShown ? line.left(kLettersShown) + u'\u2026' : line);
+    }
+    const QString text = shown.join(u", "_s);
+    return all > shown.size() ? translated("%1 and %2 more").arg(text).arg(all - shown.size()) : text;
+}
+
+int saveCards(
+    Context& context, const QString& idList, const QString& folder, QWidget* over, const QString& savedWords)
 {
     const int contacts = static_cast<int>(idList.count(u',')) + 1;
     const CardsWritten result = [&] {
@@ -56,7 +67,7 @@ void saveCards(Context& context, const QString& idList, const QString& folder, Q
                 + sharing,
             title);
     else if (result.written > 0)
-        boxes.information(translated("VCF File Saved on %1").arg(folder)
+        boxes.information((savedWords.isEmpty() ? translated("VCF File Saved on %1") : savedWords).arg(folder)
                 + (contacts > 1
                         ? u"\n\n"_s + translated("Files written: %1").arg(result.written - result.overwritten)
                         : QString())
@@ -66,11 +77,13 @@ void saveCards(Context& context, const QString& idList, const QString& folder, Q
         boxes.warning(
             translated("%1 VCF files could not be written. A contact whose name can not be the name "
                        "of a file has none.")
-                .arg(result.badNames),
+                    .arg(result.badNames)
+                + u"\n\n"_s + namesForReading(result.refused, result.badNames),
             title);
     if (result.failed > 0 && result.stoppedBy.isEmpty())
         boxes.warning(
             translated("%1 VCF files could not be written in %2.").arg(result.failed).arg(folder), title);
+    return result.written;
 }
 
 } // namespace core

@@ -14,6 +14,7 @@ namespace {
 // As many as the person does not wait for between two looks at the stop button.
 constexpr qsizetype kIdsAtATime = 250;
 constexpr int kContactsAStep = 25;
+constexpr int kNamesKept = 1000;
 
 } // namespace
 
@@ -41,7 +42,10 @@ CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, cons
                 ++result.written;
                 noteName(values.name);
                 break;
-            case Written::BadName: ++result.badNames; break;
+            case Written::BadName:
+                if (++result.badNames <= kNamesKept)
+                    result.refused << values.name;
+                break;
             case Written::Failed: ++result.failed; break;
             }
             if (result.failed > 0 && !platform::isWritable(drive.local(folder))) {
@@ -61,6 +65,13 @@ CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, cons
 bool WriteVCardValues(const platform::Drive& drive, const QString& folder, const formats::CardValues& values)
 {
     return platform::CardFolder(drive, folder).write(values.name, formats::enteredCardLines(values))
+        == platform::CardFolder::Written::Yes;
+}
+
+bool writeSenderCard(const platform::Drive& drive, const QString& name, const QString& email)
+{
+    return platform::CardFolder(drive, u"C:\\OVUserFiles\\VCF"_s)
+               .write(name, formats::senderCardLines(name, email))
         == platform::CardFolder::Written::Yes;
 }
 

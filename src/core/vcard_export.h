@@ -14,6 +14,7 @@ namespace core {
 struct CardsWritten {
     int written = 0; ///< contacts
     int badNames = 0; ///< contacts whose name is no file name
+    QStringList refused; ///< their names, as many of them as a person would read
     int failed = 0; ///< contacts whose file could not be written
     QStringList shared; ///< names that more than one of the contacts has: there is one file of each
     int overwritten = 0; ///< contacts whose file was replaced by that of a later one
@@ -31,5 +32,8 @@ CardsWritten WriteVCards(jet::Database& book, const platform::Drive& drive, cons
 
 /// The file for what stands in an entry form.
 bool WriteVCardValues(const platform::Drive& drive, const QString& folder, const formats::CardValues& values);
+
+/// A file among the program's own cards for the sender of a mail, which another mail program can take in.
+bool writeSenderCard(const platform::Drive& drive, const QString& name, const QString& email);
 
 } // namespace core

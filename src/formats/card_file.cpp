@@ -145,6 +145,12 @@ QString enteredName(const CardValues& v)
     return nameless ? v.name + u';' : v.first + u' ' + v.middle + u' ' + v.last + u';';
 }
 
+/// A line end in a value would start another property.
+QString onOneLine(QString value)
+{
+    return value.replace("\r\n"_L1, " "_L1).replace(u'\n', u' ').replace(u'\r', u' ');
+}
+
 enum class Of { Both, Contact, Entered };
 
 struct LineRow {
@@ -196,9 +202,7 @@ QStringList linesOf(Of of, const CardValues& values)
     for (const LineRow& row : kLines) {
         if (row.of != Of::Both && row.of != of)
             continue;
-        // A line end in a value would start another property.
-        lines << row.start.toString()
-                + row.value(values).replace("\r\n"_L1, " "_L1).replace(u'\n', u' ').replace(u'\r', u' ');
+        lines << row.start.toString() + onOneLine(row.value(values));
     }
     return lines;
 }
@@ -248,6 +252,12 @@ QStringList contactCardLines(const CardValues& values)
 QStringList enteredCardLines(const CardValues& values)
 {
     return linesOf(Of::Entered, values);
+}
+
+QStringList senderCardLines(const QString& name, const QString& email)
+{
+    return {u"BEGIN:VCARD"_s, u"VERSION:2.1"_s, u"N:"_s + onOneLine(name), u"FN:"_s + onOneLine(name),
+        u"EMAIL;PREF;INTERNET:"_s + onOneLine(email), u"End:VCARD"_s};
 }
 
 } // namespace formats

@@ -82,5 +82,7 @@ struct CardValues {
 QStringList contactCardLines(const CardValues& values);
 /// The 22 lines for what stands in an entry form: no postal address, and another name line.
 QStringList enteredCardLines(const CardValues& values);
+/// The six lines for somebody of whom a mail tells only name and address.
+QStringList senderCardLines(const QString& name, const QString& email);
 
 } // namespace formats

@@ -21,6 +21,8 @@ namespace {
 
 constexpr int maxFiles = 100'000;
 constexpr qint64 beginningBytes = 4096;
+// What common file systems allow for one name.
+constexpr qsizetype maxNameBytes = 255;
 
 // The old card stays whole until the new one is. Nobody waits for the disk, as a save of the book does: that
 // would be hours for a whole book, and a card that the power takes away can be written again.
@@ -98,7 +100,7 @@ QByteArray CardFolder::bytes(const QString& file, qint64 most) const
 CardFolder::Written CardFolder::write(const QString& name, const QStringList& lines)
 {
     const QString file = name + u".vcf"_s;
-    if (!Drive::isLegalName(file))
+    if (!Drive::isLegalName(file) || QFile::encodeName(file).size() > maxNameBytes)
         return Written::BadName;
     if (!makeReady())
         return Written::Failed;

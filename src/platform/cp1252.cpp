@@ -19,7 +19,7 @@ QString fromCp1252(QByteArrayView bytes)
 
 QString fromUtf8OrCp1252(const QByteArray& bytes)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8);
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = utf8.decode(bytes);
     return utf8.hasError() ? fromCp1252(bytes) : text;
 }

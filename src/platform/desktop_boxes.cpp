@@ -83,6 +83,13 @@ std::optional<QString> DesktopBoxes::openFile(
     return chosen(dialog);
 }
 
+std::optional<QStringList> DesktopBoxes::openFiles(const QString& title, const QString& filter)
+{
+    QFileDialog dialog(windowBelow(), title, QString(), dialogFilter(filter));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    return chosen(dialog) ? std::optional(dialog.selectedFiles()) : std::nullopt;
+}
+
 std::optional<QString> DesktopBoxes::saveFile(
     const QString& title, const QString& filter, const FileSuggestion& suggestion)
 {

@@ -13,6 +13,7 @@ public:
     Answer ask(const QString& text, const QString& title, Icon icon) override;
     std::optional<QString> openFile(
         const QString& title, const QString& filter, const QString& folder) override;
+    std::optional<QStringList> openFiles(const QString& title, const QString& filter) override;
     std::optional<QString> saveFile(
         const QString& title, const QString& filter, const FileSuggestion& suggestion) override;
     std::optional<QString> folder(const QString& title) override;

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include <QString>
+#include <QStringList>
 
 namespace platform {
 
@@ -33,9 +33,11 @@ public:
     /// Yes or No; a box that is closed otherwise counts as No. With the icon of a warning or a critical one
     /// No is the default: for questions whose Yes loses something.
     virtual Answer ask(const QString& text, const QString& title, Icon icon = Icon::Question) = 0;
+    /// @param folder of this computer where the choice begins; anywhere when it is empty
     virtual std::optional<QString> openFile(
         const QString& title, const QString& filter, const QString& folder = {})
         = 0;
+    virtual std::optional<QStringList> openFiles(const QString& title, const QString& filter) = 0;
     /// Asks before a file that is there is replaced. A name without an extension gets that of the chosen
     /// filter.
     virtual std::optional<QString> saveFile(

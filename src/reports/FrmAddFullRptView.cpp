@@ -34,7 +34,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <QToolButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -108,15 +108,11 @@ QString oneNameSql(const QString& name)
     return u"SELECT * FROM [cnt_main] WHERE name = '"_s + name + u"' "_s;
 }
 
-QToolButton* menuButton(const QString& name, const QString& text, QStringView icon, QMenu* menu)
+QPushButton* menuButton(const QString& name, const QString& text, QStringView icon, QMenu* menu)
 {
-    auto* button = new QToolButton;
+    auto* button = new QPushButton(text);
     button->setObjectName(name);
-    button->setText(text);
-    button->setIcon(widgets::icon(icon));
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    widgets::setIcon(button, icon);
     button->setMenu(menu);
     return button;
 }
@@ -212,7 +208,7 @@ void FrmAddFullRptView::layOutMore(QVBoxLayout* column)
     }
     MoreReports->setMinimumHeight(120);
     MoreReports->setVisible(false);
-    column->addWidget(MoreReports, 1);
+    column->addWidget(MoreReports, 100);
     const auto choose
         = [this](const QListWidgetItem* item) { showReport(item->data(Qt::UserRole).toString()); };
     connect(MoreReports, &QListWidget::itemClicked, this, choose);
@@ -387,6 +383,8 @@ bool FrmAddFullRptView::showReport(const QString& name)
         if (MoreReports->item(row)->data(Qt::UserRole) == name)
             MoreReports->setCurrentRow(row);
     }
+    // Once the list has got its room.
+    QTimer::singleShot(0, MoreReports, [this] { MoreReports->scrollToItem(MoreReports->currentItem()); });
     m_layout.reset();
     m_contact.clear();
     m_list = name;

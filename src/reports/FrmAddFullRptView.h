@@ -15,7 +15,6 @@ class QListWidget;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
-class QToolButton;
 class QVBoxLayout;
 
 namespace core {
@@ -91,8 +90,8 @@ private:
     QRadioButton* Option1;
     QListWidget* MoreReports;
     QComboBox* CmbColor;
-    QToolButton* CmdView;
-    QToolButton* CmdDatabase;
+    QPushButton* CmdView;
+    QPushButton* CmdDatabase;
     QLabel* lblFilter;
     QProgressBar* ProgressBar1;
     QPushButton* CmdHelp;

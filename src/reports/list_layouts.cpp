@@ -19,12 +19,12 @@ constexpr ListColumn kNames[] = {
     {QT_TRANSLATE_NOOP("reports", "Category"), u"{category1} - {category2}", 3},
 };
 constexpr ListColumn kDetails[] = {
-    {QT_TRANSLATE_NOOP("reports", "Name"), u"{Name}\n{Company}", 3},
+    {QT_TRANSLATE_NOOP("reports", "Name"), u"{Name}\n{Company}", 2.6},
     {QT_TRANSLATE_NOOP("reports", "Home"), u"{h_add1}\n{h_add2}\n{h_city} - {h_pin}\n{h_state}, {h_country}",
         3},
-    {QT_TRANSLATE_NOOP("reports", "Telephone"), u"{H_Ph1}, {h_ph2}, {h_ph3}\n{Mobile}", 2.6},
+    {QT_TRANSLATE_NOOP("reports", "Telephone"), u"{H_Ph1}, {h_ph2}, {h_ph3}\n{Mobile}", 2.2},
     {QT_TRANSLATE_NOOP("reports", "Work"), u"{w_add1}\n{w_add2}\n{w_city} - {w_pin}\n{w_Ph1}, {w_Ph2}", 3},
-    {QT_TRANSLATE_NOOP("reports", "E-mail"), u"{H_email1}\n{b_email1}", 3},
+    {QT_TRANSLATE_NOOP("reports", "E-mail"), u"{H_email1}\n{b_email1}", 3.6},
 };
 constexpr ListColumn kCompanies[] = {
     {QT_TRANSLATE_NOOP("reports", "Name"), u"{Name}", 4},
@@ -215,8 +215,6 @@ output::Report listReport(
     report.source = std::move(source);
     if (row.isWide)
         report.paper = report.paper.turned();
-    report.header.lines = {{{{u"{#title}"_s, 1, TextRole::Title}}, false}};
-    report.header.spaceBelow = 120;
     output::LineRule line;
     for (const ListColumn& column : row.columns) {
         report.columnHeads.cells.push_back({say(column.head), column.share, TextRole::Label});

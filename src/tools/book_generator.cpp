@@ -2,9 +2,9 @@
 
 #include "core/store/book_files.h"
 #include "core/store/book_schema.h"
-#include "core/store/durable_files.h"
 #include "jet/database.h"
 #include "jet/date_text.h"
+#include "platform/durable_files.h"
 
 #include <QDate>
 #include <QFile>
@@ -585,7 +585,7 @@ bool makeBook(const QString& path, int count)
             = database.open(unfinished, jet::Database::Kind::Information) == jet::Database::OpenResult::Opened
             && addContacts(database, count);
     }
-    if (done && core::putInPlace(unfinished, path))
+    if (done && platform::putInPlace(unfinished, path))
         return true;
     QFile::remove(unfinished);
     return false;

@@ -2,8 +2,8 @@
 // repair things. One JSON string a line in, one JSON object a line out.
 
 #include "core/store/book_schema.h"
-#include "core/store/durable_files.h"
 #include "jet/database.h"
+#include "platform/durable_files.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -61,7 +61,7 @@ int createAll(const QString& path)
             done = done && database.applySchema(schema, core::schemaName(part));
         done = done && database.setVersion(core::kSchemaVersion);
     }
-    if (done && core::putInPlace(unfinished, path))
+    if (done && platform::putInPlace(unfinished, path))
         return 0;
     QFile::remove(unfinished);
     return fail(path + u": could not be written"_s);

@@ -359,7 +359,8 @@ void ContactToolsTest::nameThatIsNoFileName()
 {
     m_fixture->execute(u"insert into cnt_main (Name) values ('Tea/Coffee')"_s);
     const QString refusal
-        = u"1 VCF files could not be written. A contact whose name can not be the name of a file has none."_s;
+        = u"1 VCF files could not be written. A contact whose name can not be the name of a file has none."
+          "\n\nTea/Coffee"_s;
     m_fixture->boxes.expect(u"VCF File Saved on C:\\Desktop\n\nFiles written: 2"_s + kTwoAnns);
     m_fixture->boxes.expect(refusal);
     trigger(u"SaveToDesktopAll"_s);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 using platform::MailContact;
 
@@ -163,6 +165,102 @@ std::vector<MailContact>::iterator RecordingMailContacts::find(const QString& ke
 {
     return std::find_if(contacts.begin(), contacts.end(),
         [&key](const MailContact& c) { return !key.isEmpty() && c.key == key; });
+}
+
+platform::MailAnswer<platform::MailItem> RecordingMail::CreateItem()
+{
+    return {{}, refusal};
+}
+
+platform::MailResult RecordingMail::ResolveAll(const platform::MailItem& item)
+{
+    static const QRegularExpression between(u"[;,]"_s);
+    const QStringList all
+        = QStringList{item.To, item.CC, item.BCC}.join(u';').split(between, Qt::SkipEmptyParts);
+    const auto wrong = std::find_if(
+        all.begin(), all.end(), [](const QString& address) { return !address.contains(u'@'); });
+    if (!refusal.isEmpty() || all.isEmpty())
+        return {refusal.isEmpty() ? u"nobody to send to"_s : refusal};
+    return {wrong == all.end() ? QString() : *wrong};
+}
+
+platform::MailResult RecordingMail::Send(const platform::MailItem& item)
+{
+    const platform::MailResult resolved = ResolveAll(item);
+    if (resolved)
+        sent.push_back(item);
+    return resolved;
+}
+
+platform::MailResult RecordingMail::Display(const platform::MailItem& item)
+{
+    if (refusal.isEmpty())
+        displayed.push_back(item);
+    return {refusal};
+}
+
+platform::MailAnswer<std::vector<platform::MailFolder>> RecordingMail::Folders(const QString& folder)
+{
+    std::vector<platform::MailFolder> found;
+    for (const platform::MailFolder& each : folders) {
+        if (each.EntryID.section(u'/', 0, -2) == folder)
+            found.push_back(each);
+    }
+    return {found, refusal};
+}
+
+platform::MailAnswer<QStringList> RecordingMail::Items(const QString& folder)
+{
+    QStringList found;
+    for (const Stored& each : stored) {
+        if (each.folder == folder)
+            found << each.head.EntryID;
+    }
+    return {found, refusal};
+}
+
+platform::MailAnswer<platform::MailHead> RecordingMail::Item(const QString& EntryID)
+{
+    const Stored* found = find(EntryID);
+    return {found ? found->head : platform::MailHead(), found ? refusal : u"gone"_s};
+}
+
+platform::MailAnswer<platform::MailText> RecordingMail::Text(const QString& EntryID)
+{
+    const Stored* found = find(EntryID);
+    return {found ? found->text : platform::MailText(), found ? refusal : u"gone"_s};
+}
+
+const RecordingMail::Stored* RecordingMail::find(const QString& EntryID) const
+{
+    const auto found = std::find_if(
+        stored.begin(), stored.end(), [&](const Stored& each) { return each.head.EntryID == EntryID; });
+    return found == stored.end() ? nullptr : &*found;
+}
+
+platform::MailResult RecordingMailAccounts::store(const std::optional<platform::MailAccount>& account)
+{
+    if (refusal.isEmpty())
+        kept = account;
+    return {refusal};
+}
+
+void RecordingMailAccounts::findPassword(Placed then)
+{
+    then(password.isEmpty() ? platform::PasswordPlace::Nowhere : place);
+}
+
+void RecordingMailAccounts::keepPassword(const QString& secret, Placed then)
+{
+    password = secret;
+    findPassword(std::move(then));
+}
+
+void RecordingMailAccounts::sendTest(
+    const platform::MailAccount& account, const std::optional<QString>& secret, Tested then)
+{
+    tests.emplace_back(account, secret);
+    pendingTest = std::move(then);
 }
 
 } // namespace support

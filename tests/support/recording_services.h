@@ -10,6 +10,8 @@
 #include "platform/contact_sync.h"
 #include "platform/favourites.h"
 #include "platform/help_viewer.h"
+#include "platform/mail_account.h"
+#include "platform/mail_client.h"
 #include "platform/printer.h"
 #include "platform/shell.h"
 #include "platform/sounds.h"
@@ -105,6 +107,53 @@ private:
     std::vector<platform::MailContact>::iterator find(const QString& key);
 
     int m_lastItem = 0;
+};
+
+/// A mail client that keeps what it was given. It splits addresses and takes those that hold an "@".
+class RecordingMail final : public platform::MailClient {
+public:
+    platform::MailAnswer<platform::MailItem> CreateItem() override;
+    platform::MailResult ResolveAll(const platform::MailItem& item) override;
+    platform::MailResult Send(const platform::MailItem& item) override;
+    platform::MailResult Display(const platform::MailItem& item) override;
+    platform::MailAnswer<std::vector<platform::MailFolder>> Folders(const QString& folder = {}) override;
+    platform::MailAnswer<QStringList> Items(const QString& folder) override;
+    platform::MailAnswer<platform::MailHead> Item(const QString& EntryID) override;
+    platform::MailAnswer<platform::MailText> Text(const QString& EntryID) override;
+
+    std::vector<platform::MailItem> sent;
+    std::vector<platform::MailItem> displayed;
+    QString refusal; ///< the cause with which every call fails, when it is not empty
+
+    struct Stored {
+        QString folder; ///< EntryID
+        platform::MailHead head;
+        platform::MailText text;
+    };
+    /// What lies in its folders. Those below another one have a "/" in their EntryID.
+    std::vector<platform::MailFolder> folders;
+    std::vector<Stored> stored;
+
+private:
+    const Stored* find(const QString& EntryID) const;
+};
+
+/// An account whose password lies where the test says. Answers come at once.
+class RecordingMailAccounts final : public platform::MailAccounts {
+public:
+    std::optional<platform::MailAccount> account() const override { return kept; }
+    platform::MailResult store(const std::optional<platform::MailAccount>& account) override;
+    void findPassword(Placed then) override;
+    void keepPassword(const QString& password, Placed then) override;
+    void sendTest(
+        const platform::MailAccount& account, const std::optional<QString>& password, Tested then) override;
+
+    std::optional<platform::MailAccount> kept;
+    QString password;
+    platform::PasswordPlace place = platform::PasswordPlace::SecretStore; ///< of one that is there
+    QString refusal; ///< the cause with which store() fails, when it is not empty
+    std::vector<std::pair<platform::MailAccount, std::optional<QString>>> tests;
+    Tested pendingTest; ///< for the test to call when the server has answered
 };
 
 } // namespace support

@@ -49,7 +49,8 @@ ScreenFixture::ScreenFixture(TestBook::Rows rows)
     , clock(QDate(2024, 3, 15))
     , schema(TestBook::schema())
     , context{book.data(), book.data(), schema, shared, screens, frame,
-          {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock, printer}}
+          {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
+              mailAccounts}}
 {
     screens.setContext(context);
     widgets::DateBox::setToday([this] { return clock.today(); });

@@ -96,6 +96,8 @@ public:
     RecordingMailContacts mailContacts;
     FixedClock clock;
     RecordingPrinter printer;
+    RecordingMail mail;
+    RecordingMailAccounts mailAccounts;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;

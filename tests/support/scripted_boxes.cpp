@@ -70,6 +70,12 @@ std::optional<QString> ScriptedBoxes::openFile(const QString& title, const QStri
     return choose(u"openFile: "_s, title);
 }
 
+std::optional<QStringList> ScriptedBoxes::openFiles(const QString& title, const QString&)
+{
+    const auto choice = choose(u"openFiles: "_s, title);
+    return choice ? std::optional(choice->split(u'\n')) : std::nullopt;
+}
+
 std::optional<QString> ScriptedBoxes::saveFile(
     const QString& title, const QString&, const platform::FileSuggestion& suggestion)
 {

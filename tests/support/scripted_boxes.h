@@ -34,6 +34,8 @@ public:
     platform::Answer ask(const QString& text, const QString& title, platform::Icon icon) override;
     std::optional<QString> openFile(
         const QString& title, const QString& filter, const QString& folder) override;
+    /// The choice has a line a file.
+    std::optional<QStringList> openFiles(const QString& title, const QString& filter) override;
     std::optional<QString> saveFile(
         const QString& title, const QString& filter, const platform::FileSuggestion& suggestion) override;
     std::optional<QString> folder(const QString& title) override;

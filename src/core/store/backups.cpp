@@ -1,9 +1,9 @@
 #include "core/store/backups.h"
 
 #include "core/store/book_files.h"
-#include "core/store/durable_files.h"
 #include "jet/database.h"
 #include "jet/date_text.h"
+#include "platform/durable_files.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -152,7 +152,7 @@ void keepDamaged(const QString& unchecked, const QString& folder, const QDateTim
         return;
     }
     const QString path = QDir(folder).filePath(u"Orvanedata-damaged-%1.dll"_s.arg(stampOf(now)));
-    if (!putInPlace(unchecked, path))
+    if (!platform::putInPlace(unchecked, path))
         QFile::remove(unchecked);
     for (qsizetype i = kDamagedKept - 1; i < before.size(); ++i)
         QFile::remove(before[i]);
@@ -185,7 +185,8 @@ BackupResult makeCopy(jet::Database& database, const NewCopy& wanted, const QLis
     if (!wanted.evenIfUnchanged && !before.isEmpty() && before.first().content == content
         && isSound(before.first().path))
         return drop(BackupResult::NotNeeded);
-    if (!writeNote(unchecked, number + 1, wanted.now, content) || !putInPlace(unchecked, wanted.path))
+    if (!writeNote(unchecked, number + 1, wanted.now, content)
+        || !platform::putInPlace(unchecked, wanted.path))
         return drop(BackupResult::Failed);
     return BackupResult::Made;
 }
@@ -328,19 +329,19 @@ Restored restore(const QString& backup, const QString& dataFile, const QDateTime
     const QString log = dataFile + u"-wal"_s;
     const bool hasFile = present.exists();
     const bool hasLog = QFileInfo::exists(log);
-    bool done = !hasFile || keepUnderSecondName(dataFile, kept);
-    done = done && (!hasLog || keepUnderSecondName(log, kept + u"-wal"_s));
+    bool done = !hasFile || platform::keepUnderSecondName(dataFile, kept);
+    done = done && (!hasLog || platform::keepUnderSecondName(log, kept + u"-wal"_s));
     // A log left beside the restored file would be played into it; from here to the next step it has its
     // second name only. The index of a log is made anew.
     const bool logMoved = done && hasLog && QFile::remove(log);
     if (done && logMoved == hasLog) {
         QFile::remove(dataFile + u"-shm"_s);
-        if (putInPlace(incoming, dataFile))
+        if (platform::putInPlace(incoming, dataFile))
             return {true, hasFile ? kept : QString(), {}};
     }
     QFile::remove(incoming);
     // The second names go only when the first ones stand again.
-    const bool logIsBack = !logMoved || keepUnderSecondName(kept + u"-wal"_s, log);
+    const bool logIsBack = !logMoved || platform::keepUnderSecondName(kept + u"-wal"_s, log);
     if (hasFile && logIsBack && QFileInfo::exists(dataFile))
         QFile::remove(kept);
     if (hasLog && logIsBack && QFileInfo::exists(log))

@@ -1,8 +1,8 @@
 #include "core/store/book_files.h"
 
 #include "core/store/backups.h"
-#include "core/store/durable_files.h"
 #include "jet/database.h"
+#include "platform/durable_files.h"
 #include "platform/storage.h"
 
 #include <QDir>
@@ -146,7 +146,7 @@ bool BookFiles::makeNew(const QString& path, BookPart part, bool national)
             done = bool(database.execute(u"update ov_setup set [national] = true"_s));
         database.close();
     }
-    done = done && putInPlace(unfinished, path);
+    done = done && platform::putInPlace(unfinished, path);
     if (!done)
         removeWithLogs(unfinished);
     return done;

@@ -6,6 +6,7 @@
 #include "output/preview/save_report_file.h"
 #include "platform/message_boxes.h"
 #include "platform/printer.h"
+#include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
 
 #include <QAction>
@@ -64,7 +65,7 @@ constexpr core::Tool kTools[] = {
     {.id = u"ZoomOut",
         .icon = u"zoom-out",
         .text = QT_TRANSLATE_NOOP("output", "Smaller"),
-        .places = IconOnly | GroupStart,
+        .places = IconOnly,
         .key = int(Qt::CTRL) | int(Qt::Key_Minus),
         .keyIn = kScreen},
     {.id = u"ZoomIn",
@@ -102,6 +103,9 @@ constexpr SaveRow kSaves[] = {
     {u"SaveRtf", QT_TRANSLATE_NOOP("output", "Save As RTF"), ReportFormat::Rtf},
 };
 
+/// Those that stand below the pages.
+const QStringList kFootTools{u"ZoomOut"_s, u"ZoomIn"_s, u"FitWidth"_s, u"FitPage"_s, u"FindInReport"_s};
+
 } // namespace
 
 ReportPane::ReportPane(core::Context& context, QWidget* parent)
@@ -109,15 +113,18 @@ ReportPane::ReportPane(core::Context& context, QWidget* parent)
     , m_context(context)
     , m_tools(new core::ToolSet(context.screens, {kTools, "output"}, this))
     , arV(new PageView(bookPictures(context.services.drive)))
-    , m_bar(m_tools->makeToolBar(this))
+    , m_bar(new QToolBar)
+    , m_foot(new QToolBar)
     , m_page(new QSpinBox)
     , m_pageCount(new QLabel)
     , m_find(new QLineEdit)
     , m_notFound(new QLabel(tr("Not found")))
 {
     m_bar->setObjectName(u"ReportTools"_s);
+    m_foot->setObjectName(u"ReportLook"_s);
     arV->setObjectName(u"arV"_s);
     fillBar();
+    fillFoot();
     auto* list = new PageList(arV);
     list->setObjectName(u"PageList"_s);
     auto* pages = new QHBoxLayout;
@@ -129,6 +136,7 @@ ReportPane::ReportPane(core::Context& context, QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(m_bar);
     layout->addLayout(pages, 1);
+    layout->addWidget(m_foot);
     setFocusProxy(arV);
     connectTools();
     followPages();
@@ -136,8 +144,12 @@ ReportPane::ReportPane(core::Context& context, QWidget* parent)
 
 void ReportPane::fillBar()
 {
+    m_bar->setIconSize({20, 20});
+    m_tools->addTo(m_bar, kFootTools);
+    widgets::letTextsGiveWay(m_bar);
     m_page->setObjectName(u"PageNumber"_s);
     m_page->setAccessibleName(tr("Page"));
+    m_page->findChild<QLineEdit*>()->setAccessibleName(tr("Page"));
     m_page->setToolTip(tr("Page"));
     m_page->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_page->setAlignment(Qt::AlignRight);
@@ -148,20 +160,34 @@ void ReportPane::fillBar()
     QAction* next = m_tools->action(u"NextPage");
     m_bar->insertWidget(next, m_page);
     m_bar->insertWidget(next, m_pageCount);
+    addSaveMenu();
+}
 
+void ReportPane::fillFoot()
+{
+    m_foot->setIconSize({18, 18});
+    QStringList others;
+    for (const core::Tool& tool : kTools) {
+        if (!kFootTools.contains(tool.id))
+            others << tool.id.toString();
+    }
+    m_tools->addTo(m_foot, others);
     m_find->setObjectName(u"FindText"_s);
     m_find->setAccessibleName(tr("Find in the report"));
     m_find->setPlaceholderText(tr("Find"));
     m_find->setClearButtonEnabled(true);
     m_find->setMinimumWidth(90);
-    m_find->setMaximumWidth(180);
-    m_bar->insertWidget(m_tools->action(u"FindInReport"), m_find);
+    m_find->setMaximumWidth(220);
+    m_foot->insertWidget(m_tools->action(u"FindInReport"), m_find);
     m_notFound->setObjectName(u"NotFound"_s);
     QPalette colours = m_notFound->palette();
     colours.setColor(QPalette::WindowText, widgets::warningColor());
     m_notFound->setPalette(colours);
-    m_bar->addWidget(m_notFound)->setVisible(false);
+    m_foot->addWidget(m_notFound)->setVisible(false);
+}
 
+void ReportPane::addSaveMenu()
+{
     auto* menu = new QMenu(this);
     menu->setObjectName(u"SaveReportMenu"_s);
     for (const SaveRow& row : kSaves) {
@@ -199,9 +225,9 @@ void ReportPane::connectTools()
     connect(m_find, &QLineEdit::textChanged, arV, &PageView::find);
     connect(m_find, &QLineEdit::returnPressed, arV, &PageView::findNext);
     connect(
-        m_find, &QLineEdit::textChanged, this, [this] { m_bar->actions().constLast()->setVisible(false); });
+        m_find, &QLineEdit::textChanged, this, [this] { m_foot->actions().constLast()->setVisible(false); });
     connect(arV, &PageView::searched, this,
-        [this](bool found) { m_bar->actions().constLast()->setVisible(!found); });
+        [this](bool found) { m_foot->actions().constLast()->setVisible(!found); });
     connect(arV, &PageView::pagesChanged, this, &ReportPane::followPages);
     connect(arV, &PageView::currentPageChanged, this, &ReportPane::followPages);
 }

@@ -29,13 +29,14 @@ public:
     void clear();
 
     PageView* pages() const { return arV; }
-    QToolBar* toolBar() const { return m_bar; }
 
 Q_SIGNALS:
     void exitRequested();
 
 private:
     void fillBar();
+    void fillFoot();
+    void addSaveMenu();
     void connectTools();
     void followPages();
     void print();
@@ -44,7 +45,8 @@ private:
     core::Context& m_context;
     core::ToolSet* m_tools;
     PageView* arV;
-    QToolBar* m_bar;
+    QToolBar* m_bar; ///< above the pages
+    QToolBar* m_foot; ///< below them
     QSpinBox* m_page;
     QLabel* m_pageCount;
     QLineEdit* m_find;

@@ -73,7 +73,7 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
             return !wasStopped;
         });
     }
-    if (written && file.commit()) {
+    if (written && platform::commitWhole(file)) {
         context.frame.showNotice(translated("Saved %1").arg(QFileInfo(path).fileName()), translated("Open"),
             [&context, path] { context.services.shell.openFile(path); });
         return;

@@ -54,9 +54,13 @@ void PagePainter::paintHead(QPainter& painter, const Page& page, const PageMarks
     const double margin = report.paper.margin;
     const double width = report.paper.width - 2 * margin;
     const double line = m_pager.setter().measure().lineHeight(TextRole::Quiet);
-    painter.setPen(kQuiet);
     const QRectF head(margin, margin, width, line);
-    paintText(painter, report.title, head, TextRole::Quiet, Align::Left);
+    // A report that does not begin with its title has it at the head of each page.
+    const bool isTitled = report.header.lines.empty();
+    painter.setPen(isTitled ? QColor(Qt::black) : kQuiet);
+    paintText(painter, report.title, head.translated(0, isTitled ? -line * 0.5 : 0),
+        isTitled ? TextRole::GroupTitle : TextRole::Quiet, Align::Left);
+    painter.setPen(kQuiet);
     paintText(painter, report.printDate, head, TextRole::Quiet, Align::Right);
     const QRectF foot(margin, report.paper.height - margin - line, width, line);
     paintText(painter, pageNumberText(page.number, marks.pages), foot, TextRole::Quiet, Align::Center);

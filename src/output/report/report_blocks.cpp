@@ -11,6 +11,8 @@ namespace {
 // No line is higher than this many lines of text, so that a page can break within the longest of notes.
 constexpr qsizetype kMostTextLines = 30;
 
+constexpr double kSpaceBelowHeads = 60;
+
 QString firstLetter(const QString& text)
 {
     for (const QChar letter : text.normalized(QString::NormalizationForm_D)) {
@@ -156,6 +158,7 @@ Block ReportSetter::columnHeads() const
     setLine(m_columnHeads, textWidth(), 0, {}, block);
     for (const Line& line : block.lines)
         block.height += line.height;
+    block.height += kSpaceBelowHeads;
     return block;
 }
 

@@ -8,7 +8,7 @@ namespace output {
 
 namespace {
 
-constexpr double kPageHead = 480; ///< title and date
+constexpr double kPageHead = 520; ///< title and date, and the line below them
 constexpr double kPageFoot = 400; ///< the page's number
 
 /// Takes away lines from the front, and those that do not fit into the room, but leaves one at least.

@@ -69,7 +69,11 @@ void TextMeasure::wrapParagraph(const QString& text, const Face& face, double wi
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        lines << text.mid(line.textStart(), line.textLength()).trimmed();
+        // Blanks in front indent a text; those where it was broken are in nobody's way.
+        QString part = text.mid(line.textStart(), line.textLength());
+        while (part.endsWith(u' '))
+            part.chop(1);
+        lines << part;
     }
     layout.endLayout();
 }

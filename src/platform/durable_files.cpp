@@ -1,4 +1,4 @@
-#include "core/store/durable_files.h"
+#include "platform/durable_files.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -7,7 +7,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace core {
+namespace platform {
 
 namespace {
 
@@ -26,9 +26,13 @@ bool syncOne(const QString& path, int flags)
 bool syncToDisk(const QString& path)
 {
     const bool done = syncOne(path, O_RDONLY);
-    // Some file systems have no sync for a folder; the file itself is safe all the same.
-    syncOne(QFileInfo(path).absolutePath(), O_RDONLY | O_DIRECTORY);
+    syncFolder(QFileInfo(path).absolutePath());
     return done;
+}
+
+void syncFolder(const QString& folder)
+{
+    syncOne(folder, O_RDONLY | O_DIRECTORY);
 }
 
 bool putInPlace(const QString& finished, const QString& name)
@@ -38,7 +42,7 @@ bool putInPlace(const QString& finished, const QString& name)
     // Not QFile::rename(): where it can not rename it copies, and a copy can end half way.
     if (std::rename(QFile::encodeName(finished).constData(), QFile::encodeName(name).constData()) != 0)
         return false;
-    syncOne(QFileInfo(name).absolutePath(), O_RDONLY | O_DIRECTORY);
+    syncFolder(QFileInfo(name).absolutePath());
     return true;
 }
 
@@ -54,4 +58,4 @@ bool keepUnderSecondName(const QString& path, const QString& secondName)
     return false;
 }
 
-} // namespace core
+} // namespace platform

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+/// The words of cards: what their names, labels, dates and lines mean to a person.
+namespace formats {
+
+/// What a line of the note calls a property; any other is called by its own name.
+QString labelOfProperty(const QString& property);
+
+/// The label that a person has chosen; "_$!<HomePage>!$_" is one that the writer would translate.
+QString plainLabel(const QString& label);
+
+/// For columns of one line: what stands on several, with ", " between.
+QString onOneLine(const QString& text);
+
+/// Day ("2026-06-15") and perhaps time, as written, of a date in one of the ways of cards; blank for one
+/// without a year or a day.
+struct CardDate {
+    QString day;
+    QString time;
+};
+CardDate cardDate(const QString& text);
+bool isMidnight(const QString& time); ///< or no time
+
+} // namespace formats
