@@ -1,6 +1,7 @@
 #include "reports/register_reports.h"
 
 #include "core/screens.h"
+#include "reports/FrmAddExp.h"
 #include "reports/FrmAddFullRptView.h"
 
 using namespace Qt::StringLiterals;
@@ -9,6 +10,7 @@ namespace reports {
 
 void registerReports(core::Screens& screens)
 {
+    screens.add<FrmAddExp>(u"FrmAddExp"_s);
     screens.add<FrmAddFullRptView>(u"FrmAddFullRptView"_s);
 }
 

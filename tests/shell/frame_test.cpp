@@ -14,6 +14,7 @@
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
 #include "support/columns.h"
+#include "support/disk.h"
 #include "support/screen_fixture.h"
 #include "views/register_views.h"
 #include "widgets/fields.h"
@@ -779,8 +780,16 @@ private Q_SLOTS:
                     f.shared.selectedContactId = 0;
                     f.boxes.expect(u"Record not selected"_s);
                 }
+                const auto* text = std::get_if<core::TextReport>(&command.action);
+                if (text)
+                    f.boxes.expect(sample ? u"File saved on C:\\Desktop\\All Contact Address.txt"_s
+                                          : u"Record not selected"_s);
                 f.window.perform(command.action);
                 ++performed;
+                if (text && sample)
+                    QCOMPARE(support::bytesOf(f.drive.local(u"C:\\Desktop\\All Contact Address.txt"))
+                                 .contains("\r\nName-           "),
+                        text->labels);
                 QCoreApplication::processEvents();
                 if (QWidget* popup = QApplication::activePopupWidget())
                     popup->close();
