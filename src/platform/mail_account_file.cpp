@@ -134,9 +134,11 @@ void MailAccountFile::sendTest(
             false, m_test ? QCoreApplication::translate("platform", "A test is on its way already.") : fault);
     if (password || account.user.isEmpty())
         return runTest(account, password.value_or(QString()), then);
-    readPassword(account, [self = QPointer(this), account, then](const QString& kept, PasswordPlace) {
-        if (self)
+    readPassword(account, [self = QPointer(this), account, then](const QString& kept, PasswordPlace place) {
+        if (self && place != PasswordPlace::Nowhere)
             self->runTest(account, kept, then);
+        else if (self)
+            then(false, QCoreApplication::translate("platform", "The password is not known."));
     });
 }
 
