@@ -99,8 +99,8 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString folder = programFolder();
-    const QStringList files = filesToOpen(QApplication::arguments().mid(1));
-    const platform::SingleInstance instance(folder, files);
+    const QStringList toOpen = filesToOpen(QApplication::arguments().mid(1));
+    const platform::SingleInstance instance(folder, toOpen);
     if (!instance.isFirst())
         return 0;
     widgets::apply(app, lookOf(folder));
@@ -153,7 +153,7 @@ int main(int argc, char** argv)
         &instance, &platform::SingleInstance::openRequested, &startUp, &shell::StartUp::openFiles);
     QObject::connect(
         &storageNotice, &shell::StorageNotice::damageFound, &startUp, &shell::StartUp::bookIsDamaged);
-    startUp.openFiles(files);
+    startUp.openFiles(toOpen);
     startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
     // The frame is there first; what was on its way when the program ended last is asked about.
     QTimer::singleShot(kFirstLookAtOutboxMs, &post, &platform::MailPost::begin);
