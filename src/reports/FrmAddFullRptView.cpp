@@ -193,6 +193,8 @@ void FrmAddFullRptView::layOutLayouts(QVBoxLayout* column)
 void FrmAddFullRptView::layOutMore(QVBoxLayout* column)
 {
     Option1->setObjectName(u"Option1"_s);
+    // Not by the arrow keys, which only look at what is there: it may end the program.
+    Option1->setFocusPolicy(Qt::ClickFocus);
     Option1->setToolTip(tr("Phone list, birthdays, family tree and other lists"));
     m_options->addButton(Option1);
     column->addWidget(Option1);
