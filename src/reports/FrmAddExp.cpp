@@ -88,9 +88,7 @@ void FrmAddExp::layOut()
     form.nextColumn(3);
     form.group(tr("Contacts"))
         .fixedCombo(u"CmbCategory"_s, tr("&Category"))
-        .beside()
         .fixedCombo(u"CmbSubCategory"_s, tr("&Subcategory"))
-        .beside()
         .fixedCombo(u"CmbPriority"_s, tr("&Priority"))
         .caption(u"lblCount"_s);
     form.group(tr("The first rows")).wide(u"FG1"_s, tr("The first rows of the export"), FG1);
