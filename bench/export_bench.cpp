@@ -4,6 +4,7 @@
 #include "core/text_export.h"
 #include "jet/database.h"
 #include "output/grid/grid_files.h"
+#include "output/grid/selection_grid.h"
 #include "platform/folder_drive.h"
 #include "reports/export_columns.h"
 #include "tools/book_generator.h"
@@ -116,7 +117,7 @@ int main(int argc, char** argv)
         QString sql = reports::exportSql(columns, {});
         if (most < contacts)
             sql.replace(u" order by"_s, u" where id<=%1 order by"_s.arg(most));
-        return reports::exportTable(book.openRecordset(sql), columns, u"Book"_s, u"dd MMM-yyyy"_s);
+        return output::selectionGrid(book.openRecordset(sql), columns, u"Book"_s, u"dd MMM-yyyy"_s);
     };
     const auto write = [&](const QString& path, int most) {
         return output::writeGrid(table(most), path, u"dd MMM-yyyy"_s).outcome

@@ -5,6 +5,7 @@
 #include "core/vocabularies.h"
 #include "jet/date_text.h"
 #include "output/grid/grid_export.h"
+#include "output/grid/selection_grid.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "widgets/fields.h"
@@ -255,8 +256,9 @@ void FrmAddExp::showSample()
     QStringList keys;
     for (int row = 0; row < std::min(kSampleRows, contacts.count()); ++row)
         keys << contacts.textAt(row, 0);
-    const output::GridTable table = exportTable(context().data.openRecordset(exportSampleSql(columns, keys)),
-        chosenCaptions(), {}, core::datePattern(shared().NationalMode));
+    const output::GridTable table
+        = output::selectionGrid(context().data.openRecordset(exportSampleSql(columns, keys)),
+            chosenCaptions(), {}, core::datePattern(shared().NationalMode));
     QList<QStringList> rows;
     for (int row = 0; row < table.rowCount(); ++row) {
         QStringList texts;
@@ -270,8 +272,8 @@ void FrmAddExp::showSample()
 void FrmAddExp::exportBook()
 {
     const output::GridTable table
-        = exportTable(context().data.openRecordset(exportSql(chosenColumns(), filter())), chosenCaptions(),
-            tr("Address Book"), core::datePattern(shared().NationalMode));
+        = output::selectionGrid(context().data.openRecordset(exportSql(chosenColumns(), filter())),
+            chosenCaptions(), tr("Address Book"), core::datePattern(shared().NationalMode));
     if (output::GridXLS(context(), table, this))
         rememberColumns();
 }
