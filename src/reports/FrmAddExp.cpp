@@ -5,6 +5,7 @@
 #include "core/vocabularies.h"
 #include "jet/date_text.h"
 #include "output/grid/grid_export.h"
+#include "output/grid/selection_grid.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "widgets/fields.h"
@@ -88,9 +89,7 @@ void FrmAddExp::layOut()
     form.nextColumn(3);
     form.group(tr("Contacts"))
         .fixedCombo(u"CmbCategory"_s, tr("&Category"))
-        .beside()
         .fixedCombo(u"CmbSubCategory"_s, tr("&Subcategory"))
-        .beside()
         .fixedCombo(u"CmbPriority"_s, tr("&Priority"))
         .caption(u"lblCount"_s);
     form.group(tr("The first rows")).wide(u"FG1"_s, tr("The first rows of the export"), FG1);
@@ -257,8 +256,9 @@ void FrmAddExp::showSample()
     QStringList keys;
     for (int row = 0; row < std::min(kSampleRows, contacts.count()); ++row)
         keys << contacts.textAt(row, 0);
-    const output::GridTable table = exportTable(context().data.openRecordset(exportSampleSql(columns, keys)),
-        chosenCaptions(), {}, core::datePattern(shared().NationalMode));
+    const output::GridTable table
+        = output::selectionGrid(context().data.openRecordset(exportSampleSql(columns, keys)),
+            chosenCaptions(), {}, core::datePattern(shared().NationalMode));
     QList<QStringList> rows;
     for (int row = 0; row < table.rowCount(); ++row) {
         QStringList texts;
@@ -272,8 +272,8 @@ void FrmAddExp::showSample()
 void FrmAddExp::exportBook()
 {
     const output::GridTable table
-        = exportTable(context().data.openRecordset(exportSql(chosenColumns(), filter())), chosenCaptions(),
-            tr("Address Book"), core::datePattern(shared().NationalMode));
+        = output::selectionGrid(context().data.openRecordset(exportSql(chosenColumns(), filter())),
+            chosenCaptions(), tr("Address Book"), core::datePattern(shared().NationalMode));
     if (output::GridXLS(context(), table, this))
         rememberColumns();
 }

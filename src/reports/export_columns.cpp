@@ -1,10 +1,6 @@
 #include "reports/export_columns.h"
 
-#include "jet/date_text.h"
-
 #include <QCoreApplication>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -141,8 +137,6 @@ constexpr ExportColumn kColumns[] = {
 };
 
 constexpr QStringView kAll = u"All";
-constexpr int kTwipsALetter = 105;
-constexpr int kLetters = 18; // of a column
 
 QString conditionOf(QStringView column, const QString& value)
 {
@@ -164,47 +158,6 @@ QString selectSql(const QStringList& columns, const QString& where)
 {
     return u"select ["_s + columns.join(u"],[") + u"] from cnt_main"_s + where + u" order by Name"_s;
 }
-
-output::CellKind kindOf(jet::ColumnType type)
-{
-    switch (type) {
-    case jet::ColumnType::Number:
-    case jet::ColumnType::AutoNumber: return output::CellKind::Number;
-    case jet::ColumnType::Date: return output::CellKind::Date;
-    case jet::ColumnType::YesNo: return output::CellKind::CheckBox;
-    default: return output::CellKind::Text;
-    }
-}
-
-class RowsOfSelection final : public output::GridRows {
-public:
-    RowsOfSelection(jet::Recordset rows, QString datePattern)
-        : m_rows(std::move(rows))
-        , m_datePattern(std::move(datePattern))
-    {
-        for (int column = 0; column < m_rows.columns().size(); ++column)
-            m_kinds << kindOf(m_rows.columnType(column));
-    }
-
-    int count() const override { return m_rows.count(); }
-
-    output::GridCell cell(int row, int column) const override
-    {
-        if (m_kinds[column] == output::CellKind::Text)
-            return {m_rows.textAt(row, column)};
-        const QVariant value = m_rows.valueAt(row, column);
-        if (m_kinds[column] == output::CellKind::Date)
-            return {jet::formatDate(value.toDate(), m_datePattern), value};
-        if (m_kinds[column] == output::CellKind::CheckBox)
-            return {value.toBool() ? u"Y"_s : QString(), int(value.toBool())};
-        return {m_rows.textAt(row, column), value};
-    }
-
-private:
-    jet::Recordset m_rows;
-    QString m_datePattern;
-    QList<output::CellKind> m_kinds;
-};
 
 } // namespace
 
@@ -235,18 +188,6 @@ QString exportSql(const QStringList& columns, const ExportFilter& filter)
 QString exportSampleSql(const QStringList& columns, const QStringList& keys)
 {
     return selectSql(columns, u" where id in ("_s + keys.join(u',') + u')');
-}
-
-output::GridTable exportTable(
-    jet::Recordset rows, const QStringList& captions, const QString& title, const QString& datePattern)
-{
-    output::GridTable table{.title = title};
-    for (int column = 0; column < captions.size(); ++column)
-        table.columns << output::GridColumn{.heading = captions[column],
-            .width = kTwipsALetter * std::max(kLetters, int(captions[column].size()) + 1),
-            .kind = kindOf(rows.columnType(column))};
-    table.rows = std::make_shared<RowsOfSelection>(std::move(rows), datePattern);
-    return table;
 }
 
 } // namespace reports

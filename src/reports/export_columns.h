@@ -1,8 +1,5 @@
 #pragma once
 
-#include "jet/recordset.h"
-#include "output/grid/grid_table.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -35,10 +32,5 @@ QString exportKeysSql(const ExportFilter& filter);
 QString exportSql(const QStringList& columns, const ExportFilter& filter);
 /// The same of a few contacts.
 QString exportSampleSql(const QStringList& columns, const QStringList& keys);
-
-/// A selection as a grid. Dates are written by the pattern, yes/no columns are ticks.
-/// @param captions of its columns
-output::GridTable exportTable(
-    jet::Recordset rows, const QStringList& captions, const QString& title, const QString& datePattern);
 
 } // namespace reports

@@ -13,6 +13,8 @@
 #include "core/shell/window_state.h"
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
+#include "output/register_output.h"
+#include "reports/register_reports.h"
 #include "support/columns.h"
 #include "support/disk.h"
 #include "support/screen_fixture.h"
@@ -625,6 +627,8 @@ private Q_SLOTS:
         f.execute(u"update time_email set confirm=false"_s);
         setup::registerSetup(f.registry);
         entry::registerEntry(f.registry);
+        output::registerOutput(f.registry);
+        reports::registerReports(f.registry);
         views::registerViews(f.registry);
         f.start();
         QStringList doubled;

@@ -110,7 +110,7 @@ private Q_SLOTS:
         QTest::keyClick(screen->lists[1], Qt::Key_P, Qt::ControlModifier);
         const core::Screen* viewer = m_f->registry.find(u"FrmReportViewer");
         QVERIFY(viewer && viewer->isVisible());
-        QCOMPARE(viewer->windowTitle(), u"Codes"_s);
+        QCOMPARE(viewer->windowTitle(), u"Print Codes"_s);
     }
 
     void nothingInFront()

@@ -5,6 +5,8 @@
 #include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
 #include "entry/register_entry.h"
+#include "output/register_output.h"
+#include "reports/register_reports.h"
 #include "support/screen_fixture.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
@@ -68,6 +70,8 @@ void RoomTest::everyScreen()
     registry.setContext(all);
     views::registerViews(registry);
     entry::registerEntry(registry);
+    output::registerOutput(registry);
+    reports::registerReports(registry);
     setup::registerSetup(registry);
     window.build(all);
     window.loadFrame();

@@ -1,5 +1,6 @@
 #include "output/grid/grid_reader.h"
 
+#include "output/grid/selection_grid.h"
 #include "widgets/grid_contents.h"
 
 #include <QHash>
@@ -10,20 +11,6 @@ namespace {
 
 constexpr int kTwipsAPixel = 15;
 constexpr int kRight = 7;
-
-CellKind kindOf(jet::ColumnType type)
-{
-    switch (type) {
-    case jet::ColumnType::Number:
-    case jet::ColumnType::AutoNumber: return CellKind::Number;
-    case jet::ColumnType::Date: return CellKind::Date;
-    case jet::ColumnType::YesNo: return CellKind::CheckBox;
-    case jet::ColumnType::Unknown:
-    case jet::ColumnType::Text:
-    case jet::ColumnType::Memo: break;
-    }
-    return CellKind::Text;
-}
 
 class RowsOfGrid final : public GridRows {
 public:
@@ -86,7 +73,7 @@ GridTable gridTableOf(widgets::HeadingGrid* grid, const QString& title)
     const widgets::GridContents& contents = rows->contents();
     table.groupColumn = contents.groupColumn();
     for (int column = 0; column < contents.columns(); ++column) {
-        const CellKind kind = kindOf(contents.type(column));
+        const CellKind kind = kindOfColumn(contents.type(column));
         table.columns << GridColumn{.heading = contents.heading(column),
             .width = std::max(1, grid->columnWidth(column)) * kTwipsAPixel,
             .kind = kind,

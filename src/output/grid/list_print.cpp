@@ -91,7 +91,7 @@ void ListPrint(core::Context& context, widgets::HeadingGrid* grid, const QString
         });
     }();
     if (!wasStopped)
-        ShowReportViewer(context, report, title);
+        ShowReportViewer(context, report, QCoreApplication::translate("output", "Print %1").arg(title));
 }
 
 void exportList(core::Context& context, widgets::HeadingGrid* grid, const QString& title)
