@@ -4,6 +4,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
 #include "entry/register_entry.h"
 #include "support/screen_fixture.h"
 #include "views/register_views.h"
@@ -69,6 +70,7 @@ void RoomTest::everyScreen()
     views::registerViews(registry);
     entry::registerEntry(registry);
     setup::registerSetup(registry);
+    shell::registerShell(registry);
     window.build(all);
     window.loadFrame();
     window.show();
