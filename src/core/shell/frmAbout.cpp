@@ -116,7 +116,7 @@ void frmAbout::load()
         item->setData(Qt::UserRole, file);
     };
     add(tr("What comes from others"), kThirdParties);
-    for (const QString& file : QDir(u":/licenses"_s).entryList(QDir::Files, QDir::Name)) {
+    for (const QString& file : QDir(u":/licenses"_s).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase)) {
         if (file != kThirdParties)
             add(file, file);
     }
