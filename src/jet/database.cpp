@@ -198,6 +198,11 @@ QString Database::checkSoundness()
     return text == u"ok" ? QString() : text;
 }
 
+QString Database::engineVersion()
+{
+    return QString::fromLatin1(sqlite3_libversion());
+}
+
 int Database::version() const
 {
     const Prepared read = m_engine->isOpen() ? m_engine->prepareText(u"PRAGMA user_version"_s) : Prepared();

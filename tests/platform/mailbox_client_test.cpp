@@ -408,6 +408,10 @@ private Q_SLOTS:
             int(taken.size()), int(sent.size()), int(unclear.size()), kRounds);
         // At most the one that was being answered when the program was killed.
         QVERIFY(unclear.size() <= kRounds);
+        for (const QString& folder : {u"Sent"_s, u"Outbox/Sending"_s}) {
+            for (const QString& entry : m_mail->client.Items(folder).value)
+                QCOMPARE(m_mail->client.Text(entry).value.Body.size(), 20'000);
+        }
         QStringList told;
         for (const platform::MailNews& each : m_news) {
             if (each.kind == Kind::Unclear)

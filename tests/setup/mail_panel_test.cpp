@@ -176,7 +176,7 @@ private:
     void open()
     {
         m_form = m_fixture->open<setup::FrmOthers>(u"FrmOthers"_s);
-        m_form->openPage(u"Mail account"_s);
+        m_form->openPage(u"Mail"_s);
         m_form->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_form));
     }

@@ -4,6 +4,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
 #include "entry/register_entry.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
@@ -73,6 +74,7 @@ void RoomTest::everyScreen()
     output::registerOutput(registry);
     reports::registerReports(registry);
     setup::registerSetup(registry);
+    shell::registerShell(registry);
     window.build(all);
     window.loadFrame();
     window.show();

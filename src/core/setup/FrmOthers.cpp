@@ -53,7 +53,7 @@ FrmOthers::FrmOthers(core::Context& context, QWidget* parent)
     addTab(new CityPanel(context), tr("City"), u"city");
     addTab(new CategoryPanel(context), tr("Category"), u"category");
     addTab(new DialerPanel(context), tr("Dialer"), u"dial");
-    addTab(new MailPanel(context), tr("Mail account"), u"envelope");
+    addTab(new MailPanel(context), tr("Mail"), u"envelope");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 10, 10, 10);
     layout->setSpacing(8);

@@ -639,4 +639,9 @@ std::span<const ListBarArea> listBarAreas()
     return Areas;
 }
 
+bool givesRoomOnly(const core::Action& action)
+{
+    return std::holds_alternative<core::HideListBar>(action) || std::holds_alternative<core::Inert>(action);
+}
+
 } // namespace shell
