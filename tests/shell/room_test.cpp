@@ -8,6 +8,7 @@
 #include "entry/register_entry.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
+#include "transfer/register_transfer.h"
 #include "support/screen_fixture.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
@@ -73,6 +74,7 @@ void RoomTest::everyScreen()
     entry::registerEntry(registry);
     output::registerOutput(registry);
     reports::registerReports(registry);
+    transfer::registerTransfer(registry);
     setup::registerSetup(registry);
     shell::registerShell(registry);
     window.build(all);
