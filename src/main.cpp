@@ -34,10 +34,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,20 @@ QString rootDriveFolder()
     return set.isEmpty() ? QDir::homePath() : set;
 }
 
+/// Files that the desktop opens with this program, as paths or as addresses.
+QStringList filesToOpen(const QStringList& arguments)
+{
+    QStringList files;
+    for (const QString& argument : arguments) {
+        const QUrl url(argument);
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+        else if (!argument.startsWith(u'-'))
+            files << QFileInfo(argument).absoluteFilePath();
+    }
+    return files;
+}
+
 widgets::Look lookOf(const QString& folder)
 {
     const QString kept
@@ -83,7 +99,8 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString folder = programFolder();
-    const platform::SingleInstance instance(folder);
+    const QStringList toOpen = filesToOpen(QApplication::arguments().mid(1));
+    const platform::SingleInstance instance(folder, toOpen);
     if (!instance.isFirst())
         return 0;
     widgets::apply(app, lookOf(folder));
@@ -133,7 +150,10 @@ int main(int argc, char** argv)
     QObject::connect(
         &instance, &platform::SingleInstance::raiseRequested, &startUp, &shell::StartUp::bringToFront);
     QObject::connect(
+        &instance, &platform::SingleInstance::openRequested, &startUp, &shell::StartUp::openFiles);
+    QObject::connect(
         &storageNotice, &shell::StorageNotice::damageFound, &startUp, &shell::StartUp::bookIsDamaged);
+    startUp.openFiles(toOpen);
     startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
     // The frame is there first; what was on its way when the program ended last is asked about.
     QTimer::singleShot(kFirstLookAtOutboxMs, &post, &platform::MailPost::begin);

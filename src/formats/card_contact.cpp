@@ -21,20 +21,37 @@ CardColumns::CardColumns(const jet::SchemaTable& contacts, QStringList nameViews
             [&](QStringView name) { return name.compare(column.name, Qt::CaseInsensitive) == 0; });
         if (isOfOneBook)
             continue;
-        m_byName.insert(column.name.toLower(), m_all.size());
         m_byProperty.insert(propertyOf(column.name), m_all.size());
         m_all.append({column.name, column.type, column.size});
     }
+    for (int column = 0; column < m_all.size(); ++column)
+        m_byName[size_t(placeOf(m_all[column].name))].push_back(column);
+}
+
+int CardColumns::placeOf(QStringView name)
+{
+    // Letters of both cases differ in one bit.
+    constexpr int lower = 0x20;
+    if (name.isEmpty())
+        return 0;
+    const auto letter = [&name](qsizetype at) { return name[at].unicode() | lower; };
+    return int(name.size() * 37 + letter(0) * 11 + letter(name.size() / 2) * 3 + letter(name.size() - 1) * 5)
+        % kPlaces;
 }
 
 const CardColumns::Column* CardColumns::find(QStringView name) const
 {
-    const auto found = m_byName.constFind(name.toString().toLower());
-    return found == m_byName.constEnd() ? nullptr : &m_all[*found];
+    for (const int column : m_byName[size_t(placeOf(name))]) {
+        if (name.compare(m_all[column].name, Qt::CaseInsensitive) == 0)
+            return &m_all[column];
+    }
+    return nullptr;
 }
 
 const CardColumns::Column* CardColumns::ofProperty(QStringView property) const
 {
+    if (!property.startsWith(u"X-ORVANE-"))
+        return nullptr;
     const auto found = m_byProperty.constFind(property.toString());
     return found == m_byProperty.constEnd() ? nullptr : &m_all[*found];
 }
@@ -55,8 +72,9 @@ QString CardContact::text(QStringView column) const
 
 void CardContact::set(QStringView column, const QString& text)
 {
-    const auto found = std::find_if(values.begin(), values.end(),
-        [&](const Value& value) { return column.compare(value.column, Qt::CaseInsensitive) == 0; });
+    const auto found = std::find_if(values.begin(), values.end(), [&](const Value& value) {
+        return column.size() == value.column.size() && column.compare(value.column, Qt::CaseInsensitive) == 0;
+    });
     if (found != values.end() && text.isEmpty())
         values.erase(found);
     else if (found != values.end())

@@ -2,6 +2,7 @@
 
 #include "jet/schema.h"
 
+#include <array>
 #include <vector>
 
 #include <QByteArray>
@@ -33,7 +34,11 @@ public:
 
 private:
     QList<Column> m_all;
-    QHash<QString, qsizetype> m_byName;
+    /// By size and a few letters, as a card asks for dozens of names: columns of one place are compared.
+    static constexpr int kPlaces = 256;
+    static int placeOf(QStringView name);
+
+    std::array<std::vector<int>, kPlaces> m_byName;
     QHash<QString, qsizetype> m_byProperty;
     QStringList m_nameViews;
 };
@@ -41,7 +46,7 @@ private:
 /// A contact between a card and the book. Dates are "2026-06-15", perhaps with a time, switches "true".
 struct CardContact {
     struct Value {
-        QString column;
+        QString column; ///< as the schema spells it
         QString text;
         friend bool operator==(const Value&, const Value&) = default;
     };

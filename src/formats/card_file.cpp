@@ -84,6 +84,18 @@ QString shownAddress(QStringView value)
     return shown.trimmed();
 }
 
+CardAddress addressParts(QStringView value)
+{
+    const QList<QStringView> parts = value.split(u';');
+    const auto part = [&parts](int number) { return shownText(parts.value(number)); };
+    QStringList more;
+    for (const QString& line : {part(1), part(0)}) {
+        if (!line.isEmpty())
+            more << line;
+    }
+    return {part(2), more.join(u", "_s), part(3), part(4), part(5), part(6)};
+}
+
 enum class As { Text, Parts, FirstPart, Date, Address };
 
 /// Where the value behind the start of a line goes: into one text, or to the end of several.
@@ -217,6 +229,8 @@ CardFields readCard(QStringView text)
             if (!line.startsWith(tag.start))
                 continue;
             const QString value = shownAs(tag.as, line.mid(tag.start.size()));
+            if (tag.text == &CardFields::homeAddress)
+                fields.home = addressParts(line.mid(tag.start.size()));
             if (tag.text)
                 fields.*tag.text = value;
             else if (!value.isEmpty())

@@ -17,6 +17,15 @@ inline constexpr qint64 maxCardBytes = 1024 * 1024;
 inline constexpr qsizetype maxCardLine = 10'000;
 inline constexpr int maxCardLines = 10'000;
 
+struct CardAddress {
+    QString line1;
+    QString line2;
+    QString city;
+    QString state;
+    QString pin;
+    QString country;
+};
+
 /// What a card shows, each text as it is shown.
 struct CardFields {
     QString name; ///< of the N line, its parts with blanks between
@@ -35,6 +44,7 @@ struct CardFields {
     QStringList emails;
     QString workAddress;
     QString homeAddress;
+    CardAddress home; ///< the same in its parts
     QString postalAddress;
 };
 
@@ -43,15 +53,6 @@ CardFields readCard(QStringView text);
 /// The text of the first N, FN or NICKNAME line that names somebody; `namesNobody` tells which texts don't.
 /// The start of a file is enough when something is found in it.
 QString cardLabel(QStringView text, const std::function<bool(const QString&)>& namesNobody = {});
-
-struct CardAddress {
-    QString line1;
-    QString line2;
-    QString city;
-    QString state;
-    QString pin;
-    QString country;
-};
 
 /// What goes into a card; which of it depends on the writer.
 struct CardValues {

@@ -41,43 +41,27 @@ constexpr QStringView kKids[] = {u"kid1", u"kid2", u"kid3"};
 
 using Slots = std::span<const QStringView>;
 
-/// Properties that mean one column, by the names that mail programs and telephones gave them.
-struct TextRow {
-    QLatin1StringView property;
-    QStringView column;
-};
-constexpr TextRow kTexts[] = {
-    {"FN"_L1, u"Name"},
-    {"TITLE"_L1, u"Job_Title"},
-    {"X-MAIDENNAME"_L1, u"Maiden"},
-    {"SPOUSE"_L1, u"Spouse"},
-    {"X-SPOUSE"_L1, u"Spouse"},
-    {"X-EVOLUTION-SPOUSE"_L1, u"Spouse"},
-    {"X-KADDRESSBOOK-X-SPOUSESNAME"_L1, u"Spouse"},
-    {"HOBBY"_L1, u"Hobbies"},
-    {"INTEREST"_L1, u"Hobbies"},
-};
-constexpr QLatin1StringView kAnniversaries[] = {"ANNIVERSARY"_L1, "X-ANNIVERSARY"_L1,
-    "X-EVOLUTION-ANNIVERSARY"_L1, "X-KADDRESSBOOK-X-ANNIVERSARY"_L1, "X-WAB-WEDDING_ANNIVERSARY"_L1};
-
-/// Types that say nothing to a person.
-constexpr QLatin1StringView kQuietTypes[]
-    = {"PREF"_L1, "VOICE"_L1, "INTERNET"_L1, "POSTAL"_L1, "PARCEL"_L1, "DOM"_L1, "INTL"_L1, "OTHER"_L1};
 /// Numbers that are for no conversation; they would be rung up in vain in a column of telephones.
 constexpr QLatin1StringView kOtherNumbers[]
     = {"PAGER"_L1, "VIDEO"_L1, "BBS"_L1, "MODEM"_L1, "ISDN"_L1, "TEXTPHONE"_L1, "TLX"_L1, "X-TELEX"_L1};
 
-constexpr QStringView kAddressParts[] = {u"add1", u"add2", u"city", u"state", u"pin", u"country"};
+/// The columns of the three addresses: two lines of the street, city, state, pin, country.
+constexpr std::size_t kAddressParts = 6;
+struct AddressSet {
+    QLatin1StringView name;
+    QStringView columns[kAddressParts];
+};
+constexpr AddressSet kHomeAddress{
+    "h_"_L1, {u"h_add1", u"h_add2", u"h_city", u"h_state", u"h_pin", u"h_country"}};
+constexpr AddressSet kWorkAddress{
+    "b_"_L1, {u"b_add1", u"b_add2", u"b_city", u"b_state", u"b_pin", u"b_country"}};
+constexpr AddressSet kSecondWorkAddress{
+    "w_"_L1, {u"w_add1", u"w_add2", u"w_city", u"w_State", u"w_pin", u"w_country"}};
+constexpr const AddressSet* kAddresses[] = {&kHomeAddress, &kWorkAddress, &kSecondWorkAddress};
 
 template <class List> bool isIn(const List& list, const QString& text)
 {
     return std::any_of(std::begin(list), std::end(list), [&](const auto& one) { return text == one; });
-}
-
-/// "h_city" as the schema spells it is found in any case.
-QString addressColumn(QStringView prefix, QStringView part)
-{
-    return prefix.toString() + part.toString();
 }
 
 class Mapper {
@@ -109,6 +93,8 @@ private:
     bool isOwnCard() const;
     void take(const P& property);
     bool takeOwn(const P& property);
+    bool takeOwnAddress(const P& property, const AddressSet& address);
+    bool putAddress(const AddressSet& address, std::span<const QString> texts);
     void takeKnown(const P& property, const QString& text);
     void takeName(const P& property);
     void takeNickNames(const P& property, const QString& text);
@@ -142,12 +128,16 @@ private:
     QStringList m_notes; ///< whole texts
     QStringList m_lines; ///< "Label: value"
     bool m_isOwnCard = false;
+    bool m_hasLabels = false;
 };
 
 void Mapper::findLabels()
 {
     for (const P& property : m_card.properties) {
-        if (property.name == "X-ABLABEL"_L1 && property.depth == 0 && !property.group.isEmpty())
+        if (property.name != "X-ABLABEL"_L1 || property.depth > 0)
+            continue;
+        m_hasLabels = true;
+        if (!property.group.isEmpty())
             m_labels.insert(property.group, plainLabel(m_card.text(property)));
     }
 }
@@ -194,6 +184,17 @@ void Mapper::take(const P& property)
     }
 }
 
+bool Mapper::takeOwnAddress(const P& property, const AddressSet& address)
+{
+    const QStringList parts = splitVCardValue(property.value, u';');
+    const QStringList street = splitVCardValue(parts.value(2), u',');
+    const QString values[kAddressParts]
+        = {street.value(0), street.value(1), parts.value(3), parts.value(4), parts.value(5), parts.value(6)};
+    for (std::size_t part = 0; part < kAddressParts; ++part)
+        m_contact.set(address.columns[part], unescapeVCardText(values[part]));
+    return true;
+}
+
 /// Values that this program itself has put on the card go back where they were.
 bool Mapper::takeOwn(const P& property)
 {
@@ -205,16 +206,9 @@ bool Mapper::takeOwn(const P& property)
             m_contact.set(column, parts.value(part++));
         return true;
     }
-    if (property.name == "ADR"_L1 && (named == "h_"_L1 || named == "b_"_L1 || named == "w_"_L1)) {
-        const QStringList parts = splitVCardValue(property.value, u';');
-        const QStringList street = splitVCardValue(parts.value(2), u',');
-        const QString values[] = {
-            street.value(0), street.value(1), parts.value(3), parts.value(4), parts.value(5), parts.value(6)};
-        for (std::size_t part = 0; part < std::size(kAddressParts); ++part) {
-            if (const auto* column = m_columns.find(addressColumn(named, kAddressParts[part])))
-                m_contact.set(column->name, unescapeVCardText(values[part]));
-        }
-        return true;
+    for (const AddressSet* address : kAddresses) {
+        if (property.name == "ADR"_L1 && named == address->name)
+            return takeOwnAddress(property, *address);
     }
     const CardColumns::Column* column
         = named.isEmpty() ? m_columns.ofProperty(property.name) : m_columns.find(named);
@@ -278,13 +272,11 @@ void Mapper::takeKnown(const P& property, const QString& text)
         return takeDate(property, u"M_BD", text);
     const bool isLabelledAnniversary = property.name == "X-ABDATE"_L1
         && m_labels.value(property.group).compare("Anniversary"_L1, Qt::CaseInsensitive) == 0;
-    if (isLabelledAnniversary || isIn(kAnniversaries, property.name))
+    if (isLabelledAnniversary || isAnniversary(property.name))
         return takeDate(property, u"Anniv", text);
-    for (const TextRow& row : kTexts) {
-        if (property.name == row.property && isFree(row.column) && put(property, row.column, onOneLine(text)))
-            return;
-    }
-    note(property, text);
+    const QStringView column = columnOfProperty(property.name);
+    if (column.isEmpty() || !isFree(column) || !put(property, column, onOneLine(text)))
+        note(property, text);
 }
 
 void Mapper::takeName(const P& property)
@@ -414,28 +406,32 @@ void Mapper::takeAddress(const P& property)
         return;
     const bool isWork = property.is(u"WORK");
     const bool isHome = property.is(u"HOME");
-    QStringList prefixes = isWork ? QStringList{u"b_"_s, u"w_"_s} : QStringList{u"h_"_s};
+    std::vector<const AddressSet*> places;
     if (m_isOwnCard)
-        prefixes = isWork ? QStringList{u"w_"_s} : isHome ? QStringList{u"h_"_s} : QStringList{u"b_"_s};
-    else if (!isWork && !isHome)
-        prefixes << u"w_"_s;
-    for (const QString& prefix : prefixes) {
-        const bool isTaken = std::any_of(std::begin(kAddressParts), std::end(kAddressParts),
-            [&](QStringView name) { return !isFree(addressColumn(prefix, name)); });
-        bool fits = true;
-        for (std::size_t i = 0; i < std::size(kAddressParts); ++i) {
-            const auto* column = m_columns.find(addressColumn(prefix, kAddressParts[i]));
-            fits = fits && column && texts[i].size() <= column->size;
-        }
-        if (isTaken || !fits)
-            continue;
-        for (std::size_t i = 0; i < std::size(kAddressParts); ++i)
-            m_contact.set(m_columns.find(addressColumn(prefix, kAddressParts[i]))->name, texts[i]);
-        if (parts.size() > 7 || !customLabel(property).isEmpty())
-            note(property, shown.join(u", "_s));
-        return;
+        places = {isWork ? &kSecondWorkAddress : isHome ? &kHomeAddress : &kWorkAddress};
+    else if (isWork)
+        places = {&kWorkAddress, &kSecondWorkAddress};
+    else if (isHome)
+        places = {&kHomeAddress};
+    else
+        places = {&kHomeAddress, &kSecondWorkAddress};
+    const bool isPut = std::any_of(
+        places.begin(), places.end(), [&](const AddressSet* address) { return putAddress(*address, texts); });
+    if (!isPut || parts.size() > 7 || !customLabel(property).isEmpty())
+        note(property, shown.join(u", "_s));
+}
+
+/// False where another address stands already, or a part is too long.
+bool Mapper::putAddress(const AddressSet& address, std::span<const QString> texts)
+{
+    for (std::size_t part = 0; part < kAddressParts; ++part) {
+        const CardColumns::Column* column = m_columns.find(address.columns[part]);
+        if (!column || texts[part].size() > column->size || !isFree(address.columns[part]))
+            return false;
     }
-    note(property, shown.join(u", "_s));
+    for (std::size_t part = 0; part < kAddressParts; ++part)
+        m_contact.set(address.columns[part], texts[part]);
+    return true;
 }
 
 void Mapper::takeDate(const P& property, QStringView column, const QString& text)
@@ -509,6 +505,8 @@ void Mapper::takeBinary(const P& property)
 // A label whose value nobody has is a value of its own.
 void Mapper::noteUnusedLabels()
 {
+    if (!m_hasLabels)
+        return;
     QSet<QString> groups;
     for (const P& property : m_card.properties) {
         if (property.name != "X-ABLABEL"_L1)
@@ -541,11 +539,7 @@ QString Mapper::customLabel(const P& property) const
 QString Mapper::labelOf(const P& property) const
 {
     const QString label = labelOfProperty(property.name);
-    QStringList words;
-    for (const QString& type : property.types) {
-        if (!isIn(kQuietTypes, type))
-            words << type.toLower();
-    }
+    QStringList words = wordsOfTypes(property.types);
     if (const QString own = m_labels.value(property.group); !own.isEmpty())
         words << own;
     return words.isEmpty() ? label : label + u" ("_s + words.join(u", "_s) + u')';

@@ -13,6 +13,25 @@ namespace formats {
 
 namespace {
 
+/// Properties that mean one column, by the names that mail programs and telephones gave them.
+struct TextRow {
+    QLatin1StringView property;
+    QStringView column;
+};
+constexpr TextRow kTexts[] = {
+    {"FN"_L1, u"Name"},
+    {"TITLE"_L1, u"Job_Title"},
+    {"X-MAIDENNAME"_L1, u"Maiden"},
+    {"SPOUSE"_L1, u"Spouse"},
+    {"X-SPOUSE"_L1, u"Spouse"},
+    {"X-EVOLUTION-SPOUSE"_L1, u"Spouse"},
+    {"X-KADDRESSBOOK-X-SPOUSESNAME"_L1, u"Spouse"},
+    {"HOBBY"_L1, u"Hobbies"},
+    {"INTEREST"_L1, u"Hobbies"},
+};
+constexpr QLatin1StringView kAnniversaries[] = {"ANNIVERSARY"_L1, "X-ANNIVERSARY"_L1,
+    "X-EVOLUTION-ANNIVERSARY"_L1, "X-KADDRESSBOOK-X-ANNIVERSARY"_L1, "X-WAB-WEDDING_ANNIVERSARY"_L1};
+
 struct LabelRow {
     QLatin1StringView property;
     QLatin1StringView label;
@@ -49,7 +68,25 @@ constexpr LabelRow kLabels[] = {
     {"X-ABADR"_L1, "Address format"_L1},
 };
 
+/// Types that say nothing to a person.
+constexpr QLatin1StringView kQuietTypes[]
+    = {"PREF"_L1, "VOICE"_L1, "INTERNET"_L1, "POSTAL"_L1, "PARCEL"_L1, "DOM"_L1, "INTL"_L1, "OTHER"_L1};
 } // namespace
+
+QStringView columnOfProperty(const QString& property)
+{
+    for (const TextRow& row : kTexts) {
+        if (property == row.property)
+            return row.column;
+    }
+    return {};
+}
+
+bool isAnniversary(const QString& property)
+{
+    return std::find(std::begin(kAnniversaries), std::end(kAnniversaries), property)
+        != std::end(kAnniversaries);
+}
 
 QString labelOfProperty(const QString& property)
 {
@@ -66,6 +103,16 @@ QString onOneLine(const QString& text)
             lines << line.trimmed();
     }
     return lines.join(u", "_s);
+}
+
+QStringList wordsOfTypes(const QStringList& types)
+{
+    QStringList words;
+    for (const QString& type : types) {
+        if (std::find(std::begin(kQuietTypes), std::end(kQuietTypes), type) == std::end(kQuietTypes))
+            words << type.toLower();
+    }
+    return words;
 }
 
 QString plainLabel(const QString& label)

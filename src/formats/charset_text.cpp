@@ -1,5 +1,7 @@
 #include "formats/charset_text.h"
 
+#include <algorithm>
+
 #include <QStringDecoder>
 
 namespace formats {
@@ -52,9 +54,11 @@ QString textOfBytes(const QByteArray& bytes, const QByteArray& charset)
     if (!isNamed && !decode(QStringDecoder(QStringDecoder::Utf8, whole), bytes, &text)
         && !decode(QStringDecoder("windows-1252", whole), bytes, &text))
         text = QString::fromLatin1(bytes);
-    text.removeIf([](QChar c) {
-        return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r' && c != u'\t';
-    });
+    const auto isControl = [](QChar c) {
+        return (c < u' ' || (c >= u'\x7f' && c < u'\xa0')) && c != u'\n' && c != u'\r' && c != u'\t';
+    };
+    if (std::any_of(text.cbegin(), text.cend(), isControl))
+        text.removeIf(isControl);
     return text;
 }
 

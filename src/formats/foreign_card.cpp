@@ -16,9 +16,12 @@ namespace {
 constexpr qint64 chunkBytes = 64 * 1024;
 constexpr qsizetype maxHeader = 64 * 1024;
 
+/// Looked at for every line several times, so most are told by their first letter.
 bool isFrame(const QByteArray& line, const char* word)
 {
-    return line.size() < 40 && line.simplified().replace(' ', "").compare(word, Qt::CaseInsensitive) == 0;
+    const char first = line.isEmpty() ? ' ' : line[0];
+    return (first == word[0] || first == word[0] + ('a' - 'A') || first == ' ' || first == '\t')
+        && line.size() < 40 && line.simplified().replace(' ', "").compare(word, Qt::CaseInsensitive) == 0;
 }
 
 bool isBegin(const QByteArray& line)
@@ -81,13 +84,15 @@ Encoding encodingOf(const QByteArray& line, qsizetype headerEnd)
 {
     if (headerEnd < 0)
         return Encoding::None;
-    const QByteArray header = line.left(headerEnd).toUpper();
-    if (header.contains("QUOTED-PRINTABLE"))
-        return Encoding::QuotedPrintable;
-    if (header.contains(";BASE64") || header.contains("ENCODING=B"))
-        return Encoding::Base64;
-    const QByteArray start = line.mid(headerEnd + 1, 100).toLower();
-    return start.startsWith("data:") ? Encoding::Base64 : Encoding::None;
+    if (line.left(headerEnd).contains(';')) {
+        const QByteArray header = line.left(headerEnd).toUpper();
+        if (header.contains("QUOTED-PRINTABLE"))
+            return Encoding::QuotedPrintable;
+        if (header.contains(";BASE64") || header.contains("ENCODING=B"))
+            return Encoding::Base64;
+    }
+    const bool isData = qstrnicmp(line.constData() + headerEnd + 1, "data:", 5) == 0;
+    return isData ? Encoding::Base64 : Encoding::None;
 }
 
 std::optional<VCardLine> parsedHeader(const QByteArray& header)
@@ -146,7 +151,8 @@ void takeValue(ForeignProperty& property, const QByteArray& value, Encoding enco
     }
     property.value
         = textOfBytes(encoding == Encoding::QuotedPrintable ? decodedQuotedPrintable(value) : value, charset);
-    property.value.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+    if (property.value.contains(u'\r'))
+        property.value.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
 }
 
 ForeignProperty propertyOf(const QByteArray& line)

@@ -198,6 +198,11 @@ QString Database::checkSoundness()
     return text == u"ok" ? QString() : text;
 }
 
+QString Database::engineVersion()
+{
+    return QString::fromLatin1(sqlite3_libversion());
+}
+
 int Database::version() const
 {
     const Prepared read = m_engine->isOpen() ? m_engine->prepareText(u"PRAGMA user_version"_s) : Prepared();
@@ -313,8 +318,13 @@ bool Database::appendRows(const QString& table, const QStringList& columns, cons
     for (const QStringList& row : rows) {
         for (int i = 0; done && i < int(types.size()); ++i) {
             const QString text = row.value(i);
+            const ColumnType type = types[size_t(i)];
+            if (!text.isEmpty() && (type == ColumnType::Text || type == ColumnType::Memo)) {
+                bindText(insert.get(), i + 1, text);
+                continue;
+            }
             QVariant stored;
-            done = text.isEmpty() || toStored(text, types[size_t(i)], &stored);
+            done = text.isEmpty() || toStored(text, type, &stored);
             bindStored(insert.get(), i + 1, stored);
         }
         done = done && sqlite3_step(insert.get()) == SQLITE_DONE;

@@ -88,6 +88,9 @@ public:
     size_t searchMemory() const;
     /// Empty when the file is sound, else the engine's words about the first damage.
     QString checkSoundness();
+    /// Which version of the file engine works underneath, such as "3.40.1".
+    static QString engineVersion();
+
     /// The version number that was stored with setVersion(); 0 in a file that never had one.
     int version() const;
     bool setVersion(int version);

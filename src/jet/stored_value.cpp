@@ -76,6 +76,12 @@ bool toStored(const QVariant& value, ColumnType type, QVariant* stored)
     return true;
 }
 
+void bindText(sqlite3_stmt* statement, int place, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    sqlite3_bind_text(statement, place, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+}
+
 void bindStored(sqlite3_stmt* statement, int place, const QVariant& stored)
 {
     switch (stored.typeId()) {
@@ -83,10 +89,7 @@ void bindStored(sqlite3_stmt* statement, int place, const QVariant& stored)
     case QMetaType::Int:
     case QMetaType::LongLong: sqlite3_bind_int64(statement, place, stored.toLongLong()); break;
     case QMetaType::Double: sqlite3_bind_double(statement, place, stored.toDouble()); break;
-    default: {
-        const QByteArray utf8 = stored.toString().toUtf8();
-        sqlite3_bind_text(statement, place, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-    }
+    default: bindText(statement, place, stored.toString());
     }
 }
 

@@ -90,7 +90,8 @@ MailResult MailAccountFile::store(const std::optional<MailAccount>& account)
     // The password of an account that is gone is of no use to anybody else.
     if (before && (!account || keyOf(*before) != keyOf(*account)))
         m_secrets.write(keyOf(*before), {}, [](PasswordPlace) {});
-    Q_EMIT changed();
+    // Its password may follow at once.
+    QMetaObject::invokeMethod(this, &MailAccountFile::changed, Qt::QueuedConnection);
     return {};
 }
 
@@ -112,8 +113,11 @@ void MailAccountFile::keepPassword(const QString& password, Placed then)
     const std::optional<MailAccount> current = account();
     if (!current)
         return then(PasswordPlace::Nowhere);
+    ++m_beingKept;
     m_secrets.write(
         keyOf(*current), password, [self = QPointer(this), then = std::move(then)](PasswordPlace place) {
+            if (self)
+                --self->m_beingKept;
             then(place);
             if (self)
                 Q_EMIT self->changed();
@@ -134,9 +138,11 @@ void MailAccountFile::sendTest(
             false, m_test ? QCoreApplication::translate("platform", "A test is on its way already.") : fault);
     if (password || account.user.isEmpty())
         return runTest(account, password.value_or(QString()), then);
-    readPassword(account, [self = QPointer(this), account, then](const QString& kept, PasswordPlace) {
-        if (self)
+    readPassword(account, [self = QPointer(this), account, then](const QString& kept, PasswordPlace place) {
+        if (self && place != PasswordPlace::Nowhere)
             self->runTest(account, kept, then);
+        else if (self)
+            then(false, QCoreApplication::translate("platform", "The password is not known."));
     });
 }
 

@@ -8,6 +8,7 @@
 #include <QLocalSocket>
 #include <QSysInfo>
 #include <QThread>
+#include <QUrl>
 
 #include <cerrno>
 #include <csignal>
@@ -20,7 +21,23 @@ namespace {
 
 constexpr int wholeWaitMs = 1800;
 constexpr int retryMs = 50;
-constexpr auto request = "raise\n";
+constexpr qint64 longestRequest = 1024 * 1024;
+constexpr auto raiseWord = "raise";
+constexpr auto openWord = "open";
+
+/// "raise", or "open" and the files behind it, on one line.
+QByteArray requestFor(const QStringList& files)
+{
+    if (files.isEmpty())
+        return QByteArray(raiseWord) + '\n';
+    QByteArray request = openWord;
+    for (const QString& file : files) {
+        const QByteArray name = ' ' + QUrl::toPercentEncoding(file);
+        if (request.size() + name.size() < longestRequest)
+            request += name;
+    }
+    return request + '\n';
+}
 
 QString canonicalFolder(const QString& folder)
 {
@@ -53,8 +70,9 @@ bool isHeldByALivingProgram(const QLockFile& lock)
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& programFolder, QObject* parent)
+SingleInstance::SingleInstance(const QString& programFolder, QStringList files, QObject* parent)
     : QObject(parent)
+    , m_files(std::move(files))
     , m_socketName(socketName(programFolder))
     , m_lock(canonicalFolder(programFolder) + u"/.orvane.lock"_s)
 {
@@ -107,8 +125,8 @@ bool SingleInstance::askFirst(int waitMs) const
     socket.connectToServer(m_socketName, QIODevice::WriteOnly);
     if (!socket.waitForConnected(waitMs))
         return false;
-    socket.write(request);
-    socket.waitForBytesWritten(waitMs);
+    socket.write(requestFor(m_files));
+    while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(waitMs)) { }
     return true;
 }
 
@@ -124,9 +142,9 @@ void SingleInstance::readRequest()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
         const auto read = [this, socket] {
-            if (socket->canReadLine() && socket->readLine(16) == request)
-                Q_EMIT raiseRequested();
-            else if (socket->bytesAvailable() < 16)
+            if (socket->canReadLine())
+                answer(socket->readLine(longestRequest + 1).trimmed());
+            else if (socket->bytesAvailable() <= longestRequest)
                 return;
             socket->abort();
             socket->deleteLater();
@@ -135,6 +153,20 @@ void SingleInstance::readRequest()
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         read();
     }
+}
+
+void SingleInstance::answer(const QByteArray& request)
+{
+    const QList<QByteArray> words = request.split(' ');
+    if (words.constFirst() == raiseWord)
+        Q_EMIT raiseRequested();
+    if (words.constFirst() != openWord)
+        return;
+    QStringList files;
+    for (const QByteArray& word : words.mid(1))
+        files << QUrl::fromPercentEncoding(word);
+    Q_EMIT raiseRequested();
+    Q_EMIT openRequested(files);
 }
 
 } // namespace platform

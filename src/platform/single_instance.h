@@ -5,17 +5,19 @@
 #include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
+#include <QStringList>
 
 namespace platform {
 
 /// Lets one program at a time work on the databases of a program folder. A second one asks the first to come
-/// to the front, within two seconds at most, and should then end. What a crashed program left behind blocks
-/// nobody.
+/// to the front, within two seconds at most, hands over the files that it was to open, and should then end.
+/// What a crashed program left behind blocks nobody.
 class SingleInstance final : public QObject {
     Q_OBJECT
 
 public:
-    explicit SingleInstance(const QString& programFolder, QObject* parent = nullptr);
+    /// @param files of this computer, for the first to open
+    explicit SingleInstance(const QString& programFolder, QStringList files = {}, QObject* parent = nullptr);
     ~SingleInstance() override;
 
     bool isFirst() const { return m_isFirst; }
@@ -25,6 +27,7 @@ public:
 
 Q_SIGNALS:
     void raiseRequested();
+    void openRequested(const QStringList& files);
 
 private:
     bool takeLock();
@@ -32,6 +35,9 @@ private:
     void listen();
     void readRequest();
 
+    void answer(const QByteArray& request);
+
+    QStringList m_files;
     QString m_socketName;
     QLockFile m_lock;
     QLocalServer m_server;

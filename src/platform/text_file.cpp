@@ -15,9 +15,7 @@ namespace {
 
 constexpr qint64 maxTextSize = 64 * 1024 * 1024;
 
-} // namespace
-
-std::optional<QString> readText(const QString& localPath)
+std::optional<QByteArray> readBytes(const QString& localPath)
 {
     // Only a plain file: a pipe or a device under that name could block or never end.
     QFile file(localPath);
@@ -26,7 +24,21 @@ std::optional<QString> readText(const QString& localPath)
     const QByteArray bytes = file.read(maxTextSize + 1);
     if (bytes.size() > maxTextSize || file.error() != QFileDevice::NoError)
         return std::nullopt;
-    return fromCp1252(bytes).replace("\r\n"_L1, "\n"_L1);
+    return bytes;
+}
+
+} // namespace
+
+std::optional<QString> readText(const QString& localPath)
+{
+    const auto bytes = readBytes(localPath);
+    return bytes ? std::optional(fromCp1252(*bytes).replace("\r\n"_L1, "\n"_L1)) : std::nullopt;
+}
+
+std::optional<QString> readForeignText(const QString& localPath)
+{
+    const auto bytes = readBytes(localPath);
+    return bytes ? std::optional(fromUtf8OrCp1252(*bytes)) : std::nullopt;
 }
 
 std::optional<QString> readText(const Drive& drive, QStringView path)

@@ -16,6 +16,9 @@ class Drive;
 std::optional<QString> readText(const QString& localPath);
 std::optional<QString> readText(const Drive& drive, QStringView path);
 
+/// The text of a file of another program, UTF-8 or the code page, with its line ends as they are.
+std::optional<QString> readForeignText(const QString& localPath);
+
 /// Replaces the file as a whole or leaves the old one as it was. Any kind of line end is written as CR LF.
 bool writeText(const QString& localPath, QStringView text);
 bool writeText(const Drive& drive, QStringView path, QStringView text);

@@ -193,6 +193,8 @@ void FrmAddFullRptView::layOutLayouts(QVBoxLayout* column)
 void FrmAddFullRptView::layOutMore(QVBoxLayout* column)
 {
     Option1->setObjectName(u"Option1"_s);
+    // Not by the arrow keys, which only look at what is there: it may end the program.
+    Option1->setFocusPolicy(Qt::ClickFocus);
     Option1->setToolTip(tr("Phone list, birthdays, family tree and other lists"));
     m_options->addButton(Option1);
     column->addWidget(Option1);
@@ -471,11 +473,11 @@ void FrmAddFullRptView::showList(const QString& name)
     const QString sql = listSql(row, m_filter, context().services.clock.today().year());
     const ReportHead listHead = head(QCoreApplication::translate("reports", row.title));
     if (name == u"Family Tree")
-        return show(listReport(row,
+        return show(printedList(row,
             std::make_shared<output::ListSource>(
                 familyColumns(), familyRows(context().data.openRecordset(sql))),
             listHead));
-    show(listReport(row, rowsOf(sql), listHead));
+    show(printedList(row, rowsOf(sql), listHead));
 }
 
 void FrmAddFullRptView::show(const output::Report& report)

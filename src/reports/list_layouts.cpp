@@ -204,7 +204,7 @@ QString listSql(const ListRow& row, const QString& filter, int year)
     return sql + row.order.toString();
 }
 
-output::Report listReport(
+output::Report printedList(
     const ListRow& row, std::shared_ptr<const output::ReportSource> source, const ReportHead& head)
 {
     output::Report report;

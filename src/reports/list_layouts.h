@@ -31,7 +31,7 @@ std::span<const ListRow> listRows();
 const ListRow* listRow(QStringView name);
 
 QString listSql(const ListRow& row, const QString& filter, int year);
-output::Report listReport(
+output::Report printedList(
     const ListRow& row, std::shared_ptr<const output::ReportSource> source, const ReportHead& head);
 
 } // namespace reports

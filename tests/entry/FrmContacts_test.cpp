@@ -1,4 +1,5 @@
 #include "entry/simple/FrmContacts.h"
+#include "support/disk.h"
 #include "support/screen_fixture.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void mailClientAndSchedulerFollow();
     void deleteShowsTheNext();
     void contactThatHasGoneIsSaidSo();
+    void quickFillAsksBeforeItReplaces();
 
 private:
     entry::FrmContacts* open();
@@ -242,6 +244,31 @@ void FrmContactsTest::contactThatHasGoneIsSaidSo()
         u"This contact was deleted while you were changing it. What you entered is still here."_s);
     click(u"Command1"_s);
     QCOMPARE(text(u"txtMobile"_s), u"55"_s);
+}
+
+// Kept: the preferred address is the one at work, the other that at home.
+void FrmContactsTest::quickFillAsksBeforeItReplaces()
+{
+    open();
+    const QString file = support::put(m_fixture->root.filePath(u"a.vcf"_s),
+        "BEGIN:VCARD\r\nVERSION:2.1\r\nFN:Zo\xe9 Mary "
+        "Lee\r\nORG:Tea;x\r\nTEL;WORK;VOICE:5\r\nBDAY:19800305\r\n"
+        "EMAIL;PREF;INTERNET:w@x\r\nEMAIL;INTERNET:\r\nEMAIL;INTERNET:h@x\r\n"
+        "ADR;HOME:;;1 Lane;Pune;MH;411;India\r\nEND:VCARD\r\n");
+    type(u"txtcmpny"_s, u"Coffee"_s);
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        m_fixture->boxes.expectChoice(u"Quick fill"_s, file);
+        m_fixture->boxes.expect(
+            u"Replace what stands in these fields by what the card has?\n\nCompany"_s, answer);
+        click(u"CmdVCF"_s);
+        QCOMPARE(text(u"txtcmpny"_s), answer == Answer::No ? u"Coffee"_s : u"Tea"_s);
+        QCOMPARE(text(u"dtcmblname"_s), answer == Answer::No ? QString() : u"Lee"_s);
+    }
+    click(u"Command1"_s);
+    QCOMPARE(rows(u"select First, Last, B_Ph1, b_email1, H_email1, h_add1, h_city, h_pin, M_BD from cnt_main "
+                  u"order by id desc"_s)
+                 .constFirst(),
+        u"Zoé Mary|Lee|5|w@x|h@x|1 Lane|Pune|411|1980-03-05"_s);
 }
 
 QTEST_MAIN(FrmContactsTest)

@@ -283,6 +283,20 @@ private Q_SLOTS:
         QVERIFY(count >= 2);
     }
 
+    void theAccountAndItsPasswordComeTogether()
+    {
+        m_mail = std::make_unique<support::MailAccount>(m_folder->path(), 0);
+        QVERIFY(m_mail->client.Send(itemTo(u"a@x.in"_s)));
+        listen();
+        m_server = std::make_unique<support::MailServer>();
+        platform::MailAccount account = support::MailAccount::open(m_server->port());
+        account.user = u"asha"_s;
+        QVERIFY(m_mail->accounts.store(account));
+        m_mail->accounts.keepPassword(kPassword, [](platform::PasswordPlace) { });
+        QTRY_COMPARE_WITH_TIMEOUT(m_news.size(), 1, kWaitMs);
+        QVERIFY2(m_news[0].kind != Kind::PasswordMissing, qPrintable(m_news[0].words));
+    }
+
     // It was given for one server and user; to another it must not go.
     void aPasswordStaysWithItsServer()
     {
@@ -394,6 +408,10 @@ private Q_SLOTS:
             int(taken.size()), int(sent.size()), int(unclear.size()), kRounds);
         // At most the one that was being answered when the program was killed.
         QVERIFY(unclear.size() <= kRounds);
+        for (const QString& folder : {u"Sent"_s, u"Outbox/Sending"_s}) {
+            for (const QString& entry : m_mail->client.Items(folder).value)
+                QCOMPARE(m_mail->client.Text(entry).value.Body.size(), 20'000);
+        }
         QStringList told;
         for (const platform::MailNews& each : m_news) {
             if (each.kind == Kind::Unclear)

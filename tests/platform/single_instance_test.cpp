@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init();
     void firstAndFree();
     void secondRaisesTheFirst();
+    void secondHandsItsFilesOver();
     void afterACrash();
     void unreadableLock();
     void lockThatCanNotBeRenewed();
@@ -67,6 +68,22 @@ void SingleInstanceTest::secondRaisesTheFirst()
     third.kill();
     other.waitForFinished();
     third.waitForFinished();
+}
+
+void SingleInstanceTest::secondHandsItsFilesOver()
+{
+    const SingleInstance first(m_folder->path());
+    QStringList opened;
+    int raised = 0;
+    connect(&first, &SingleInstance::openRequested, this, [&](const QStringList& files) { opened = files; });
+    connect(&first, &SingleInstance::raiseRequested, this, [&] { ++raised; });
+    QProcess other;
+    const QStringList files{u"/tmp/a b\nc%20é.vcf"_s, u"/x"_s};
+    other.start(QCoreApplication::applicationFilePath(), QStringList{u"hold"_s, m_folder->path()} + files);
+    QTRY_COMPARE(opened, files);
+    QCOMPARE(raised, 1);
+    other.kill();
+    other.waitForFinished();
 }
 
 void SingleInstanceTest::afterACrash()
@@ -144,7 +161,7 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "hold"_L1) {
-        const SingleInstance instance(arguments.value(2));
+        const SingleInstance instance(arguments.value(2), arguments.mid(3));
         QTextStream(stdout) << (instance.isFirst() ? "first\n" : "second\n") << Qt::flush;
         QTimer::singleShot(30'000, &application, &QCoreApplication::quit);
         return QCoreApplication::exec();

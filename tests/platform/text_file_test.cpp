@@ -79,6 +79,18 @@ private Q_SLOTS:
         QVERIFY(!readText(path));
     }
 
+    // A short text is still in memory when the file is put in place.
+    void fullDiskLeavesTheOldFile()
+    {
+        const QTemporaryDir folder;
+        const QString file = support::put(folder.filePath(u"a.txt"_s), "old");
+        {
+            const support::FullDisk full(0);
+            QVERIFY(!writeText(file, u"new"));
+        }
+        QCOMPARE(support::bytesOf(file), "old");
+    }
+
     void failures()
     {
         const QTemporaryDir folder;

@@ -4,9 +4,11 @@
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
+#include "core/shell/register_shell.h"
 #include "entry/register_entry.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
+#include "transfer/register_transfer.h"
 #include "support/screen_fixture.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
@@ -72,7 +74,9 @@ void RoomTest::everyScreen()
     entry::registerEntry(registry);
     output::registerOutput(registry);
     reports::registerReports(registry);
+    transfer::registerTransfer(registry);
     setup::registerSetup(registry);
+    shell::registerShell(registry);
     window.build(all);
     window.loadFrame();
     window.show();

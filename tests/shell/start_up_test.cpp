@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "core/handover/file_target.h"
 #include "core/save_failure.h"
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
@@ -82,6 +83,15 @@ public:
     std::unique_ptr<shell::StartUp> startUp;
 };
 
+/// Stands for the screen that takes files in.
+class FileScreen final : public core::Screen, public core::FileTarget {
+public:
+    using Screen::Screen;
+    void load() override { }
+    void openFiles(const QStringList& files) override { opened << files.join(u','); }
+    QStringList opened;
+};
+
 } // namespace
 
 /// The way from the first window to a shell, and what is done about a book that can not be read.
@@ -89,6 +99,25 @@ class StartUpTest final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // Those of the start wait for the shell, those of a second start come at once.
+    void filesAreOpenedInTheShell()
+    {
+        Program p;
+        p.registry.add<FileScreen>(u"FormCardImport"_s);
+        p.makeBook(false);
+        p.startUp = std::make_unique<shell::StartUp>(p.all, p.window, p.files, p.backupFolder());
+        p.startUp->openFiles({u"/a.vcf"_s, u"/b.vcf"_s});
+        p.startUp->begin(true);
+        QVERIFY(!p.registry.find(u"FormCardImport"));
+        const auto opened = [&p] {
+            auto* screen = dynamic_cast<FileScreen*>(p.registry.find(u"FormCardImport"));
+            return screen ? screen->opened.join(u'|') : QString();
+        };
+        QTRY_COMPARE(opened(), u"/a.vcf,/b.vcf"_s);
+        p.startUp->openFiles({u"/c.vcf"_s});
+        QCOMPARE(opened(), u"/a.vcf,/b.vcf|/c.vcf"_s);
+    }
+
     void firstStartAndSecond()
     {
         Program p;

@@ -40,13 +40,13 @@ void RecordingSounds::play(QStringView path)
 bool RecordingShell::openFile(QStringView path)
 {
     openedFiles << path.toString();
-    return true;
+    return opens;
 }
 
 bool RecordingShell::openAddress(QStringView address)
 {
     openedAddresses << address.toString();
-    return true;
+    return opens;
 }
 
 bool RecordingShell::siblingExists(QStringView name) const

@@ -39,7 +39,7 @@ public:
     QStringList played;
 };
 
-/// Opens all that it is asked to, and knows the siblings that the test names.
+/// Opens all that it is asked to, or nothing, and knows the siblings that the test names.
 class RecordingShell final : public platform::Shell {
 public:
     bool openFile(QStringView path) override;
@@ -49,6 +49,7 @@ public:
     void endProgram() override;
 
     QStringList siblings; ///< file names without the leading backslash
+    bool opens = true; ///< whether there is a program for files and addresses
     QStringList openedFiles;
     QStringList openedAddresses;
     QStringList startedSiblings; ///< with the document behind one that was to open it

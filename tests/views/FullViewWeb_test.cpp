@@ -1,3 +1,5 @@
+#include "output/preview/FrmReportViewer.h"
+#include "output/preview/page_view.h"
 #include "support/disk.h"
 #include "support/person.h"
 #include "support/screen_fixture.h"
@@ -237,15 +239,19 @@ private Q_SLOTS:
     // Kept: a filter is asked for in the name of the full view.
     void toolsOfItsOwn()
     {
-        for (const QString& form : {u"frmFilter"_s, u"FrmlblReport"_s, u"FormEmail"_s})
+        for (const QString& form : {u"frmFilter"_s, u"FormEmail"_s})
             m_fixture->addTarget(form);
+        m_fixture->screens.add<output::FrmReportViewer>(u"FrmReportViewer"_s);
         m_fixture->execute(u"insert into ov_setup (Email) values (false)"_s);
         open();
         m_view->showContact(1);
         child<QAction>(m_view, u"CommonFilter"_s)->trigger();
         QCOMPARE(m_fixture->shared.CallerForm, u"FullView"_s);
         child<QAction>(m_view, u"Type3"_s)->trigger();
-        QCOMPARE(m_fixture->target(u"FrmlblReport"_s)->pages, QStringList{u"Type3"_s});
+        const QString label
+            = child<output::PageView>(m_fixture->screens.find(u"FrmReportViewer"), u"arV"_s)->pageText(1);
+        QVERIFY2(label.contains(u"To.\n"_s + child<QPushButton>(m_view, u"SSCommand8"_s)->text()),
+            qUtf8Printable(label));
         auto* menu = child<QMenu>(m_view, u"Menu"_s);
         for (const bool mailEdition : {false, true}) {
             auto* name = child<QWidget>(m_view, u"SSCommand8"_s);

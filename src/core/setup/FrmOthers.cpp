@@ -6,6 +6,7 @@
 #include "core/setup/default_panel.h"
 #include "core/setup/dialer_panel.h"
 #include "core/setup/list_panel.h"
+#include "core/setup/mail_panel.h"
 #include "widgets/filled_combo.h"
 #include "widgets/heading_grid.h"
 #include "widgets/narrow_bars.h"
@@ -52,6 +53,7 @@ FrmOthers::FrmOthers(core::Context& context, QWidget* parent)
     addTab(new CityPanel(context), tr("City"), u"city");
     addTab(new CategoryPanel(context), tr("Category"), u"category");
     addTab(new DialerPanel(context), tr("Dialer"), u"dial");
+    addTab(new MailPanel(context), tr("Mail"), u"envelope");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 10, 10, 10);
     layout->setSpacing(8);
@@ -164,6 +166,16 @@ void FrmOthers::load()
 {
     setFrameTitle(u"Address Book Setup"_s);
     readTab();
+}
+
+// Pages are named as their tabs are in English.
+void FrmOthers::openPage(const QString& page)
+{
+    const QString caption = tr(page.toUtf8().constData());
+    for (int tab = 0; tab < sstab1->count(); ++tab) {
+        if (sstab1->tabText(tab) == caption)
+            sstab1->setCurrentIndex(tab);
+    }
 }
 
 bool FrmOthers::isTouched() const

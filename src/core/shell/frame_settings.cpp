@@ -62,6 +62,11 @@ QString photoStoreMode(jet::Database& data)
 
 } // namespace
 
+bool isBusinessEdition(jet::Database& data)
+{
+    return data.openRecordset(u"select * from ov_setup"_s).flag(u"Business");
+}
+
 FrameSettings readFrameSettings(jet::Database& data, core::SharedState& shared)
 {
     const auto setup = data.openRecordset(u"select * from ov_setup"_s);

@@ -18,6 +18,9 @@ struct FrameSettings {
     bool business = false; ///< the business edition hides the personal tools
 };
 
+/// The business edition hides the personal tools.
+bool isBusinessEdition(jet::Database& data);
+
 /// Reads the switches, the contact selection in force, the font of the grids and the picture rule. A table or
 /// row that is missing leaves the default. Adds the empty settings row when there is none.
 FrameSettings readFrameSettings(jet::Database& data, core::SharedState& shared);

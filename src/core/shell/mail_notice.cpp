@@ -67,12 +67,12 @@ void MailNotice::tell(const MailNews& news)
     case Kind::AccountMissing:
         offerSetUp(
             tr("The message is kept in the outbox. It is sent when you have set up your mail account in "
-               "the Address Book Setup, on the tab \"Mail account\".\n\nDo you want to do this now?"));
+               "the Address Book Setup, on the tab \"Mail\".\n\nDo you want to do this now?"));
         break;
     case Kind::PasswordMissing:
         offerSetUp(
             tr("The messages in the outbox wait for the password of your mail account. It is entered in "
-               "the Address Book Setup, on the tab \"Mail account\".\n\nDo you want to do this now?"));
+               "the Address Book Setup, on the tab \"Mail\".\n\nDo you want to do this now?"));
         break;
     case Kind::AccountFault:
         offerSetUp(
@@ -86,7 +86,7 @@ void MailNotice::tell(const MailNews& news)
 void MailNotice::offerSetUp(const QString& text)
 {
     if (m_context.services.boxes.ask(text, m_context.shared.AppTitle) == platform::Answer::Yes)
-        m_context.frame.perform(core::OpenScreen{.form = u"FrmOthers", .page = u"Mail account"});
+        m_context.frame.perform(core::OpenScreen{.form = u"FrmOthers", .page = u"Mail"});
 }
 
 } // namespace shell

@@ -1,5 +1,6 @@
 #include "core/shell/start_up.h"
 
+#include "core/handover/file_target.h"
 #include "core/screens.h"
 #include "core/shell/Form3.h"
 #include "core/shell/FrmEmailSuite.h"
@@ -78,6 +79,26 @@ void StartUp::bringToFront()
     window->activateWindow();
 }
 
+void StartUp::openFiles(const QStringList& files)
+{
+    m_waitingFiles += files;
+    if (m_frame.isVisible())
+        openWaitingFiles();
+}
+
+void StartUp::openWaitingFiles()
+{
+    constexpr QStringView kImport = u"FormCardImport";
+    if (m_waitingFiles.isEmpty())
+        return;
+    const QStringList files = std::exchange(m_waitingFiles, {});
+    auto* target = m_context.screens.load<core::FileTarget>(kImport);
+    if (!target)
+        return;
+    m_context.screens.show(kImport);
+    target->openFiles(files);
+}
+
 void StartUp::buildFrame()
 {
     if (!std::exchange(m_frameBuilt, true))
@@ -97,6 +118,8 @@ void StartUp::showMainShell()
     m_frame.activateWindow();
     tellNotices();
     backUpLater();
+    // Behind the windows' own news of who is active.
+    QTimer::singleShot(0, this, &StartUp::openWaitingFiles);
 }
 
 void StartUp::showEmailShell()

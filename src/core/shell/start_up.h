@@ -31,6 +31,9 @@ public:
     /// hasLock: whether it is sure that no other program works in this folder.
     void begin(bool inHomeCountry, bool hasLock = true);
     void bringToFront();
+    /// vCards of this computer that somebody opens with the program: shown for import as soon as there is a
+    /// shell.
+    void openFiles(const QStringList& files);
     /// Somebody met a damaged piece of the book: the person is told, once, and offered the last backup.
     void bookIsDamaged();
 
@@ -50,6 +53,7 @@ private:
     void remakeInformation();
     void noteWhatIsWrong(bool hasLock);
     void tellNotices();
+    void openWaitingFiles();
     void backUpLater();
     void backUp();
     void tellFailedBackup();
@@ -65,6 +69,7 @@ private:
     std::unique_ptr<FrmEmailSuite> m_emailSuite;
     std::unique_ptr<QThread> m_backup;
     QStringList m_notices; ///< to be told when a shell has come up
+    QStringList m_waitingFiles; ///< the same
     bool m_inHomeCountry = false;
     bool m_frameBuilt = false;
     bool m_toldOfDamage = false;

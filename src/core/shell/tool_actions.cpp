@@ -11,16 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace shell {
 
-namespace {
-
-/// Tools of pages that are not there yet: they make room for them, and no more.
-bool givesRoomOnly(const core::Action& action)
-{
-    return std::holds_alternative<core::HideListBar>(action) || std::holds_alternative<core::Inert>(action);
-}
-
-} // namespace
-
 ToolActions::ToolActions(const IsAvailable& isAvailable, QWidget* window)
     : QObject(window)
 {

@@ -338,6 +338,8 @@ constexpr Tool DataTransferTools[] = {
     {u"LS-PalmImp/Exp", QT_TRANSLATE_NOOP("shell", "Palm import and export"),
         QT_TRANSLATE_NOOP("shell", "Hands over to Orvane Link & Sync to exchange contacts with a hand-held"),
         u"import"},
+    {u"ImportVCards", QT_TRANSLATE_NOOP("shell", "Import vCards"),
+        QT_TRANSLATE_NOOP("shell", "Take in the cards of telephones and other programs"), u"import"},
     {u"VisitingcardtoOrKvaneContacts", QT_TRANSLATE_NOOP("shell", "Visiting cards to contacts"),
         QT_TRANSLATE_NOOP("shell", "Hands over to Orvane Link & Sync to read visiting cards"), u"card"},
     {u"Addoutlook", QT_TRANSLATE_NOOP("shell", "Add from Outlook address book"),
@@ -594,6 +596,7 @@ constexpr ListBarRow FamilyAndClubsRows[] = {
 constexpr ListBarRow TransferRows[] = {
     {Row::ShortCode, u"imp1", QT_TRANSLATE_NOOP("shell", "Import contacts")},
     {Row::ShortCode, u"imp2", QT_TRANSLATE_NOOP("shell", "Visiting cards to contacts")},
+    {Row::Tool, u"ImportVCards", QT_TRANSLATE_NOOP("shell", "Import vCards")},
     {Row::Tool, u"ExporttoVCF", QT_TRANSLATE_NOOP("shell", "Export to vCard files")},
     {Row::ShortCode, u"i", QT_TRANSLATE_NOOP("shell", "Palm Pilot")},
     {Row::Tool, u"Addoutlook", QT_TRANSLATE_NOOP("shell", "From Outlook address book")},
@@ -634,6 +637,11 @@ std::span<const ToolGroup> toolGroups()
 std::span<const ListBarArea> listBarAreas()
 {
     return Areas;
+}
+
+bool givesRoomOnly(const core::Action& action)
+{
+    return std::holds_alternative<core::HideListBar>(action) || std::holds_alternative<core::Inert>(action);
 }
 
 } // namespace shell

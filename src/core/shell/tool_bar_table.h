@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/command_table.h"
+
 #include <QStringView>
 
 #include <span>
@@ -41,5 +43,8 @@ struct ListBarArea {
 
 std::span<const ToolGroup> toolGroups();
 std::span<const ListBarArea> listBarAreas();
+
+/// Tools of pages that are not there yet: they make room for them, and no more.
+bool givesRoomOnly(const core::Action& action);
 
 } // namespace shell

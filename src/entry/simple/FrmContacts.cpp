@@ -18,6 +18,8 @@
 #include "entry/form/save_effects.h"
 #include "entry/simple/simple_columns.h"
 #include "platform/clock.h"
+#include "platform/message_boxes.h"
+#include "platform/text_file.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -134,7 +136,8 @@ void FrmContacts::layOutName(QWidget* page)
         .beside(2)
         .line(u"txtph1"_s, {}, u"H_Ph1"_s)
         .line(u"txtbph1"_s, tr("&Work"), u"B_Ph1"_s)
-        .line(u"txtemail1"_s, tr("&E-mail"), u"H_email1"_s);
+        .line(u"txtemail1"_s, tr("&E-mail"), u"H_email1"_s)
+        .line(u"txtbemail1"_s, tr("E-mail at wor&k"), u"b_email1"_s);
     form.group(tr("Home address"))
         .line(u"txtadd1"_s, tr("&Address"), u"h_add1"_s)
         .line(u"txtadd2"_s, {}, u"h_add2"_s)
@@ -145,6 +148,7 @@ void FrmContacts::layOutName(QWidget* page)
     form.buttonRow()
         .button(u"SSCommand3"_s, tr("&New"), u"person-add", tr("Enter another contact (Ctrl+N)"))
         .button(u"CmdDelete"_s, tr("&Delete"), u"delete", tr("Delete this contact"))
+        .button(u"CmdVCF"_s, tr("&Quick fill..."), u"card", tr("Fill the fields from a vCard file"))
         .stretch()
         .button(u"Command1"_s, tr("&Save"), u"save", tr("Save what was entered (Ctrl+S)"))
         .button(u"CmdCancel"_s, tr("&Cancel"), u"cancel", tr("Take back what was entered (Esc)"));
@@ -179,6 +183,7 @@ void FrmContacts::connectControls()
     };
     onClick(u"SSCommand3"_s, &FrmContacts::beginNew);
     onClick(u"CmdDelete"_s, [this] { m_tools->action(u"Delete")->trigger(); });
+    onClick(u"CmdVCF"_s, &FrmContacts::fillFromCard);
     onClick(u"Command1"_s, &FrmContacts::save);
     onClick(u"CmdCancel"_s, &FrmContacts::cancel);
     connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, &FrmContacts::beginNew);
@@ -302,6 +307,39 @@ void FrmContacts::showForm()
 void FrmContacts::showHead()
 {
     lblname->setText(simpleName(m_fields.values()).trimmed());
+}
+
+// What stands in the form is replaced by a Yes only.
+void FrmContacts::fillFromCard()
+{
+    platform::MessageBoxes& boxes = context().services.boxes;
+    const auto file = boxes.openFile(tr("Quick fill"), u"VCF (*.vcf)|*.vcf"_s);
+    if (!file)
+        return;
+    const auto text = platform::readForeignText(*file);
+    if (!text)
+        return warn(tr("This file can not be read."));
+    const FormValues now = m_fields.values();
+    const FormValues card = simpleValuesOf(formats::readCard(*text));
+    QStringList replaced;
+    for (auto one = card.texts.cbegin(); one != card.texts.cend(); ++one) {
+        const QString there = now.trimmed(one.key());
+        if (!there.isEmpty() && there != one.value())
+            replaced << m_fields.label(one.key());
+    }
+    for (auto one = card.dates.cbegin(); one != card.dates.cend(); ++one) {
+        if (now.date(one.key()) && now.date(one.key()) != one.value())
+            replaced << m_fields.label(one.key());
+    }
+    replaced.sort();
+    if (!replaced.isEmpty()
+        && boxes.ask(tr("Replace what stands in these fields by what the card has?\n\n%1")
+                         .arg(replaced.join(u", "_s)),
+               shared().AppTitle, platform::Icon::Warning)
+            != platform::Answer::Yes)
+        return;
+    m_fields.show(card);
+    showHead();
 }
 
 void FrmContacts::refuse(const FormValues& now)

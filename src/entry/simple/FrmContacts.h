@@ -48,6 +48,7 @@ private:
     void display(qint64 id);
     void startNew();
     void showForm();
+    void fillFromCard();
     void save();
     qint64 add(const FormValues& now);
     qint64 change(const FormValues& now);

@@ -2,6 +2,7 @@
 
 #include "entry/form/contact_columns.h"
 #include "entry/form/save_checks.h"
+#include "formats/card_file.h"
 
 namespace entry {
 
@@ -15,6 +16,9 @@ QList<core::ColumnEdit> simpleEdits(
 
 /// The name that is put together of what stands in the form; blank without a view of names.
 QString simpleName(const FormValues& values);
+
+/// What a card tells of the fields of the form; fields that it says nothing of are not in it.
+FormValues simpleValuesOf(const formats::CardFields& card);
 
 /// Why the form can not be saved; nothing when it can. A contact without a name could not be chosen in any
 /// list.

@@ -5,6 +5,7 @@
 #include "core/progress.h"
 #include "formats/workbook.h"
 #include "jet/date_text.h"
+#include "output/export_dialog.h"
 #include "output/grid/grid_files.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
@@ -59,20 +60,12 @@ private:
         const platform::Drive& drive = m_context.services.drive;
         drive.ensureFolder(kFolder);
         const QString name = platform::Drive::safeFileName(datedTitle(m_context, m_grid.title));
-        const auto chosen = m_boxes.saveFile(
-            translated("Export"), filter.toString(), {drive.local(kFolder), name + ending});
-        if (!chosen)
-            return {};
-        static const QStringList known{u"xls"_s, u"csv"_s, u"txt"_s, u"html"_s, u"htm"_s};
-        if (known.contains(QFileInfo(*chosen).suffix(), Qt::CaseInsensitive))
-            return *chosen;
-        // What the dialog took for an ending is a part of the name. It has not asked about the whole one.
-        const QString whole = *chosen + ending;
-        const bool isFree = !QFileInfo::exists(whole)
-            || m_boxes.ask(translated("%1 is there already. Replace it?").arg(QFileInfo(whole).fileName()),
-                   m_context.shared.AppTitle, platform::Icon::Warning)
-                == Answer::Yes;
-        return isFree ? whole : QString();
+        // What the dialog took for an ending may be a part of the name.
+        return output::askForFile(m_context, translated("Export"), filter,
+            {drive.local(kFolder), name + ending}, ending, [](const QString& path) {
+                static const QStringList known{u"xls"_s, u"csv"_s, u"txt"_s, u"html"_s, u"htm"_s};
+                return known.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+            });
     }
 
     bool offerCsv()

@@ -1,5 +1,6 @@
 #include "output/preview/report_pane.h"
 
+#include "core/progress.h"
 #include "output/preview/page_list.h"
 #include "output/preview/page_view.h"
 #include "output/preview/report_pictures.h"
@@ -102,6 +103,8 @@ constexpr SaveRow kSaves[] = {
     {u"SavePdf", QT_TRANSLATE_NOOP("output", "Save As PDF"), ReportFormat::Pdf},
     {u"SaveRtf", QT_TRANSLATE_NOOP("output", "Save As RTF"), ReportFormat::Rtf},
 };
+
+constexpr int kPagesAStep = 50; ///< milliseconds between two looks at the stop button
 
 /// Those that stand below the pages.
 const QStringList kFootTools{u"ZoomOut"_s, u"ZoomIn"_s, u"FitWidth"_s, u"FitPage"_s, u"FindInReport"_s};
@@ -268,7 +271,14 @@ void ReportPane::print()
 {
     const Report& report = *arV->report();
     ReportPager pager(report);
-    while (pager.step(1000)) { }
+    {
+        core::Progress progress(u"pagesProgress"_s, tr("Print"),
+            tr("Making the pages of %1").arg(report.title), report.source->count(), window());
+        while (pager.step(kPagesAStep)) {
+            if (!progress.advance(pager.rowsDone()))
+                return;
+        }
+    }
     const PagePainter painter(pager, arV->pictures());
     const platform::PrintJob job{.title = report.title,
         .paperWidth = report.paper.width,

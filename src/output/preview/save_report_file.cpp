@@ -2,6 +2,7 @@
 
 #include "core/frame.h"
 #include "core/progress.h"
+#include "output/export_dialog.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
@@ -48,12 +49,14 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
     const platform::Drive& drive = context.services.drive;
     platform::MessageBoxes& boxes = context.services.boxes;
     drive.ensureFolder(row.folder);
-    const auto chosen = boxes.saveFile(translated(row.title), row.filter.toString(),
-        {drive.local(row.folder), platform::Drive::safeFileName(report.fileStem) + row.suffix.toString()});
-    if (!chosen)
+    const QString suffix = row.suffix.toString();
+    const QString path = askForFile(context, translated(row.title), row.filter,
+        {drive.local(row.folder), platform::Drive::safeFileName(report.fileStem) + suffix}, suffix,
+        [&suffix](const QString& name) {
+            return QFileInfo(name).fileName().contains(suffix, Qt::CaseInsensitive);
+        });
+    if (path.isEmpty())
         return;
-    const QString path
-        = chosen->contains(row.suffix, Qt::CaseInsensitive) ? *chosen : *chosen + row.suffix.toString();
     const QString folder = QFileInfo(path).absolutePath();
     const auto tellFailure = [&](const QString& why) {
         boxes.warning(

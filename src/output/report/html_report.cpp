@@ -28,6 +28,7 @@ td{vertical-align:top;padding:1px 6px 1px 0;overflow-wrap:anywhere}
 .r td{border-bottom:1px solid #d1d5db}
 section{padding:4px 6px;margin:0 0 6px 0;break-inside:avoid}
 img{float:right;max-width:63pt;max-height:75pt;margin-left:8px}
+.b{border:1px solid}
 .c{text-align:center}.e{text-align:right}
 @media print{body{margin:0;max-width:none}}
 )"_s.arg(9 * report.textScale)
@@ -50,12 +51,16 @@ QString cellHtml(const Cell& cell, double lineWidth)
     return html + escaped(cell.text()) + u"</td>"_s;
 }
 
-QString blockHtml(const Block& block, const Report& report, const PictureOf& pictures)
+QString blockHtml(const Block& block, const Report& report, double textWidth, const PictureOf& pictures)
 {
     QString html = u"<section"_s;
-    if (report.colors.back.isValid() && block.kind != BlockKind::ColumnHeads)
+    if (report.colors.back.isValid() && block.kind != BlockKind::ColumnHeads && !block.isBoxed)
         html += u" style=\"background:%1;color:%2\""_s.arg(
             report.colors.back.name(), report.colors.text.name());
+    if (block.isBoxed)
+        html
+            += u" class=\"b\" style=\"margin-left:%1%;width:%2%\""_s.arg(100 * block.x / textWidth, 0, 'f', 1)
+                   .arg(100 * block.width / textWidth, 0, 'f', 1);
     html += u'>';
     if (const QByteArray picture = jpegOf(pictures, block.picture); !picture.isEmpty())
         html += u"<img alt=\"\" src=\"data:image/jpeg;base64,"_s + QString::fromLatin1(picture.toBase64())
@@ -88,11 +93,11 @@ bool writeHtmlReport(
             + escaped(report.printDate) + u"</p>\n"_s))
         return false;
     if (const Block heads = setter.columnHeads(); !heads.isEmpty())
-        if (!write(blockHtml(heads, report, pictures)))
+        if (!write(blockHtml(heads, report, setter.textWidth(), pictures)))
             return false;
     for (Place place = setter.first(); !place.atEnd; place = setter.after(place)) {
         const Block block = setter.block(place);
-        if (!block.isEmpty() && !write(blockHtml(block, report, pictures)))
+        if (!block.isEmpty() && !write(blockHtml(block, report, setter.textWidth(), pictures)))
             return false;
         if (place.kind == BlockKind::Detail && place.row % kRowsAStep == 0 && progress
             && !progress(place.row))

@@ -78,6 +78,12 @@ void PagePainter::paintBlock(QPainter& painter, const PlacedBlock& placed, const
     const SectionColors colors = isColored ? report.colors : SectionColors();
     if (colors.back.isValid())
         painter.fillRect(QRectF(left, placed.y, width, placed.height), colors.back);
+    if (placed.block.isBoxed) {
+        painter.setPen(QPen(colors.text, kRuleWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(left + placed.block.x - kCellGap, placed.y - kCellGap / 2, placed.block.width,
+            placed.height - placed.block.spaceBelow + kCellGap));
+    }
     double y = placed.y;
     for (const Line& line : placed.block.lines) {
         for (Cell cell : line.cells) {

@@ -40,6 +40,9 @@ struct Section {
     std::vector<LineRule> lines;
     QString picture = {}; ///< the column with the path of a picture, which stands to the right of the lines
     double spaceBelow = 0;
+    double indent = 0; ///< share of the width of the paper that is left free on the left
+    double width = 1; ///< share that its lines take
+    bool isBoxed = false;
 };
 
 struct Grouping {

@@ -80,6 +80,9 @@ ReportSetter::SetSection ReportSetter::prepare(const Section& section) const
         prepared.lines.push_back(prepare(line));
     prepared.picture = section.picture.isEmpty() ? -1 : m_report.source->field(section.picture);
     prepared.spaceBelow = section.spaceBelow;
+    prepared.indent = section.indent;
+    prepared.width = section.width;
+    prepared.isBoxed = section.isBoxed;
     return prepared;
 }
 
@@ -167,7 +170,10 @@ Block ReportSetter::set(const SetSection& section, BlockKind kind, int row, cons
     Block block{.kind = kind};
     if (section.picture >= 0)
         block.picture = m_report.source->text(row, section.picture).trimmed();
-    const double width = textWidth() - (block.picture.isEmpty() ? 0 : kPictureWidth + kCellGap);
+    block.x = textWidth() * section.indent;
+    block.width = textWidth() * section.width;
+    block.isBoxed = section.isBoxed;
+    const double width = block.width - (block.picture.isEmpty() ? 0 : kPictureWidth + kCellGap);
     for (const SetLine& line : section.lines)
         setLine(line, width, row, names, block);
     if (block.isEmpty())
@@ -192,7 +198,7 @@ void ReportSetter::setLine(
     bool hasValue = false;
     for (const Column& column : rule.cells) {
         const double share = width * column.rule.share / rule.shares;
-        Cell cell{.x = x, .width = share, .role = column.rule.role, .align = column.rule.align};
+        Cell cell{.x = block.x + x, .width = share, .role = column.rule.role, .align = column.rule.align};
         const QString text = column.text.fill(*m_report.source, row, names);
         if (!text.isEmpty()) {
             cell.label = column.rule.label;

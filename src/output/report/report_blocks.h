@@ -32,6 +32,9 @@ struct Block {
     std::vector<Line> lines = {};
     QString picture = {}; ///< its path as the book has it; empty for none
     double spaceBelow = 0;
+    double x = 0; ///< of its lines, from the left margin
+    double width = 0;
+    bool isBoxed = false;
     double height = 0; ///< with the picture and the space below
 
     bool isEmpty() const { return lines.empty(); }
@@ -79,6 +82,9 @@ private:
         std::vector<SetLine> lines;
         int picture = -1;
         double spaceBelow = 0;
+        double indent = 0;
+        double width = 1;
+        bool isBoxed = false;
     };
     SetSection prepare(const Section& section) const;
     SetLine prepare(const LineRule& rule) const;

@@ -58,14 +58,17 @@ QByteArray head(const Report& report)
     return rtf;
 }
 
-QByteArray lineRtf(const Line& line, const Report& report, bool isHeading)
+QByteArray lineRtf(const Line& line, const Block& block, const Report& report, bool isHeading)
 {
-    QByteArray row = "\\trowd\\trgaph0\\trkeep";
+    QByteArray row = "\\trowd\\trgaph0\\trkeep\\trleft" + number(block.x);
     if (isHeading)
         row += "\\trhdr";
     for (const Cell& cell : line.cells) {
-        if (line.isRuled)
+        if (line.isRuled || (block.isBoxed && &line == &block.lines.back()))
             row += "\\clbrdrb\\brdrs\\brdrw10\\brdrcf" + QByteArray::number(kRuleColor);
+        if (block.isBoxed)
+            row += &line == &block.lines.front() ? "\\clbrdrl\\brdrs\\clbrdrr\\brdrs\\clbrdrt\\brdrs"
+                                                 : "\\clbrdrl\\brdrs\\clbrdrr\\brdrs";
         if (report.colors.back.isValid() && !isHeading)
             row += "\\clcbpat" + QByteArray::number(kBackColor);
         row += "\\cellx" + number(cell.x + cell.width);
@@ -102,14 +105,15 @@ bool writeRtfReport(
     const ReportSetter setter(report);
     if (!write(head(report)))
         return false;
-    for (const Line& line : setter.columnHeads().lines)
-        if (!write(lineRtf(line, report, true)))
+    const Block heads = setter.columnHeads();
+    for (const Line& line : heads.lines)
+        if (!write(lineRtf(line, heads, report, true)))
             return false;
     for (Place place = setter.first(); !place.atEnd; place = setter.after(place)) {
         const Block block = setter.block(place);
         QByteArray rtf = pictureRtf(block, pictures);
         for (const Line& line : block.lines)
-            rtf += lineRtf(line, report, false);
+            rtf += lineRtf(line, block, report, false);
         if (block.spaceBelow > 0 && !block.isEmpty())
             rtf += "\\pard\\fs" + number(block.spaceBelow / 10) + "\\par\n";
         if (!write(rtf))

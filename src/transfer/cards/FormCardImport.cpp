@@ -1,6 +1,7 @@
 #include "transfer/cards/FormCardImport.h"
 
 #include "core/contact_names.h"
+#include "core/date_patterns.h"
 #include "core/frame.h"
 #include "core/progress.h"
 #include "core/save_failure.h"
@@ -67,7 +68,7 @@ formats::CardColumns columnsOf(const jet::Schema& schema)
 
 FormCardImport::FormCardImport(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_list(new IncomingList(this))
+    , m_list(new IncomingList(core::datePattern(context.shared.NationalMode), this))
     , m_cards(new QTableView)
     , m_left(new widgets::HeadingGrid)
     , m_detail(new QPlainTextEdit)
@@ -89,6 +90,10 @@ void FormCardImport::layOut()
     m_cards->setSelectionMode(QAbstractItemView::SingleSelection);
     m_cards->setTabKeyNavigation(false);
     m_cards->setWordWrap(false);
+    m_cards->setShowGrid(false);
+    m_cards->setAlternatingRowColors(true);
+    m_cards->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_cards->horizontalHeader()->setHighlightSections(false);
     m_cards->verticalHeader()->hide();
     m_cards->horizontalHeader()->setStretchLastSection(true);
     m_cards->setColumnWidth(0, 200);

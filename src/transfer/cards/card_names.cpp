@@ -57,7 +57,8 @@ NameView viewFor(const CardContact& contact)
 {
     const QString name = contact.text(u"Name").simplified();
     const core::NameParts parts = partsOf(contact);
-    for (const QString& words : core::nameViews()) {
+    static const QStringList views = core::nameViews();
+    for (const QString& words : views) {
         const NameView view = *core::nameViewOf(words);
         if (!name.isEmpty() && core::composeName(view, parts).simplified() == name)
             return view;
@@ -90,7 +91,9 @@ void completeName(CardContact& contact)
         split(contact, told.value_or(NameView::FirstLast));
     for (const QStringView other :
         {u"nick", u"H_email1", u"b_email1", u"Mobile", u"H_Ph1", u"B_Ph1", u"Name", u"memo1"}) {
-        if (isNameless(contact) && !contact.text(other).isEmpty())
+        if (!isNameless(contact))
+            break;
+        if (!contact.text(other).isEmpty())
             contact.set(u"First", contact.text(other).simplified().left(255));
     }
     if (isNameless(contact))

@@ -1,5 +1,8 @@
 #include "transfer/cards/incoming_list.h"
 
+#include "jet/date_text.h"
+#include "transfer/cards/column_words.h"
+
 #include "widgets/theme.h"
 
 #include <QColor>
@@ -66,6 +69,7 @@ constexpr Column kColumns[] = {
         [](C card) { return card.contact.text(u"memo1").left(kCellShown).simplified(); }},
 };
 constexpr int kLikeColumn = 1;
+constexpr int kDayColumn = 5;
 
 } // namespace
 
@@ -101,8 +105,12 @@ QString IncomingList::detail(int row) const
         return {};
     const IncomingCard& card = m_cards.cards[size_t(row)];
     QStringList lines{tr("From %1").arg(m_cards.sourceOf(card.file, card.number))};
+    const auto shownText = [this](const formats::CardContact::Value& value) {
+        const bool isDate = value.column == u"M_BD" || value.column == u"Anniv";
+        return isDate ? jet::formatDate(jet::dayOfIso(value.text), m_datePattern) : value.text;
+    };
     for (const auto& value : card.contact.values)
-        lines << value.column + u": "_s + value.text.left(kDetailShown);
+        lines << columnWord(value.column) + u": "_s + shownText(value).left(kDetailShown);
     if (!card.photoFile.isEmpty())
         lines << tr("with a picture");
     return lines.join(u'\n');
@@ -121,8 +129,11 @@ int IncomingList::columnCount(const QModelIndex& parent) const
 QVariant IncomingList::data(const QModelIndex& index, int role) const
 {
     const IncomingCard& card = m_cards.cards[size_t(index.row())];
-    if (role == Qt::DisplayRole)
-        return kColumns[index.column()].text(card).left(kCellShown);
+    if (role == Qt::DisplayRole) {
+        const QString text = kColumns[index.column()].text(card).left(kCellShown);
+        const QDate day = index.column() == kDayColumn ? jet::dayOfIso(text) : QDate();
+        return day.isValid() ? jet::formatDate(day, m_datePattern) : text;
+    }
     if (role == Qt::CheckStateRole && index.column() == 0)
         return card.isTicked ? Qt::Checked : Qt::Unchecked;
     if (role == Qt::ForegroundRole && index.column() == kLikeColumn)

@@ -11,7 +11,12 @@ class IncomingList : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    /// @param datePattern how days are shown
+    IncomingList(QString datePattern, QObject* parent)
+        : QAbstractTableModel(parent)
+        , m_datePattern(std::move(datePattern))
+    {
+    }
 
     void setCards(IncomingCards cards);
     const IncomingCards& cards() const { return m_cards; }
@@ -32,6 +37,7 @@ Q_SIGNALS:
     void ticked();
 
 private:
+    QString m_datePattern;
     IncomingCards m_cards;
     int m_ticked = 0;
 };

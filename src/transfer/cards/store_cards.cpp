@@ -99,22 +99,23 @@ private:
 class RowMaker {
 public:
     RowMaker(const formats::CardColumns& columns, const IncomingCards& incoming, const StoreOptions& options)
-        : m_options(options)
+        : m_columns(columns)
+        , m_options(options)
+        , m_places(size_t(columns.all().size()), -1)
     {
-        QSet<QString> used{u"name"_s, u"category1"_s, u"category2"_s, u"priority"_s, u"product"_s,
-            u"status"_s, u"region"_s, u"dateenter"_s, u"datemodi"_s};
+        for (const QStringView column : {u"Name", u"category1", u"category2", u"Priority", u"Product",
+                 u"Status", u"region", u"dateEnter", u"DateModi"})
+            m_places[numberOf(column)] = 0;
         for (const IncomingCard& card : incoming.cards) {
-            for (const auto& value : card.contact.values) {
-                if (used.size() < columns.all().size())
-                    used.insert(value.column.toLower());
-            }
+            for (const auto& value : card.contact.values)
+                m_places[numberOf(value.column)] = 0;
         }
-        for (const formats::CardColumns::Column& column : columns.all()) {
-            if (!used.contains(column.name.toLower()))
+        for (qsizetype column = 0; column < columns.all().size(); ++column) {
+            if (m_places[size_t(column)] < 0)
                 continue;
-            m_places.insert(column.name, m_names.size());
-            m_names << column.name;
-            m_blank << blankOf(column);
+            m_places[size_t(column)] = m_names.size();
+            m_names << columns.all()[column].name;
+            m_blank << blankOf(columns.all()[column]);
         }
         m_names << u"PhotLoc"_s;
     }
@@ -125,12 +126,20 @@ public:
     {
         QStringList row = m_blank;
         for (const auto& value : card.contact.values)
-            row[m_places.value(value.column)] = value.text;
+            row[m_places[numberOf(value.column)]] = value.text;
         row << photo;
         return row;
     }
 
 private:
+    /// All that a contact on its way holds is a column of the schema.
+    size_t numberOf(QStringView column) const
+    {
+        const formats::CardColumns::Column* found = m_columns.find(column);
+        Q_ASSERT(found);
+        return size_t(found - m_columns.all().constData());
+    }
+
     QString blankOf(const formats::CardColumns::Column& column) const
     {
         const auto is
@@ -148,10 +157,11 @@ private:
         return {};
     }
 
+    const formats::CardColumns& m_columns;
     const StoreOptions& m_options;
+    std::vector<qsizetype> m_places; ///< by number of the column, -1 for one that is not written
     QStringList m_names;
     QStringList m_blank;
-    QHash<QString, qsizetype> m_places;
 };
 
 std::optional<QDate> dateOf(const formats::CardContact& contact, QStringView column)

@@ -67,6 +67,7 @@ protected:
     void addCommandRow(QWidget* row); ///< below the commands over the list
     /// Lists another address book, which can only be read; without one the program's own.
     void browse(std::unique_ptr<AddressSource> source);
+    QString shownName() const;
 
 private:
     class ListedBook;
@@ -103,7 +104,6 @@ private:
     void storeName(qint64 id, const QString& name);
     void viewLinkedData();
     void openPicture();
-    QString shownName() const;
 
     const FullViewKind& m_kind;
     qint64 m_id = 0; ///< the contact shown

@@ -1,10 +1,9 @@
 #include "views/full_view/FullViewWeb.h"
 
 #include "core/contact_tools.h"
-#include "core/handover/page_screen.h"
 #include "core/save_failure.h"
-#include "core/screens.h"
 #include "core/settings.h"
+#include "output/labels/print_address_report.h"
 #include "platform/card_folder.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
@@ -25,7 +24,6 @@ constexpr FullViewKind kSmartView{
     QT_TRANSLATE_NOOP("views", "Smart view"), u"Contacts Full View", u"FullView", true};
 
 constexpr int kLabelTypes = 5;
-constexpr QStringView kLabelReport = u"FrmlblReport";
 
 } // namespace
 
@@ -55,15 +53,11 @@ void FullViewWeb::makeLabelTools()
     types->setToolTipsVisible(true);
     for (int type = 1; type <= kLabelTypes; ++type) {
         QAction* action = types->addAction(tr("Label type %1").arg(type));
-        const QString id = u"Type%1"_s.arg(type);
-        action->setObjectName(id);
-        action->setEnabled(context().screens.has(kLabelReport));
-        if (!action->isEnabled())
-            action->setToolTip(tr("%1\nNot available yet").arg(action->text()));
-        connect(action, &QAction::triggered, this, [this, id] {
-            if (auto* report = context().screens.load<core::PageScreen>(kLabelReport))
-                report->openPage(id);
-            context().screens.show(kLabelReport);
+        action->setObjectName(u"Type%1"_s.arg(type));
+        connect(action, &QAction::triggered, this, [this, type] {
+            if (shownName().trimmed().isEmpty())
+                return inform(tr("Record not selected"));
+            output::PrintAddressReport(context(), static_cast<output::AddressLayout>(type - 1), shownName());
         });
     }
     tools().action(u"PrintLabel")->setMenu(types);

@@ -1,0 +1,98 @@
+#include "output/labels/address_report.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+constexpr QStringView kColumns = u"b.name,b.company,b.h_add1,b.h_add2,b.h_city,b.h_state,b.h_pin";
+constexpr QStringView kOthers[] = {u"company", u"h_add1", u"h_add2", u"h_city", u"h_state", u"h_pin"};
+
+struct Placing {
+    double indent; ///< shares of the width of the paper
+    double width;
+    double textScale;
+};
+/// In the order of AddressLayout.
+constexpr Placing kPlacings[]
+    = {{0, 0.5, 1}, {0.5, 0.5, 1}, {0.25, 0.5, 1.2}, {0, 0.62, 1.4}, {0.38, 0.62, 1.4}};
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("output", text);
+}
+
+// The table is the program's own scratch paper and nothing for a person to take back.
+void fillWorkTable(jet::Database& data, const QString& condition)
+{
+    const jet::Upkeep byItself(data);
+    jet::Batch batch(data, jet::Batch::Mode::KeepWhatSucceeds);
+    data.execute(u"delete * from OV_temp");
+    jet::Recordset people
+        = data.openRecordset(u"SELECT "_s + kColumns.toString() + u" FROM [cnt_main] b WHERE "_s + condition);
+    jet::Recordset work = data.openRecordset(u"select * from [OV_temp]");
+    for (; people.hasRow(); people.moveNext()) {
+        work.addNew();
+        work.set(u"name", people.textOrEmpty(u"name").section(u'.', 0, 0));
+        for (const QStringView column : kOthers)
+            work.set(column, people.textOrEmpty(column));
+        work.update();
+    }
+    batch.commit();
+}
+
+jet::Recordset workRows(jet::Database& data, const QString& rest)
+{
+    return data.openRecordset(u"SELECT "_s + kColumns.toString() + u" FROM [OV_temp] b "_s + rest);
+}
+
+} // namespace
+
+jet::Recordset addressRows(jet::Database& data, const QString& name)
+{
+    const QString condition = u"b.name='"_s + name + u'\'';
+    fillWorkTable(data, condition);
+    return workRows(data, u"WHERE "_s + condition);
+}
+
+jet::Recordset addressRowsOf(jet::Database& data, const QString& ids)
+{
+    fillWorkTable(data, u"b.id in ("_s + ids + u')');
+    return workRows(data, u"order by b.name "_s);
+}
+
+Report addressLabels(AddressLayout layout, jet::Recordset rows, const QString& printDate)
+{
+    const Placing& placing = kPlacings[static_cast<int>(layout)];
+    Report report;
+    report.title = say("Mailing List Labels");
+    report.printDate = printDate;
+    report.fileStem = u"Contact-Labels"_s;
+    report.source = std::make_shared<RecordsetSource>(std::move(rows), reportDates(false));
+    report.textScale = placing.textScale;
+    report.header.lines = {{{{say(" Orvane Contacts"), 1, TextRole::Strong},
+                                {say("Mailing List Labels"), 1, TextRole::GroupTitle, Align::Center},
+                                {say("Note -Cut & Paste on Envelopes"), 1, TextRole::Quiet, Align::Right}},
+        true}};
+    report.header.spaceBelow = 300;
+    report.detail.lines = {
+        {{{say("To."), 1, TextRole::Quiet}}},
+        {{{u"{name}"_s, 1, TextRole::Strong}}},
+        {{{u"{h_add1}"_s}}},
+        {{{u"{h_add2}"_s}}},
+        {{{u"{h_city}"_s}, {u"{h_state}"_s}}},
+        {{{u"{h_pin}"_s, 1, TextRole::Value, Align::Left, say("Zip")}}},
+    };
+    report.detail.indent = placing.indent;
+    report.detail.width = placing.width;
+    report.detail.isBoxed = true;
+    report.detail.spaceBelow = 400;
+    return report;
+}
+
+} // namespace output
