@@ -67,13 +67,27 @@ formats::CardAddress cardAddress(const ContactRecord& contact, const QString& pr
 
 } // namespace
 
+RecordColumns::RecordColumns(const jet::Recordset& rows, const QStringList& wanted)
+{
+    const QStringList columns = rows.columns();
+    for (int column = 0; column < columns.size(); ++column) {
+        if (wanted.isEmpty() || wanted.contains(columns[column], Qt::CaseInsensitive))
+            m_columns.push_back({column, columns[column].toLower()});
+    }
+}
+
 ContactRecord::ContactRecord(const jet::Recordset& row)
+    : ContactRecord(row, RecordColumns(row))
+{
+}
+
+ContactRecord::ContactRecord(const jet::Recordset& row, const RecordColumns& columns)
 {
     if (!row.hasRow())
         return;
-    const QStringList columns = row.columns();
-    for (int column = 0; column < columns.size(); ++column)
-        m_values.insert(key(columns[column]), row.value(column));
+    m_values.reserve(qsizetype(columns.m_columns.size()));
+    for (const RecordColumns::Column& column : columns.m_columns)
+        m_values.insert(column.key, row.value(column.index));
 }
 
 QDate ContactRecord::date(QStringView column) const

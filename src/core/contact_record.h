@@ -8,7 +8,24 @@
 #include <QHash>
 #include <QString>
 
+#include <vector>
+
 namespace core {
+
+/// The columns of a selection from which contacts are made, looked up once for all its rows.
+class RecordColumns {
+public:
+    /// @param wanted all columns where it is empty
+    explicit RecordColumns(const jet::Recordset& rows, const QStringList& wanted = {});
+
+private:
+    friend class ContactRecord;
+    struct Column {
+        int index = 0;
+        QString key;
+    };
+    std::vector<Column> m_columns;
+};
 
 /// A contact as one value, by the columns of the book: a row of it, or what stands in a form, which may not
 /// hold all. What other programs get of a contact is made from this.
@@ -16,6 +33,7 @@ class ContactRecord {
 public:
     ContactRecord() = default;
     explicit ContactRecord(const jet::Recordset& row);
+    ContactRecord(const jet::Recordset& row, const RecordColumns& columns);
 
     bool has(QStringView column) const { return m_values.contains(key(column)); }
     QString text(QStringView column) const { return m_values.value(key(column)).toString(); }

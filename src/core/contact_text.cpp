@@ -2,6 +2,8 @@
 
 #include "jet/date_text.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace core {
@@ -94,7 +96,10 @@ private:
     QString valueOf(QStringView column) const
     {
         QString text = m_contact.text(column);
-        return text.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
+        const auto isBreak = [](QChar letter) { return letter == u'\n' || letter == u'\r'; };
+        if (std::any_of(text.cbegin(), text.cend(), isBreak))
+            text.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
+        return text;
     }
 
     QString dateOf(QStringView column) const
@@ -137,6 +142,19 @@ private:
 QString contactText(const ContactRecord& contact, TextLayout layout, const QString& datePattern)
 {
     return Block(contact, layout, datePattern).text();
+}
+
+QStringList contactTextColumns()
+{
+    QStringList columns;
+    for (const Line& line : kLines) {
+        for (const QStringView column : line.columns) {
+            if (!column.isEmpty())
+                columns << column.toString();
+        }
+    }
+    columns.removeDuplicates();
+    return columns;
 }
 
 } // namespace core

@@ -17,7 +17,10 @@ enum class TextLayout {
 /// The block of one contact: its name between two rules, an empty line, a line a field, in a fixed order. A
 /// field that is not filled has its line too, so the same thing always stands on the same line. Lines are
 /// ended by CR LF, but for the last one. A line break within a value is written as a blank.
+/// @param contact needs to hold the columns of `contactTextColumns` only
 /// @param datePattern of jet::formatDate
 QString contactText(const ContactRecord& contact, TextLayout layout, const QString& datePattern);
+
+QStringList contactTextColumns();
 
 } // namespace core

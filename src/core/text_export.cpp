@@ -1,6 +1,7 @@
 #include "core/text_export.h"
 
 #include "core/contact_lookups.h"
+#include "core/contact_record.h"
 #include "core/contact_text.h"
 #include "platform/drive.h"
 #include "platform/storage.h"
@@ -34,10 +35,11 @@ public:
     /// All rows of a selection; false when there is no need to go on.
     bool add(jet::Recordset rows, const TextProgress& progress = {})
     {
+        const RecordColumns columns(rows, contactTextColumns());
         for (; rows.hasRow(); rows.moveNext()) {
             if (!m_file && !begin())
                 return false;
-            if (!m_file->writeLine(contactText(ContactRecord(rows), m_layout, m_to.datePattern)))
+            if (!m_file->writeLine(contactText(ContactRecord(rows, columns), m_layout, m_to.datePattern)))
                 return fail();
             if (++m_saved.contacts % kContactsAStep == 0 && progress && !progress(m_saved.contacts)) {
                 m_saved.outcome = Outcome::Stopped;

@@ -8,33 +8,34 @@ namespace formats {
 
 namespace {
 
-bool needsQuotes(const QString& value)
+bool needsQuotes(const QByteArray& value)
 {
+    const auto isEdge = [](char byte) { return byte == ' ' || byte == '\t'; };
     if (value.isEmpty())
         return false;
-    const bool hasEdge = value.front().isSpace() || value.back().isSpace();
-    return hasEdge || std::any_of(value.begin(), value.end(), [](QChar letter) {
-        return letter == u',' || letter == u'"' || letter == u'\r' || letter == u'\n';
-    });
+    return isEdge(value.front()) || isEdge(value.back())
+        || std::any_of(value.begin(), value.end(),
+            [](char byte) { return byte == ',' || byte == '"' || byte == '\r' || byte == '\n'; });
 }
 
 } // namespace
 
 QByteArray csvLine(const QStringList& values)
 {
-    QString line;
-    for (const QString& value : values) {
-        if (!line.isEmpty() || &value != &values.front())
-            line += u',';
+    QByteArray line;
+    for (const QString& text : values) {
+        QByteArray value = text.toUtf8();
+        if (&text != &values.front())
+            line += ',';
         if (needsQuotes(value))
-            line += u'"' + QString(value).replace(u'"', u"\"\""_s) + u'"';
+            line += '"' + value.replace('"', "\"\"") + '"';
         else
             line += value;
     }
     // A line of one empty value would be no row.
-    if (values.size() == 1 && line.isEmpty())
-        line = u"\"\""_s;
-    return line.toUtf8() + "\r\n";
+    if (line.isEmpty())
+        line = "\"\"";
+    return line + "\r\n";
 }
 
 QString tabbedLine(const QStringList& values)

@@ -9,6 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace jet {
 
+namespace {
+
+constexpr int kMostAhead = 64; ///< rows
+constexpr qint64 kMoment = 100; ///< milliseconds
+
+} // namespace
+
 RecordsetData::RecordsetData(std::shared_ptr<Engine> engine, Request request, Way way, QString text)
     : m_engine(std::move(engine))
     , m_request(std::move(request))
@@ -82,17 +89,39 @@ RecordsetData::Place RecordsetData::look(int row)
     if (m_rowsHeld)
         return {&m_held, row};
     const int changes = m_engine->isOpen() ? sqlite3_total_changes(m_engine->connection()) : m_changesAtFetch;
-    if (m_fetchedRow == row && m_changesAtFetch == changes)
-        return {&m_fetched, 0};
-    m_fetched.clear();
-    m_fetchedRow = -1;
-    const Prepared statement = m_engine->prepareRow(m_request, m_keys[size_t(row)]);
+    const bool isUnchanged = m_changesAtFetch == changes;
+    if (m_fetchedRow == row && isUnchanged)
+        return {&m_fetched, row - m_firstFetched};
+    const int behind = m_firstFetched + m_fetched.rows();
+    // What was read ahead counts for a moment only: other programs may write meanwhile.
+    const bool isAhead = isUnchanged && m_engine->isOpen() && row > m_fetchedRow && row < behind
+        && !m_sinceFetch.hasExpired(kMoment);
+    if (!isAhead) {
+        const bool goesOn = isUnchanged && m_fetched.rows() > 0 && row == behind;
+        fetch(row, goesOn ? std::min(2 * m_fetched.rows(), kMostAhead) : 1);
+        m_changesAtFetch = changes;
+    }
     // A row that was deleted in the meantime reads as nulls.
-    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW || !m_fetched.append(statement.get(), 0))
-        return {nullptr, 0};
-    m_fetchedRow = row;
-    m_changesAtFetch = changes;
-    return {&m_fetched, 0};
+    m_fetchedRow = m_fetched.rows() > 0 ? row : -1;
+    return {m_fetchedRow < 0 ? nullptr : &m_fetched, row - m_firstFetched};
+}
+
+// Who reads row after row gets the next ones at once, which spares the beginning and end of a transaction for
+// each.
+void RecordsetData::fetch(int row, int rows)
+{
+    m_fetched.clear();
+    m_firstFetched = row;
+    std::optional<ReadTransaction> together;
+    if (rows > 1 && m_engine->isOpen())
+        together.emplace(m_engine->connection());
+    for (int next = row; next < std::min(row + rows, count()); ++next) {
+        const Prepared statement = m_engine->prepareRow(m_request, m_keys[size_t(next)]);
+        if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW
+            || !m_fetched.append(statement.get(), 0))
+            break;
+    }
+    m_sinceFetch.start();
 }
 
 QString RecordsetData::text(int row, int column)

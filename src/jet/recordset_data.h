@@ -4,6 +4,8 @@
 #include "jet/recordset.h"
 #include "jet/row_store.h"
 
+#include <QElapsedTimer>
+
 #include <optional>
 #include <vector>
 
@@ -51,6 +53,7 @@ private:
     };
 
     bool readRows(const Prepared& statement);
+    void fetch(int row, int rows);
     Place look(int row); ///< where the cells of a row are, fetching it when only its key is held
     bool updateNow();
     bool removeNow();
@@ -65,8 +68,10 @@ private:
     bool m_rowsHeld = false;
     std::vector<qint64> m_keys;
     RowStore m_held;
-    RowStore m_fetched; ///< the one row of a keyset that was looked at last
-    int m_fetchedRow = -1;
+    RowStore m_fetched; ///< the row of a keyset that was looked at last, and perhaps the next ones
+    int m_firstFetched = 0;
+    int m_fetchedRow = -1; ///< that was looked at last
+    QElapsedTimer m_sinceFetch;
     int m_changesAtFetch = 0; ///< what was changed since may be that row
     Editing m_editing = Editing::Nothing;
     std::vector<Change> m_changes;

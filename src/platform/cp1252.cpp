@@ -32,23 +32,26 @@ bool isInCp1252(QStringView text)
 
 QByteArray toCp1252(QStringView text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char* end = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t code = text[i].unicode();
-        const auto* special = std::find(cp1252Specials.begin(), cp1252Specials.end(), code);
         if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) {
-            bytes += char(code);
-        } else if (special != cp1252Specials.end()) {
-            bytes += char(0x80 + (special - cp1252Specials.begin()));
+            *end++ = char(code);
+            continue;
+        }
+        const auto* special = std::find(cp1252Specials.begin(), cp1252Specials.end(), code);
+        if (special != cp1252Specials.end()) {
+            *end++ = char(0x80 + (special - cp1252Specials.begin()));
         } else if (code >= 0x80 && code <= 0x9F && cp1252Specials[code - 0x80u] == 0) {
-            bytes += char(code);
+            *end++ = char(code);
         } else {
-            bytes += '?';
+            *end++ = '?';
             if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
                 ++i;
         }
     }
+    bytes.truncate(end - bytes.constData());
     return bytes;
 }
 

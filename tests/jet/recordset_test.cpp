@@ -36,6 +36,34 @@ private Q_SLOTS:
         QCOMPARE(rows.number(u"id"), 1);
     }
 
+    // Rows that are read ahead may have been changed by this program at once, by another one after a moment.
+    void readingRowAfterRow()
+    {
+        QList<QStringList> more(200, {u"More"_s});
+        QVERIFY(m_book->data().appendRows(u"cnt_main"_s, {u"Name"_s}, more));
+        jet::Recordset rows = open(u"select * from cnt_main order by id"_s);
+        jet::Database other;
+        QCOMPARE(other.open(m_book->path()), jet::Database::OpenResult::Opened);
+        const auto rename = [](jet::Database& book, qint64 id, const QString& name) {
+            QVERIFY(book.execute(u"update cnt_main set Name='%1' where id=%2"_s.arg(name).arg(id)));
+        };
+        QStringList read;
+        for (int row = 0; row < rows.count(); ++row) {
+            if (row == 100)
+                rename(m_book->data(), rows.keyAt(101), u"Ours"_s);
+            if (row == 140) {
+                rename(other, rows.keyAt(142), u"Theirs"_s);
+                QVERIFY(other.execute(u"delete * from cnt_main where id=%1"_s.arg(rows.keyAt(145))));
+                QTest::qWait(150);
+            }
+            read << rows.textAt(row, rows.columnIndex(u"Name"));
+        }
+        QCOMPARE(read.mid(99, 4), (QStringList{u"More"_s, u"More"_s, u"Ours"_s, u"More"_s}));
+        QCOMPARE(read.mid(141, 6),
+            (QStringList{u"More"_s, u"Theirs"_s, u"More"_s, u"More"_s, QString(), u"More"_s}));
+        QCOMPARE(rows.textAt(3, rows.columnIndex(u"id")), QString::number(rows.keyAt(3)));
+    }
+
     void emptyAndFailed()
     {
         jet::Recordset empty = open(u"select id from cnt_main where 1>2"_s);

@@ -22,21 +22,47 @@ constexpr int kTwipsALetter = 105; // of the ordinary font of a sheet
 /// Takes the rows of a grid one by one; the answer false ends it.
 class RowWriter {
 public:
-    RowWriter() = default;
+    explicit RowWriter(const GridTable& grid)
+        : m_grid(grid)
+        , m_shown(grid.shownColumns())
+    {
+    }
     RowWriter(const RowWriter&) = delete;
     RowWriter& operator=(const RowWriter&) = delete;
     virtual ~RowWriter() = default;
 
     virtual bool headings(const QStringList& texts) = 0;
-    virtual bool row(const QList<GridCell>& cells, const QStringList& texts) = 0;
+    virtual bool row(int row) = 0;
     virtual bool finish() { return true; }
     virtual void tell(GridWritten&) const { }
+
+    QStringList headingTexts() const
+    {
+        QStringList texts;
+        for (const int column : m_shown)
+            texts << m_grid.columns[column].heading;
+        return texts;
+    }
+
+protected:
+    QStringList textsOf(int row) const
+    {
+        QStringList texts;
+        texts.reserve(m_shown.size());
+        for (const int column : m_shown)
+            texts << textOf(m_grid.columns[column], m_grid.rows->cell(row, column));
+        return texts;
+    }
+
+    const GridTable& m_grid;
+    QList<int> m_shown;
 };
 
 class CsvRows final : public RowWriter {
 public:
-    explicit CsvRows(QIODevice& file)
-        : m_file(file)
+    CsvRows(QIODevice& file, const GridTable& grid)
+        : RowWriter(grid)
+        , m_file(file)
     {
     }
 
@@ -44,10 +70,7 @@ public:
     {
         return put(formats::utf8Mark + formats::csvLine(texts));
     }
-    bool row(const QList<GridCell>&, const QStringList& texts) override
-    {
-        return put(formats::csvLine(texts));
-    }
+    bool row(int row) override { return put(formats::csvLine(textsOf(row))); }
 
 private:
     bool put(const QByteArray& line) { return m_file.write(line) == line.size(); }
@@ -57,13 +80,14 @@ private:
 
 class TabbedRows final : public RowWriter {
 public:
-    explicit TabbedRows(QIODevice& file)
-        : m_file(file)
+    TabbedRows(QIODevice& file, const GridTable& grid)
+        : RowWriter(grid)
+        , m_file(file)
     {
     }
 
     bool headings(const QStringList& texts) override { return put(texts); }
-    bool row(const QList<GridCell>&, const QStringList& texts) override { return put(texts); }
+    bool row(int row) override { return put(textsOf(row)); }
     void tell(GridWritten& written) const override { written.rowsWithoutLetters = m_losses; }
 
 private:
@@ -82,20 +106,19 @@ private:
 class WorkbookRows final : public RowWriter {
 public:
     WorkbookRows(QFileDevice& file, const GridTable& grid, const QString& datePattern)
-        : m_grid(grid)
-        , m_shown(grid.shownColumns())
+        : RowWriter(grid)
         , m_book(file, grid.title, sheetColumns(grid), datePattern.toLower())
     {
     }
 
     bool headings(const QStringList&) override { return true; }
 
-    bool row(const QList<GridCell>& cells, const QStringList& texts) override
+    bool row(int row) override
     {
         QVariantList values;
-        values.reserve(cells.size());
-        for (int at = 0; at < cells.size(); ++at)
-            values << valueOf(m_grid.columns[m_shown[at]].kind, cells[at], texts[at]);
+        values.reserve(m_shown.size());
+        for (const int column : m_shown)
+            values << valueOf(m_grid.columns[column], m_grid.rows->cell(row, column));
         return m_book.addRow(values);
     }
 
@@ -112,43 +135,30 @@ private:
         return columns;
     }
 
-    static QVariant valueOf(CellKind kind, const GridCell& cell, const QString& text)
+    static QVariant valueOf(const GridColumn& column, const GridCell& cell)
     {
-        if (kind == CellKind::Date && formats::isSheetDate(cell.value.toDate()))
+        if (column.kind == CellKind::Date && formats::isSheetDate(cell.value.toDate()))
             return cell.value;
-        if (kind == CellKind::Number && cell.value.isValid() && !text.isEmpty()) {
+        if (column.kind == CellKind::Number && cell.value.isValid() && !cell.text.isEmpty()) {
             bool isNumber = false;
             const double number = cell.value.toDouble(&isNumber);
             if (isNumber)
                 return number;
         }
-        return text;
+        return textOf(column, cell);
     }
 
-    const GridTable& m_grid;
-    QList<int> m_shown;
     formats::WorkbookWriter m_book;
 };
 
 /// False when it was stopped, or the writer takes no more.
 bool writeRows(const GridTable& grid, RowWriter& writer, const GridProgress& progress, GridWritten& written)
 {
-    const QList<int> shown = grid.shownColumns();
-    QStringList texts;
-    for (const int column : shown)
-        texts << grid.columns[column].heading;
-    bool isWritten = writer.headings(texts);
+    bool isWritten = writer.headings(writer.headingTexts());
     for (int row = 0; isWritten && row < grid.rowCount(); ++row) {
         if (grid.rows->row(row).outlineLevel >= 0)
             continue;
-        QList<GridCell> cells;
-        cells.reserve(shown.size());
-        texts.clear();
-        for (const int column : shown) {
-            cells << grid.rows->cell(row, column);
-            texts << textOf(grid.columns[column], cells.last());
-        }
-        isWritten = writer.row(cells, texts);
+        isWritten = writer.row(row);
         if (row % kRowsAStep == kRowsAStep - 1 && progress && !progress(row + 1)) {
             written.outcome = GridWritten::Outcome::Stopped;
             return false;
@@ -164,11 +174,11 @@ std::unique_ptr<RowWriter> rowWriter(
 {
     switch (format) {
     case GridFormat::Xls: return std::make_unique<WorkbookRows>(file, grid, datePattern);
-    case GridFormat::Txt: return std::make_unique<TabbedRows>(file);
+    case GridFormat::Txt: return std::make_unique<TabbedRows>(file, grid);
     case GridFormat::Csv:
     case GridFormat::Html: break;
     }
-    return std::make_unique<CsvRows>(file);
+    return std::make_unique<CsvRows>(file, grid);
 }
 
 bool writeContent(GridFormat format, const GridTable& grid, QFileDevice& file, const QString& datePattern,
