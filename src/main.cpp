@@ -88,8 +88,8 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString folder = programFolder();
-    const QStringList files = filesToOpen(QApplication::arguments().mid(1));
-    const platform::SingleInstance instance(folder, files);
+    const QStringList wanted = filesToOpen(QApplication::arguments().mid(1));
+    const platform::SingleInstance instance(folder, wanted);
     if (!instance.isFirst())
         return 0;
     widgets::apply(app, lookOf(folder));
@@ -132,7 +132,7 @@ int main(int argc, char** argv)
         &instance, &platform::SingleInstance::openRequested, &startUp, &shell::StartUp::openFiles);
     QObject::connect(
         &storageNotice, &shell::StorageNotice::damageFound, &startUp, &shell::StartUp::bookIsDamaged);
-    startUp.openFiles(files);
+    startUp.openFiles(wanted);
     startUp.begin(QLocale::system().territory() == QLocale::India, instance.hasLock());
     const int result = QApplication::exec();
     // Screens read the books, so they go first.
