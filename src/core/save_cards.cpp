@@ -68,7 +68,7 @@ int saveCards(
             title);
     else if (result.written > 0)
         boxes.information((savedWords.isEmpty() ? translated("VCF File Saved on %1") : savedWords).arg(folder)
-                + (contacts > 1
+                + (contacts > 1 && savedWords.isEmpty()
                         ? u"\n\n"_s + translated("Files written: %1").arg(result.written - result.overwritten)
                         : QString())
                 + sharing,

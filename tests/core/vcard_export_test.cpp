@@ -65,11 +65,22 @@ private Q_SLOTS:
     {
         for (const QString& name : {u"../up"_s, u"..\\up"_s, u"a/b"_s, u"C:x"_s, u"what?"_s, u"a\nb"_s})
             add(u"Name"_s, u'\'' + name + u'\'');
-        const CardsWritten result = write(u"1,2,3,4,5,6"_s);
+        add(u"Name"_s, u'\'' + QString(10'000, u'x') + u'\'');
+        const CardsWritten result = write(u"1,2,3,4,5,6,7"_s);
         QCOMPARE(result.written, 0);
-        QCOMPARE(result.badNames, 6);
+        QCOMPARE(result.badNames, 7);
+        QCOMPARE(result.refused.mid(0, 2), (QStringList{u"../up"_s, u"..\\up"_s}));
         QCOMPARE(files(), QStringList());
         QCOMPARE(QDir(m_root->path()).entryList(QDir::Files), QStringList());
+    }
+
+    void cardOfASender()
+    {
+        QVERIFY(writeSenderCard(*m_drive, u"Zoé\r\nTEL:1"_s, u"z@x"_s) == false); // no file name
+        QVERIFY(writeSenderCard(*m_drive, u"Zoé"_s, u"z@x\nTEL:1"_s));
+        QCOMPARE(support::bytesOf(m_root->filePath(u"OVUserFiles/VCF/Zoé.vcf"_s)),
+            "BEGIN:VCARD\r\nVERSION:2.1\r\nN:Zo\xe9\r\nFN:Zo\xe9\r\nEMAIL;PREF;INTERNET:z@x "
+            "TEL:1\r\nEnd:VCARD\r\n");
     }
 
     void fileOfTheNameIsReplacedInAnyCase()

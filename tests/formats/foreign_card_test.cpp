@@ -257,6 +257,10 @@ void ForeignCardTest::whatIsTooLong()
             + u" | !Photo: too large | !NOTE: the end of a text that is too long"_s);
     cards = cardsOf("BEGIN:VCARD\n" + QByteArray("X:y\n").repeated(11) + "END:VCARD", limits);
     QVERIFY(cards.at(0).isCut && cards.at(0).hasEnd && cards.at(0).properties.size() == 10);
+    cards = cardsOf(
+        "BEGIN:VCARD\n" + ("PHOTO;ENCODING=b:" + QByteArray(380, 'A') + '\n').repeated(7) + "END:VCARD",
+        limits);
+    QVERIFY(cards.at(0).isCut && cards.at(0).properties.size() == 5);
 }
 
 void ForeignCardTest::longCardTakesItsTimeOnly()

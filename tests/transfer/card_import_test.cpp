@@ -130,7 +130,7 @@ private Q_SLOTS:
         m_book->data().execute(
             u"insert into cnt_main (Name, B_Ph1, M_BD) values ('ann  LEE', '(022) 555-1234', #05-Mar-1980#)");
         const IncomingCards incoming
-            = read(card("FN:Ann Lee\r\nTEL;TYPE=HOME:+91 22 5551234") + card("FN:Ann Lee\r\nBDAY:1980-03-05")
+            = read(card("FN:Ann Lee\r\nTEL;TYPE=HOME:+91 20 5551234") + card("FN:Ann Lee\r\nBDAY:1980-03-05")
                 + card("FN:Ann Lee\r\nTEL:1") + card("FN:Bob\r\nEMAIL:B@x")
                 + card("FN:bob\r\nEMAIL;TYPE=WORK:b@X") + card("FN:Bob\r\nTEL:5551234"));
         QStringList like;

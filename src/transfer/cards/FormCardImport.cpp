@@ -147,6 +147,7 @@ void FormCardImport::connectControls()
     onClick(u"CmdFolder"_s, &FormCardImport::chooseFolder);
     onClick(u"CmdImport"_s, &FormCardImport::import);
     onClick(u"CmdExit"_s, &Screen::closeRequested);
+    m_cards->installEventFilter(this);
     connect(m_all, &QCheckBox::clicked, m_list, &IncomingList::tickAll);
     connect(m_list, &IncomingList::ticked, this, &FormCardImport::followTicks);
     connect(m_cards->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -170,6 +171,19 @@ void FormCardImport::keyPressEvent(QKeyEvent* event)
         Q_EMIT closeRequested();
     else
         Screen::keyPressEvent(event);
+}
+
+// Whatever column of the row is the current one.
+bool FormCardImport::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isSpace = watched == m_cards && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
+    if (!isSpace || !m_cards->currentIndex().isValid())
+        return Screen::eventFilter(watched, event);
+    const QModelIndex tick = m_cards->currentIndex().siblingAtColumn(0);
+    const bool isTicked = tick.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    m_list->setData(tick, isTicked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    return true;
 }
 
 void FormCardImport::dragEnterEvent(QDragEnterEvent* event)
