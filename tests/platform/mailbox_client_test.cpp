@@ -222,6 +222,13 @@ private Q_SLOTS:
         QVERIFY(m_mail->client.Send(itemTo(u"a@x.in"_s, u"1"_s)));
         QVERIFY(m_mail->client.Send(itemTo(u"a@x.in"_s, u"2"_s)));
         QCOMPARE(told(), QStringList{u"AccountMissing "_s});
+        // A new start with a full outbox is no reason to ask once more.
+        m_news.clear();
+        m_mail = std::make_unique<support::MailAccount>(m_folder->path(), 0);
+        listen();
+        m_mail->post.begin();
+        QTest::qWait(50);
+        QCOMPARE(told(), QStringList());
         m_server = std::make_unique<support::MailServer>();
         m_mail->accounts.store(support::MailAccount::open(m_server->port()));
         QTRY_COMPARE_WITH_TIMEOUT(m_server->subjects(), (QStringList{u"1"_s, u"2"_s}), kWaitMs);
@@ -410,7 +417,7 @@ private Q_SLOTS:
         QVERIFY(unclear.size() <= kRounds);
         for (const QString& folder : {u"Sent"_s, u"Outbox/Sending"_s}) {
             for (const QString& entry : m_mail->client.Items(folder).value)
-                QCOMPARE(m_mail->client.Text(entry).value.Body.size(), 20'000);
+                QCOMPARE(m_mail->client.Text(entry).value.Body.trimmed().size(), 20'000);
         }
         QStringList told;
         for (const platform::MailNews& each : m_news) {
