@@ -154,7 +154,9 @@ void MailPost::begin()
         const auto top = m_folders.sending.beginning(name, formats::kMaxTopBytes);
         Q_EMIT news({MailNews::Kind::Unclear, subjectOf(top.value_or(QByteArray())), {}, name});
     }
-    lookAtOutbox();
+    // Who sends without an account is told when they send.
+    if (m_accounts.account())
+        lookAtOutbox();
 }
 
 void MailPost::lookAtOutbox()

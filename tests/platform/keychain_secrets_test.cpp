@@ -38,18 +38,6 @@ private Q_SLOTS:
             QVERIFY(!support::bytesOf(files.next()).contains("pass"));
     }
 
-    // Answers that come when nobody is there any more are dropped.
-    void mayGoWhileItIsAsked()
-    {
-        bool wasCalled = false;
-        {
-            platform::KeychainSecrets secrets;
-            secrets.read(u"a"_s, [&wasCalled](const QString&, PasswordPlace) { wasCalled = true; });
-        }
-        QTest::qWait(200);
-        QVERIFY(!wasCalled);
-    }
-
 private:
     static QString nameOf(PasswordPlace place)
     {
