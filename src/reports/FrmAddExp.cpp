@@ -76,6 +76,8 @@ FrmAddExp::FrmAddExp(core::Context& context, QWidget* parent)
 void FrmAddExp::layOut()
 {
     LstColumns->setDragDropMode(QAbstractItemView::InternalMove);
+    // Print and export of lists would take the sample for the whole.
+    FG1->setContextMenuPolicy(Qt::NoContextMenu);
     FG1->setEmptyText(tr("No contact is as wanted, or no column is ticked"));
     widgets::FormKit form(this);
     form.group(tr("Columns"))

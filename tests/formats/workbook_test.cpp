@@ -3,7 +3,6 @@
 
 #include "formats/delimited.h"
 #include "formats/workbook.h"
-#include "support/columns.h"
 #include "support/disk.h"
 #include "support/other_program.h"
 
@@ -71,47 +70,14 @@ private Q_SLOTS:
         QCOMPARE(cells.last(), u"65535 0 1 0 'Person 65535'"_s);
     }
 
-    void fullDisk_data()
-    {
-        support::columns<int>("bytes");
-        QTest::newRow("from the start") << 0;
-        QTest::newRow("while rows come") << 20'000;
-        QTest::newRow("while the workbook is put together") << 100'000;
-    }
-
-    void fullDisk()
-    {
-        QFETCH(int, bytes);
-        const QString path = support::put(m_folder.filePath(u"a.xls"_s), "old");
-        {
-            const support::FullDisk full{rlim_t(bytes)};
-            QSaveFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            WorkbookWriter book(file, u"S"_s, {{u"Name"_s}}, u"dd"_s);
-            bool isWhole = true;
-            for (int row = 0; row < 4000; ++row)
-                isWhole = isWhole && book.addRow({u"Person number %1"_s.arg(row)});
-            QVERIFY(!(isWhole && book.finish()));
-        }
-        QCOMPARE(support::bytesOf(path), "old");
-        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"a.xls"_s});
-    }
-
-    void sheetNames_data()
-    {
-        support::columns<QString, QString>("name", "safe");
-        QTest::newRow("none") << QString() << u"Sheet1"_s;
-        QTest::newRow("letters of formulas") << u"'a/b:[c]*?\\\n'"_s << u"a_b__c_____"_s;
-        QTest::newRow("long") << QString(40, u'é') << QString(31, u'é');
-    }
-
     void sheetNames()
     {
-        QFETCH(QString, name);
-        QTEST(safeSheetName(name), "safe");
+        QCOMPARE(safeSheetName({}), u"Sheet1"_s);
+        QCOMPARE(safeSheetName(u"'a/b:[c]*?\\\n'"_s), u"a_b__c_____"_s);
+        QCOMPARE(safeSheetName(QString(40, u'é')), QString(31, u'é'));
     }
 
-    void commaSeparated()
+    void linesOfValues()
     {
         const QList<QStringList> rows{{u"Name"_s, u"b,c"_s, u"d\"e"_s}, {u"=1+1"_s, u"+91 98"_s, u"@x"_s},
             {u" edge "_s, u"two\r\nlines"_s, {}}, {{}, {}, {}}, {{}}, {u"Zoé ना 😀 <b>&"_s, u"-"_s, u"'"_s}};
@@ -125,10 +91,6 @@ private Q_SLOTS:
                 u"['Zoé ना 😀 <b>&', '-', \"'\"]"_s}));
         // Quotes only where they are needed.
         QCOMPARE(csvLine({u"a b"_s, u"=1"_s, u"c,d"_s}), QByteArray("a b,=1,\"c,d\"\r\n"));
-    }
-
-    void tabSeparated()
-    {
         QCOMPARE(tabbedLine({u"a\tb"_s, {}, u"c\r\nd\ne"_s, u"\"q\""_s}), u"a b\t\tc d e\t\"q\""_s);
     }
 

@@ -101,6 +101,10 @@ private Q_SLOTS:
         QVERIFY(m_f->boxes.suggested.last().endsWith(u"/Codes - Mar 05-2026.xls"));
         screen->lists[0]->setFocus();
         QCOMPARE(m_f->exportedBy(key), "City\r\nSmall\r\n");
+        // A sample is no list to take away, though it is larger and has the focus.
+        screen->lists[1]->setContextMenuPolicy(Qt::NoContextMenu);
+        screen->lists[1]->setFocus();
+        QCOMPARE(m_f->exportedBy(key), "City\r\nSmall\r\n");
     }
 
     void printShowsAPreview()

@@ -8,8 +8,8 @@
 #include "entry/register_entry.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
-#include "transfer/register_transfer.h"
 #include "support/screen_fixture.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
 

@@ -271,7 +271,8 @@ void MDIForm1::buildMenus()
     look();
     connect(contacts, &QMenu::aboutToShow, this, look);
     connect(m_tabs, &QTabWidget::currentChanged, this, look);
-    new ListCommands(*m_context, [this]() -> QWidget* { return screenInFront(); }, contacts, *m_keys);
+    new ListCommands(
+        *m_context, [this]() -> QWidget* { return screenInFront(); }, contacts, *m_keys);
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     new UndoCommand(*m_context, edit);
     edit->addSeparator();

@@ -43,6 +43,11 @@ HeadingGrid* listAround(QWidget* widget)
     return nullptr;
 }
 
+bool isToBeTaken(const HeadingGrid* list)
+{
+    return list->contextMenuPolicy() != Qt::NoContextMenu;
+}
+
 bool hasNoMenu(const HeadingGrid* list)
 {
     return list->contextMenuPolicy() == Qt::DefaultContextMenu;
@@ -100,12 +105,12 @@ HeadingGrid* ListCommands::listInFront() const
     if (!screen)
         return nullptr;
     HeadingGrid* focused = listAround(QApplication::focusWidget());
-    if (focused && screen->isAncestorOf(focused))
+    if (focused && screen->isAncestorOf(focused) && isToBeTaken(focused))
         return focused;
     HeadingGrid* largest = nullptr;
     const auto area = [](const QWidget* list) { return list->width() * list->height(); };
     for (auto* list : screen->findChildren<HeadingGrid*>()) {
-        if (list->isVisible() && (!largest || area(list) > area(largest)))
+        if (list->isVisible() && isToBeTaken(list) && (!largest || area(list) > area(largest)))
             largest = list;
     }
     return largest;

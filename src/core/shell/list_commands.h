@@ -18,7 +18,8 @@ namespace shell {
 class KeyArbiter;
 
 /// Printing and exporting of whatever list is in front: that with the focus, else the largest one of the
-/// screen in front. A list that has no menu of its own offers the same at the right button.
+/// screen in front. A list that has no menu of its own offers the same at the right button. One that
+/// shall have none at all, such as a sample of what is exported elsewhere, is passed over.
 class ListCommands : public QObject {
     Q_OBJECT
 

@@ -20,6 +20,7 @@ namespace {
 using enum core::Tool::Place;
 
 constexpr auto kSizeProperty = "orvaneListSize";
+constexpr int kOrdinaryGridFont = 8;
 // So many are read before a dialog could be.
 constexpr int kRowsWithoutWaiting = 5000;
 
@@ -72,7 +73,8 @@ void setListSize(widgets::HeadingGrid* grid, ListSize size)
     grid->setProperty(kSizeProperty, int(size));
     for (const SizeRow& row : kSizes) {
         if (row.size == size)
-            grid->setFontSize(QApplication::font(grid).pointSize() + row.points);
+            grid->setFontSize(QApplication::font(grid).pointSize() + widgets::gridFontSize()
+                - kOrdinaryGridFont + row.points);
     }
 }
 
