@@ -113,11 +113,8 @@ void MailAccountFile::keepPassword(const QString& password, Placed then)
     const std::optional<MailAccount> current = account();
     if (!current)
         return then(PasswordPlace::Nowhere);
-    ++m_beingKept;
     m_secrets.write(
         keyOf(*current), password, [self = QPointer(this), then = std::move(then)](PasswordPlace place) {
-            if (self)
-                --self->m_beingKept;
             then(place);
             if (self)
                 Q_EMIT self->changed();

@@ -34,9 +34,6 @@ public:
     using Found = std::function<void(const QString& password, PasswordPlace place)>;
     void readPassword(const MailAccount& account, Found then);
 
-    /// While it is, it can not be read yet; changed() follows.
-    bool isPasswordBeingKept() const { return m_beingKept > 0; }
-
     /// How servers are reached; for a test that has one of its own.
     void setLimits(const SmtpLimits& limits) { m_limits = limits; }
     void setAuthorities(const QString& file) { m_authorities = file; }
@@ -55,7 +52,6 @@ private:
     QString m_authorities;
     std::shared_ptr<std::atomic_bool> m_stop;
     QThread* m_test = nullptr; ///< while one runs
-    int m_beingKept = 0;
 };
 
 } // namespace platform

@@ -171,8 +171,6 @@ void MailPost::look()
         m_lookAgain = true;
         return;
     }
-    if (m_accounts.isPasswordBeingKept())
-        return;
     if (m_hasFault || m_folders.waiting.names().isEmpty())
         return;
     const std::optional<MailAccount> account = m_accounts.account();

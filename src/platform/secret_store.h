@@ -9,7 +9,8 @@
 namespace platform {
 
 /// Passwords, kept by the desktop and never in a file of the program. Where no such store runs they are kept
-/// in memory until the program ends, and the answers say so. Answers come later, through the event loop.
+/// in memory until the program ends, and the answers say so. Answers come later, through the event loop, and
+/// in the order of the calls.
 class SecretStore {
 public:
     SecretStore() = default;
