@@ -54,15 +54,18 @@ QString nameIn(Layout layout)
 }
 
 /// An address as it is written on a letter, with the ways to reach somebody there below it.
-QString addressText(const QString& prefix, const QString& emails)
+QString addressText(const QString& prefix, const QStringList& more)
 {
-    return u"{%1add1}\n{%1add2}\n{%1city} - {%1pin}\n{%1state}, {%1country}\n"_s.arg(prefix)
-        + say("Tel. %1").arg(u"{%1std} {%1Ph1}, {%1ph2}, {%1ph3}"_s.arg(prefix)) + u'\n' + emails;
+    const QString telephone = say("Tel. %1").arg(u"{%1std} {%1Ph1}, {%1ph2}, {%1ph3}"_s.arg(prefix));
+    return u"{%1add1}\n{%1add2}\n{%1city} - {%1pin}\n{%1state}, {%1country}\n"_s.arg(prefix) + telephone
+        + u'\n' + more.join(u'\n');
 }
 
 output::Section fullDetail(Layout layout)
 {
-    const auto label = [](const char* text) { return say(text); };
+    // Dates have a blank in front of them, days of birth have none.
+    const QString family = say("Birthday %1").arg(u"{M_BD}"_s) + u'\n'
+        + say("Spouse %1").arg(u"{Spouse}, {Sp_BD}"_s) + u'\n' + say("Anniversary%1").arg(u"{Anniv}"_s);
     output::Section section;
     section.lines = {
         {{{nameIn(layout), 5, TextRole::Strong}, {u"{Company}"_s, 4},
@@ -70,25 +73,18 @@ output::Section fullDetail(Layout layout)
             false},
         {{{u"{Job_Title}"_s, 5}, {u"{Product}"_s, 4}, {u"{Status}"_s, 3, TextRole::Quiet, Align::Right}},
             false},
-        {{{.text = addressText(u"h_"_s, u"{H_email1}\n{h_email2}\n{h_web}"_s),
-              .label = label(QT_TRANSLATE_NOOP("reports", "Home"))},
-             {.text = addressText(u"w_"_s, {}), .label = label(QT_TRANSLATE_NOOP("reports", "Work 1"))},
-             {.text = addressText(u"b_"_s, u"{b_email1}\n{b_email2}\n{B_Web}"_s),
-                 .label = label(QT_TRANSLATE_NOOP("reports", "Work 2"))}},
+        {{{.text = addressText(
+               u"h_"_s, {say("Mobile %1").arg(u"{Mobile}"_s), u"{H_email1}\n{h_email2}\n{h_web}"_s}),
+              .label = say("Home")},
+             {.text = addressText(u"w_"_s, {say("Spouse's mobile %1").arg(u"{SP_Mobile}"_s)}),
+                 .label = say("Work 1")},
+             {.text = addressText(
+                  u"b_"_s, {say("Fax %1").arg(u"{fax}"_s), u"{b_email1}\n{b_email2}\n{B_Web}"_s}),
+                 .label = say("Work 2")}},
             false},
-        {{{.text = u"{Mobile}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Mobile"))},
-             {.text = u"{SP_Mobile}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Spouse's mobile"))},
-             {.text = u"{fax}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Fax"))}},
-            false},
-        {{{.text = u"{M_BD}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Birthday"))},
-             {.text = u"{Spouse}, {Sp_BD}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Spouse"))},
-             {.text = u"{Anniv}"_s, .label = label(QT_TRANSLATE_NOOP("reports", "Anniversary"))}},
-            false},
-        {{{.text = u"{kid1}, {Kid1_BD}\n{kid2}, {Kid2_BD}\n{kid3}, {Kid3_BD}"_s,
-             .label = label(QT_TRANSLATE_NOOP("reports", "Children"))}},
-            false},
-        {{{.text = u"{memo1}\n{b_note}\n{fam_note}"_s,
-             .label = label(QT_TRANSLATE_NOOP("reports", "Notes"))}},
+        {{{.text = family, .label = say("Family")},
+             {.text = u"{kid1}, {Kid1_BD}\n{kid2}, {Kid2_BD}\n{kid3}, {Kid3_BD}"_s, .label = say("Children")},
+             {.text = u"{memo1}\n{b_note}\n{fam_note}"_s, .label = say("Notes")}},
             false},
     };
     section.picture = u"PhotLoc"_s;
@@ -103,10 +99,10 @@ struct ShortColumn {
     double share;
 };
 constexpr ShortColumn kShortColumns[] = {
-    {QT_TRANSLATE_NOOP("reports", "Name"), nullptr, 3},
-    {QT_TRANSLATE_NOOP("reports", "Address"), u"{h_add1}, {h_add2}\n{h_city} - {h_pin}", 3.4},
-    {QT_TRANSLATE_NOOP("reports", "Telephone"), u"{H_Ph1}, {h_ph2}\n{Mobile}", 2.4},
-    {QT_TRANSLATE_NOOP("reports", "E-mail"), u"{H_email1}\n{b_email1}", 3},
+    {QT_TRANSLATE_NOOP("reports", "Name"), nullptr, 2.6},
+    {QT_TRANSLATE_NOOP("reports", "Address"), u"{h_add1}, {h_add2}\n{h_city} - {h_pin}", 3},
+    {QT_TRANSLATE_NOOP("reports", "Telephone"), u"{H_Ph1}, {h_ph2}\n{Mobile}", 1.9},
+    {QT_TRANSLATE_NOOP("reports", "E-mail"), u"{H_email1}\n{b_email1}", 3.9},
 };
 
 void setShort(Layout layout, output::Report& report)
@@ -155,17 +151,18 @@ output::Report addressReport(
     report.colors = head.colors;
     report.fileStem = row.fileStem.toString();
     report.source = std::move(source);
-    report.header.lines = {{{{u"{#title}"_s, 1, TextRole::Title}}, false}};
-    report.header.spaceBelow = 160;
     report.grouping = output::Grouping{row.groupBy.toString(), row.byFirstLetter, say("Undefined")};
     report.groupHeader.lines = {{{{u"{#key}"_s, 1, TextRole::GroupTitle}}, true}};
     report.groupHeader.spaceBelow = 80;
     report.footer.lines
         = {{{{say("Contacts: %1").arg(u"{#count}"_s), 1, TextRole::Quiet, Align::Right}}, false}};
-    if (row.isFull)
+    if (row.isFull) {
+        report.header.lines = {{{{u"{#title}"_s, 1, TextRole::Title}}, false}};
+        report.header.spaceBelow = 160;
         report.detail = fullDetail(layout);
-    else
+    } else {
         setShort(layout, report);
+    }
     return report;
 }
 
