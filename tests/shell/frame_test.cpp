@@ -15,6 +15,7 @@
 #include "entry/register_entry.h"
 #include "support/columns.h"
 #include "support/screen_fixture.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/fields.h"
 
@@ -624,6 +625,7 @@ private Q_SLOTS:
         f.execute(u"update time_email set confirm=false"_s);
         setup::registerSetup(f.registry);
         entry::registerEntry(f.registry);
+        transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         f.start();
         QStringList doubled;
@@ -759,6 +761,7 @@ private Q_SLOTS:
         FrameFixture f(sample ? TestBook::Rows::Sample : TestBook::Rows::None);
         setup::registerSetup(f.registry);
         entry::registerEntry(f.registry);
+        transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         if (sample) // a mail that is due would ask
             f.execute(u"update time_email set confirm=false"_s);

@@ -6,6 +6,7 @@
 #include "core/shell/MDIForm1.h"
 #include "entry/register_entry.h"
 #include "support/screen_fixture.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
 
@@ -66,6 +67,7 @@ void RoomTest::everyScreen()
     core::Screens registry;
     core::Context all{f.book.data(), f.book.data(), f.schema, f.shared, registry, window, f.context.services};
     registry.setContext(all);
+    transfer::registerTransfer(registry);
     views::registerViews(registry);
     entry::registerEntry(registry);
     setup::registerSetup(registry);
@@ -81,6 +83,9 @@ void RoomTest::everyScreen()
         if (auto* ofContacts = dynamic_cast<core::ContactScreen*>(screen))
             ofContacts->showContact(1);
         look(form, &window);
+        // Its second page is for what was ticked.
+        if (form == u"FrmVCF")
+            f.boxes.expect(u"Record not selected"_s);
         for (auto* tabs : screen->findChildren<QTabBar*>()) {
             for (int page = 0; page < tabs->count() && tabs->count() < 12; ++page) {
                 tabs->setCurrentIndex(page);
