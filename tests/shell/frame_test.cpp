@@ -18,6 +18,7 @@
 #include "support/columns.h"
 #include "support/disk.h"
 #include "support/screen_fixture.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/fields.h"
 
@@ -629,6 +630,7 @@ private Q_SLOTS:
         entry::registerEntry(f.registry);
         output::registerOutput(f.registry);
         reports::registerReports(f.registry);
+        transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         f.start();
         QStringList doubled;
@@ -764,6 +766,7 @@ private Q_SLOTS:
         FrameFixture f(sample ? TestBook::Rows::Sample : TestBook::Rows::None);
         setup::registerSetup(f.registry);
         entry::registerEntry(f.registry);
+        transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         if (sample) // a mail that is due would ask
             f.execute(u"update time_email set confirm=false"_s);

@@ -6,6 +6,7 @@
 #include "entry/register_entry.h"
 #include "support/person.h"
 #include "support/screen_fixture.h"
+#include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
         addContact(fixture);
         fixture.shared.selectedContactId = 1;
         fixture.shared.selectedContactName = Markup;
+        transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);
         setup::registerSetup(fixture.screens);
@@ -73,10 +75,11 @@ private Q_SLOTS:
             {u"frmTabFilter"_s, u"CON0069"_s}, {u"FrmDuplicator"_s, u"CON0044"_s},
             {u"FormMain"_s, u"CON0018"_s}, {u"FormMain1"_s, u"CON0019"_s},
             {u"FormMainBusiness"_s, u"CON0020"_s}, {u"TurboAdd"_s, u"CON0076"_s},
-            {u"FrmOthers"_s, u"CON0062"_s}};
+            {u"FrmOthers"_s, u"CON0062"_s}, {u"FrmvCard"_s, u"CON0071"_s}, {u"FrmVCF"_s, u"CON0073"_s}};
         support::ScreenFixture fixture;
         for (const QString& code : codes)
             fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));
+        transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);
         setup::registerSetup(fixture.screens);
