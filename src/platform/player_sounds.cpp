@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include "platform/drive.h"
+#include "platform/storage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -94,7 +95,7 @@ QString PlayerSounds::soundFile(QStringView path) const
         || !copy.open(QIODevice::WriteOnly))
         return {};
     copy.write(builtIn.readAll());
-    return copy.commit() ? cached : QString();
+    return commitWhole(copy) ? cached : QString();
 }
 
 } // namespace platform

@@ -116,7 +116,8 @@ private Q_SLOTS:
         {
             const support::FullDisk full;
             m_fixture->boxes.expectChoice(u"Save As PDF"_s, file);
-            m_fixture->boxes.expect(u"The report could not be saved as %1: File too large."_s.arg(file));
+            m_fixture->boxes.expect(
+                u"The report could not be saved as %1: there is not enough room on the disk."_s.arg(file));
             m_screen->findChild<QAction*>(u"SavePdf"_s)->trigger();
         }
         QCOMPARE(support::bytesOf(file), QByteArray("old"));

@@ -96,7 +96,7 @@ BookReport BookFiles::makeMissing(bool national)
         if (marker.open(QIODevice::WriteOnly)) {
             marker.write("An address book was made here. If it is missing, restore a backup.\n"
                          "Without this file and without backups the program starts a new, empty book.\n");
-            marker.commit();
+            platform::commitWhole(marker);
         }
     }
     return report;

@@ -57,15 +57,14 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
         });
     if (path.isEmpty())
         return;
-    const QString folder = QFileInfo(path).absolutePath();
-    const auto tellFailure = [&](const QString& why) {
+    const auto tellFailure = [&] {
         boxes.warning(
-            translated("The report could not be saved as %1: %2.").arg(path, why), context.shared.AppTitle);
+            translated("The report could not be saved as %1: %2.").arg(path, platform::whyNotReplaced(path)),
+            context.shared.AppTitle);
     };
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return tellFailure(
-            platform::isWritable(folder) ? file.errorString() : platform::whyNotWritable(folder));
+        return tellFailure();
     bool wasStopped = false;
     bool written = false;
     {
@@ -83,8 +82,7 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
     }
     file.cancelWriting();
     if (!wasStopped)
-        tellFailure(
-            file.error() == QFileDevice::NoError ? platform::whyNotWritable(folder) : file.errorString());
+        tellFailure();
 }
 
 } // namespace output

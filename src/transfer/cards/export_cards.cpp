@@ -82,8 +82,7 @@ public:
         return replace(m_folder + u'/' + free + u".vcf"_s, card);
     }
 
-    // What is still in memory at the commit could fail unnoticed.
-    bool finish() { return !m_isOneFile || (m_file.flush() && m_file.commit()); }
+    bool finish() { return !m_isOneFile || platform::commitWhole(m_file); }
     void giveUp()
     {
         if (m_isOneFile)
