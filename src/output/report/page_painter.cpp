@@ -133,7 +133,10 @@ void PagePainter::paintText(
         const double room = place.width() - measure.width(text, role);
         x += align == Align::Right ? room : room / 2;
     }
-    painter.setFont(measure.font(role));
+    // A font that is set again costs as much as a short text.
+    if (painter.font().pixelSize() != measure.font(role).pixelSize()
+        || painter.font().bold() != measure.font(role).bold())
+        painter.setFont(measure.font(role));
     painter.drawText(QPointF(x, place.top() + measure.ascent(role)), text);
 }
 
