@@ -8,34 +8,61 @@ namespace formats {
 
 namespace {
 
-bool needsQuotes(const QByteArray& value)
+bool isEdge(QChar letter)
 {
-    const auto isEdge = [](char byte) { return byte == ' ' || byte == '\t'; };
-    if (value.isEmpty())
-        return false;
-    return isEdge(value.front()) || isEdge(value.back())
-        || std::any_of(value.begin(), value.end(),
-            [](char byte) { return byte == ',' || byte == '"' || byte == '\r' || byte == '\n'; });
+    return letter == u' ' || letter == u'\t';
 }
 
 } // namespace
 
+// One pass and no copy: an export of a whole book comes here more than a million times.
+void appendCsvValue(QByteArray& line, QStringView value)
+{
+    if (value.isEmpty())
+        return;
+    const qsizetype begin = line.size();
+    line.resize(begin + 3 * value.size());
+    char* const start = line.data() + begin;
+    char* at = start;
+    bool needsQuotes = isEdge(value.front()) || isEdge(value.back());
+    for (const QChar letter : value) {
+        const char16_t code = letter.unicode();
+        if (code >= 0x80 || code == u'"') {
+            at = nullptr;
+            break;
+        }
+        needsQuotes |= code == u',' || code == u'\r' || code == u'\n';
+        *at++ = static_cast<char>(code);
+    }
+    if (at && !needsQuotes) {
+        line.resize(begin + (at - start));
+        return;
+    }
+    line.resize(begin);
+    QByteArray bytes = value.toUtf8();
+    needsQuotes |= std::any_of(bytes.begin(), bytes.end(),
+        [](char byte) { return byte == ',' || byte == '"' || byte == '\r' || byte == '\n'; });
+    line += needsQuotes ? '"' + bytes.replace('"', "\"\"") + '"' : bytes;
+}
+
 QByteArray csvLine(const QStringList& values)
 {
     QByteArray line;
-    for (const QString& text : values) {
-        QByteArray value = text.toUtf8();
-        if (&text != &values.front())
+    for (const QString& value : values) {
+        if (&value != &values.front())
             line += ',';
-        if (needsQuotes(value))
-            line += '"' + value.replace('"', "\"\"") + '"';
-        else
-            line += value;
+        appendCsvValue(line, value);
     }
+    endCsvLine(line);
+    return line;
+}
+
+void endCsvLine(QByteArray& line)
+{
     // A line of one empty value would be no row.
     if (line.isEmpty())
         line = "\"\"";
-    return line + "\r\n";
+    line += "\r\n";
 }
 
 QString tabbedLine(const QStringList& values)

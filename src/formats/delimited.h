@@ -14,6 +14,9 @@ inline constexpr char utf8Mark[] = "\xEF\xBB\xBF";
 /// with "=", "+", "-" or "@" as well: a mark in front of it would make "+91 98..." another number for all the
 /// programs that are no spreadsheet.
 QByteArray csvLine(const QStringList& values);
+/// The same piece by piece: the caller puts the "," between the values.
+void appendCsvValue(QByteArray& line, QStringView value);
+void endCsvLine(QByteArray& line);
 
 /// The same with tabs between and nothing in quotes; a tab or a line break within a value is written as a
 /// blank. Without its line end.

@@ -115,10 +115,15 @@ void RecordsetData::fetch(int row, int rows)
     std::optional<ReadTransaction> together;
     if (rows > 1 && m_engine->isOpen())
         together.emplace(m_engine->connection());
-    for (int next = row; next < std::min(row + rows, count()); ++next) {
-        const Prepared statement = m_engine->prepareRow(m_request, m_keys[size_t(next)]);
-        if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW
-            || !m_fetched.append(statement.get(), 0))
+    const Prepared statement = m_engine->prepareRow(m_request, m_keys[size_t(row)]);
+    // The key is the last of its values.
+    const int keyPlace = statement ? sqlite3_bind_parameter_count(statement.get()) : 0;
+    for (int next = row; statement && next < std::min(row + rows, count()); ++next) {
+        if (next > row) {
+            sqlite3_reset(statement.get());
+            sqlite3_bind_int64(statement.get(), keyPlace, m_keys[size_t(next)]);
+        }
+        if (sqlite3_step(statement.get()) != SQLITE_ROW || !m_fetched.append(statement.get(), 0))
             break;
     }
     m_sinceFetch.start();

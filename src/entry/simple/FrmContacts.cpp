@@ -137,7 +137,8 @@ void FrmContacts::layOutName(QWidget* page)
         .line(u"txtph1"_s, {}, u"H_Ph1"_s)
         .line(u"txtbph1"_s, tr("&Work"), u"B_Ph1"_s)
         .line(u"txtemail1"_s, tr("&E-mail"), u"H_email1"_s)
-        .line(u"txtbemail1"_s, tr("E-mail at wor&k"), u"b_email1"_s);
+        .line(u"txtbemail1"_s, tr("At wor&k"), u"b_email1"_s)
+        .hint(tr("E-mail address at work"));
     form.group(tr("Home address"))
         .line(u"txtadd1"_s, tr("&Address"), u"h_add1"_s)
         .line(u"txtadd2"_s, {}, u"h_add2"_s)

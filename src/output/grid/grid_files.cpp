@@ -50,7 +50,7 @@ protected:
         QStringList texts;
         texts.reserve(m_shown.size());
         for (const int column : m_shown)
-            texts << textOf(m_grid.columns[column], m_grid.rows->cell(row, column));
+            texts << m_grid.rows->text(row, column, m_grid.columns[column]);
         return texts;
     }
 
@@ -70,12 +70,23 @@ public:
     {
         return put(formats::utf8Mark + formats::csvLine(texts));
     }
-    bool row(int row) override { return put(formats::csvLine(textsOf(row))); }
+    bool row(int row) override
+    {
+        m_line.resize(0);
+        for (const int column : m_shown) {
+            if (column != m_shown.front())
+                m_line += ',';
+            formats::appendCsvValue(m_line, m_grid.rows->text(row, column, m_grid.columns[column]));
+        }
+        formats::endCsvLine(m_line);
+        return put(m_line);
+    }
 
 private:
     bool put(const QByteArray& line) { return m_file.write(line) == line.size(); }
 
     QIODevice& m_file;
+    QByteArray m_line; ///< kept, so that not every row asks for room
 };
 
 class TabbedRows final : public RowWriter {

@@ -75,6 +75,11 @@ public:
 
     virtual int count() const = 0;
     virtual GridCell cell(int row, int column) const = 0;
+    /// The text of a cell alone, for files that hold nothing else.
+    virtual QString text(int row, int column, const GridColumn& about) const
+    {
+        return textOf(about, cell(row, column));
+    }
     virtual GridRow row(int) const { return {}; }
     virtual MergedRange mergedRange(int row, int column) const { return {row, column}; }
 };

@@ -37,6 +37,12 @@ public:
         return {m_rows.textAt(row, column), value};
     }
 
+    QString text(int row, int column, const GridColumn& about) const override
+    {
+        const bool isPlain = m_kinds[column] == CellKind::Text || m_kinds[column] == CellKind::Number;
+        return isPlain ? m_rows.textAt(row, column) : textOf(about, cell(row, column));
+    }
+
 private:
     jet::Recordset m_rows;
     QString m_datePattern;

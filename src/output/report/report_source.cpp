@@ -9,6 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace output {
 
+namespace {
+
+// What lists have for places and categories that nobody has filled in says nothing on paper.
+constexpr QStringView kUnknown = u"Undefined";
+
+} // namespace
+
 // Kept: the blank in front of a date sets it off from its label.
 ReportDates reportDates(bool nationalMode)
 {
@@ -30,8 +37,10 @@ RecordsetSource::RecordsetSource(jet::Recordset rows, ReportDates dates)
 QString RecordsetSource::text(int row, int field) const
 {
     const QString& pattern = m_patterns[field];
-    if (pattern.isEmpty())
-        return m_rows.textAt(row, field);
+    if (pattern.isEmpty()) {
+        const QString text = m_rows.textAt(row, field);
+        return text == kUnknown ? QString() : text;
+    }
     const QDate date = m_rows.valueAt(row, field).toDate();
     return date.isValid() ? jet::formatDate(date, pattern) : QString();
 }
