@@ -317,14 +317,18 @@ bool Database::appendRows(const QString& table, const QStringList& columns, cons
     bool done = bool(insert) && m_engine->mayWrite(table);
     for (const QStringList& row : rows) {
         for (int i = 0; done && i < int(types.size()); ++i) {
-            const QString text = row.value(i);
+            // Most cells of a book are blank.
+            if (i >= row.size() || row[i].isEmpty()) {
+                sqlite3_bind_null(insert.get(), i + 1);
+                continue;
+            }
             const ColumnType type = types[size_t(i)];
-            if (!text.isEmpty() && (type == ColumnType::Text || type == ColumnType::Memo)) {
-                bindText(insert.get(), i + 1, text);
+            if (type == ColumnType::Text || type == ColumnType::Memo) {
+                bindText(insert.get(), i + 1, row[i]);
                 continue;
             }
             QVariant stored;
-            done = text.isEmpty() || toStored(text, type, &stored);
+            done = toStored(row[i], type, &stored);
             bindStored(insert.get(), i + 1, stored);
         }
         done = done && sqlite3_step(insert.get()) == SQLITE_DONE;
