@@ -65,7 +65,8 @@ output::Section fullDetail(Layout layout)
 {
     // Dates have a blank in front of them, days of birth have none.
     const QString family = say("Birthday %1").arg(u"{M_BD}"_s) + u'\n'
-        + say("Spouse %1").arg(u"{Spouse}, {Sp_BD}"_s) + u'\n' + say("Anniversary%1").arg(u"{Anniv}"_s);
+        + say("Spouse %1").arg(u"{Spouse}, {Sp_BD}, {SP_Mobile}"_s) + u'\n'
+        + say("Anniversary%1").arg(u"{Anniv}"_s);
     output::Section section;
     section.lines = {
         {{{nameIn(layout), 5, TextRole::Strong}, {u"{Company}"_s, 4},
@@ -76,8 +77,7 @@ output::Section fullDetail(Layout layout)
         {{{.text = addressText(
                u"h_"_s, {say("Mobile %1").arg(u"{Mobile}"_s), u"{H_email1}\n{h_email2}\n{h_web}"_s}),
               .label = say("Home")},
-             {.text = addressText(u"w_"_s, {say("Spouse's mobile %1").arg(u"{SP_Mobile}"_s)}),
-                 .label = say("Work 1")},
+             {.text = addressText(u"w_"_s, {}), .label = say("Work 1")},
              {.text = addressText(
                   u"b_"_s, {say("Fax %1").arg(u"{fax}"_s), u"{b_email1}\n{b_email2}\n{B_Web}"_s}),
                  .label = say("Work 2")}},

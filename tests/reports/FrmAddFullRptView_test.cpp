@@ -1,3 +1,4 @@
+#include "core/report_request.h"
 #include "output/preview/page_view.h"
 #include "reports/FrmAddFullRptView.h"
 #include "support/columns.h"
@@ -196,6 +197,20 @@ private Q_SLOTS:
             support::clickRow(list, row);
             QVERIFY(m_fixture->book.unexpected().isEmpty());
         }
+    }
+
+    // Whoever asks for a report where the program that prints them is missing gets it, and the note is left.
+    void requestsAreServedHere()
+    {
+        m_fixture->execute(u"insert into ov_setup (version) values ('1')"_s);
+        m_fixture->execute(u"update cnt_main set mobile='98' where first='Bob'"_s);
+        QVERIFY(core::requestReport(
+            m_fixture->context, u"Phone List"_s, {u"update ov_setup set rptSubMod='Phone List'"_s}));
+        QVERIFY(page().contains(u"Bob Ray"_s));
+        QCOMPARE(m_fixture->book.rows(u"select rptSubMod from ov_setup"_s), QStringList{u"Phone List"_s});
+        m_screen->showContactReport(u"Asha Oberoi"_s);
+        QVERIFY(page().contains(u"<b>Run</b>"_s) && !page().contains(u"Bob"_s));
+        QVERIFY(m_fixture->shell.startedSiblings.isEmpty());
     }
 
     void listsHaveTheirRows_data()
