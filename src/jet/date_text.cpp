@@ -182,8 +182,11 @@ QDate dayOfIso(QStringView iso)
     const bool hasDashes = iso.size() >= 10 && iso[4] == u'-' && iso[7] == u'-';
     if (!hasDashes && iso.size() < 8)
         return {};
-    return QDate(number(iso.first(4), 4), number(iso.mid(hasDashes ? 5 : 4, 2), 2),
-        number(iso.mid(hasDashes ? 8 : 6, 2), 2));
+    // What is no number has the value -1, which would be a year.
+    const int year = number(iso.first(4), 4);
+    return year < 1
+        ? QDate()
+        : QDate(year, number(iso.mid(hasDashes ? 5 : 4, 2), 2), number(iso.mid(hasDashes ? 8 : 6, 2), 2));
 }
 
 QVariant dateFromIso(QStringView iso)

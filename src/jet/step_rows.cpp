@@ -47,6 +47,11 @@ void appendValue(QByteArray* bytes, sqlite3_value* value)
     }
 }
 
+bool isNull(sqlite3_value* value)
+{
+    return !value || sqlite3_value_type(value) == SQLITE_NULL;
+}
+
 CellValue takeValue(const char** at)
 {
     CellValue value;
@@ -112,6 +117,7 @@ void StepRows::begin(const Row& row)
 {
     if (m_bytes.size() > kMostInMemory && m_isKept)
         m_isKept = moveToFile();
+    m_blanksAt = -1;
     m_rows.push_back(row);
     m_rows.back().at = m_inFile + m_bytes.size();
 }
@@ -120,9 +126,29 @@ void StepRows::add(int column, sqlite3_value* before, sqlite3_value* after)
 {
     if (!m_isKept)
         return;
+    if (isNull(before) && isNull(after))
+        return addBlank(column);
+    m_blanksAt = -1;
     append(&m_bytes, column);
     appendValue(&m_bytes, before);
     appendValue(&m_bytes, after);
+}
+
+// Most columns of a new contact are blank: those beside one another are one entry, the first of them as a
+// negative number and how many there are.
+void StepRows::addBlank(int column)
+{
+    if (m_blanksAt >= 0 && column == m_afterBlanks) {
+        int count = 0;
+        std::memcpy(&count, m_bytes.constData() + m_blanksAt, sizeof count);
+        ++count;
+        std::memcpy(m_bytes.data() + m_blanksAt, &count, sizeof count);
+    } else {
+        append(&m_bytes, ~column);
+        m_blanksAt = m_bytes.size();
+        append(&m_bytes, int(1));
+    }
+    m_afterBlanks = column + 1;
 }
 
 bool StepRows::moveToFile()
@@ -145,6 +171,7 @@ void StepRows::cutAt(size_t row)
 {
     if (row >= m_rows.size())
         return;
+    m_blanksAt = -1;
     const qint64 at = m_rows[row].at;
     m_rows.resize(row, Row{});
     m_bytes.truncate(std::max<qint64>(0, at - m_inFile));
@@ -172,14 +199,22 @@ std::vector<StepRows::Cell> StepRows::cells(size_t row) const
     while (at < bytes.constData() + bytes.size()) {
         Cell cell;
         cell.column = take<int>(&at);
-        cell.before = takeValue(&at);
-        cell.after = takeValue(&at);
-        for (const Side side : {Side::Before, Side::After}) {
-            const auto other = m_replaced[int(side)].find({row, cell.column});
-            if (other != m_replaced[int(side)].end())
-                (side == Side::Before ? cell.before : cell.after) = other->second;
+        int cells = 1;
+        if (cell.column < 0) {
+            cell.column = ~cell.column;
+            cells = take<int>(&at);
+        } else {
+            cell.before = takeValue(&at);
+            cell.after = takeValue(&at);
         }
-        result.push_back(std::move(cell));
+        for (; cells > 0; --cells, cell = Cell{.column = cell.column + 1, .before = {}, .after = {}}) {
+            for (const Side side : {Side::Before, Side::After}) {
+                const auto other = m_replaced[int(side)].find({row, cell.column});
+                if (other != m_replaced[int(side)].end())
+                    (side == Side::Before ? cell.before : cell.after) = other->second;
+            }
+            result.push_back(cell);
+        }
     }
     return result;
 }

@@ -76,6 +76,7 @@ private:
         size_t operator()(const Key& key) const { return size_t(key.id) * 61 + size_t(key.table); }
     };
 
+    void addBlank(int column);
     bool moveToFile();
     QByteArray bytesOf(size_t row) const;
     const std::vector<size_t>& rowsOf(Side side, const Key& key);
@@ -83,6 +84,9 @@ private:
     QString m_fileBeside;
     std::vector<Row> m_rows;
     QByteArray m_bytes; ///< those that are not in the file
+    qsizetype m_blanksAt
+        = -1; ///< in m_bytes, where the number of the blank columns stands that were added last
+    int m_afterBlanks = 0; ///< the column behind them
     qint64 m_inFile = 0;
     bool m_isKept = true;
     std::unique_ptr<QTemporaryFile> m_file;

@@ -115,7 +115,8 @@ void UndoLog::note(int operation, int table, sqlite3_int64 oldId, sqlite3_int64 
     m_current.rows.begin({kind, table, kind == ChangeStep::Kind::Added ? newId : oldId,
         kind == ChangeStep::Kind::Deleted ? oldId : newId});
     bool isChanged = isWhole;
-    for (int column = 0; column < sqlite3_preupdate_count(m_connection); ++column) {
+    const int columns = sqlite3_preupdate_count(m_connection);
+    for (int column = 0; column < columns; ++column) {
         sqlite3_value* before = nullptr;
         sqlite3_value* after = nullptr;
         if (kind != ChangeStep::Kind::Added)
