@@ -54,8 +54,10 @@ QString textOfBytes(const QByteArray& bytes, const QByteArray& charset)
     if (!isNamed && !decode(QStringDecoder(QStringDecoder::Utf8, whole), bytes, &text)
         && !decode(QStringDecoder("windows-1252", whole), bytes, &text))
         text = QString::fromLatin1(bytes);
+    // A mark of byte order is no letter wherever it stands, and goes by itself at the beginning of a text.
     const auto isControl = [](QChar c) {
-        return (c < u' ' || (c >= u'\x7f' && c < u'\xa0')) && c != u'\n' && c != u'\r' && c != u'\t';
+        const bool isLow = c < u' ' || (c >= u'\x7f' && c < u'\xa0');
+        return c == QChar::ByteOrderMark || (isLow && c != u'\n' && c != u'\r' && c != u'\t');
     };
     if (std::any_of(text.cbegin(), text.cend(), isControl))
         text.removeIf(isControl);

@@ -108,6 +108,7 @@ void ForeignCardTest::values_data()
     row("two in one house", "3.0", "ORG:Tea & Co;Sales;North\nTITLE:Chef\nTITLE:Cook\nROLE:Boss",
         u"Company=Tea & Co | Job_Title=Chef | memo1=Department: Sales\nDepartment: North\nJob title: Cook\n"
         "Role: Boss"_s);
+    row("mark of byte order", "3.0", "NOTE:a\xEF\xBB\xBF", u"memo1=a"_s);
     row("birthday of no year", "3.0", "BDAY:1/xx0305T:q", u"memo1=Birthday: 1/xx0305T:q"_s);
     row("birthday without a year", "3.0", "BDAY:--0421", u"memo1=Birthday: --0421"_s);
     row("year that is left out", "3.0", "BDAY;X-APPLE-OMIT-YEAR=1604:1604-04-21",
