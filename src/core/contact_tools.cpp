@@ -198,15 +198,8 @@ void ContactTools::printContact(QStringView form, const QString& name)
 
 void ContactTools::requestReport()
 {
-    core::requestReport(m_context, u"Address Book- Full"_s,
-        {
-            u"update ov_setup set key='report'"_s,
-            u"update ov_setup set key='report'"_s,
-            // Kept: the misspelt word is written and overwritten at once.
-            u"update ov_setup set rptMod='Contacs'"_s,
-            u"update ov_setup set rptMod='Contacts'"_s,
-            u"update ov_setup set rptSubMod='Address Book- Full'"_s,
-        });
+    const QString report = u"Address Book- Full"_s;
+    core::requestReport(m_context, report, reportNote(report));
 }
 
 void ContactTools::saveCards(const QString& ids, const QString& folder)

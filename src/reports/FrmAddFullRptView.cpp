@@ -323,11 +323,8 @@ void FrmAddFullRptView::chooseSource(Source source)
 void FrmAddFullRptView::moreReports()
 {
     if (context().services.shell.siblingExists(u'\\' + core::kLinkAndSync.toString())) {
-        core::requestReport(context(), u"Address Book"_s,
-            {u"update OV_setup set key='report'"_s, u"update OV_setup set key='report'"_s,
-                // Kept: the misspelt word is written and overwritten at once.
-                u"update OV_setup set rptMod='Contacs'"_s, u"update OV_setup set rptMod='Contacts'"_s,
-                u"update OV_setup set rptSubMod='Address Book'"_s});
+        const QString report = u"Address Book"_s;
+        core::requestReport(context(), report, core::reportNote(report));
         return;
     }
     MoreReports->setVisible(true);

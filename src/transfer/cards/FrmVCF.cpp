@@ -5,6 +5,7 @@
 #include "core/save_cards.h"
 #include "core/sound_files.h"
 #include "core/vocabularies.h"
+#include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "transfer/cards/card_list_sql.h"
 #include "transfer/cards/export_cards.h"
@@ -294,7 +295,10 @@ void FrmVCF::saveWhole(const QList<qint64>& ids, int format)
 {
     CardExport target{kFormats[format].version, {}, kFolder.toString()};
     if (kFormats[format].isOneFile) {
-        const auto file = context().services.boxes.saveFile(tr("Export To VCF"), u"VCF (*.vcf)|*.vcf"_s);
+        const platform::Drive& drive = context().services.drive;
+        drive.ensureFolder(kFolder);
+        const auto file = context().services.boxes.saveFile(
+            tr("Export To VCF"), u"VCF (*.vcf)|*.vcf"_s, {drive.local(kFolder), u"Contacts.vcf"_s});
         if (!file)
             return;
         target.file = *file;
