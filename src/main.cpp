@@ -1,3 +1,4 @@
+#include "anniversaries/register_anniversaries.h"
 #include "core/context.h"
 #include "core/screens.h"
 #include "core/setup/register_setup.h"
@@ -27,6 +28,7 @@
 #include "platform/user_folders.h"
 #include "platform/vdir_contacts.h"
 #include "reports/register_reports.h"
+#include "telephone/register_telephone.h"
 #include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/date_box.h"
@@ -141,6 +143,8 @@ int main(int argc, char** argv)
     transfer::registerTransfer(screens);
     views::registerViews(screens);
     reports::registerReports(screens);
+    anniversaries::registerAnniversaries(screens);
+    telephone::registerTelephone(screens);
 
     const shell::StorageNotice storageNotice(context);
     const shell::MailNotice mailNotice(context, post);

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "anniversaries/register_anniversaries.h"
 #include "core/handover/entry_form.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/action_performer.h"
@@ -18,6 +19,7 @@
 #include "support/columns.h"
 #include "support/disk.h"
 #include "support/screen_fixture.h"
+#include "telephone/register_telephone.h"
 #include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/fields.h"
@@ -630,6 +632,8 @@ private Q_SLOTS:
         entry::registerEntry(f.registry);
         output::registerOutput(f.registry);
         reports::registerReports(f.registry);
+        anniversaries::registerAnniversaries(f.registry);
+        telephone::registerTelephone(f.registry);
         transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         f.start();
@@ -766,6 +770,8 @@ private Q_SLOTS:
         FrameFixture f(sample ? TestBook::Rows::Sample : TestBook::Rows::None);
         setup::registerSetup(f.registry);
         entry::registerEntry(f.registry);
+        anniversaries::registerAnniversaries(f.registry);
+        telephone::registerTelephone(f.registry);
         transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         if (sample) // a mail that is due would ask

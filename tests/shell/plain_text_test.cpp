@@ -1,11 +1,13 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "anniversaries/register_anniversaries.h"
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "entry/register_entry.h"
 #include "support/person.h"
 #include "support/screen_fixture.h"
+#include "telephone/register_telephone.h"
 #include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
@@ -43,6 +45,8 @@ private Q_SLOTS:
         addContact(fixture);
         fixture.shared.selectedContactId = 1;
         fixture.shared.selectedContactName = Markup;
+        anniversaries::registerAnniversaries(fixture.screens);
+        telephone::registerTelephone(fixture.screens);
         transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);
@@ -79,6 +83,8 @@ private Q_SLOTS:
         support::ScreenFixture fixture;
         for (const QString& code : codes)
             fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));
+        anniversaries::registerAnniversaries(fixture.screens);
+        telephone::registerTelephone(fixture.screens);
         transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "anniversaries/register_anniversaries.h"
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "core/shell/MDIForm1.h"
@@ -9,6 +10,7 @@
 #include "output/register_output.h"
 #include "reports/register_reports.h"
 #include "support/screen_fixture.h"
+#include "telephone/register_telephone.h"
 #include "transfer/register_transfer.h"
 #include "views/register_views.h"
 #include "widgets/theme.h"
@@ -70,6 +72,8 @@ void RoomTest::everyScreen()
     core::Screens registry;
     core::Context all{f.book.data(), f.book.data(), f.schema, f.shared, registry, window, f.context.services};
     registry.setContext(all);
+    anniversaries::registerAnniversaries(registry);
+    telephone::registerTelephone(registry);
     transfer::registerTransfer(registry);
     views::registerViews(registry);
     entry::registerEntry(registry);

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace core {
+class Screens;
+}
+
+namespace anniversaries {
+
+void registerAnniversaries(core::Screens& screens);
+
+} // namespace anniversaries
