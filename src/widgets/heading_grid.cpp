@@ -172,6 +172,55 @@ void HeadingGrid::foldAll(bool folded)
         setCurrentRow(m_model->headingOf(group));
 }
 
+void HeadingGrid::showOnly(std::optional<std::vector<int>> rows)
+{
+    const int row = m_model->sourceRow(currentRow());
+    const int top = m_model->sourceRow(rowAt(0));
+    m_typed.clear();
+    m_model->showOnly(std::move(rows));
+    restoreLines(row, top);
+    startOutline();
+}
+
+const jet::Recordset& HeadingGrid::recordset() const
+{
+    return m_model->recordset();
+}
+
+int HeadingGrid::sourceRow(int row) const
+{
+    return m_model->sourceRow(row);
+}
+
+int HeadingGrid::rowOfSource(int sourceRow) const
+{
+    return m_model->lineOfSource(sourceRow);
+}
+
+void HeadingGrid::setTickColumn(const QString& name)
+{
+    m_model->setTickColumn(name);
+}
+
+bool HeadingGrid::isTicked(int sourceRow) const
+{
+    return m_model->isTicked(sourceRow);
+}
+
+void HeadingGrid::tickRows(const std::function<bool(int sourceRow)>& ticked)
+{
+    m_model->tickRows(ticked);
+}
+
+void HeadingGrid::toggleTick(int row)
+{
+    const int source = m_model->sourceRow(row);
+    if (source < 0)
+        return;
+    m_model->setTicked(source, !m_model->isTicked(source));
+    Q_EMIT tickChanged(row);
+}
+
 void HeadingGrid::mergeEqual(const QStringList& names)
 {
     m_merged = names;
@@ -255,6 +304,9 @@ void HeadingGrid::mousePressEvent(QMouseEvent* event)
     const int markEnd = 2 * BranchMargin + BranchWidth - horizontalScrollBar()->value();
     if (event->button() == Qt::LeftButton && isHeading(row) && event->position().x() < markEnd)
         setFolded(row, !m_model->isFolded(m_model->groupOf(row)));
+    const int column = columnAt(event->position().toPoint().x());
+    if (event->button() == Qt::LeftButton && m_mayTick && column >= 0 && column == m_model->tickColumn())
+        toggleTick(row);
 }
 
 void HeadingGrid::mouseDoubleClickEvent(QMouseEvent* event)
@@ -368,9 +420,8 @@ void HeadingGrid::keyboardSearch(const QString& typed)
     m_sinceTyped.start();
 
     const int here = m_model->rowAtOrBelow(currentRow());
-    const auto find = [&](const QString& begin, int row) {
-        return m_model->findRow(column, begin, std::max(0, row) % m_model->recordCount());
-    };
+    const auto find
+        = [&](const QString& begin, int row) { return m_model->findRow(column, begin, std::max(0, row)); };
     m_typed += typed;
     // A first letter goes on from the row, a longer text may stay at it. The same letter again walks through
     // the rows that begin with it, where no text begins with it twice.
@@ -394,6 +445,8 @@ void HeadingGrid::keyPressEvent(QKeyEvent* event)
 {
     if (foldKey(event->key()))
         return;
+    if (event->key() == Qt::Key_Space && m_mayTick)
+        return toggleTick(currentRow());
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (currentRow() >= 0)
             Q_EMIT chosen(currentRow());
