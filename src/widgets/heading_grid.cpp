@@ -197,6 +197,16 @@ int HeadingGrid::rowOfSource(int sourceRow) const
     return m_model->lineOfSource(sourceRow);
 }
 
+int HeadingGrid::placeOf(int sourceRow) const
+{
+    return m_model->placeOf(sourceRow);
+}
+
+int HeadingGrid::shownSourceRow(int place) const
+{
+    return m_model->shownRow(place);
+}
+
 void HeadingGrid::setTickColumn(const QString& name)
 {
     m_model->setTickColumn(name);

@@ -67,6 +67,9 @@ public:
     const jet::Recordset& recordset() const;
     int sourceRow(int row) const; ///< of a row of the grid; -1 for a heading
     int rowOfSource(int sourceRow) const; ///< -1 when it is not shown
+    int placeOf(int sourceRow) const; ///< among the rows that are shown, from 0; -1 when it is not
+    int shownSourceRow(int place) const;
+    void setCurrentSourceRow(int sourceRow); ///< unfolds its group
 
     /// A yes/no column that is seen as boxes, as the rows have them until the person or the program ticks.
     void setTickColumn(const QString& name);
@@ -133,7 +136,6 @@ private:
     void fitToContent();
     void applyHiddenColumns();
     int searchColumn() const;
-    void setCurrentSourceRow(int row); ///< unfolds its group
 
     RowsModel* m_model;
     QString m_emptyText;

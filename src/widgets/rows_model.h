@@ -37,6 +37,7 @@ public:
     void showOnly(std::optional<std::vector<int>> rows);
     bool isNarrowed() const { return m_shown.has_value(); }
     int shownRow(int place) const; ///< the row at a place among those shown
+    int placeOf(int row) const; ///< -1 for a row that is not shown
     const jet::Recordset& recordset() const { return m_recordset; }
 
     /// A yes/no column that is seen as boxes to tick; they begin as the rows have them.
@@ -85,7 +86,6 @@ private:
     void pairOff();
     int sourceCount() const;
     int rowsInAll() const;
-    int placeOf(int row) const; ///< -1 for a row that is not shown
     int sourceOf(const QString& name) const;
     void beginOutline();
     QString headingText(int line) const;

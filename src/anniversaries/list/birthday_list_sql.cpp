@@ -21,15 +21,15 @@ QString fullBirthdays(int thisYear)
     QString sql;
     for (const DatedPerson& person : datedPersons()) {
         const bool isFirst = sql.isEmpty();
-        const QString arm
-            = isFirst ? u"select month(%1) as linkidid,day(%1) as sunsign,id,name as contact,%2 ,%1,%1,%3 - "
-                        "year(%1) as gen_id ,category1,category2,priority,first,h_city,%4 as [Copy To "
-                        "Scheduler] from cnt_main where %2 is not null  and len(%2) <> 0 and %1 is not null  "
-                        "and len(%1) <> 0 "_s
-                      : u"union (select month(%1) as linkidid,day(%1) as sunsign,id,name as contact,%2,%1 "
-                        ",%1,%3 - year(%1) as gen_id ,category1,category2,priority,first,h_city,%4 as [Copy "
-                        "To Scheduler] from cnt_main where %2 is not null and len(%2) <> 0  and %1 is not "
-                        "null  and len(%1) <> 0 ) "_s;
+        const QString arm = isFirst
+            ? u"select month(%1) as linkidid,day(%1) as sunsign,id,name as contact,%2 ,%1,%1,%3 - "
+              "year(%1) as gen_id ,category1,category2,priority,first,h_city,%4 as [Copy To "
+              "Scheduler] from cnt_main where %2 is not null  and len(%2) <> 0 and %1 is not null  "
+              "and len(%1) <> 0 "_s
+            : u"union (select month(%1) as linkidid,day(%1) as sunsign,id,name as contact,%2,%1 "
+              ",%1,%3 - year(%1) as gen_id ,category1,category2,priority,first,h_city,%4 as [Copy "
+              "To Scheduler] from cnt_main where %2 is not null and len(%2) <> 0  and %1 is not "
+              "null  and len(%1) <> 0 ) "_s;
         sql += arm.arg(person.date, person.name, QString::number(thisYear), shownTick(person));
     }
     return sql;
@@ -37,7 +37,8 @@ QString fullBirthdays(int thisYear)
 
 QString fullAnniversaries(int thisYear)
 {
-    return u"select  month(Anniv) as linkidid,name,spouse ,id,priority ,Anniv,category1,category2,h_city,%1 - "
+    return u"select  month(Anniv) as linkidid,name,spouse ,id,priority ,Anniv,category1,category2,h_city,%1 "
+           u"- "
            "year(Anniv) as gen_id, cpsanni as [Copy To Scheduler] from cnt_main where anniv is not null and "
            "len(anniv) <>0"_s.arg(thisYear);
 }
@@ -122,15 +123,16 @@ QString fullListSql(Occasion occasion, Regrouping regrouping, int thisYear)
 {
     const GroupRow& group = groupRow(regrouping);
     if (occasion == Occasion::Birthday)
-        return fullBirthdays(thisYear) + group.order;
+        return fullBirthdays(thisYear) + group.order.toString();
     return fullAnniversaries(thisYear)
-        + (group.anniversaryOrder.isEmpty() ? group.order : group.anniversaryOrder);
+        + (group.anniversaryOrder.isEmpty() ? group.order : group.anniversaryOrder).toString();
 }
 
 QString shortListSql(Occasion occasion)
 {
     if (occasion == Occasion::Anniversary)
-        return u"select name, spouse ,id,priority ,Anniv from cnt_main where anniv is not null and len(anniv) "
+        return u"select name, spouse ,id,priority ,Anniv from cnt_main where anniv is not null and "
+               u"len(anniv) "
                "<> 0  order by month(anniv),day(anniv)"_s;
     QString sql;
     for (const DatedPerson& person : datedPersons()) {

@@ -3,6 +3,7 @@
 #include "anniversaries/list/list_filter.h"
 #include "anniversaries/wishes/send_wish.h"
 #include "core/frame.h"
+#include "core/screen.h"
 #include "core/sound_files.h"
 #include "jet/date_text.h"
 #include "platform/clock.h"
@@ -22,9 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace anniversaries {
 
-TimedWishPanel::TimedWishPanel(core::Context& context, QWidget* parent)
-    : QFrame(parent)
+TimedWishPanel::TimedWishPanel(core::Context& context, core::Screen* screen)
+    : QFrame(screen)
     , m_context(context)
+    , m_screen(screen)
 {
     setObjectName(u"famTimedEmails"_s);
     widgets::FormKit form(this);
@@ -41,10 +43,10 @@ TimedWishPanel::TimedWishPanel(core::Context& context, QWidget* parent)
     dtpSendDate->setFormat(u"dd-MMM-yyyy"_s);
     chkAsk = widgets::child<QCheckBox>(this, u"chkAsk"_s);
     lblTimed = widgets::child<QLabel>(this, u"lblTimed"_s);
-    connect(widgets::child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this,
-        &TimedWishPanel::keep);
+    connect(
+        widgets::child<QPushButton>(this, u"CmdSave"_s), &QPushButton::clicked, this, &TimedWishPanel::keep);
     connect(widgets::child<QPushButton>(this, u"CmdHideTimed"_s), &QPushButton::clicked, this,
-        &TimedWishPanel::close);
+        &TimedWishPanel::leave);
     connect(dtpSendDate, &widgets::DateBox::dateChanged, this, &TimedWishPanel::showDay);
     hide();
 }
@@ -69,7 +71,8 @@ bool TimedWishPanel::isTouched() const
 
 void TimedWishPanel::keyPressEvent(QKeyEvent* event)
 {
-    if (!widgets::answerDialogKey(event, this, [this] { keep(); }, [this] { close(); }))
+    if (!widgets::answerDialogKey(
+            event, this, [this] { keep(); }, [this] { leave(); }))
         QFrame::keyPressEvent(event);
 }
 
@@ -85,16 +88,16 @@ void TimedWishPanel::keep()
     if (!dtpSendDate->date())
         return dtpSendDate->askToMend();
     const QDate day = *dtpSendDate->date();
-    if (!timeWish(m_context, m_wish, day, chkAsk->isChecked()))
+    if (!timeWish(m_context, m_wish, day, chkAsk->isChecked(), m_screen))
         return;
     m_context.services.sounds.play(core::sounds::Save);
     m_context.frame.showNotice(tr("The wishes for %1 are kept for %2")
                                    .arg(m_wish.person, jet::formatDate(day, dtpSendDate->format())),
         {}, {});
-    close();
+    leave();
 }
 
-void TimedWishPanel::close()
+void TimedWishPanel::leave()
 {
     hide();
     Q_EMIT closed();

@@ -8,6 +8,10 @@
 class QCheckBox;
 class QLabel;
 
+namespace core {
+class Screen;
+}
+
 namespace widgets {
 class DateBox;
 }
@@ -19,7 +23,7 @@ class TimedWishPanel : public QFrame {
     Q_OBJECT
 
 public:
-    explicit TimedWishPanel(core::Context& context, QWidget* parent = nullptr);
+    TimedWishPanel(core::Context& context, core::Screen* screen);
 
     /// Opens with the day of the wish in this year.
     void ask(const Wish& wish);
@@ -34,10 +38,11 @@ protected:
 
 private:
     void keep();
-    void close();
+    void leave();
     void showDay();
 
     core::Context& m_context;
+    core::Screen* m_screen;
     Wish m_wish;
     QDate m_offered;
     widgets::DateBox* dtpSendDate = nullptr;

@@ -62,8 +62,7 @@ bool sendWish(core::Context& context, const Wish& wish, WishWay way)
     const QString address = contact.hasRow() ? addressOf(context, contact) : QString();
     if (address.isEmpty())
         return false;
-    const QString user
-        = context.data.openRecordset(u"select name from cnt_user"_s).textOrEmpty(u"name");
+    const QString user = context.data.openRecordset(u"select name from cnt_user"_s).textOrEmpty(u"name");
     const platform::MailResult result = handOn(context.services.mail,
         {.To = address,
             .Subject = wishSubject(wish.occasion),
@@ -79,7 +78,7 @@ bool sendWish(core::Context& context, const Wish& wish, WishWay way)
     return true;
 }
 
-bool timeWish(core::Context& context, const Wish& wish, QDate day, bool asks)
+bool timeWish(core::Context& context, const Wish& wish, QDate day, bool asks, core::Screen* by)
 {
     const jet::Recordset contact = contactOf(context, wish);
     const QString address = contact.hasRow() ? addressOf(context, contact) : QString();
@@ -103,7 +102,7 @@ bool timeWish(core::Context& context, const Wish& wish, QDate day, bool asks)
         core::tellFailedSave(context);
         return false;
     }
-    context.screens.tellBookChanged();
+    context.screens.tellBookChanged(by);
     return true;
 }
 

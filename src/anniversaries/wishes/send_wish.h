@@ -3,6 +3,10 @@
 #include "anniversaries/wishes/wish_text.h"
 #include "core/context.h"
 
+namespace core {
+class Screen;
+}
+
 namespace anniversaries {
 
 enum class WishWay {
@@ -17,7 +21,8 @@ bool sendWish(core::Context& context, const Wish& wish, WishWay way);
 
 /// Keeps the wish for a day, when the program offers to send what is due.
 /// @param asks whether it may be offered at the start of the program
+/// @param by the screen that shows the panel
 /// @return whether it was kept; what went wrong has been told
-bool timeWish(core::Context& context, const Wish& wish, QDate day, bool asks);
+bool timeWish(core::Context& context, const Wish& wish, QDate day, bool asks, core::Screen* by);
 
 } // namespace anniversaries
