@@ -1,5 +1,6 @@
 #include "widgets/heading_grid.h"
 
+#include "widgets/column_widths.h"
 #include "widgets/line_delegate.h"
 #include "widgets/rows_model.h"
 #include "widgets/theme.h"
@@ -76,7 +77,7 @@ HeadingGrid::HeadingGrid(QWidget* parent)
                 Q_EMIT currentRowChanged(current.row());
         });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        if (QApplication::mouseButtons().testFlag(Qt::LeftButton))
+        if (!m_isFitting && QApplication::mouseButtons().testFlag(Qt::LeftButton))
             m_mayFit = false;
     });
     followFontSize();
@@ -488,6 +489,7 @@ void HeadingGrid::changeEvent(QEvent* event)
 void HeadingGrid::applyWidths()
 {
     m_hasFitted = false;
+    m_wantedWidths.clear();
     m_isFitDue = true;
     const QFontMetrics metrics(font());
     verticalHeader()->setDefaultSectionSize(metrics.height() + RowPadding);
@@ -539,9 +541,40 @@ void HeadingGrid::fitToContent()
         // A column that stands alone ends where the grid does, rather than that the grid scrolls sideways.
         const int most = isAlone ? std::min(widest, viewport()->width() - CellPadding) : widest;
         const int wanted = std::max(written, std::min(content, most) + CellPadding);
-        setColumnWidth(column, m_hasFitted ? std::max(wanted, columnWidth(column)) : wanted);
+        const int before = m_columnsGiveWay ? m_wantedWidths.value(column) : columnWidth(column);
+        setColumnWidth(column, m_hasFitted ? std::max(wanted, before) : wanted);
     }
     m_hasFitted = true;
+    m_wantedWidths.clear();
+    for (int column = 0; column < headings.size(); ++column)
+        m_wantedWidths << columnWidth(column);
+    fitToPlace();
+}
+
+void HeadingGrid::fitToPlace()
+{
+    if (!m_columnsGiveWay || !m_mayFit || m_wantedWidths.size() != m_model->columnCount())
+        return;
+    QList<int> columns;
+    QList<ColumnWish> wishes;
+    for (int column = 0; column < m_wantedWidths.size(); ++column) {
+        if (isColumnHidden(column))
+            continue;
+        columns << column;
+        const int wanted = m_wantedWidths[column];
+        wishes << ColumnWish{wanted, std::min(wanted, horizontalHeader()->sectionSizeHint(column))};
+    }
+    const QList<int> widths = widthsWithin(viewport()->width(), wishes);
+    m_isFitting = true;
+    for (int i = 0; i < columns.size(); ++i)
+        setColumnWidth(columns[i], widths[i]);
+    m_isFitting = false;
+}
+
+void HeadingGrid::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fitToPlace();
 }
 
 void HeadingGrid::applyHiddenColumns()

@@ -90,6 +90,9 @@ public:
     /// texts to its left are the same too.
     void mergeEqual(const QStringList& names);
     void setFontSize(int points);
+    /// In a place that is too narrow for all columns the widest give way, down to their headings, before the
+    /// grid scrolls sideways. What is cut off can be read at the mouse.
+    void letColumnsGiveWay() { m_columnsGiveWay = true; }
     void setEmptyText(const QString& text);
 
     int rowCount() const;
@@ -120,6 +123,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     class LineDelegate;
@@ -134,6 +138,7 @@ private:
     void followFontSize();
     void applyWidths();
     void fitToContent();
+    void fitToPlace();
     void applyHiddenColumns();
     int searchColumn() const;
 
@@ -144,6 +149,9 @@ private:
     QElapsedTimer m_sinceTyped;
     QStringList m_merged;
     QBasicTimer m_outlineTimer;
+    bool m_columnsGiveWay = false;
+    bool m_isFitting = false;
+    QList<int> m_wantedWidths; ///< of all columns, where there is room
     bool m_mayTick = false;
     bool m_mayFit = true; ///< until the person has made a column wider or narrower
     bool m_hasFitted = false; ///< since the headings are these: columns only grow then

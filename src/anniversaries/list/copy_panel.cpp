@@ -41,8 +41,9 @@ CopyPanel::CopyPanel(core::Context& context, DayList* list, core::Screen* screen
     form.group()
         .caption(u"lblchange"_s)
         .combo(u"Combo1"_s, tr("How many &times"))
-        .hint(tr("For how many years, beginning with this one: 1 to 9"))
-        .least(u"9999")
+        .hint(tr("1 to 9"))
+        .beside(3)
+        .caption(u"lblYears"_s, tr("years, beginning with this one"))
         .radio(u"Option2"_s, tr("Add All"))
         .radio(u"Option3"_s, tr("Add Only Priority 1 && 2"))
         .radio(u"Option4"_s, tr("Manually Select Contacts"))
@@ -54,6 +55,7 @@ CopyPanel::CopyPanel(core::Context& context, DayList* list, core::Screen* screen
         .stretch();
     lblchange = child<QLabel>(this, u"lblchange"_s);
     Combo1 = child<widgets::FilledCombo>(this, u"Combo1"_s);
+    Combo1->setMaximumWidth(Combo1->fontMetrics().averageCharWidth() * 16);
     QStringList times;
     for (int each = 1; each <= 9; ++each)
         times << QString::number(each);

@@ -3,8 +3,8 @@
 #include "anniversaries/list/day_sign.h"
 #include "jet/date_text.h"
 #include "widgets/fields.h"
-#include "widgets/form_kit.h"
 
+#include <QGridLayout>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -14,21 +14,35 @@ namespace anniversaries {
 DayDetail::DayDetail(QWidget* parent)
     : QFrame(parent)
 {
-    widgets::FormKit form(this);
-    form.group()
-        .caption(u"lblname"_s)
-        .caption(u"LblDate"_s)
-        .caption(u"LblBday"_s, {}, tr("Date"))
-        .caption(u"LblPerson"_s, {}, tr("Person"))
-        .caption(u"lblAge"_s, {}, tr("Age"))
-        .caption(u"lblZodiac"_s, {}, tr("Sign"))
-        .caption(u"lblcity"_s, {}, tr("City"))
-        .caption(u"lblCateg"_s, {}, tr("Category"));
-    for (const widgets::Control& control : form.controls()) {
-        auto* value = qobject_cast<QLabel*>(control.widget);
-        value->setWordWrap(true);
-        m_values << value;
-    }
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 4, 0, 4);
+    layout->setHorizontalSpacing(8);
+    layout->setVerticalSpacing(3);
+    layout->setColumnStretch(1, 1);
+    const auto value = [this](const QString& name) {
+        auto* label = new QLabel;
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setWordWrap(true);
+        m_values << label;
+        return label;
+    };
+    int row = 0;
+    for (const QString& name : {u"lblname"_s, u"LblDate"_s})
+        layout->addWidget(value(name), row++, 0, 1, 2);
+    const auto field = [&](const QString& name, const QString& title) {
+        auto* label = new QLabel(title);
+        label->setForegroundRole(QPalette::PlaceholderText);
+        layout->addWidget(label, row, 0, Qt::AlignTop);
+        layout->addWidget(value(name), row++, 1);
+    };
+    field(u"LblBday"_s, tr("Date"));
+    field(u"LblPerson"_s, tr("Person"));
+    field(u"lblAge"_s, tr("Age"));
+    field(u"lblZodiac"_s, tr("Sign"));
+    field(u"lblcity"_s, tr("City"));
+    field(u"lblCateg"_s, tr("Category"));
     QFont bold = m_values.constFirst()->font();
     bold.setBold(true);
     m_values.constFirst()->setFont(bold);

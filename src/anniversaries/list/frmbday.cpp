@@ -158,6 +158,7 @@ frmbday::frmbday(core::Context& context, QWidget* parent)
     splitter->addWidget(layOutSide());
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
+    splitter->setSizes({3000, 1});
     auto* below = new QVBoxLayout;
     below->setContentsMargins(8, 4, 8, 8);
     below->setSpacing(6);
@@ -192,6 +193,7 @@ QWidget* frmbday::layOutList()
     FGBday->setObjectName(u"FGBday"_s);
     FGBday->setAccessibleName(tr("Birthdays or anniversaries"));
     FGBday->setContextMenuPolicy(Qt::CustomContextMenu);
+    FGBday->letColumnsGiveWay();
 
     auto* heads = new QHBoxLayout;
     heads->addWidget(SSActiveTabs1);
@@ -282,7 +284,9 @@ QWidget* frmbday::layOutSide()
     side->setWidgetResizable(true);
     side->setFrameShape(QFrame::NoFrame);
     side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    side->setMinimumWidth(page->minimumSizeHint().width() + 24);
+    constexpr int kWidth = 202; // of a month, whose days can still be hit
+    side->setMinimumWidth(kWidth);
+    side->setMaximumWidth(2 * kWidth);
     return side;
 }
 
@@ -303,7 +307,7 @@ QWidget* frmbday::layOutFoot()
         = button(u"SSCommand8"_s, tr("Su&mmary"), u"zodiac", tr("How many birthdays a sign and a month has"));
     summary->setEnabled(context().screens.has(kSummary));
     connect(summary, &QPushButton::clicked, this, [this] { context().screens.show(kSummary); });
-    auto* counts = new QLabel(tr("Birthdays by sign and month:"));
+    auto* counts = new QLabel(tr("By sign and month"));
     counts->setObjectName(u"Label18"_s);
     auto* help = button(u"CmdHelp"_s, tr("&Help"), u"help", {});
     connect(help, &QPushButton::clicked, this, [this, help] { showHelp(u"CON0032"_s, help); });

@@ -41,6 +41,7 @@ TimedWishPanel::TimedWishPanel(core::Context& context, core::Screen* screen)
         .button(u"CmdHideTimed"_s, tr("Cancel"), u"cancel", tr("Send nothing (Esc)"));
     dtpSendDate = widgets::child<widgets::DateBox>(this, u"dtpSendDate"_s);
     dtpSendDate->setFormat(u"dd-MMM-yyyy"_s);
+    dtpSendDate->setMaximumWidth(dtpSendDate->fontMetrics().averageCharWidth() * 24);
     chkAsk = widgets::child<QCheckBox>(this, u"chkAsk"_s);
     lblTimed = widgets::child<QLabel>(this, u"lblTimed"_s);
     connect(
