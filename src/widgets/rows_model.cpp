@@ -176,6 +176,10 @@ qint64 RowsModel::sourceKey(int row) const
 
 int RowsModel::lineOf(qint64 key) const
 {
+    if (!m_fromList && m_keySource >= 0 && (!m_keyColumn.isEmpty() || m_recordset.keyAt(0) == 0)) {
+        const int row = m_recordset.rowOf(m_keySource, key);
+        return row < 0 ? -1 : lineOfSource(row);
+    }
     for (int row = 0; row < recordCount(); ++row) {
         if (sourceKey(row) == key)
             return lineOfSource(row);
