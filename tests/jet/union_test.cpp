@@ -152,7 +152,8 @@ private Q_SLOTS:
         QVERIFY(data().execute(u"delete * from cnt_main"_s));
         QCOMPARE(rows.count(), count);
         QCOMPARE(rows.textAt(count - 1, 2), QString());
-        QCOMPARE(data().openRecordset(sql).count(), 0);
+        QVERIFY(data().execute(u"insert into cnt_main (id,mobile) values (9000,'98')"_s));
+        QCOMPARE(data().openRecordset(sql).count(), 1);
     }
 
 private:
