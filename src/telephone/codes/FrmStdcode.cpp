@@ -151,7 +151,8 @@ void FrmStdcode::search()
     jet::Recordset rows = context().info.openRecordset(codeSearchSql(m_searchBy, text, national));
     if (!rows.isValid())
         return;
-    FGCity->fill(codeListHeadings(CodeList::All), std::move(rows), {QString(), u"city"_s, codeColumn(national)});
+    FGCity->fill(
+        codeListHeadings(CodeList::All), std::move(rows), {QString(), u"city"_s, codeColumn(national)});
     showFound();
 }
 
@@ -161,7 +162,8 @@ void FrmStdcode::showFound()
     const int count = FGCity->rowCount();
     m_count->setText(count == 1 ? tr("1 city") : tr("%1 cities").arg(count));
     setPosition(row < 0 ? QString() : u"%1 of %2"_s.arg(row + 1).arg(count));
-    enableDialling(context(), SSCommand1, row >= 0 && !codeOf(row).isEmpty(), tr("Choose a city with a code"));
+    enableDialling(
+        context(), SSCommand1, row >= 0 && !codeOf(row).isEmpty(), tr("Choose a city with a code"));
 }
 
 void FrmStdcode::takeRow(int row)

@@ -46,7 +46,8 @@ QStringView codeListHeadings(CodeList list)
     case CodeList::Country:
         return u"|Country                 |City                           |Phone Codes                  ";
     case CodeList::India:
-        return u"|State                           |City                           |Phone Codes                "
+        return u"|State                           |City                           |Phone Codes               "
+               u" "
                u"  ";
     case CodeList::UnitedStates:
         return u"|State               |City                           |Phone Codes                  ";
