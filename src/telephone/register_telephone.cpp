@@ -8,6 +8,8 @@
 #include "telephone/codes/FrmStdcode.h"
 #include "telephone/lists/FrmPhList.h"
 #include "telephone/lists/FrmTelTxt.h"
+#include "telephone/replacer/FrmPhReplacer.h"
+#include "telephone/search/FrmPhSearch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +24,8 @@ void registerTelephone(core::Screens& screens)
     screens.add<FrmColony>(u"FrmColony"_s);
     screens.add<FrmPhList>(u"FrmPhList"_s);
     screens.add<FrmTelTxt>(u"FrmTelTxt"_s);
+    screens.add<FrmPhSearch>(u"FrmPhSearch"_s);
+    screens.add<FrmPhReplacer>(u"FrmPhReplacer"_s);
 }
 
 } // namespace telephone
