@@ -22,7 +22,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabBar>
@@ -158,9 +157,9 @@ frmbday::frmbday(core::Context& context, QWidget* parent)
     splitter->addWidget(layOutSide());
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
-    splitter->setSizes({3000, 1});
+    splitter->setSizes({10'000, 1}); // the list has all the room that the side does not need
     auto* below = new QVBoxLayout;
-    below->setContentsMargins(8, 4, 8, 8);
+    below->setContentsMargins(6, 4, 6, 6);
     below->setSpacing(6);
     below->addWidget(splitter, 1);
     below->addWidget(layOutFoot());
@@ -210,6 +209,7 @@ QWidget* frmbday::layOutList()
     layout->addWidget(layOutFilters());
     layout->addWidget(ssTabMerge);
     layout->addWidget(FGBday, 1);
+    layout->addWidget(m_month->legend());
     layout->addWidget(Frame7);
     layout->addWidget(famTimedEmails);
     return list;
@@ -270,7 +270,7 @@ QWidget* frmbday::layOutSide()
 {
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(6, 0, 0, 0);
+    layout->setContentsMargins(3, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(m_month);
     layout->addWidget(m_detail);
@@ -279,15 +279,7 @@ QWidget* frmbday::layOutSide()
     layout->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
     layout->addWidget(toolButton(u"cmdSend"_s, tr("Send to Out&box today"), u"sendtoday"));
     layout->addWidget(toolButton(u"cmdLeter"_s, tr("&Confirm before sending"), u"Confirm"));
-    auto* side = new QScrollArea;
-    side->setWidget(page);
-    side->setWidgetResizable(true);
-    side->setFrameShape(QFrame::NoFrame);
-    side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    constexpr int kWidth = 202; // of a month, whose days can still be hit
-    side->setMinimumWidth(kWidth);
-    side->setMaximumWidth(2 * kWidth);
-    return side;
+    return page;
 }
 
 QWidget* frmbday::layOutFoot()
