@@ -74,7 +74,8 @@ constexpr core::Tool kTools[] = {
         .places = Labelled},
 };
 
-constexpr int kDialWidth = 278;
+constexpr int kDialWidth = 270;
+constexpr int kComboWidth = 96;
 constexpr int kMostDigits = 100;
 
 QLabel* plainLabel(const QString& name, QWidget* parent)
@@ -104,6 +105,7 @@ widgets::FilledCombo* combo(const QString& name, const QString& what,
     made->setAccessibleName(what);
     made->setToolTip(what);
     made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    made->setMinimumWidth(kComboWidth);
     return made;
 }
 
