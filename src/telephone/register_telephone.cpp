@@ -10,6 +10,7 @@
 #include "telephone/lists/FrmTelTxt.h"
 #include "telephone/replacer/FrmPhReplacer.h"
 #include "telephone/search/FrmPhSearch.h"
+#include "telephone/dialer/FrmDialer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,7 @@ void registerTelephone(core::Screens& screens)
     screens.add<FrmTelTxt>(u"FrmTelTxt"_s);
     screens.add<FrmPhSearch>(u"FrmPhSearch"_s);
     screens.add<FrmPhReplacer>(u"FrmPhReplacer"_s);
+    screens.add<FrmDialer>(u"FrmDialer"_s);
 }
 
 } // namespace telephone
