@@ -59,7 +59,8 @@ int GridContents::lines() const
 
 int GridContents::rowOf(int line) const
 {
-    return m_outline.isActive() ? m_outline.at(line).row.value_or(-1) : line;
+    const int place = m_outline.isActive() ? m_outline.at(line).row.value_or(-1) : line;
+    return m_grid ? m_grid->m_model->shownRow(place) : place;
 }
 
 bool GridContents::isHeading(int line) const

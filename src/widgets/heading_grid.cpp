@@ -1,5 +1,6 @@
 #include "widgets/heading_grid.h"
 
+#include "widgets/column_widths.h"
 #include "widgets/line_delegate.h"
 #include "widgets/rows_model.h"
 #include "widgets/theme.h"
@@ -76,7 +77,7 @@ HeadingGrid::HeadingGrid(QWidget* parent)
                 Q_EMIT currentRowChanged(current.row());
         });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        if (QApplication::mouseButtons().testFlag(Qt::LeftButton))
+        if (!m_isFitting && QApplication::mouseButtons().testFlag(Qt::LeftButton))
             m_mayFit = false;
     });
     followFontSize();
@@ -172,6 +173,65 @@ void HeadingGrid::foldAll(bool folded)
         setCurrentRow(m_model->headingOf(group));
 }
 
+void HeadingGrid::showOnly(std::optional<std::vector<int>> rows)
+{
+    const int row = m_model->sourceRow(currentRow());
+    const int top = m_model->sourceRow(rowAt(0));
+    m_typed.clear();
+    m_model->showOnly(std::move(rows));
+    restoreLines(row, top);
+    startOutline();
+}
+
+const jet::Recordset& HeadingGrid::recordset() const
+{
+    return m_model->recordset();
+}
+
+int HeadingGrid::sourceRow(int row) const
+{
+    return m_model->sourceRow(row);
+}
+
+int HeadingGrid::rowOfSource(int sourceRow) const
+{
+    return m_model->lineOfSource(sourceRow);
+}
+
+int HeadingGrid::placeOf(int sourceRow) const
+{
+    return m_model->placeOf(sourceRow);
+}
+
+int HeadingGrid::shownSourceRow(int place) const
+{
+    return m_model->shownRow(place);
+}
+
+void HeadingGrid::setTickColumn(const QString& name)
+{
+    m_model->setTickColumn(name);
+}
+
+bool HeadingGrid::isTicked(int sourceRow) const
+{
+    return m_model->isTicked(sourceRow);
+}
+
+void HeadingGrid::tickRows(const std::function<bool(int sourceRow)>& ticked)
+{
+    m_model->tickRows(ticked);
+}
+
+void HeadingGrid::toggleTick(int row)
+{
+    const int source = m_model->sourceRow(row);
+    if (source < 0)
+        return;
+    m_model->setTicked(source, !m_model->isTicked(source));
+    Q_EMIT tickChanged(row);
+}
+
 void HeadingGrid::mergeEqual(const QStringList& names)
 {
     m_merged = names;
@@ -255,6 +315,9 @@ void HeadingGrid::mousePressEvent(QMouseEvent* event)
     const int markEnd = 2 * BranchMargin + BranchWidth - horizontalScrollBar()->value();
     if (event->button() == Qt::LeftButton && isHeading(row) && event->position().x() < markEnd)
         setFolded(row, !m_model->isFolded(m_model->groupOf(row)));
+    const int column = columnAt(event->position().toPoint().x());
+    if (event->button() == Qt::LeftButton && m_mayTick && column >= 0 && column == m_model->tickColumn())
+        toggleTick(row);
 }
 
 void HeadingGrid::mouseDoubleClickEvent(QMouseEvent* event)
@@ -368,9 +431,8 @@ void HeadingGrid::keyboardSearch(const QString& typed)
     m_sinceTyped.start();
 
     const int here = m_model->rowAtOrBelow(currentRow());
-    const auto find = [&](const QString& begin, int row) {
-        return m_model->findRow(column, begin, std::max(0, row) % m_model->recordCount());
-    };
+    const auto find
+        = [&](const QString& begin, int row) { return m_model->findRow(column, begin, std::max(0, row)); };
     m_typed += typed;
     // A first letter goes on from the row, a longer text may stay at it. The same letter again walks through
     // the rows that begin with it, where no text begins with it twice.
@@ -394,6 +456,8 @@ void HeadingGrid::keyPressEvent(QKeyEvent* event)
 {
     if (foldKey(event->key()))
         return;
+    if (event->key() == Qt::Key_Space && m_mayTick)
+        return toggleTick(currentRow());
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (currentRow() >= 0)
             Q_EMIT chosen(currentRow());
@@ -425,6 +489,7 @@ void HeadingGrid::changeEvent(QEvent* event)
 void HeadingGrid::applyWidths()
 {
     m_hasFitted = false;
+    m_wantedWidths.clear();
     m_isFitDue = true;
     const QFontMetrics metrics(font());
     verticalHeader()->setDefaultSectionSize(metrics.height() + RowPadding);
@@ -476,9 +541,40 @@ void HeadingGrid::fitToContent()
         // A column that stands alone ends where the grid does, rather than that the grid scrolls sideways.
         const int most = isAlone ? std::min(widest, viewport()->width() - CellPadding) : widest;
         const int wanted = std::max(written, std::min(content, most) + CellPadding);
-        setColumnWidth(column, m_hasFitted ? std::max(wanted, columnWidth(column)) : wanted);
+        const int before = m_columnsGiveWay ? m_wantedWidths.value(column) : columnWidth(column);
+        setColumnWidth(column, m_hasFitted ? std::max(wanted, before) : wanted);
     }
     m_hasFitted = true;
+    m_wantedWidths.clear();
+    for (int column = 0; column < headings.size(); ++column)
+        m_wantedWidths << columnWidth(column);
+    fitToPlace();
+}
+
+void HeadingGrid::fitToPlace()
+{
+    if (!m_columnsGiveWay || !m_mayFit || m_wantedWidths.size() != m_model->columnCount())
+        return;
+    QList<int> columns;
+    QList<ColumnWish> wishes;
+    for (int column = 0; column < m_wantedWidths.size(); ++column) {
+        if (isColumnHidden(column))
+            continue;
+        columns << column;
+        const int wanted = m_wantedWidths[column];
+        wishes << ColumnWish{wanted, std::min(wanted, horizontalHeader()->sectionSizeHint(column))};
+    }
+    const QList<int> widths = widthsWithin(viewport()->width(), wishes);
+    m_isFitting = true;
+    for (int i = 0; i < columns.size(); ++i)
+        setColumnWidth(columns[i], widths[i]);
+    m_isFitting = false;
+}
+
+void HeadingGrid::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fitToPlace();
 }
 
 void HeadingGrid::applyHiddenColumns()

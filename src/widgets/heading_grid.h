@@ -9,6 +9,8 @@
 #include <QTableView>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace widgets {
 
@@ -42,7 +44,8 @@ class HeadingGrid : public QTableView {
 public:
     explicit HeadingGrid(QWidget* parent = nullptr);
 
-    /// `columns` names the column under each heading, "" for none.
+    /// `columns` names the column under each heading, "" for none. Of two columns with one name the second is
+    /// "name:2", here and below.
     void setHeadings(QStringView headings, const QStringList& columns = {});
     void fill(jet::Recordset rows);
     void fill(QStringView headings, jet::Recordset rows, const QStringList& columns = {});
@@ -57,6 +60,24 @@ public:
     void setKeyColumn(const QString& name);
     /// Shows a column's values in another way: dates, ticks. No wording shows them as they are again.
     void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
+    /// Shows only those rows of the recordset, which rise, until the next fill; no value shows all. The
+    /// current row stays while it is shown, and nobody hears of it. Takes one pass, however many there are.
+    void showOnly(std::optional<std::vector<int>> rows);
+    /// What the grid was filled with last, to be read row by row without moving: its rows are source rows.
+    const jet::Recordset& recordset() const;
+    int sourceRow(int row) const; ///< of a row of the grid; -1 for a heading
+    int rowOfSource(int sourceRow) const; ///< -1 when it is not shown
+    int placeOf(int sourceRow) const; ///< among the rows that are shown, from 0; -1 when it is not
+    int shownSourceRow(int place) const;
+    void setCurrentSourceRow(int sourceRow); ///< unfolds its group
+
+    /// A yes/no column that is seen as boxes, as the rows have them until the person or the program ticks.
+    void setTickColumn(const QString& name);
+    /// Whether a click into a box, or Space, changes its tick.
+    void setMayTick(bool may) { m_mayTick = may; }
+    bool isTicked(int sourceRow) const;
+    void tickRows(const std::function<bool(int sourceRow)>& ticked);
+
     /// Rows of equal texts stand under a heading line that folds; "" ends it. The rows must be sorted by the
     /// column. After a fill the groups are found in steps, so that the window stays alive; until then one
     /// heading reads "!!!!!". With headings, a row of the functions below is a line of the grid, and a
@@ -69,6 +90,9 @@ public:
     /// texts to its left are the same too.
     void mergeEqual(const QStringList& names);
     void setFontSize(int points);
+    /// In a place that is too narrow for all columns the widest give way, down to their headings, before the
+    /// grid scrolls sideways. What is cut off can be read at the mouse.
+    void letColumnsGiveWay() { m_columnsGiveWay = true; }
     void setEmptyText(const QString& text);
 
     int rowCount() const;
@@ -89,6 +113,7 @@ Q_SIGNALS:
     void chosen(int row);
     void currentRowChanged(int row);
     void outlineProgress(int percent);
+    void tickChanged(int row); ///< by the person
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -98,6 +123,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     class LineDelegate;
@@ -106,14 +132,15 @@ private:
     void startOutline();
     void restoreLines(int row, int top);
     bool foldKey(int key);
+    void toggleTick(int row);
     void setFolded(int row, bool folded);
     friend void setGridFontSize(int size);
     void followFontSize();
     void applyWidths();
     void fitToContent();
+    void fitToPlace();
     void applyHiddenColumns();
     int searchColumn() const;
-    void setCurrentSourceRow(int row); ///< unfolds its group
 
     RowsModel* m_model;
     QString m_emptyText;
@@ -122,6 +149,10 @@ private:
     QElapsedTimer m_sinceTyped;
     QStringList m_merged;
     QBasicTimer m_outlineTimer;
+    bool m_columnsGiveWay = false;
+    bool m_isFitting = false;
+    QList<int> m_wantedWidths; ///< of all columns, where there is room
+    bool m_mayTick = false;
     bool m_mayFit = true; ///< until the person has made a column wider or narrower
     bool m_hasFitted = false; ///< since the headings are these: columns only grow then
     bool m_isFitDue = false; ///< rows came that have not been seen yet

@@ -50,6 +50,8 @@ void RowsModel::fill(jet::Recordset rows)
     m_recordset = std::move(rows);
     m_fromList = false;
     m_rows.clear();
+    m_shown.reset();
+    m_ticks.clear();
     pairOff();
     beginOutline();
     endResetModel();
@@ -62,6 +64,8 @@ void RowsModel::setRows(const QList<QStringList>& rows, const QStringList& names
     m_fromList = true;
     m_rows = rows;
     m_names = names;
+    m_shown.reset();
+    m_ticks.clear();
     pairOff();
     beginOutline();
     endResetModel();
@@ -88,6 +92,7 @@ void RowsModel::pairOff()
 {
     m_keySource = sourceOf(m_keyColumn.isEmpty() ? u"id"_s : m_keyColumn);
     m_outlineSource = sourceOf(m_outlineColumn);
+    m_tickSource = sourceOf(m_tickColumnName);
     m_wordingsBySource.clear();
     for (auto wording = m_wordings.cbegin(); wording != m_wordings.cend(); ++wording)
         m_wordingsBySource.insert(sourceOf(wording.key()), wording.value());
@@ -124,10 +129,20 @@ int RowsModel::sourceCount() const
                             : static_cast<int>(m_rows.constFirst().size());
 }
 
+// Of two columns with one name the second is "name:2".
 int RowsModel::sourceOf(const QString& name) const
 {
     if (name.isEmpty())
         return -1;
+    if (name.endsWith(u":2"_s)) {
+        const QStringList names = m_fromList ? m_names : m_recordset.columns();
+        const int first = sourceOf(name.chopped(2));
+        for (int source = first + 1; first >= 0 && source < names.size(); ++source) {
+            if (names[source].compare(names[first], Qt::CaseInsensitive) == 0)
+                return source;
+        }
+        return -1;
+    }
     if (!m_fromList)
         return m_recordset.columnIndex(name);
     const auto isNamed = [&name](const QString& one) { return one.compare(name, Qt::CaseInsensitive) == 0; };
@@ -137,7 +152,7 @@ int RowsModel::sourceOf(const QString& name) const
 
 QString RowsModel::sourceText(int row, int source) const
 {
-    if (source < 0 || row < 0 || row >= recordCount())
+    if (source < 0 || row < 0 || row >= rowsInAll())
         return {};
     return m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
 }
@@ -165,7 +180,7 @@ qint64 RowsModel::keyAt(int line) const
 
 qint64 RowsModel::sourceKey(int row) const
 {
-    if (row < 0 || row >= recordCount())
+    if (row < 0 || row >= rowsInAll())
         return 0;
     if (m_keyColumn.isEmpty() && !m_fromList) {
         if (const qint64 key = m_recordset.keyAt(row))
@@ -176,16 +191,91 @@ qint64 RowsModel::sourceKey(int row) const
 
 int RowsModel::lineOf(qint64 key) const
 {
-    for (int row = 0; row < recordCount(); ++row) {
-        if (sourceKey(row) == key)
-            return lineOfSource(row);
+    const bool isOwnKey = !m_fromList && m_keyColumn.isEmpty() && m_recordset.keyAt(0) != 0;
+    if (!m_fromList && !m_shown && !isOwnKey && m_keySource >= 0) {
+        const int row = m_recordset.rowOf(m_keySource, key);
+        return row < 0 ? -1 : lineOfSource(row);
+    }
+    for (int place = 0; place < recordCount(); ++place) {
+        if (sourceKey(shownRow(place)) == key)
+            return lineOfSource(shownRow(place));
     }
     return -1;
 }
 
-int RowsModel::recordCount() const
+int RowsModel::rowsInAll() const
 {
     return m_fromList ? static_cast<int>(m_rows.size()) : m_recordset.count();
+}
+
+int RowsModel::recordCount() const
+{
+    return m_shown ? static_cast<int>(m_shown->size()) : rowsInAll();
+}
+
+void RowsModel::showOnly(std::optional<std::vector<int>> rows)
+{
+    beginResetModel();
+    m_shown = std::move(rows);
+    beginOutline();
+    endResetModel();
+}
+
+int RowsModel::shownRow(int place) const
+{
+    return m_shown && place >= 0 ? (*m_shown)[size_t(place)] : place;
+}
+
+int RowsModel::placeOf(int row) const
+{
+    if (!m_shown || row < 0)
+        return row;
+    const auto found = std::lower_bound(m_shown->begin(), m_shown->end(), row);
+    return found == m_shown->end() || *found != row ? -1 : static_cast<int>(found - m_shown->begin());
+}
+
+void RowsModel::setTickColumn(const QString& name)
+{
+    m_tickColumnName = name;
+    pairOff();
+}
+
+int RowsModel::tickColumn() const
+{
+    return m_tickSource < 0 ? -1 : static_cast<int>(m_sources.indexOf(m_tickSource));
+}
+
+bool RowsModel::isTicked(int row) const
+{
+    if (m_tickSource < 0 || row < 0 || row >= rowsInAll())
+        return false;
+    if (!m_ticks.empty())
+        return m_ticks[size_t(row)];
+    return m_fromList ? m_rows[row].value(m_tickSource) == u"True"_s
+                      : m_recordset.valueAt(row, m_tickSource).toBool();
+}
+
+void RowsModel::setTicked(int row, bool ticked)
+{
+    if (m_ticks.empty()) {
+        std::vector<bool> asRead(static_cast<size_t>(rowsInAll()));
+        for (int each = 0; each < rowsInAll(); ++each)
+            asRead[size_t(each)] = isTicked(each);
+        m_ticks = std::move(asRead);
+    }
+    m_ticks[size_t(row)] = ticked;
+    const QModelIndex cell = index(lineOfSource(row), tickColumn());
+    Q_EMIT dataChanged(cell, cell, {Qt::CheckStateRole});
+}
+
+void RowsModel::tickRows(const std::function<bool(int row)>& ticked)
+{
+    std::vector<bool> ticks(static_cast<size_t>(rowsInAll()));
+    for (int row = 0; row < rowsInAll(); ++row)
+        ticks[size_t(row)] = ticked(row);
+    m_ticks = std::move(ticks);
+    if (rowCount() > 0 && tickColumn() >= 0)
+        Q_EMIT dataChanged(index(0, tickColumn()), index(rowCount() - 1, tickColumn()), {Qt::CheckStateRole});
 }
 
 bool RowsModel::repeatsAbove(const QModelIndex& index) const
@@ -205,16 +295,16 @@ int RowsModel::findRow(int column, const QString& begin, int fromRow)
     const int source = m_sources.value(column, -1);
     const bool isFetchedText
         = !m_fromList && !m_recordset.holdsRows() && m_recordset.columnType(source) == jet::ColumnType::Text;
-    if (isFetchedText && !m_wordingsBySource.contains(source)) {
+    if (isFetchedText && !m_shown && !m_wordingsBySource.contains(source)) {
         const QString criterion
             = u'[' + m_recordset.columns().value(source) + u"] like '"_s + beginsPattern(begin) + u'\'';
         const bool behind = fromRow > 0 && m_recordset.moveTo(fromRow - 1) && m_recordset.findNext(criterion);
         return behind || m_recordset.findFirst(criterion) ? m_recordset.position() : -1;
     }
-    const int rows = recordCount();
+    const int rows = rowsInAll();
     for (int i = 0; i < rows; ++i) {
         const int row = (fromRow + i) % rows;
-        if (shownText(row, source).startsWith(begin, Qt::CaseInsensitive))
+        if (placeOf(row) >= 0 && shownText(row, source).startsWith(begin, Qt::CaseInsensitive))
             return row;
     }
     return -1;
@@ -222,7 +312,7 @@ int RowsModel::findRow(int column, const QString& begin, int fromRow)
 
 int RowsModel::rowAtOrBelow(int line) const
 {
-    return isHeading(line) ? m_outline.firstRow(groupOf(line)) : sourceRow(line);
+    return isHeading(line) ? shownRow(m_outline.firstRow(groupOf(line))) : sourceRow(line);
 }
 
 void RowsModel::setOutline(const QString& name)
@@ -248,12 +338,14 @@ void RowsModel::beginOutline()
 int RowsModel::outlineStep()
 {
     const int limit = std::min(m_scanned + RowsAStep, recordCount());
-    const auto sameAsGroup = [this](int row) {
+    const auto sameAsGroup = [this](int place) {
+        const int row = shownRow(place);
+        const int above = shownRow(place - 1);
         return m_fromList ? m_rows[row]
                                 .value(m_outlineSource)
-                                .compare(m_rows[row - 1].value(m_outlineSource), Qt::CaseInsensitive)
+                                .compare(m_rows[above].value(m_outlineSource), Qt::CaseInsensitive)
                 == 0
-                          : m_recordset.endOfRun(row - 1, m_outlineSource, row + 1) > row;
+                          : m_recordset.endOfRun(above, m_outlineSource, row + 1) > row;
     };
     for (; m_scanned < limit; ++m_scanned) {
         if (m_scanned == 0 || !sameAsGroup(m_scanned))
@@ -313,12 +405,13 @@ int RowsModel::sourceRow(int line) const
 {
     if (line < 0 || line >= rowCount())
         return -1;
-    return m_outline.isActive() ? m_outline.at(line).row.value_or(-1) : line;
+    return shownRow(m_outline.isActive() ? m_outline.at(line).row.value_or(-1) : line);
 }
 
 int RowsModel::lineOfSource(int row) const
 {
-    return m_outline.isActive() && row >= 0 ? m_outline.lineOf(row) : row;
+    const int place = placeOf(row);
+    return m_outline.isActive() && place >= 0 ? m_outline.lineOf(place) : place;
 }
 
 QString RowsModel::headingText(int line) const
@@ -330,7 +423,7 @@ QString RowsModel::headingText(int line) const
 
 QString RowsModel::groupText(int group) const
 {
-    const QString text = shownText(m_outline.firstRow(group), m_outlineSource);
+    const QString text = shownText(shownRow(m_outline.firstRow(group)), m_outlineSource);
     return text.isEmpty() ? tr("(none)") : text;
 }
 
@@ -355,9 +448,13 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
         const bool number = !m_fromList && m_recordset.columnType(source) == jet::ColumnType::Number;
         return QVariant::fromValue(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
     }
+    const int row = sourceRow(index.row());
+    if (role == Qt::CheckStateRole && source == m_tickSource && row >= 0)
+        return isTicked(row) ? Qt::Checked : Qt::Unchecked;
     if (role != Qt::DisplayRole)
         return {};
-    const int row = sourceRow(index.row());
+    if (source == m_tickSource && row >= 0)
+        return {};
     if (row < 0)
         return source == m_outlineSource ? headingText(index.row()) : QVariant();
     return shownText(row, source);
@@ -380,8 +477,10 @@ QString RowsModel::wordedText(int row, int source, const Wording& wording) const
 QString RowsModel::recordText(int row, int column) const
 {
     const int source = m_sources.value(column, -1);
-    if (source < 0 || row < 0 || row >= recordCount())
+    if (source < 0 || row < 0 || row >= rowsInAll())
         return {};
+    if (source == m_tickSource)
+        return isTicked(row) ? u"True"_s : u"False"_s;
     const auto wording = m_wordingsBySource.constFind(source);
     return wording == m_wordingsBySource.cend() ? sourceText(row, source) : wordedText(row, source, *wording);
 }
@@ -389,8 +488,10 @@ QString RowsModel::recordText(int row, int column) const
 QVariant RowsModel::recordValue(int row, int column) const
 {
     const int source = m_sources.value(column, -1);
-    if (source < 0 || row < 0 || row >= recordCount())
+    if (source < 0 || row < 0 || row >= rowsInAll())
         return {};
+    if (source == m_tickSource)
+        return isTicked(row);
     return m_fromList ? QVariant(m_rows[row].value(source)) : m_recordset.valueAt(row, source);
 }
 

@@ -31,7 +31,21 @@ public:
     QString text(int line, const QString& name) const;
     qint64 keyAt(int line) const;
     int lineOf(qint64 key) const;
-    int recordCount() const;
+    int recordCount() const; ///< of the rows that are shown
+
+    /// Shows these rows only, rising, until the next fill; no value shows all.
+    void showOnly(std::optional<std::vector<int>> rows);
+    bool isNarrowed() const { return m_shown.has_value(); }
+    int shownRow(int place) const; ///< the row at a place among those shown
+    int placeOf(int row) const; ///< -1 for a row that is not shown
+    const jet::Recordset& recordset() const { return m_recordset; }
+
+    /// A yes/no column that is seen as boxes to tick; they begin as the rows have them.
+    void setTickColumn(const QString& name);
+    int tickColumn() const; ///< -1 when no heading stands over it
+    bool isTicked(int row) const;
+    void setTicked(int row, bool ticked);
+    void tickRows(const std::function<bool(int row)>& ticked); ///< all, also those out of sight
     /// Whether a cell shows the same as the cell above it, and both are rows.
     bool repeatsAbove(const QModelIndex& index) const;
     /// The next row, in a circle from the given one, whose text in a column begins so; -1 when there is none.
@@ -71,6 +85,7 @@ public:
 private:
     void pairOff();
     int sourceCount() const;
+    int rowsInAll() const;
     int sourceOf(const QString& name) const;
     void beginOutline();
     QString headingText(int line) const;
@@ -94,6 +109,11 @@ private:
     bool m_isOutlining = false;
     std::vector<int> m_groupStarts; ///< found so far
     int m_scanned = 0;
+
+    std::optional<std::vector<int>> m_shown;
+    QString m_tickColumnName;
+    int m_tickSource = -1;
+    std::vector<bool> m_ticks; ///< by row, none until one was changed
 
     jet::Recordset m_recordset;
     bool m_fromList = true;

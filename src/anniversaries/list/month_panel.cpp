@@ -1,0 +1,117 @@
+#include "anniversaries/list/month_panel.h"
+
+#include "anniversaries/list/month_days.h"
+#include "platform/clock.h"
+#include "widgets/day_calendar.h"
+#include "widgets/theme.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace anniversaries {
+
+namespace {
+
+/// A patch of the colour of a style, whatever look the program has.
+class Swatch final : public QWidget {
+public:
+    explicit Swatch(int style)
+        : m_style(style)
+    {
+        setFixedSize(22, 14);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.setBrush(widgets::DayCalendar::styleColor(m_style, palette()));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+
+private:
+    int m_style;
+};
+
+} // namespace
+
+MonthPanel::MonthPanel(core::Context& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , SSMonth1(new widgets::DayCalendar(widgets::DayCalendar::Span::Month))
+    , SSCommand6(new QPushButton(tr("Legend")))
+    , m_legend(layOutLegend())
+{
+    const QDate today = context.services.clock.today();
+    SSMonth1->setObjectName(u"SSMonth1"_s);
+    SSMonth1->setAccessibleName(tr("Birthdays and anniversaries of a month"));
+    SSMonth1->setStyles(dayStyles());
+    SSMonth1->setToday(today);
+    SSMonth1->setRange(today, today.addMonths(1));
+    SSCommand6->setObjectName(u"SSCommand6"_s);
+    SSCommand6->setCheckable(true);
+    SSCommand6->setAutoDefault(false);
+    SSCommand6->setToolTip(tr("What the colours of the days mean"));
+    widgets::setIcon(SSCommand6, u"colors");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    layout->addWidget(SSMonth1);
+    layout->addWidget(SSCommand6, 0, Qt::AlignLeft);
+    layout->addWidget(m_legend);
+    m_legend->hide();
+    connect(SSCommand6, &QPushButton::toggled, m_legend, &QWidget::setVisible);
+    connect(SSMonth1, &widgets::DayCalendar::dateSelected, this, &MonthPanel::dateSelected);
+}
+
+QWidget* MonthPanel::layOutLegend()
+{
+    const QString texts[] = {tr("Birthday, priority 1 and 2"), tr("Birthday, priority 3 and 4"),
+        tr("Anniversary, priority 1 and 2"), tr("Anniversary, priority 3 and 4")};
+    auto* legend = new QFrame;
+    legend->setObjectName(u"FrameLegend"_s);
+    auto* grid = new QGridLayout(legend);
+    grid->setContentsMargins(2, 0, 0, 0);
+    grid->setVerticalSpacing(2);
+    grid->setColumnStretch(1, 1);
+    for (int style = 0; style < int(std::size(texts)); ++style) {
+        grid->addWidget(new Swatch(style), style, 0);
+        grid->addWidget(new QLabel(texts[style]), style, 1);
+    }
+    return legend;
+}
+
+void MonthPanel::readDays()
+{
+    SSMonth1->clearDays();
+    for (const DayColumn& column : dayColumns()) {
+        const jet::Recordset days = m_context.data.openRecordset(daysSql(column.column));
+        // On a day of several the more important ones are seen.
+        for (const QStringView ofKind : {u"34", u"12"}) {
+            for (int row = 0; row < days.count(); ++row) {
+                const QString style = dayStyle(column.occasion, days.textAt(row, 2));
+                if (style.endsWith(ofKind))
+                    SSMonth1->setDayStyle(days.valueAt(row, 0).toInt(), days.valueAt(row, 1).toInt(), style);
+            }
+        }
+    }
+}
+
+void MonthPanel::choose(QDate date)
+{
+    SSMonth1->setSelectedDate(date);
+}
+
+void MonthPanel::toggleLegend()
+{
+    SSCommand6->toggle();
+}
+
+} // namespace anniversaries
