@@ -99,19 +99,19 @@ FrmPhList::FrmPhList(core::Context& context, QWidget* parent)
     , m_chosenIn(FG)
     , m_slots(new SlotTicks)
     , SSActiveTabs1(new QTabBar)
-    , m_contacts(layOutContacts())
+    , m_contacts(new QWidget)
     , m_building(new QWidget)
     , m_naming(new QWidget)
     , m_ticks(new QWidget)
     , Check1(new QCheckBox(tr("Priority 1")))
     , Check2(new QCheckBox(tr("Priority 2")))
     , Check3(new QCheckBox(tr("Home City Only")))
-    , CmdList(child<QPushButton>(m_contacts, u"CmdList"_s))
     , Text1(new QLineEdit)
     , lblname(new QLabel)
     , m_numberMenu(new QMenu(this))
 {
     setWindowTitle(tr("Phone List"));
+    layOutContacts();
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_contacts);
@@ -140,12 +140,11 @@ QToolBar* FrmPhList::layOutTools()
     return bar;
 }
 
-QWidget* FrmPhList::layOutContacts()
+void FrmPhList::layOutContacts()
 {
-    auto* page = new QWidget;
     FG->setEmptyText(tr("No contacts here"));
     FG->setHeadings(kContactHeadings, {QString(), u"name"_s});
-    widgets::FormKit form(page);
+    widgets::FormKit form(m_contacts);
     form.group(tr("Contacts"))
         .combo(u"dcmbcat"_s, tr("Cate&gory"))
         .combo(u"Dcmbsubcat"_s, tr("S&ub category"))
@@ -155,11 +154,11 @@ QWidget* FrmPhList::layOutContacts()
         .wide(u"FG"_s, tr("Contacts"), FG)
         .wide(u"Numbers"_s, tr("Numbers of the contact"), m_slots)
         .button(u"CmdList"_s, tr("Add   >>"), u"add", tr("Put the numbers with a tick into the list"));
-    page->layout()->setContentsMargins(0, 0, 0, 0);
-    dcmbcat = child<widgets::FilledCombo>(page, u"dcmbcat"_s);
-    Dcmbsubcat = child<widgets::FilledCombo>(page, u"Dcmbsubcat"_s);
-    dcmbcity = child<widgets::FilledCombo>(page, u"dcmbcity"_s);
-    return page;
+    m_contacts->layout()->setContentsMargins(0, 0, 0, 0);
+    dcmbcat = child<widgets::FilledCombo>(m_contacts, u"dcmbcat"_s);
+    Dcmbsubcat = child<widgets::FilledCombo>(m_contacts, u"Dcmbsubcat"_s);
+    dcmbcity = child<widgets::FilledCombo>(m_contacts, u"dcmbcity"_s);
+    CmdList = child<QPushButton>(m_contacts, u"CmdList"_s);
 }
 
 QWidget* FrmPhList::layOutLists()
@@ -458,6 +457,7 @@ void FrmPhList::chooseTab()
         DBCombo1->setText({});
     }
     readLists();
+    FGPhone->setCurrentRow(-1);
     if (kind() == ListKind::Contacts)
         return readNumbers();
     m_numbersSql.clear();
@@ -497,6 +497,10 @@ void FrmPhList::readNumbers()
         return m_list.isEmpty() ? FGPhone->clearRows() : fillNumbers(listNumbersSql(kind(), m_list));
     const bool hasDefault = !context().data.openRecordset(defaultCitySql()).isEmpty();
     const QString city = ownCity(context().data);
+    for (QCheckBox* tick : {Check1, Check2, Check3})
+        tick->setToolTip(hasDefault
+                ? tr("Your cities have a default: all contacts are listed, whatever is ticked")
+                : QString());
     FGPhone->setEmptyText(Check3->isChecked() && city.isEmpty()
             ? tr("Your own city is not known; it stands with your own data")
             : tr("Tick what the list shall have"));

@@ -38,7 +38,7 @@ public:
     void bookChanged() override;
 
 private:
-    QWidget* layOutContacts();
+    void layOutContacts();
     QWidget* layOutLists();
     QWidget* layOutNumbers();
     QToolBar* layOutTools();
@@ -95,7 +95,7 @@ private:
     QCheckBox* Check1;
     QCheckBox* Check2;
     QCheckBox* Check3;
-    QPushButton* CmdList;
+    QPushButton* CmdList = nullptr;
     QPushButton* SSCommand6 = nullptr;
     QPushButton* SSCommand11 = nullptr;
     QLineEdit* Text1;
