@@ -15,6 +15,7 @@
 #include "platform/desktop_boxes.h"
 #include "platform/desktop_printer.h"
 #include "platform/desktop_shell.h"
+#include "platform/device_port.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
 #include "platform/keychain_secrets.h"
@@ -124,6 +125,8 @@ int main(int argc, char** argv)
     platform::MailPost post(mailBox, mailAccounts);
     platform::MailboxClient mail(mailBox, mailAccounts, post, desktop, clock);
     mail.setPreview([](const platform::MailItem& item) { return platform::showMailPreview(item); });
+    platform::SerialDeviceFile modemPorts(QDir(folder).filePath(u"modem.ini"_s));
+    platform::DevicePort modem(modemPorts);
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -134,7 +137,7 @@ int main(int argc, char** argv)
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-            mailAccounts}};
+            mailAccounts, modem, modemPorts}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

@@ -13,6 +13,8 @@ class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
+class SerialDevices;
+class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
@@ -37,6 +39,8 @@ struct Services {
     platform::Printer& printer;
     platform::MailClient& mail;
     platform::MailAccounts& mailAccounts;
+    platform::SerialPort& modem;
+    platform::SerialDevices& modemPorts;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

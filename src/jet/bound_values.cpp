@@ -23,10 +23,10 @@ std::vector<int> patternsOf(const TextFilter& filter)
     return literals;
 }
 
-const QByteArray* textFor(Slot::Reading reading, const BoundTexts& texts)
+const QByteArray* textFor(const Slot& slot, const BoundTexts& texts)
 {
-    switch (reading) {
-    case Slot::Reading::RowList: return &texts.rowList;
+    switch (slot.reading) {
+    case Slot::Reading::RowList: return &texts.rowLists[size_t(-1 - slot.literal)];
     case Slot::Reading::Least: return &texts.least;
     case Slot::Reading::Beyond: return &texts.beyond;
     default: return nullptr;
@@ -50,7 +50,7 @@ bool bindValues(sqlite3_stmt* statement, const std::vector<Slot>& slots, const s
 {
     int place = 0;
     for (const Slot& slot : slots) {
-        if (const QByteArray* text = textFor(slot.reading, texts)) {
+        if (const QByteArray* text = textFor(slot, texts)) {
             sqlite3_bind_text(statement, ++place, text->constData(), int(text->size()), SQLITE_TRANSIENT);
             continue;
         }

@@ -12,7 +12,7 @@ namespace jet {
 
 /// What is bound beside the values of the statement, for the slots that ask for it.
 struct BoundTexts {
-    QByteArray rowList;
+    std::vector<QByteArray> rowLists;
     QByteArray least;
     QByteArray beyond;
 };

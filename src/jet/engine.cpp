@@ -40,7 +40,9 @@ Database::OpenResult Engine::open(const QString& path, Database::Kind kind)
 /// Everything that hangs on the connection goes before it.
 void Engine::letGo()
 {
+    m_changes.reset();
     m_search.reset();
+    m_unions.reset();
     m_undo.reset();
     m_plans.forget();
     m_catalog.forget();
@@ -52,6 +54,17 @@ void Engine::takeUp()
     m_statements.serve(connection());
     m_search
         = std::make_unique<TextSearch>(connection(), m_file.isReadableAside() ? m_file.path() : QString());
+    m_unions = std::make_unique<KeptUnions>(*this);
+    m_changes = std::make_unique<RowChanges>(
+        connection(),
+        [this](const char* table, sqlite3_int64 id) {
+            m_search->rowChanged(table, id);
+            m_unions->rowChanged(table, id);
+        },
+        [this] {
+            m_search->forget();
+            m_unions->forget();
+        });
     if (m_labels)
         keepChanges(QList<ColumnName>(*m_labels));
 }
@@ -258,6 +271,7 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
     const Translation& translation = request.plan->translation;
     if (!m_search || !translation.filter)
         return {};
+    noticeMissedChanges();
     auto rows = m_search->rows(translation.table, *translation.filter, *request.literals, way);
     if (!rows)
         return {};
@@ -271,7 +285,7 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
     if (rows->doubtful.size() > rows->all / kWorthwhilePart)
         return {};
     BoundTexts texts;
-    texts.rowList = jsonList(rows->doubtful);
+    texts.rowLists = {jsonList(rows->doubtful)};
     result.rest = prepare(request, translation.narrowed, &Plan::narrowedPool, texts);
     if (!result.rest)
         return {};
@@ -287,12 +301,45 @@ Prepared Engine::prepareRow(const Request& request, qint64 key)
     return result;
 }
 
+void Engine::noticeMissedChanges()
+{
+    if (!m_changes->hasMissed())
+        return;
+    m_search->forget();
+    m_unions->forget();
+}
+
+std::shared_ptr<const UnionKeys> Engine::unionKeys(const Request& request, Way way)
+{
+    if (!m_unions || !request.plan->translation.parts)
+        return {};
+    noticeMissedChanges();
+    return m_unions->keys(request, way);
+}
+
+Prepared Engine::prepareUnionRows(const Request& request, const std::vector<QByteArray>& lists)
+{
+    BoundTexts texts;
+    texts.rowLists = lists;
+    return prepare(request, request.plan->translation.parts->rows, &Plan::unionRowsPool, texts);
+}
+
+std::optional<sqlite3_int64> Engine::number(const QString& sql)
+{
+    const Prepared statement = prepareKept(sql);
+    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW)
+        return {};
+    return sqlite3_column_int64(statement.get(), 0);
+}
+
 void Engine::forgetTables()
 {
     m_plans.forget();
     m_catalog.forget();
     if (m_search)
         m_search->forget();
+    if (m_unions)
+        m_unions->forget();
 }
 
 // ---- steps to take back

@@ -4,8 +4,10 @@
 #include "jet/database.h"
 #include "jet/file_catalog.h"
 #include "jet/file_connection.h"
+#include "jet/kept_unions.h"
 #include "jet/plan_cache.h"
 #include "jet/prepared.h"
+#include "jet/row_changes.h"
 #include "jet/text_search.h"
 #include "jet/undo_log.h"
 
@@ -44,6 +46,15 @@ public:
     /// Nothing when main has to look at all rows. To be asked and run within one ReadTransaction.
     std::optional<Narrowed> narrowed(const Request& request, Way way);
     Prepared prepareRow(const Request& request, qint64 key);
+    /// Which rows a union of one table has; null when main has to be run. To be asked within one
+    /// ReadTransaction.
+    std::shared_ptr<const UnionKeys> unionKeys(const Request& request, Way way);
+    /// The rows of a union for the listed keys of each arm.
+    Prepared prepareUnionRows(const Request& request, const std::vector<QByteArray>& lists);
+    Prepared prepare(
+        const Request& request, const Piece& piece, StatementPool Plan::*pool, const BoundTexts& texts = {});
+    std::optional<sqlite3_int64> number(const QString& sql); ///< of a statement that gives just one
+    TextSearch* search() const { return m_search.get(); }
     Prepared prepareText(const QString& sql) const { return m_statements.once(sql); }
     Prepared prepareKept(const QString& sql) { return m_statements.kept(sql); }
     bool bind(sqlite3_stmt* statement, const std::vector<Slot>& slots, const std::vector<Literal>& literals,
@@ -77,7 +88,10 @@ public:
     void beginUpkeep();
     void endUpkeep();
 
-    size_t searchMemory() const { return m_search ? m_search->memory() : 0; }
+    size_t searchMemory() const
+    {
+        return (m_search ? m_search->memory() : 0) + (m_unions ? m_unions->memory() : 0);
+    }
 
     void report(
         QStringView statement, const QString& reason, Failure::Cause cause = Failure::Cause::Statement);
@@ -98,8 +112,6 @@ public:
     bool isTooMuch(qint64 bytes) const { return m_file.limits().bytes > 0 && bytes > m_file.limits().bytes; }
 
 private:
-    Prepared prepare(
-        const Request& request, const Piece& piece, StatementPool Plan::*pool, const BoundTexts& texts = {});
     struct OpenBatch {
         int depth = 0;
         int failures = 0;
@@ -109,6 +121,7 @@ private:
     };
     void letGo();
     void takeUp();
+    void noticeMissedChanges();
 
     FileConnection m_file;
     Statements m_statements;
@@ -116,6 +129,8 @@ private:
     PlanCache m_plans;
     OpenBatch m_batch;
     std::unique_ptr<TextSearch> m_search; ///< of an open file
+    std::unique_ptr<KeptUnions> m_unions; ///< of an open file
+    std::unique_ptr<RowChanges> m_changes; ///< that tells both
     std::unique_ptr<UndoLog> m_undo; ///< of an open file whose changes are kept
     std::optional<QList<ColumnName>> m_labels; ///< of the changes that are kept
     int m_upkeeps = 0;

@@ -19,6 +19,9 @@ struct Plan {
     StatementPool rowPool;
     StatementPool narrowedPool;
     StatementPool stretchPool;
+    StatementPool keysPool;
+    StatementPool keysOfRowsPool;
+    StatementPool unionRowsPool;
 
     /// One of the pools, by a pointer that keeps the plan.
     static std::shared_ptr<StatementPool> poolOf(const std::shared_ptr<Plan>& plan, StatementPool Plan::*pool)

@@ -116,6 +116,17 @@ qint64 Recordset::keyAt(int row) const
     return row < 0 || row >= count() ? 0 : m_data->key(row);
 }
 
+std::vector<Recordset::Run> Recordset::leadingRuns() const
+{
+    return m_data ? m_data->leadingRuns() : std::vector<Run>();
+}
+
+int Recordset::rowOf(int column, qint64 wanted) const
+{
+    const bool isThere = m_data && column >= 0 && size_t(column) < m_data->columns().size();
+    return isThere ? m_data->rowOf(column, wanted) : -1;
+}
+
 bool Recordset::holdsRows() const
 {
     return !m_data || m_data->holdsRows();

@@ -6,8 +6,10 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <array>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace jet {
 
@@ -22,6 +24,12 @@ class RecordsetData;
 /// Column names are found without regard to case; a name that is not there reads as null and is reported.
 class Recordset {
 public:
+    /// Rows that follow one another with the same numbers in the columns by which a union is sorted first.
+    struct Run {
+        std::array<int, 3> numbers; ///< null is the least number there is
+        int rows;
+    };
+
     Recordset();
     explicit Recordset(std::unique_ptr<RecordsetData> data);
     Recordset(Recordset&&) noexcept;
@@ -65,6 +73,9 @@ public:
 
     // Reading any row of the list without moving, for views that show what is in sight.
     qint64 keyAt(int row) const; ///< the row's own id in its table; 0 in a snapshot
+    /// Empty for a selection that is not sorted by whole numbers first, or is small.
+    std::vector<Run> leadingRuns() const;
+    int rowOf(int column, qint64 wanted) const; ///< the first with that number in a column; -1 for none
     bool holdsRows() const; ///< false when a row is fetched as it is looked at
     /// The first row behind `row` that has another text in the column, but none beyond `limit`. For lists
     /// that are sorted by the column and shown in groups.

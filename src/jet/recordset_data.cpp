@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kMostAhead = 64; ///< rows
 constexpr qint64 kMoment = 100; ///< milliseconds
+constexpr qint64 kMostBlockBytes = 32 * 1024 * 1024;
 
 } // namespace
 
@@ -33,8 +34,16 @@ bool RecordsetData::load()
     m_held.reset(width);
     m_fetched.reset(width);
     std::optional<ReadTransaction> sameState;
-    if (translation.filter && m_engine->isOpen())
+    if ((translation.filter || translation.parts) && m_engine->isOpen())
         sameState.emplace(m_engine->connection());
+    if ((m_union = m_engine->unionKeys(m_request, m_way))) {
+        m_rowsHeld = false;
+        m_blocks.resize(size_t(m_union->blocks()));
+        if (!m_blocks.empty())
+            block(0); // what is looked at first, in the same state of the file
+        m_engine->readAhead();
+        return true;
+    }
     bool done = false;
     if (auto narrowed = m_engine->narrowed(m_request, m_way)) {
         m_keys.assign(narrowed->sure.begin(), narrowed->sure.end());
@@ -47,7 +56,7 @@ bool RecordsetData::load()
     }
     if (!done)
         m_engine->reportRead(m_text);
-    if (translation.filter)
+    if (translation.filter || translation.parts)
         m_engine->readAhead();
     return done;
 }
@@ -88,6 +97,13 @@ RecordsetData::Place RecordsetData::look(int row)
 {
     if (m_rowsHeld)
         return {&m_held, row};
+    if (m_union) {
+        const int number = m_union->blockOf(row);
+        const RowStore* rows = block(number);
+        // A row that was deleted in the meantime reads as nulls.
+        const int place = row - m_union->firstRow(number);
+        return {rows && place < rows->rows() ? rows : nullptr, place};
+    }
     const int changes = m_engine->isOpen() ? sqlite3_total_changes(m_engine->connection()) : m_changesAtFetch;
     const bool isUnchanged = m_changesAtFetch == changes;
     if (m_fetchedRow == row && isUnchanged)
@@ -104,6 +120,61 @@ RecordsetData::Place RecordsetData::look(int row)
     // A row that was deleted in the meantime reads as nulls.
     m_fetchedRow = m_fetched.rows() > 0 ? row : -1;
     return {m_fetchedRow < 0 ? nullptr : &m_fetched, row - m_firstFetched};
+}
+
+const RowStore* RecordsetData::block(int number)
+{
+    std::unique_ptr<RowStore>& rows = m_blocks[size_t(number)];
+    if (rows)
+        return rows.get();
+    const int arms = m_request.plan->translation.parts->arms;
+    const Prepared statement = m_engine->prepareUnionRows(m_request, m_union->lists(number, arms));
+    if (!statement)
+        return nullptr;
+    rows = std::make_unique<RowStore>();
+    rows->reset(int(columns().size()));
+    while (sqlite3_step(statement.get()) == SQLITE_ROW && rows->append(statement.get(), 0)) { }
+    m_readBlocks.push_back(number);
+    m_blockBytes += rows->bytes();
+    while (m_blockBytes > kMostBlockBytes && m_readBlocks.size() > 1) {
+        std::unique_ptr<RowStore>& oldest = m_blocks[size_t(m_readBlocks.front())];
+        m_blockBytes -= oldest->bytes();
+        oldest.reset();
+        m_readBlocks.pop_front();
+    }
+    return rows.get();
+}
+
+std::vector<Recordset::Run> RecordsetData::leadingRuns() const
+{
+    std::vector<Recordset::Run> runs;
+    if (!m_union || m_request.plan->translation.parts->leads == 0)
+        return runs;
+    for (const UnionRef& ref : m_union->refs()) {
+        if (runs.empty() || runs.back().numbers != ref.leads)
+            runs.push_back({ref.leads, 0});
+        runs.back().rows += int(ref.rows);
+    }
+    return runs;
+}
+
+int RecordsetData::rowOf(int column, qint64 wanted)
+{
+    if (m_union && column == m_request.plan->translation.parts->keyPosition) {
+        for (const int number : m_union->blocksOf(wanted)) {
+            const RowStore* rows = block(number);
+            for (int row = 0; rows && row < rows->rows(); ++row) {
+                if (rows->number(row, column) == wanted)
+                    return m_union->firstRow(number) + row;
+            }
+        }
+        return -1;
+    }
+    for (int row = 0; row < count(); ++row) {
+        if (number(row, column) == wanted)
+            return row;
+    }
+    return -1;
 }
 
 // Who reads row after row gets the next ones at once, which spares the beginning and end of a transaction for
@@ -145,8 +216,10 @@ qint64 RecordsetData::number(int row, int column)
 
 bool RecordsetData::isSameText(int row, int otherRow, int column)
 {
-    if (m_rowsHeld)
-        return m_held.isSameText(row, otherRow, column);
+    const Place a = look(row);
+    const Place b = look(otherRow);
+    if (a.store && a.store == b.store && (m_rowsHeld || m_union))
+        return a.store->isSameText(a.row, b.row, column);
     return text(row, column).compare(text(otherRow, column), Qt::CaseInsensitive) == 0;
 }
 

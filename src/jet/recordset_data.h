@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 
+#include <deque>
 #include <optional>
 #include <vector>
 
@@ -18,7 +19,7 @@ public:
     RecordsetData(std::shared_ptr<Engine> engine, Request request, Way way, QString text);
 
     bool load();
-    int count() const { return m_isKeyset ? int(m_keys.size()) : m_held.rows(); }
+    int count() const { return m_isKeyset ? int(m_keys.size()) : m_union ? m_union->rows() : m_held.rows(); }
     const std::vector<ResultColumn>& columns() const { return m_request.plan->translation.columns; }
     int columnIndex(QStringView name) const;
 
@@ -30,6 +31,9 @@ public:
 
     bool holdsRows() const { return m_rowsHeld; }
     int find(QStringView criterion, int from);
+    /// The first row with that number in a column; -1 when there is none.
+    int rowOf(int column, qint64 wanted);
+    std::vector<Recordset::Run> leadingRuns() const;
 
     bool isEditable() const;
     void begin(bool adding);
@@ -54,6 +58,7 @@ private:
 
     bool readRows(const Prepared& statement);
     void fetch(int row, int rows);
+    const RowStore* block(int block);
     Place look(int row); ///< where the cells of a row are, fetching it when only its key is held
     bool updateNow();
     bool removeNow();
@@ -67,6 +72,10 @@ private:
     bool m_isKeyset = false;
     bool m_rowsHeld = false;
     std::vector<qint64> m_keys;
+    std::shared_ptr<const UnionKeys> m_union; ///< of a union whose rows are read as they are looked at
+    std::vector<std::unique_ptr<RowStore>> m_blocks; ///< of it
+    std::deque<int> m_readBlocks; ///< the one read first in front
+    qint64 m_blockBytes = 0;
     RowStore m_held;
     RowStore m_fetched; ///< the row of a keyset that was looked at last, and perhaps the next ones
     int m_firstFetched = 0;

@@ -46,6 +46,11 @@ public:
 
     size_t rows() const { return m_ids.size(); }
     sqlite3_int64 idAt(size_t row) const { return m_ids[row]; }
+    /// In lower case.
+    std::string_view text(size_t column, size_t row) const
+    {
+        return m_columns[column].texts.text(m_columns[column].numbers[row]);
+    }
     /// Marks the rows whose text in a column fits the pattern, which asks for that lowered word. `marks` has
     /// a place for each row.
     void mark(

@@ -1,5 +1,6 @@
 #include "jet/text_search.h"
 
+#include "jet/letter_case.h"
 #include "jet/like_pattern.h"
 #include "jet/sql_functions.h"
 
@@ -51,6 +52,10 @@ struct TextSearch::Query {
             isBroken = isBroken || !made.compiled;
             if (made.compiled)
                 made.word = made.compiled->longestWithin();
+            if (made.compiled && made.word.empty() && takesBeginnings) {
+                for (const char32_t letter : made.compiled->beginning())
+                    appendLetter(made.word, letter);
+            }
         }
         return known->second;
     }
@@ -60,7 +65,7 @@ struct TextSearch::Query {
     {
         if (filter.kind == TextFilter::Kind::Pattern) {
             const Pattern& asked = pattern(filter.literal);
-            if (asked.word.size() < kShortestWord)
+            if (asked.word.size() < (takesBeginnings ? 1 : kShortestWord))
                 return {};
             std::vector<char> found(table.index.rows());
             table.index.mark(
@@ -84,6 +89,8 @@ struct TextSearch::Query {
     }
 
     bool isWhole = true; ///< every pattern was looked for
+    /// Also patterns that say how a text begins, and of one letter: for those who look at no row.
+    bool takesBeginnings = false;
 };
 
 /// The texts of a table on their way into memory. Ends the thread when it goes.
@@ -144,36 +151,27 @@ TextSearch::TextSearch(sqlite3* connection, const QString& fileAside)
     : m_connection(connection)
     , m_fileAside(fileAside)
 {
-    sqlite3_update_hook(m_connection, &TextSearch::rowChanged, this);
-    // What was read within a transaction that is given up was never so.
-    sqlite3_rollback_hook(
-        m_connection, [](void* self) { static_cast<TextSearch*>(self)->forget(); }, this);
 }
 
-TextSearch::~TextSearch()
-{
-    sqlite3_update_hook(m_connection, nullptr, nullptr);
-    sqlite3_rollback_hook(m_connection, nullptr, nullptr);
-}
+TextSearch::~TextSearch() = default;
 
 void TextSearch::forget()
 {
     m_tables.clear();
 }
 
-void TextSearch::rowChanged(void* self, int, const char*, const char* table, sqlite3_int64 id)
+void TextSearch::rowChanged(const char* table, sqlite3_int64 id)
 {
-    auto& tables = static_cast<TextSearch*>(self)->m_tables;
-    if (tables.empty())
+    if (m_tables.empty())
         return;
-    const auto known = tables.find(table);
-    if (known == tables.end() || known->second->isTooMuch)
+    const auto known = m_tables.find(table);
+    if (known == m_tables.end() || known->second->isTooMuch)
         return;
     auto& changed = known->second->changed;
     changed.insert(id);
     if (!known->second->reading && !known->second->isWanted
         && changed.size() * kMostChangedPart > known->second->index.rows())
-        tables.erase(known);
+        m_tables.erase(known);
 }
 
 std::optional<TextSearch::Rows> TextSearch::rows(
@@ -198,6 +196,55 @@ std::optional<TextSearch::Rows> TextSearch::rows(
             fitting.push_back(id);
     }
     return found;
+}
+
+std::optional<TextSearch::ArmRows> TextSearch::rowsOfArms(
+    const UnionParts& parts, const std::vector<Literal>& literals, Way way)
+{
+    QStringList columns;
+    for (const TextFilter& filter : parts.filters)
+        collectColumns(filter, &columns);
+    const Table* table = prepared(parts.table, columns);
+    if (!table)
+        return {};
+    Query query{*table, literals, way};
+    query.takesBeginnings = true;
+    std::vector<quint32> arms(table->index.rows());
+    for (size_t arm = 0; arm < parts.filters.size(); ++arm) {
+        const auto marks = query.marks(parts.filters[arm]);
+        if (!marks || query.isBroken)
+            return {};
+        for (size_t row = 0; row < arms.size(); ++row)
+            arms[row] |= quint32((*marks)[row]) << arm;
+    }
+    const bool isSure = query.isWhole && !parts.varyingColumns.empty();
+    std::vector<size_t> places;
+    for (const QString& column : parts.varyingColumns)
+        places.push_back(size_t(table->columns.indexOf(column)));
+    ArmRows found;
+    found.doubtful.assign(table->changed.begin(), table->changed.end());
+    for (size_t row = 0; row < arms.size(); ++row) {
+        const sqlite3_int64 id = table->index.idAt(row);
+        if (arms[row] == 0 || table->changed.contains(id))
+            continue;
+        if (isSure)
+            found.sure.push_back({id, arms[row], mayRepeat(*table, places, row, arms[row])});
+        else
+            found.doubtful.push_back(id);
+    }
+    return found;
+}
+
+bool TextSearch::mayRepeat(const Table& table, const std::vector<size_t>& columns, size_t row, quint32 arms)
+{
+    for (size_t a = 0; a < columns.size(); ++a) {
+        for (size_t b = a + 1; b < columns.size(); ++b) {
+            if ((arms >> a & arms >> b & 1)
+                && compareJet(table.index.text(columns[a], row), table.index.text(columns[b], row)) == 0)
+                return true;
+        }
+    }
+    return false;
 }
 
 TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& columns)

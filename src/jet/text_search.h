@@ -3,6 +3,7 @@
 #include "jet/lexer.h"
 #include "jet/text_filter.h"
 #include "jet/text_index.h"
+#include "jet/translator.h"
 #include "jet/types.h"
 
 #include <QStringList>
@@ -40,6 +41,20 @@ public:
     /// in the same read transaction as the search.
     std::optional<Rows> rows(
         const QString& table, const TextFilter& filter, const std::vector<Literal>& literals, Way way);
+    /// A row that some arms of a union have.
+    struct RowOfArms {
+        sqlite3_int64 id;
+        quint32 arms; ///< a bit for each
+        bool mayRepeat; ///< two of them may give the same row
+    };
+    struct ArmRows {
+        std::vector<RowOfArms> sure; ///< by id
+        std::vector<sqlite3_int64> doubtful; ///< which the arms have still to be asked for
+    };
+    /// The same for a union each of whose arms searches.
+    std::optional<ArmRows> rowsOfArms(const UnionParts& parts, const std::vector<Literal>& literals, Way way);
+
+    void rowChanged(const char* table, sqlite3_int64 id);
     /// Behind a search that looked at the file: reads what the next one can use, and does not keep this one
     /// from its rows.
     void readAhead();
@@ -60,13 +75,13 @@ private:
     };
     struct Query;
 
+    static bool mayRepeat(const Table& table, const std::vector<size_t>& columns, size_t row, quint32 arms);
     Table* prepared(const QString& name, const QStringList& columns);
     QByteArray readingSql(const std::string& name, const Table& table) const;
     void readNow(const std::string& name, Table& table);
     static void takeWhatWasRead(Table& table);
     bool isWorthwhile(const QString& name);
     std::optional<sqlite3_int64> number(const QString& sql);
-    static void rowChanged(void* self, int, const char*, const char* table, sqlite3_int64 id);
 
     sqlite3* m_connection;
     QString m_fileAside;

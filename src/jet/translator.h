@@ -23,7 +23,7 @@ struct Slot {
         Least, ///< the first text in order that can be like the pattern
         Beyond, ///< a text behind all that can be
     };
-    int literal = 0; ///< -1 for the list of rows to look at
+    int literal = 0; ///< -1 and below for lists of rows to look at, the first, the second and so on
     Reading reading = Reading::AsIs;
 };
 
@@ -37,6 +37,32 @@ struct ResultColumn {
 struct Piece {
     QString sql;
     std::vector<Slot> values;
+};
+
+/// A union whose arms select from one table and tell the row's key. All its arms can be asked in one walk
+/// through the table which rows they have; the rows themselves are read as they are looked at.
+struct UnionParts {
+    static constexpr int kMostLeads = 3;
+
+    QString table;
+    int arms = 0;
+    /// By whole numbers the union is sorted first, perhaps by none. Then, where `byKey`, by the row's key.
+    int leads = 0;
+    bool byKey = false;
+    /// Where leads and key stand in a row.
+    std::vector<int> leadPositions = {};
+    int keyPosition = 0;
+    /// Where rows of one key may differ. Looked at when the keys lead; otherwise equal leads are seldom.
+    int varying = 0;
+    /// A row key, then for each arm: whether it has the row, its leads, its varying values.
+    Piece keys = {};
+    Piece keysOfRows = {}; ///< the same for a list of rows
+    Piece rows = {}; ///< the union with its order, each arm for a list of rows of its own
+    /// What the arms ask of texts, when each asks something.
+    std::vector<TextFilter> filters = {};
+    /// The columns, one an arm, in which rows of one key differ, when these are what the arms search and the
+    /// texts alone tell what rows there are; otherwise empty.
+    std::vector<QString> varyingColumns = {};
 };
 
 struct Translation {
@@ -63,6 +89,8 @@ struct Translation {
     int orderedLiteral = -1;
     Piece stretch = {};
     Piece narrowed = {};
+    // Of a snapshot only:
+    std::optional<UnionParts> parts = {};
 };
 
 /// Turns a parsed statement into text for the file engine. Every name stands in brackets, every value is

@@ -149,6 +149,12 @@ void HeadingGrid::showAs(const QString& name, std::function<QString(const QVaria
     m_model->showAs(name, std::move(wording));
 }
 
+void HeadingGrid::showEmptyAs(
+    const QString& name, const QString& other, std::function<QString(const QVariant&)> wording)
+{
+    m_model->showEmptyAs(name, other, std::move(wording));
+}
+
 void HeadingGrid::setOutline(const QString& name)
 {
     m_model->setOutline(name);

@@ -60,6 +60,9 @@ public:
     void setKeyColumn(const QString& name);
     /// Shows a column's values in another way: dates, ticks. No wording shows them as they are again.
     void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
+    /// Where nothing stands in a column, shows a wording of another one instead.
+    void showEmptyAs(
+        const QString& name, const QString& other, std::function<QString(const QVariant&)> wording);
     /// Shows only those rows of the recordset, which rise, until the next fill; no value shows all. The
     /// current row stays while it is shown, and nobody hears of it. Takes one pass, however many there are.
     void showOnly(std::optional<std::vector<int>> rows);

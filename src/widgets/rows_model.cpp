@@ -88,8 +88,20 @@ void RowsModel::showAs(const QString& name, Wording wording)
     endResetModel();
 }
 
+void RowsModel::showEmptyAs(const QString& name, const QString& other, Wording wording)
+{
+    beginResetModel();
+    m_emptyName = name;
+    m_otherName = other;
+    m_emptyWording = std::move(wording);
+    pairOff();
+    endResetModel();
+}
+
 void RowsModel::pairOff()
 {
+    m_emptySource = sourceOf(m_emptyName);
+    m_otherSource = sourceOf(m_otherName);
     m_keySource = sourceOf(m_keyColumn.isEmpty() ? u"id"_s : m_keyColumn);
     m_outlineSource = sourceOf(m_outlineColumn);
     m_tickSource = sourceOf(m_tickColumnName);
@@ -154,7 +166,10 @@ QString RowsModel::sourceText(int row, int source) const
 {
     if (source < 0 || row < 0 || row >= rowsInAll())
         return {};
-    return m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
+    const QString text = m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
+    if (source != m_emptySource || m_otherSource < 0 || !text.isEmpty())
+        return text;
+    return wordedText(row, m_otherSource, m_emptyWording);
 }
 
 qint64 RowsModel::sourceNumber(int row, int source) const
@@ -191,6 +206,11 @@ qint64 RowsModel::sourceKey(int row) const
 
 int RowsModel::lineOf(qint64 key) const
 {
+    const bool isOwnKey = !m_fromList && m_keyColumn.isEmpty() && m_recordset.keyAt(0) != 0;
+    if (!m_fromList && !m_shown && !isOwnKey && m_keySource >= 0) {
+        const int row = m_recordset.rowOf(m_keySource, key);
+        return row < 0 ? -1 : lineOfSource(row);
+    }
     for (int place = 0; place < recordCount(); ++place) {
         if (sourceKey(shownRow(place)) == key)
             return lineOfSource(shownRow(place));

@@ -24,6 +24,7 @@ public:
     void setRows(const QList<QStringList>& rows, const QStringList& names);
     void setKeyColumn(const QString& name);
     void showAs(const QString& name, Wording wording);
+    void showEmptyAs(const QString& name, const QString& other, Wording wording);
 
     const QList<Heading>& headings() const { return m_headings; }
     bool showsNothing(int column) const { return m_sources.value(column, -1) < 0; }
@@ -100,6 +101,11 @@ private:
     QList<int> m_sources; ///< under each heading, -1 for none
     QString m_keyColumn;
     int m_keySource = -1; ///< of the key column, or of "id"
+    QString m_emptyName;
+    QString m_otherName;
+    int m_emptySource = -1;
+    int m_otherSource = -1;
+    Wording m_emptyWording;
     QHash<QString, Wording> m_wordings; ///< by lower-case name
     QHash<int, Wording> m_wordingsBySource;
 

@@ -16,6 +16,7 @@ class Streets final : public core::Screen, public core::WordPicker {
 public:
     using Screen::Screen;
     void load() override { }
+    bool hasWords(const QString&, const QString& word) override { return word.startsWith(u"ga"); }
     std::optional<QString> pickWord(const QString& city, const QString& word) override
     {
         asked << city + u'/' + word;
@@ -291,6 +292,9 @@ private Q_SLOTS:
         QTest::keyClicks(line, u"12 ga."_s); // nobody has words yet: the point is a point
         QCOMPARE(line->text(), u"12 ga."_s);
         f.screens.add<Streets>(u"FrmColony"_s);
+        line->clear();
+        QTest::keyClicks(line, u"M.G. "_s); // and where none begins so
+        QCOMPARE(line->text(), u"M.G. "_s);
         line->clear();
         QTest::keyClicks(line, u"12 gard."_s);
         auto* streets = dynamic_cast<Streets*>(f.screens.find(u"FrmColony"));

@@ -29,7 +29,8 @@ public:
         : files(root.filePath(u"program"_s), backupFolder())
         , all{data, info, schema, shared, registry, window,
               {drive, which == Boxes::Scripted ? static_cast<platform::MessageBoxes&>(boxes) : real, shell,
-                  sounds, folders, favourites, help, mailContacts, clock, printer, mail, mailAccounts}}
+                  sounds, folders, favourites, help, mailContacts, clock, printer, mail, mailAccounts, modem,
+                  modem}}
     {
         QDir().mkpath(root.filePath(u"program"_s));
         registry.setContext(all);

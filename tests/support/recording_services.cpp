@@ -263,4 +263,39 @@ void RecordingMailAccounts::sendTest(
     pendingTest = std::move(then);
 }
 
+bool ScriptedModem::PortOpen(bool open)
+{
+    isOpen = open && refusal.isEmpty();
+    return isOpen == open;
+}
+
+bool ScriptedModem::Output(const QByteArray& bytes)
+{
+    written << bytes;
+    return isOpen;
+}
+
+QByteArray ScriptedModem::Input()
+{
+    return std::exchange(waiting, {});
+}
+
+bool ScriptedModem::setDevice(int number, const QString& path)
+{
+    devices[number] = path;
+    return true;
+}
+
+void ScriptedModem::say(const QByteArray& bytes)
+{
+    waiting += bytes;
+    listener();
+}
+
+void ScriptedModem::vanish()
+{
+    isOpen = false;
+    listener();
+}
+
 } // namespace support

@@ -13,6 +13,7 @@
 #include "platform/mail_account.h"
 #include "platform/mail_client.h"
 #include "platform/printer.h"
+#include "platform/serial_port.h"
 #include "platform/shell.h"
 #include "platform/sounds.h"
 #include "platform/special_folders.h"
@@ -155,6 +156,42 @@ public:
     QString refusal; ///< the cause with which store() fails, when it is not empty
     std::vector<std::pair<platform::MailAccount, std::optional<QString>>> tests;
     Tested pendingTest; ///< for the test to call when the server has answered
+};
+
+/// A modem that says what the test makes it say, on ports without devices until the test gives them one.
+class ScriptedModem final : public platform::SerialPort, public platform::SerialDevices {
+public:
+    void CommPort(int number) override { port = number; }
+    void Settings(const QString& set) override { settings = set; }
+    bool PortOpen(bool open) override;
+    bool PortOpen() const override { return isOpen; }
+    int InBufferCount() const override { return int(waiting.size()); }
+    void InBufferCount(int count) override { waiting.truncate(count); }
+    bool Output(const QByteArray& bytes) override;
+    QByteArray Input() override;
+    QString fault() const override { return refusal; }
+    void setListener(std::function<void()> to) override { listener = std::move(to); }
+
+    QList<platform::SerialDevice> found() const override { return here; }
+    QString device(int number) const override { return devices.value(number); }
+    bool setDevice(int number, const QString& path) override;
+    QString complaint(const QString& path) const override { return complaints.value(path); }
+
+    void say(const QByteArray& bytes); ///< to the program
+    void vanish();
+
+    QByteArrayList written; ///< what the program sent
+    QString refusal; ///< why the port can not be opened, when it is not empty
+    QList<platform::SerialDevice> here;
+    QHash<int, QString> devices;
+    QHash<QString, QString> complaints;
+    QString settings;
+    int port = 0;
+    bool isOpen = false;
+
+private:
+    QByteArray waiting;
+    std::function<void()> listener;
 };
 
 } // namespace support

@@ -98,6 +98,7 @@ public:
     RecordingPrinter printer;
     RecordingMail mail;
     RecordingMailAccounts mailAccounts;
+    ScriptedModem modem;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;

@@ -330,7 +330,7 @@ void frmbday::connectTools()
     on(u"SendEmail", [this] { sendWish(context(), currentWish(), WishWay::Show); });
     on(u"sendtoday", [this] { sendWish(context(), currentWish(), WishWay::Outbox); });
     on(u"Confirm", &frmbday::timeWishOfRow);
-    on(u"TransTask", &frmbday::copyToScheduler);
+    on(u"TransTask", &frmbday::beginCopy);
     on(u"Print", &frmbday::print);
     on(u"Export", &frmbday::exportGrid);
     on(u"ColorLegend", [this] { m_month->toggleLegend(); });
@@ -493,8 +493,10 @@ void frmbday::goToDay(QDate day)
                 : tr("No anniversary of the list is on that day"));
 }
 
-void frmbday::copyToScheduler()
+void frmbday::beginCopy()
 {
+    if (!m_tools->action(u"TransTask")->isEnabled())
+        return;
     famTimedEmails->hide();
     for (QWidget* control : {static_cast<QWidget*>(SSActiveTabs1), static_cast<QWidget*>(ssTabMerge),
              static_cast<QWidget*>(OptAll)})

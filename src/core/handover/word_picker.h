@@ -10,6 +10,8 @@ namespace core {
 class WordPicker {
 public:
     virtual ~WordPicker() = default;
+    /// Whether there is anything to pick from.
+    virtual bool hasWords(const QString& city, const QString& word) = 0;
     /// Waits for the pick; nothing when the person chose none.
     virtual std::optional<QString> pickWord(const QString& city, const QString& word) = 0;
 };

@@ -295,9 +295,11 @@ bool EntryAssists::autotextKey(QWidget* field, int key, const QString& typed)
     const bool isNote = field->objectName() == u"txtMemo";
     if (key == Qt::Key_Period && !m_typedWord.word().isEmpty() && !isNote) {
         auto* picker = m_context.screens.load<core::WordPicker>(u"FrmColony");
-        if (!picker)
+        // Where no stored word begins so, a point is a point, as in "M.G. Road".
+        const QString city = text(u"dtcmbcity1");
+        if (!picker || !picker->hasWords(city, m_typedWord.forLookUp()))
             return false;
-        const auto pick = picker->pickWord(text(u"dtcmbcity1"), m_typedWord.forLookUp());
+        const auto pick = picker->pickWord(city, m_typedWord.forLookUp());
         if (pick)
             completeWord(*pick);
         return true;

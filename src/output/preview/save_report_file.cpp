@@ -50,7 +50,8 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
     platform::MessageBoxes& boxes = context.services.boxes;
     drive.ensureFolder(row.folder);
     const QString suffix = row.suffix.toString();
-    const QString path = askForFile(context, translated(row.title), row.filter,
+    const QString title = report.saveTitle.isEmpty() ? translated(row.title) : report.saveTitle;
+    const QString path = askForFile(context, title, row.filter,
         {drive.local(row.folder), platform::Drive::safeFileName(report.fileStem) + suffix}, suffix,
         [&suffix](const QString& name) {
             return QFileInfo(name).fileName().contains(suffix, Qt::CaseInsensitive);

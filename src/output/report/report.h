@@ -70,6 +70,7 @@ struct Report {
     QString title;
     QString printDate;
     QString fileStem; ///< of files that it is saved to
+    QString saveTitle = {}; ///< of the dialog that asks for a file; that of the format where it is empty
     std::shared_ptr<const ReportSource> source;
     Section header; ///< once, before all rows
     std::optional<Grouping> grouping;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace telephone {
+
+/// A value of the book between the apostrophes of a statement: one of its own is doubled, so that a list
+/// called "Bob's" is found like any other.
+inline QString inQuotes(const QString& value)
+{
+    return QString(value).replace(u'\'', QStringLiteral("''"));
+}
+
+/// Filters start with "All"; it and a blank value mean no condition.
+inline bool isAll(const QString& value)
+{
+    return value == u"All" || value.trimmed().isEmpty();
+}
+
+} // namespace telephone
