@@ -46,7 +46,7 @@ public:
     int tickColumn() const; ///< -1 when no heading stands over it
     bool isTicked(int row) const;
     void setTicked(int row, bool ticked);
-    void tickRows(const std::function<bool(int row)>& ticked); ///< all, also those out of sight
+    void tickRows(std::function<bool(int row)> ticked); ///< all, also those out of sight
     /// Whether a cell shows the same as the cell above it, and both are rows.
     bool repeatsAbove(const QModelIndex& index) const;
     /// The next row, in a circle from the given one, whose text in a column begins so; -1 when there is none.
@@ -119,7 +119,8 @@ private:
     std::optional<std::vector<int>> m_shown;
     QString m_tickColumnName;
     int m_tickSource = -1;
-    std::vector<bool> m_ticks; ///< by row, none until one was changed
+    std::function<bool(int row)> m_tickRule; ///< in place of what the rows have
+    QHash<int, bool> m_ticks; ///< of the rows that were changed since
 
     jet::Recordset m_recordset;
     bool m_fromList = true;
