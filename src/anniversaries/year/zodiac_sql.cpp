@@ -40,7 +40,7 @@ QString bornUnderSql(QStringView sign, const QString& group)
     QString sql;
     for (const DatedPerson& person : datedPersons()) {
         const QString where
-            = isAll ? QString() : condition(*found, person.date) + u" and "_s + person.name + u" <> null"_s;
+            = isAll ? QString() : condition(*found, person.date) + u" and %1 <> null"_s.arg(person.name);
         if (sql.isEmpty()) {
             sql = u"select category1,category2,name,sunsign,first,last,h_city,Priority,m_bd from cnt_main "_s
                 + where + order + u' ';
@@ -55,7 +55,7 @@ QString bornUnderSql(QStringView sign, const QString& group)
 
 QString aboutSignSql(QStringView sign)
 {
-    return u"Select * from wia_zodiac where Sign='"_s + sign + u'\'';
+    return u"Select * from wia_zodiac where Sign='%1'"_s.arg(sign);
 }
 
 } // namespace anniversaries
