@@ -1,6 +1,6 @@
 #include "anniversaries/calendar_file/celebrated_day.h"
 
-#include "anniversaries/dated_persons.h"
+#include "core/dated_persons.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -21,7 +21,7 @@ constexpr int kFirstOfCalendars = 1970;
 QString birthdaysSql()
 {
     QString sql;
-    for (const DatedPerson& person : datedPersons()) {
+    for (const core::DatedPerson& person : core::datedPersons()) {
         const QString arm
             = u"select id,%1 as who,%2 as born,name as contact from cnt_main where %1 is not null "
               "and len(%1) <> 0 and %2 is not null"_s.arg(person.name, person.date);

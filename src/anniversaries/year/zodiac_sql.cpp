@@ -1,6 +1,6 @@
 #include "anniversaries/year/zodiac_sql.h"
 
-#include "anniversaries/dated_persons.h"
+#include "core/dated_persons.h"
 
 #include <algorithm>
 
@@ -38,7 +38,7 @@ QString bornUnderSql(QStringView sign, const QString& group)
     const bool isAll = found == zodiacSigns().end();
     const QString order = group.isEmpty() ? u" order by m_bd"_s : u" order by "_s + group + u",m_bd"_s;
     QString sql;
-    for (const DatedPerson& person : datedPersons()) {
+    for (const core::DatedPerson& person : core::datedPersons()) {
         const QString where
             = isAll ? QString() : condition(*found, person.date) + u" and %1 <> null"_s.arg(person.name);
         if (sql.isEmpty()) {
