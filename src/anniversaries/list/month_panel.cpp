@@ -64,7 +64,6 @@ MonthPanel::MonthPanel(core::Context& context, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(SSMonth1);
-    layout->addWidget(SSCommand6, 0, Qt::AlignLeft);
     connect(SSCommand6, &QPushButton::toggled, m_legend, &QWidget::setVisible);
     connect(SSMonth1, &widgets::DayCalendar::dateSelected, this, &MonthPanel::dateSelected);
 }

@@ -23,8 +23,9 @@ public:
     void readDays();
     void choose(QDate date);
     void toggleLegend();
-    /// Explains the colours while the person wants to see it. To be placed by the screen.
+    /// Explains the colours while the person wants to see it, and the button for it; the screen places them.
     QWidget* legend() const { return m_legend; }
+    QPushButton* legendButton() const { return SSCommand6; }
 
 Q_SIGNALS:
     void dateSelected(QDate date); ///< by the person
