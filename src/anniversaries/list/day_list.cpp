@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "widgets/heading_grid.h"
 
+#include <QGuiApplication>
 #include <QLocale>
 
 #include <utility>
@@ -161,10 +162,12 @@ void DayList::readFacts()
         texts << text;
         return int(texts.size()) - 1;
     };
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_facts.reserve(size_t(rows()));
     for (int row = 0; row < rows(); ++row)
         m_facts.push_back({dateAt(row), placeIn(m_priorities, text(row, m_columns.priority)),
             placeIn(m_categories, text(row, m_columns.category1))});
+    QGuiApplication::restoreOverrideCursor();
 }
 
 bool DayList::isInOrderOfDays() const

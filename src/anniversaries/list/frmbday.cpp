@@ -375,8 +375,7 @@ void frmbday::bookChanged()
     DBCcat->refill();
     DBCPriority->refill();
     m_month->readDays();
-    m_isStale = Frame7->isVisibleTo(this);
-    if (!m_isStale && m_isRead)
+    if (m_isRead && !Frame7->isVisibleTo(this))
         m_list->refresh();
 }
 
@@ -478,7 +477,6 @@ void frmbday::copyEnded()
         control->setEnabled(true);
     for (const QStringView id : {u"Simple", u"Details", u"TransTask"})
         m_tools->action(id)->setEnabled(true);
-    m_isStale = false;
     settleSide();
     m_list->refresh();
     FGBday->setFocus();

@@ -90,7 +90,6 @@ private:
     QWidget* m_side = nullptr; ///< month, current day and what can be done with it
     QBoxLayout* m_sideLayout = nullptr;
     bool m_isRead = false;
-    bool m_isStale = false; ///< the book has changed while something was being copied
 };
 
 } // namespace anniversaries

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "anniversaries/list/month_days.h"
 #include "core/context.h"
 
+#include <QBasicTimer>
 #include <QWidget>
 
 class QPushButton;
@@ -19,7 +21,7 @@ class MonthPanel : public QWidget {
 public:
     explicit MonthPanel(core::Context& context, QWidget* parent = nullptr);
 
-    /// Reads whose days these are.
+    /// Reads whose days these are, in the time between other events.
     void readDays();
     void choose(QDate date);
     void toggleLegend();
@@ -30,13 +32,26 @@ public:
 Q_SIGNALS:
     void dateSelected(QDate date); ///< by the person
 
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
 private:
+    struct StyledDay {
+        int month;
+        int day;
+        QString style;
+    };
+
     QWidget* layOutLegend();
+    void readColumn(const DayColumn& column);
 
     core::Context& m_context;
     widgets::DayCalendar* SSMonth1;
     QPushButton* SSCommand6;
     QWidget* m_legend;
+    QBasicTimer m_reading;
+    size_t m_nextColumn = 0;
+    QList<StyledDay> m_read; ///< so far
 };
 
 } // namespace anniversaries
