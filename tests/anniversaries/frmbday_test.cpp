@@ -145,6 +145,22 @@ private Q_SLOTS:
         QCOMPARE(child<QLabel>(m_form, u"LblDate"_s)->text(), u"30 Nov  -  Anniversary of Pat O'Hara"_s);
     }
 
+    // The rows of one contact are told apart.
+    void followsTheBook()
+    {
+        open();
+        for (const int tab : {0, 1}) {
+            clickTab(u"ssTabMerge"_s, tab);
+            QTRY_VERIFY(lineOf(u"D'Arcy"_s) >= 0 && !shownLines().contains(u"!!!!!"_s));
+            choose(u"D'Arcy"_s);
+            m_fixture->execute(u"update cnt_main set h_city='City %1', M_BD=#4/%2/1980# where id=1"_s.arg(
+                QString::number(tab), QString::number(tab + 1)));
+            m_fixture->screens.tellBookChanged();
+            QCOMPARE(grid()->currentText(u"name"_s), u"D'Arcy"_s);
+            QCOMPARE(child<QLabel>(m_form, u"lblcity"_s)->text(), u"City %1"_s.arg(tab));
+        }
+    }
+
     void copiesToTheScheduler()
     {
         open();
