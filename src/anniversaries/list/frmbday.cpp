@@ -1,5 +1,6 @@
 #include "anniversaries/list/frmbday.h"
 
+#include "anniversaries/calendar_file/save_calendar.h"
 #include "anniversaries/list/birthday_tools.h"
 #include "anniversaries/list/copy_panel.h"
 #include "anniversaries/list/day_detail.h"
@@ -262,6 +263,7 @@ void frmbday::connectTools()
     on(u"TransTask", &frmbday::beginCopy);
     on(u"Print", &frmbday::print);
     on(u"Export", &frmbday::exportGrid);
+    on(u"SaveCalendar", [this] { saveCalendarFile(context(), this); });
     on(u"ColorLegend", [this] { m_month->toggleLegend(); });
     const auto toDepth = [this](bool isFull) {
         showView({m_list->view().occasion, isFull, Regrouping::Refresh});
