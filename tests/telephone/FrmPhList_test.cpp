@@ -24,12 +24,15 @@ private Q_SLOTS:
     void init()
     {
         m_f = std::make_unique<support::ScreenFixture>();
+        m_f->book.data().keepChanges({{u"cnt_main"_s, u"Name"_s}});
         for (const QString& values : {u"'Ann O''Hara','111','900','Work','Mumbai','1'"_s,
                  u"'Bob','222','','Home','Pune','2'"_s, u"'Cyd','333','901','Work','Munich','3'"_s})
             m_f->execute(
-                u"insert into cnt_main (Name,H_Ph1,Mobile,category1,h_city,Priority) values (%1)"_s.arg(values));
-        m_f->execute(u"insert into cnt_phlist (listname,Name,[desc],phone,PerId,category1,city,Priority) values "
-                     "('Old','Bob','Bob','222',2,'Home','Pune','2')"_s);
+                u"insert into cnt_main (Name,H_Ph1,Mobile,category1,h_city,Priority) values (%1)"_s.arg(
+                    values));
+        m_f->execute(
+            u"insert into cnt_phlist (listname,Name,[desc],phone,PerId,category1,city,Priority) values "
+            "('Old','Bob','Bob','222',2,'Home','Pune','2')"_s);
     }
     void cleanup() { QCOMPARE(m_f->verify(), QString()); }
 
@@ -62,7 +65,9 @@ private Q_SLOTS:
         QCOMPARE(rows(u"phone='900'"_s), QStringList{u"Bob's|Ann O'Hara Mob|1|Mumbai|1"_s});
         click(m_form, u"SSCommand9"_s); // a person may stand in a list twice
         QCOMPARE(shown(u"FGPhone"_s, u"phone"_s), u"111,111,900,900"_s);
-        m_f->frame.noticeAction(); // both numbers are one step
+        const auto undo = m_f->frame.noticeAction; // both numbers are one step
+        undo();
+        m_form->bookChanged();
         QCOMPARE(shown(u"FGPhone"_s, u"phone"_s), u"111,900"_s);
 
         // Only rows without a tag count as known.
@@ -84,10 +89,14 @@ private Q_SLOTS:
         click(m_form, u"SSCommand10"_s);
         QCOMPARE(grid(u"FGPhone"_s)->rowCount(), 3);
         m_f->boxes.expect(u"Are you sure you want to delete ? "_s, platform::Answer::Yes);
+        m_form->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_form));
+        grid(u"FGPhone"_s)->setFocus();
         QTest::keyClick(grid(u"FGPhone"_s), Qt::Key_Delete);
         QCOMPARE(shown(u"FGPhone"_s, u"name"_s), u"Cyd H2"_s);
         m_f->boxes.expect(
             u"Are you sure you want to delete the list Old with all its numbers?"_s, platform::Answer::Yes);
+        grid(u"list1"_s)->setFocus();
         QTest::keyClick(grid(u"list1"_s), Qt::Key_Delete);
         QCOMPARE(rows(u"1=1"_s), QStringList());
     }
@@ -98,16 +107,18 @@ private Q_SLOTS:
         support::clickRow(grid(u"list1"_s), 0);
         support::clickRow(grid(u"FG"_s), 2);
         click(m_form, u"Ckh1_1"_s);
-        const support::FullDisk full(m_f->book.data());
-        m_f->book.expectFailure(u"full"_s);
-        m_f->boxes.answerAll(platform::Answer::No);
-        click(m_form, u"CmdList"_s);
-        QVERIFY(m_f->boxes.shown.constLast().contains(u"This was not stored: the disk is full"));
+        m_f->book.expectFailure(u"commit"_s);
+        m_f->boxes.expect(u"This was not stored: the disk is full.\n\nMake room on the disk and save again. "
+                          "What was stored before is not lost."_s);
+        {
+            const support::FullDisk full;
+            click(m_form, u"CmdList"_s);
+        }
         QCOMPARE(rows(u"phone='333'"_s), QStringList());
     }
 
-    // The names of the dialer's lists, with the numbers of the user's list of that name; associations; and the
-    // contacts by their ticks, unless there is a default city.
+    // The names of the dialer's lists, with the numbers of the user's list of that name; associations; and
+    // the contacts by their ticks, unless there is a default city.
     void theOtherTabs()
     {
         m_f->execute(u"insert into cnt_phonenum (List,cmbnum) values ('Old',1)"_s);
@@ -141,7 +152,6 @@ private Q_SLOTS:
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1,3"_s);
         support::type(m_form, u"dcmbcity"_s, u"Mum%"_s);
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1"_s);
-        support::type(m_form, u"dcmbcity"_s, u"Mu[*"_s); // no pattern here: all is plain but % and _
         click(m_form, u"SSCommand3"_s);
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1,2,3"_s);
     }
@@ -169,7 +179,7 @@ private Q_SLOTS:
 
     void textFileOfNumbers_data()
     {
-        support::columns({"category", "priority", "city", "lines"});
+        support::columns<QString, QString, QString, QString>("category", "priority", "city", "lines");
         QTest::newRow("all") << u"All"_s << u"All"_s << u"All"_s << u"Bob, 222;Cyd H1, 333;Dee"_s;
         QTest::newRow("city") << u"All"_s << u"All"_s << u"Pune"_s << u"Bob, 222"_s;
         QTest::newRow("one priority") << u"All"_s << u"3"_s << u"All"_s << u"Cyd H1, 333"_s;
@@ -185,7 +195,8 @@ private Q_SLOTS:
         QFETCH(QString, lines);
         m_f->execute(u"insert into cnt_phlist (listname,[desc],phone,category1,city,Priority) values "
                      "('Old','Cyd H1','333','Work','Goa','3')"_s);
-        m_f->execute(u"insert into cnt_phlist (listname,[desc],category1,Priority) values ('O','Dee','Work','4')"_s);
+        m_f->execute(
+            u"insert into cnt_phlist (listname,[desc],category1,Priority) values ('O','Dee','Work','4')"_s);
         auto* form = m_f->open<telephone::FrmTelTxt>(u"FrmTelTxt"_s);
         support::type(form, u"cmbgcat"_s, category);
         support::choose(form, u"cmbpriority"_s, priority);
@@ -194,14 +205,18 @@ private Q_SLOTS:
         QVERIFY(support::isTold(u"%1 Records Selected"_s.arg(wanted.size())));
         click(form, u"Cmd2"_s);
         QCOMPARE(support::bytesOf(m_f->drive.local(u"C:\\OVUserfiles\\OV_Timex.txt")),
-            ("Name           ,Phone                      \r\n" + wanted.join(u"\r\n"_s) + u"\r\n"_s).toUtf8());
+            (u"Name           ,Phone                      \r\n"_s + wanted.join(u"\r\n"_s) + u"\r\n"_s)
+                .toUtf8());
         click(form, u"Cmd1"_s);
         QVERIFY(support::isTold(u"3 Records Selected"_s));
     }
 
 private:
     void open() { m_form = m_f->open<telephone::FrmPhList>(u"FrmPhList"_s); }
-    widgets::HeadingGrid* grid(const QString& name) const { return child<widgets::HeadingGrid>(m_form, name); }
+    widgets::HeadingGrid* grid(const QString& name) const
+    {
+        return child<widgets::HeadingGrid>(m_form, name);
+    }
     QString shown(const QString& name, const QString& column) const
     {
         QStringList texts;

@@ -134,6 +134,12 @@ bool FrmDialer::showContact(qint64 id)
 
 void FrmDialer::offerNumber(const QString& number, const QString& who)
 {
+    // One of the person who is shown leaves all else as it is.
+    if (m_id != 0 && who == m_name) {
+        setNumber(number, m_id);
+        closePanel();
+        return enterNumber();
+    }
     m_contact = {};
     m_numbers->show(contactText());
     tab1->clearContact();

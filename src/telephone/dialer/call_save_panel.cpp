@@ -37,7 +37,7 @@ CallSavePanel::CallSavePanel(core::Context& context, QWidget* parent)
     form.group(tr("Save the call"))
         .caption(u"lblCall"_s)
         .combo(u"DBPurpose"_s, tr("&Purpose"), u"Todo"_s)
-        .combo(u"DBResponse"_s, tr("&Response"), u"Result"_s)
+        .combo(u"DBResponse"_s, tr("Respo&nse"), u"Result"_s)
         .check(u"Check1"_s, tr("Call &Later"))
         .beside()
         .date(u"ssdtNextCall"_s, {})
@@ -46,7 +46,7 @@ CallSavePanel::CallSavePanel(core::Context& context, QWidget* parent)
     form.buttonRow()
         .stretch()
         .button(u"cmdCallSave"_s, tr("&Save"), u"save", tr("Record the call"))
-        .button(u"CmdHideSave"_s, tr("&Cancel"), u"cancel", tr("Record nothing (Esc)"));
+        .button(u"CmdHideSave"_s, tr("Bac&k"), u"cancel", tr("Record nothing (Esc)"));
     DBPurpose = child<widgets::FilledCombo>(this, u"DBPurpose"_s);
     DBResponse = child<widgets::FilledCombo>(this, u"DBResponse"_s);
     Check1 = child<QCheckBox>(this, u"Check1"_s);
@@ -64,22 +64,48 @@ CallSavePanel::CallSavePanel(core::Context& context, QWidget* parent)
 void CallSavePanel::open(const DialledCall& call)
 {
     m_call = call;
-    m_what->setText(call.name.isEmpty() ? call.number : call.name + u'\n' + call.number);
-    for (widgets::FilledCombo* combo : {DBPurpose, DBResponse}) {
+    m_editedId = 0;
+    showValues({}, m_context.services.clock.today());
+}
+
+bool CallSavePanel::edit(qint64 callId)
+{
+    const jet::Recordset call
+        = m_context.data.openRecordset(u"select * from CNT_PHCALL where ID="_s + QString::number(callId));
+    if (!call.hasRow())
+        return false;
+    m_call = {call.number(u"PerId"), call.textOrEmpty(u"Numb"), call.textOrEmpty(u"Name")};
+    m_editedId = callId;
+    const QDate next = call.date(u"NextCall");
+    showValues({call.textOrEmpty(u"Todo"), call.textOrEmpty(u"Result"), call.flag(u"CallLater"), {}},
+        next.isValid() ? next : m_context.services.clock.today());
+    return true;
+}
+
+void CallSavePanel::showValues(const Entered& values, const std::optional<QDate>& next)
+{
+    m_what->setText(m_call.name.isEmpty() ? m_call.number : m_call.name + u'\n' + m_call.number);
+    for (widgets::FilledCombo* combo : {DBPurpose, DBResponse})
         combo->refill();
-        combo->setText({});
-    }
-    Check1->setChecked(false);
-    ssdtNextCall->setDate(m_context.services.clock.today());
-    ssdtNextCall->hide();
+    DBPurpose->setText(values.purpose);
+    DBResponse->setText(values.response);
+    Check1->setChecked(values.isLater);
+    ssdtNextCall->setDate(next);
+    ssdtNextCall->setVisible(values.isLater);
+    m_shown = entered();
     DBPurpose->setFocus();
+}
+
+CallSavePanel::Entered CallSavePanel::entered() const
+{
+    const bool isLater = Check1->isChecked();
+    return {DBPurpose->currentText(), DBResponse->currentText(), isLater,
+        isLater ? ssdtNextCall->text() : QString()};
 }
 
 bool CallSavePanel::isTouched() const
 {
-    return !isHidden()
-        && (Check1->isChecked() || !DBPurpose->currentText().isEmpty()
-            || !DBResponse->currentText().isEmpty());
+    return !isHidden() && entered() != m_shown;
 }
 
 // Kept: each click moves the date on, also one that takes the tick away.
@@ -90,31 +116,42 @@ void CallSavePanel::followCheck()
         ssdtNextCall->setDate(date->addDays(1));
 }
 
+bool CallSavePanel::store(jet::Recordset& calls)
+{
+    const Entered values = entered();
+    const auto next = values.isLater ? ssdtNextCall->date() : std::nullopt;
+    calls.set(u"Todo", values.purpose);
+    calls.set(u"Result", values.response);
+    calls.set(u"NextCall", next ? QVariant(*next) : QVariant(QString()));
+    calls.set(u"CallLater", values.isLater ? 1 : 0);
+    return calls.update();
+}
+
 void CallSavePanel::save()
 {
     if (Check1->isChecked() && ssdtNextCall->holdsBadText())
         return ssdtNextCall->askToMend();
-    const QDateTime now = m_context.services.clock.now();
-    const jet::Step step(
-        m_context.data, tr("the call to %1").arg(m_call.name.isEmpty() ? m_call.number : m_call.name));
+    const QString who = m_call.name.isEmpty() ? m_call.number : m_call.name;
+    const jet::Step step(m_context.data, tr("the call to %1").arg(who));
     jet::Recordset calls = m_context.data.openRecordset(u"select * from CNT_PHCALL order by ID"_s);
-    calls.addNew();
-    if (m_call.person != 0)
-        calls.set(u"PerId", m_call.person);
-    calls.set(u"Numb", m_call.number);
-    calls.set(u"Name", m_call.name.trimmed());
-    calls.set(u"Date", now.date());
-    calls.set(
-        u"Time", QDateTime(kDayZero, QTime(now.time().hour(), now.time().minute(), now.time().second())));
-    calls.set(u"Todo", DBPurpose->currentText());
-    calls.set(u"Result", DBResponse->currentText());
-    const auto next = Check1->isChecked() ? ssdtNextCall->date() : std::nullopt;
-    calls.set(u"NextCall", next ? QVariant(*next) : QVariant(QString()));
-    calls.set(u"CallLater", Check1->isChecked() ? 1 : 0);
-    if (!calls.update())
+    if (m_editedId == 0) {
+        const QDateTime now = m_context.services.clock.now();
+        const QTime time(now.time().hour(), now.time().minute(), now.time().second());
+        calls.addNew();
+        if (m_call.person != 0)
+            calls.set(u"PerId", m_call.person);
+        calls.set(u"Numb", m_call.number);
+        calls.set(u"Name", m_call.name.trimmed());
+        calls.set(u"Date", now.date());
+        calls.set(u"Time", QDateTime(kDayZero, time));
+    } else if (calls.findFirst(u"ID="_s + QString::number(m_editedId))) {
+        calls.edit();
+    }
+    if (!store(calls))
         return core::tellFailedSave(m_context);
+    m_shown = entered();
     m_context.services.sounds.play(core::sounds::Save);
-    Q_EMIT saved(m_call.name.isEmpty() ? m_call.number : m_call.name);
+    Q_EMIT saved(who);
 }
 
 } // namespace telephone

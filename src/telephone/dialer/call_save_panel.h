@@ -2,7 +2,10 @@
 
 #include "core/context.h"
 
+#include <QDate>
 #include <QFrame>
+
+#include <optional>
 
 class QCheckBox;
 class QLabel;
@@ -29,6 +32,8 @@ public:
     explicit CallSavePanel(core::Context& context, QWidget* parent = nullptr);
 
     void open(const DialledCall& call);
+    /// To mend one that was recorded; false when it is not there any more.
+    bool edit(qint64 callId);
     bool isTouched() const;
 
 Q_SIGNALS:
@@ -36,11 +41,23 @@ Q_SIGNALS:
     void cancelled();
 
 private:
+    struct Entered {
+        QString purpose;
+        QString response;
+        bool isLater = false;
+        QString next;
+        friend bool operator==(const Entered&, const Entered&) = default;
+    };
+    Entered entered() const;
+    void showValues(const Entered& values, const std::optional<QDate>& next);
     void save();
+    bool store(jet::Recordset& calls);
     void followCheck();
 
     core::Context& m_context;
     DialledCall m_call;
+    qint64 m_editedId = 0; ///< 0 for a new one
+    Entered m_shown;
     widgets::FilledCombo* DBPurpose = nullptr;
     widgets::FilledCombo* DBResponse = nullptr;
     QCheckBox* Check1 = nullptr;

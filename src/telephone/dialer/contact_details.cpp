@@ -133,7 +133,8 @@ ContactDetails::ContactDetails(core::Context& context, QWidget* parent)
     m_calls->setEmptyText(tr("No call to this person was saved yet"));
     m_calls->showAs(u"date"_s,
         [](const QVariant& date) { return QLocale::c().toString(date.toDate(), u"ddd,dd  MMM"_s); });
-    m_calls->showAs(u"time"_s, [](const QVariant& time) { return time.toTime().toString(u"HH:mm"_s); });
+    m_calls->showAs(
+        u"time"_s, [](const QVariant& time) { return time.toDateTime().time().toString(u"HH:mm"_s); });
     addTab(calls, tr("Calls"));
 }
 

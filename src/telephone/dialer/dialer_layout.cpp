@@ -201,7 +201,7 @@ QWidget* FrmDialer::layOutDial()
     Status->setAccessibleName(tr("State of the call"));
     chkDialerCity->setObjectName(u"chkDialerCity"_s);
     chkDialerCity->setToolTip(tr("One field for the number, or a choice of codes and numbers"));
-    auto* port = new QLabel(tr("P&ort"));
+    auto* port = new QLabel(tr("Po&rt"));
     port->setBuddy(CmbPort);
     CmbPort->setValues({u"1"_s, u"2"_s, u"3"_s});
     CmbPort->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -216,7 +216,8 @@ QWidget* FrmDialer::layOutDial()
         auto* box = new QHBoxLayout;
         box->setSpacing(6);
         for (int i = 0; i < parts.size(); ++i)
-            box->addWidget(parts[i], i == wide ? 1 : 0);
+            box->addWidget(parts[i], i == wide ? 1 : 0,
+                qobject_cast<widgets::KeyPad*>(parts[i]) ? Qt::AlignTop : Qt::Alignment());
         grid->addLayout(box, at++, 0);
     };
     auto* keys = new widgets::KeyPad(u"cmdpd"_s);

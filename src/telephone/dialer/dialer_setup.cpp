@@ -57,10 +57,10 @@ void DialerSetup::layOut()
     widgets::FormKit form(this, sizeOf);
     form.group(tr("Memory lists"))
         .wide(u"Grid2"_s, tr("Memory lists"), Grid2)
-        .button(u"CmdNew"_s, tr("&New"), u"add", tr("Begin a list of another name"))
+        .button(u"CmdNew"_s, tr("Ne&w"), u"add", tr("Begin a list of another name"))
         .button(u"CmdEdit"_s, tr("Ren&ame"), u"edit", tr("Change the name of the list that is marked"))
-        .button(u"CmdDel"_s, tr("&Delete"), u"delete", tr("Delete the list with its numbers"))
-        .line(u"Text2"_s, tr("Nam&e"), u"List"_s, KeyFilter::NoApostrophe)
+        .button(u"CmdDel"_s, tr("De&lete"), u"delete", tr("Delete the list with its numbers"))
+        .line(u"Text2"_s, tr("&Name"), u"List"_s, KeyFilter::NoApostrophe)
         .beside(0)
         .button(u"CmdSave"_s, tr("&Save"), u"save", tr("Store the name (Enter)"))
         .caption(u"lblListHint"_s);
@@ -73,9 +73,9 @@ void DialerSetup::layOut()
         .line(u"txtPrefix3"_s, tr("Prefix &3"), u"Prefix3"_s, KeyFilter::NoApostrophe)
         .button(u"CmdPh"_s, tr("Save &prefixes"), u"save", tr("Store the prefixes"));
     form.buttonRow()
-        .button(u"CmdModems"_s, tr("&Modems Setup"), u"setup", tr("Which device is behind each port"))
+        .button(u"CmdModems"_s, tr("Modems Setup"), u"setup", tr("Which device is behind each port"))
         .stretch()
-        .button(u"CmdHideSetup"_s, tr("&Close"), u"cancel", tr("Back to the dialer (Esc)"));
+        .button(u"CmdHideSetup"_s, tr("Bac&k"), u"cancel", tr("Back to the dialer (Esc)"));
     Text2 = child<QLineEdit>(this, u"Text2"_s);
     m_hint = child<QLabel>(this, u"lblListHint"_s);
 }

@@ -93,8 +93,8 @@ void MemoryChooser::layOut()
         .caption(u"Label26"_s)
         .fixedCombo(u"cmbcat1"_s, tr("Cate&gory"))
         .beside()
-        .fixedCombo(u"cmbcat2"_s, tr("S&ub category"))
-        .fixedCombo(u"CmbCity"_s, tr("Cit&y"))
+        .fixedCombo(u"cmbcat2"_s, tr("Su&b category"))
+        .fixedCombo(u"CmbCity"_s, tr("Ci&ty"))
         .beside()
         .fixedCombo(u"Combo1"_s, tr("&Phone list"))
         .wide(u"FG1"_s, tr("Contacts; Enter or a double click takes one"), FG1)
@@ -104,7 +104,7 @@ void MemoryChooser::layOut()
         .button(u"CmdExp"_s, tr("&Names only"), u"list", tr("Show the names alone, or all columns"))
         .stretch()
         .button(u"cmdsl"_s, tr("&Save"), u"save", tr("Put the number into the memory"))
-        .button(u"CmdHideChooser"_s, tr("&Cancel"), u"cancel", tr("Leave the memory as it is (Esc)"));
+        .button(u"CmdHideChooser"_s, tr("Bac&k"), u"cancel", tr("Leave the memory as it is (Esc)"));
     const auto combo = [this](const QString& name) { return child<widgets::FilledCombo>(this, name); };
     cmbcat1 = combo(u"cmbcat1"_s);
     cmbcat2 = combo(u"cmbcat2"_s);

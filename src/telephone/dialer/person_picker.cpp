@@ -27,8 +27,8 @@ PersonPicker::PersonPicker(core::Context& context, QWidget* parent)
         .wide(u"DBCPerson"_s, tr("People; typing looks for a name, Enter picks it"), DBCPerson);
     form.buttonRow()
         .stretch()
-        .button(u"CmdPick"_s, tr("&OK"), u"next", tr("Call this person (Enter, double click)"))
-        .button(u"CmdHidePicker"_s, tr("&Cancel"), u"cancel", tr("Leave it as it is (Esc)"));
+        .button(u"CmdPick"_s, tr("&Select"), u"next", tr("Call this person (Enter, double click)"))
+        .button(u"CmdHidePicker"_s, tr("Bac&k"), u"cancel", tr("Leave it as it is (Esc)"));
     dbccat = child<widgets::FilledCombo>(this, u"dbccat"_s);
     dbccat->setSource([this] {
         QStringList categories = core::firstColumn(m_context.data, peopleCategoriesSql());
