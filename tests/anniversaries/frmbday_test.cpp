@@ -201,6 +201,25 @@ private Q_SLOTS:
             QStringList{u"Anniversary of Pat O'Hara D'Arcy|An1Pat O'Hara|9"_s});
     }
 
+    // What is out of sight is not written; a tick is.
+    void exportsWhatIsSeen()
+    {
+        m_fixture->execute(u"update cnt_main set cpsmnbd=true where id=3"_s);
+        open();
+        child<QAction>(m_form, u"ViewNext"_s)->trigger();
+        child<QAction>(m_form, u"Priority1"_s)->trigger();
+        const QString path = m_fixture->root.filePath(u"days.csv"_s);
+        m_fixture->boxes.expectChoice(u"Export"_s, path);
+        support::click(m_form, u"SSCommand5"_s);
+        QCOMPARE(QFileInfo(m_fixture->boxes.suggested.constFirst()).fileName(),
+            u"Contact-Birthday - 22 Nov-2026.xls"_s);
+        const QStringList lines = QString::fromUtf8(support::bytesOf(path)).split(u"\r\n"_s);
+        QCOMPARE(lines.mid(1),
+            (QStringList{u"25 Nov,1,Friends,Club,Pat O'Hara,D'Arcy,25-Nov-1982,44,"_s,
+                u"24 Dec,1,Friends,Club,Pat O'Hara,Lee,24-Dec-2030,-4,"_s,
+                u"31 Dec,2,Work,,Cy Ray,Cy Ray,31-Dec-2026,0,Y"_s, QString()}));
+    }
+
     // A copy that fails has done nothing, and can be made again.
     void failedCopyKeepsThePanel()
     {

@@ -375,8 +375,10 @@ void frmbday::bookChanged()
     DBCcat->refill();
     DBCPriority->refill();
     m_month->readDays();
-    if (m_isRead && !Frame7->isVisibleTo(this))
-        m_list->refresh();
+    if (!m_isRead || Frame7->isVisibleTo(this))
+        return;
+    m_list->refresh();
+    showEmptyText();
 }
 
 void frmbday::vocabulariesChanged()
@@ -392,12 +394,20 @@ void frmbday::showView(const ListView& view)
     const QSignalBlocker quietGroups(ssTabMerge);
     SSActiveTabs1->setCurrentIndex(view.occasion == Occasion::Birthday ? 0 : 1);
     ssTabMerge->setCurrentIndex(static_cast<int>(view.regrouping));
-    FGBday->setEmptyText(view.occasion == Occasion::Birthday
-            ? tr("No birthday is known. Enter them in the details of a contact.")
-            : tr("No anniversary is known. Enter them in the details of a contact."));
     m_list->open(view);
     showDepth();
+    showEmptyText();
     rowChanged();
+}
+
+void frmbday::showEmptyText()
+{
+    if (m_list->rows() > 0)
+        FGBday->setEmptyText(tr("No day of the list is as chosen above"));
+    else if (m_list->view().occasion == Occasion::Birthday)
+        FGBday->setEmptyText(tr("No birthday is known. Enter them in the details of a contact."));
+    else
+        FGBday->setEmptyText(tr("No anniversary is known. Enter them in the details of a contact."));
 }
 
 // What the short list does not have can not be filtered by, nor copied.

@@ -59,6 +59,7 @@ private:
 
     void showView(const ListView& view);
     void showDepth();
+    void showEmptyText();
     void followFilter();
     void viewAll();
     void rowChanged();
