@@ -81,80 +81,77 @@ private Q_SLOTS:
             {u"FormMainBusiness"_s, u"CON0020"_s}, {u"TurboAdd"_s, u"CON0076"_s},
             {u"FrmOthers"_s, u"CON0062"_s}, {u"FrmvCard"_s, u"CON0071"_s}, {u"FrmVCF"_s, u"CON0073"_s},
             {u"FormAviewbday"_s, u"CON002"_s}, {u"FormZodiacYr"_s, u"CON0026"_s},
-            {u"frmzodiac"_s, u"CON0075"_s}, {u"frmbday"_s, u"CON0032"_s}};
-        {u"FrmPhReplacer"_s, u"CON0064"_s},
-        {
-            u"FrmPhSearch"_s, u"CON0065"_s
+            {u"frmzodiac"_s, u"CON0075"_s}, {u"frmbday"_s, u"CON0032"_s}, {u"FrmPhReplacer"_s, u"CON0064"_s},
+            {u"FrmPhSearch"_s, u"CON0065"_s}};
+        support::ScreenFixture fixture;
+        for (const QString& code : codes)
+            fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));
+        anniversaries::registerAnniversaries(fixture.screens);
+        telephone::registerTelephone(fixture.screens);
+        transfer::registerTransfer(fixture.screens);
+        views::registerViews(fixture.screens);
+        entry::registerEntry(fixture.screens);
+        setup::registerSetup(fixture.screens);
+        int asked = 0;
+        for (const QString& name : fixture.screens.names()) {
+            core::Screen* screen = fixture.screens.load(name);
+            fixture.screens.show(name);
+            if (screen->findChild<QWidget*>(u"CmdHelp"_s)) {
+                support::click(screen, u"CmdHelp"_s);
+                QVERIFY2(support::isTold(u"Help of "_s + codes.value(name, u"nothing"_s) + u'.'),
+                    qPrintable(name));
+                ++asked;
+            }
+            fixture.screens.unload(name);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
-    };
-    support::ScreenFixture fixture;
-    for (const QString& code : codes)
-        fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));
-    anniversaries::registerAnniversaries(fixture.screens);
-    telephone::registerTelephone(fixture.screens);
-    transfer::registerTransfer(fixture.screens);
-    views::registerViews(fixture.screens);
-    entry::registerEntry(fixture.screens);
-    setup::registerSetup(fixture.screens);
-    int asked = 0;
-    for (const QString& name : fixture.screens.names()) {
-        core::Screen* screen = fixture.screens.load(name);
-        fixture.screens.show(name);
-        if (screen->findChild<QWidget*>(u"CmdHelp"_s)) {
-            support::click(screen, u"CmdHelp"_s);
+        QCOMPARE(asked, int(codes.size()));
+        QCOMPARE(fixture.verify(), QString());
+    }
+
+private:
+    void lookAtLabels(const QString& screen)
+    {
+        for (QWidget* widget : QApplication::allWidgets()) {
+            const auto* label = qobject_cast<QLabel*>(widget);
+            if (!label || !label->text().contains(Markup))
+                continue;
+            ++m_labels;
             QVERIFY2(
-                support::isTold(u"Help of "_s + codes.value(name, u"nothing"_s) + u'.'), qPrintable(name));
-            ++asked;
+                label->textFormat() == Qt::PlainText, qPrintable(screen + u": "_s + label->objectName()));
         }
-        fixture.screens.unload(name);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    QCOMPARE(asked, int(codes.size()));
-    QCOMPARE(fixture.verify(), QString());
-}
 
-private : void
-          lookAtLabels(const QString& screen)
-{
-    for (QWidget* widget : QApplication::allWidgets()) {
-        const auto* label = qobject_cast<QLabel*>(widget);
-        if (!label || !label->text().contains(Markup))
-            continue;
-        ++m_labels;
-        QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(screen + u": "_s + label->objectName()));
-    }
-}
-
-void lookAtTips(QWidget* screen)
-{
-    for (QWidget* widget : screen->findChildren<QWidget*>())
-        lookAtTip(widget->toolTip(), widget);
-    for (auto* view : screen->findChildren<QAbstractItemView*>()) {
-        QModelIndexList open{QModelIndex()};
-        while (!open.isEmpty()) {
-            const QModelIndex parent = open.takeFirst();
-            for (int row = 0; view->model() && row < std::min(20, view->model()->rowCount(parent)); ++row) {
-                open += view->model()->index(row, 0, parent);
-                lookAtTip(open.constLast().data(Qt::ToolTipRole).toString(), view);
+    void lookAtTips(QWidget* screen)
+    {
+        for (QWidget* widget : screen->findChildren<QWidget*>())
+            lookAtTip(widget->toolTip(), widget);
+        for (auto* view : screen->findChildren<QAbstractItemView*>()) {
+            QModelIndexList open{QModelIndex()};
+            while (!open.isEmpty()) {
+                const QModelIndex parent = open.takeFirst();
+                for (int row = 0; view->model() && row < std::min(20, view->model()->rowCount(parent));
+                     ++row) {
+                    open += view->model()->index(row, 0, parent);
+                    lookAtTip(open.constLast().data(Qt::ToolTipRole).toString(), view);
+                }
             }
         }
     }
-}
 
-void lookAtTip(const QString& tip, QWidget* owner)
-{
-    if (!tip.contains(Markup))
-        return;
-    ++m_tips;
-    QToolTip::showText({}, tip, owner);
-    lookAtLabels(owner->objectName());
-    QToolTip::hideText();
-}
+    void lookAtTip(const QString& tip, QWidget* owner)
+    {
+        if (!tip.contains(Markup))
+            return;
+        ++m_tips;
+        QToolTip::showText({}, tip, owner);
+        lookAtLabels(owner->objectName());
+        QToolTip::hideText();
+    }
 
-int m_labels = 0;
-int m_tips = 0;
-}
-;
+    int m_labels = 0;
+    int m_tips = 0;
+};
 
 QTEST_MAIN(PlainTextTest)
 #include "plain_text_test.moc"
