@@ -201,6 +201,42 @@ private Q_SLOTS:
             QStringList{u"Anniversary of Pat O'Hara D'Arcy|An1Pat O'Hara|9"_s});
     }
 
+    // A list that is not read as a whole has the same groups, and the same days are found in it.
+    void longList()
+    {
+        constexpr int kMany = 5200;
+        QList<QStringList> people;
+        for (int i = 0; i < kMany; ++i)
+            people += QStringList{u"Person %1"_s.arg(i), QDate(1950, 1, 1).addDays(i).toString(Qt::ISODate),
+                QString::number(1 + i % 4)};
+        QVERIFY(
+            m_fixture->book.data().appendRows(u"cnt_main"_s, {u"Name"_s, u"M_BD"_s, u"Priority"_s}, people));
+        open();
+        child<QAction>(m_form, u"ViewNext"_s)->trigger();
+        const int near = grid()->recordCount();
+        child<QAction>(m_form, u"Priority1"_s)->trigger();
+        child<QAction>(m_form, u"Priority2"_s)->trigger();
+        QCOMPARE(grid()->recordCount(), 0);
+        for (const QString& tool : {u"ViewNext"_s, u"Priority1"_s, u"Priority2"_s})
+            child<QAction>(m_form, tool)->trigger();
+        clickTab(u"ssTabMerge"_s, 3);
+        QTRY_COMPARE(grid()->rowCount(), kMany + 6 + 12);
+        int ofDays = 0;
+        QStringList months;
+        for (int line = 0; line < grid()->rowCount(); ++line) {
+            const QModelIndex month = grid()->model()->index(line, 1);
+            const QDate born = QDate::fromString(grid()->textAt(line, u"m_bd"_s).left(10), Qt::ISODate);
+            if (grid()->isHeading(line))
+                months << month.data().toString();
+            else
+                QCOMPARE(month.data().toString(), months.constLast());
+            const QDate day(2026, born.month(), born.day());
+            ofDays += day.isValid() && day >= QDate(2026, 11, 22) ? 1 : 0;
+        }
+        QCOMPARE(months.size(), 12);
+        QCOMPARE(ofDays, near); // to the end of the year
+    }
+
     // What is out of sight is not written; a tick is.
     void exportsWhatIsSeen()
     {
