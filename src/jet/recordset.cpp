@@ -116,6 +116,11 @@ qint64 Recordset::keyAt(int row) const
     return row < 0 || row >= count() ? 0 : m_data->key(row);
 }
 
+int Recordset::leadingColumn() const
+{
+    return m_data ? m_data->leadingColumn() : -1;
+}
+
 std::vector<Recordset::Run> Recordset::leadingRuns() const
 {
     return m_data ? m_data->leadingRuns() : std::vector<Run>();

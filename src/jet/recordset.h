@@ -75,6 +75,7 @@ public:
     qint64 keyAt(int row) const; ///< the row's own id in its table; 0 in a snapshot
     /// Empty for a selection that is not sorted by whole numbers first, or is small.
     std::vector<Run> leadingRuns() const;
+    int leadingColumn() const; ///< of the first of these numbers; -1 where there are none
     int rowOf(int column, qint64 wanted) const; ///< the first with that number in a column; -1 for none
     bool holdsRows() const; ///< false when a row is fetched as it is looked at
     /// The first row behind `row` that has another text in the column, but none beyond `limit`. For lists

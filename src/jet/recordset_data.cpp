@@ -145,6 +145,13 @@ const RowStore* RecordsetData::block(int number)
     return rows.get();
 }
 
+int RecordsetData::leadingColumn() const
+{
+    if (!m_union || m_request.plan->translation.parts->leads == 0)
+        return -1;
+    return m_request.plan->translation.parts->leadPositions.front();
+}
+
 std::vector<Recordset::Run> RecordsetData::leadingRuns() const
 {
     std::vector<Recordset::Run> runs;

@@ -34,6 +34,7 @@ public:
     /// The first row with that number in a column; -1 when there is none.
     int rowOf(int column, qint64 wanted);
     std::vector<Recordset::Run> leadingRuns() const;
+    int leadingColumn() const;
 
     bool isEditable() const;
     void begin(bool adding);

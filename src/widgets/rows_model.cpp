@@ -346,19 +346,17 @@ void RowsModel::beginOutline()
         m_outline.clear();
 }
 
-// A list that is sorted by the number that stands in the headings knows where each begins. Which column it is
-// sorted by is seen in the rows.
+// A list that is sorted by the number that stands in the headings knows where each begins.
 std::vector<int> RowsModel::startsOfRuns() const
 {
     std::vector<int> starts;
+    if (m_recordset.leadingColumn() != m_outlineSource)
+        return starts;
     std::optional<int> before;
     int row = 0;
     for (const jet::Recordset::Run& run : m_recordset.leadingRuns()) {
-        if (before != run.numbers[0]) {
-            if (sourceNumber(row, m_outlineSource) != run.numbers[0])
-                return {};
+        if (before != run.numbers[0])
             starts.push_back(row);
-        }
         before = run.numbers[0];
         row += run.rows;
     }

@@ -86,6 +86,8 @@ private Q_SLOTS:
         QCOMPARE(grid()->model()->index(0, 1).data().toString(), u"29 Feb"_s);
         QVERIFY(!child<QWidget>(m_form, u"ssTabMerge"_s)->isVisible());
         QVERIFY(!child<QAction>(m_form, u"TransTask"_s)->isEnabled());
+        walkDays(3);
+        QCOMPARE(grid()->model()->index(grid()->currentRow(), 1).data().toString(), u"25 Nov"_s);
         clickTab(u"SSActiveTabs1"_s, 1);
         QCOMPARE(shownLines(), u"Ann Lee,Pat O'Hara"_s);
         child<QAction>(m_form, u"Details"_s)->trigger();
@@ -125,9 +127,7 @@ private Q_SLOTS:
         QCOMPARE(month->styleOf(11, 30), u"Anniv12"_s);
         QCOMPARE(month->styleOf(3, 1), u"Anniv34"_s);
         QCOMPARE(month->styleOf(11, 22), QString());
-        month->setFocus();
-        for (int day = 22; day < 25; ++day)
-            QTest::keyClick(month, Qt::Key_Right);
+        walkDays(3);
         QCOMPARE(grid()->currentText(u"name"_s), u"D'Arcy"_s);
         QCOMPARE(m_form->position(), u"3 Of 6"_s);
         const QHash<QString, QString> texts{{u"lblname"_s, u"D'Arcy    (Pat O'Hara)"_s},
@@ -234,6 +234,8 @@ private Q_SLOTS:
             ofDays += day.isValid() && day >= QDate(2026, 11, 22) ? 1 : 0;
         }
         QCOMPARE(months.size(), 12);
+        walkDays(10);
+        QCOMPARE(grid()->model()->index(grid()->currentRow(), 7).data().toString(), u"02 Dec"_s);
         QCOMPARE(ofDays, near); // to the end of the year
     }
 
@@ -381,6 +383,14 @@ private:
     {
         auto* tabs = child<QTabBar>(m_form, name);
         QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+    }
+
+    void walkDays(int days) const
+    {
+        auto* month = child<widgets::DayCalendar>(m_form, u"SSMonth1"_s);
+        month->setFocus();
+        for (int day = 0; day < days; ++day)
+            QTest::keyClick(month, Qt::Key_Right);
     }
 
     int lineOf(const QString& name) const { return int(shownLines().split(u',').indexOf(name)); }

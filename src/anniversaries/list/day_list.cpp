@@ -173,7 +173,8 @@ void DayList::readFacts()
 
 bool DayList::isInOrderOfDays() const
 {
-    return !m_view.isFull || m_view.regrouping == Regrouping::Refresh;
+    return !m_view.isFull || m_view.regrouping == Regrouping::Refresh
+        || (m_view.regrouping == Regrouping::Month && m_view.occasion == Occasion::Anniversary);
 }
 
 /// The first of the rows shown that is not before that day, in a list that is sorted by the day.
@@ -217,18 +218,37 @@ ListedDay DayList::rowAt(int row) const
 
 bool DayList::goTo(QDate day)
 {
-    const int begin = isInOrderOfDays() ? placeOfDay(day.month(), day.day()) : 0;
-    const int end = isInOrderOfDays() ? std::min(begin + 1, m_grid->recordCount()) : m_grid->recordCount();
-    for (int place = begin; place < end; ++place) {
-        const int row = m_grid->shownSourceRow(place);
+    const auto [first, end] = rowsOfMonth(day.month());
+    int row = first;
+    if (isInOrderOfDays())
+        row = m_grid->shownSourceRow(std::min(placeOfDay(day.month(), day.day()), m_grid->recordCount() - 1));
+    for (; row >= 0 && row < end; ++row) {
         const QDate date = dateAt(row);
-        if (date.isValid() && date.month() == day.month() && date.day() == day.day()) {
+        const bool isThatDay = date.isValid() && date.month() == day.month() && date.day() == day.day();
+        if (isThatDay && m_grid->placeOf(row) >= 0) {
             m_grid->setCurrentSourceRow(row);
             return true;
         }
+        if (isInOrderOfDays())
+            break;
     }
     m_grid->setCurrentRow(-1);
     return false;
+}
+
+/// The rows among which those of a month are, from the first up to the one behind the last.
+std::pair<int, int> DayList::rowsOfMonth(int month) const
+{
+    const jet::Recordset& list = m_grid->recordset();
+    if (list.leadingColumn() < 0 || list.leadingColumn() != list.columnIndex(u"linkidid"))
+        return {0, rows()};
+    int first = 0;
+    int end = 0;
+    for (const jet::Recordset::Run& run : list.leadingRuns()) {
+        first += run.numbers[0] < month ? run.rows : 0;
+        end += run.numbers[0] <= month ? run.rows : 0;
+    }
+    return {first, end};
 }
 
 QString DayList::position() const

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace widgets {
@@ -76,6 +77,7 @@ private:
     void readFacts();
     bool isInOrderOfDays() const;
     int placeOfDay(int month, int day) const;
+    std::pair<int, int> rowsOfMonth(int month) const;
     std::optional<int> rowLike(const ListedDay& day) const;
     void showTicks();
     ListedDay rowAt(int row) const;
