@@ -70,8 +70,12 @@ private Q_SLOTS:
         m_form->bookChanged();
         QCOMPARE(shown(u"FGPhone"_s, u"phone"_s), u"111,900"_s);
 
+        support::type(m_form, u"DBCombo1"_s, u"ol"_s); // no list has this name
+        m_f->boxes.expect(u"List Name should be selected"_s);
+        click(m_form, u"SSCommand9"_s);
+        support::type(m_form, u"DBCombo1"_s, u"old"_s);
+        QCOMPARE(grid(u"list1"_s)->currentRow(), 1);
         // Only rows without a tag count as known.
-        support::clickRow(grid(u"list1"_s), 1);
         support::clickRow(grid(u"FG"_s), 1);
         m_f->boxes.expect(u"This Person is already in this list"_s);
         click(m_form, u"CmdList"_s);

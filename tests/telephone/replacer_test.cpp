@@ -99,7 +99,7 @@ private Q_SLOTS:
         answer(u"CmdCancel"_s);
         click(m_form, u"cmdreplace"_s);
         QCOMPARE(m_told,
-            u"3 entries will change:;1 of them end otherwise than before.;"
+            u"3 entries will change:;1 of them lose digits at their end:;"
             "Ann,Home, first number,2212345678901,33123456789"_s);
         QCOMPARE(texts().constFirst(), kBefore);
         answer(u"ChkPreview"_s, u"CmdOk"_s);
