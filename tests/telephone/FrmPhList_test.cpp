@@ -179,6 +179,13 @@ private Q_SLOTS:
         for (const QString& button : {u"dxColorBtn2"_s, u"dxColorBtn3"_s}) {
             click(m_form, button);
             QCOMPARE(m_f->frame.placed.constLast(), u"FrmReportViewer"_s);
+            if (button == u"dxColorBtn3")
+                break;
+            m_f->boxes.expectChoice(u"Phone List"_s, m_f->root.filePath(u"list"_s));
+            child<QAction>(m_f->screens.find(u"FrmReportViewer"), u"SaveHtml"_s)->trigger();
+            const QByteArray page = support::bytesOf(m_f->root.filePath(u"list.html"_s));
+            QVERIFY(page.contains("Phone List - Old") && page.contains("222"));
+            QVERIFY(m_f->boxes.suggested.constLast().endsWith(u"Exported Files/Html/Phone List.html"));
         }
     }
 
