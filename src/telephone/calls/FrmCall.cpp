@@ -16,6 +16,7 @@
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -40,6 +41,7 @@ namespace {
 
 using enum core::Tool::Place;
 
+constexpr int kLeastGroup = 360;
 constexpr QStringView kFileName = u"Orvane Communicator.txt";
 constexpr core::Tool kTools[] = {
     {.id = u"GeneratetextFile",
@@ -92,8 +94,11 @@ FrmCall::FrmCall(core::Context& context, QWidget* parent)
     auto* body = new QWidget;
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(12, 12, 12, 12);
+    auto* groups = new widgets::WrappingRow;
+    groups->setSpacing(12);
     for (int kind = 0; kind < int(pendingKinds().size()); ++kind)
-        column->addWidget(layOutKind(kind));
+        groups->add(layOutKind(kind));
+    column->addLayout(groups);
     column->addWidget(m_hint);
     column->addStretch(1);
     auto* close = new QPushButton(tr("Close"));
@@ -126,6 +131,7 @@ FrmCall::FrmCall(core::Context& context, QWidget* parent)
 QWidget* FrmCall::layOutKind(int kind)
 {
     auto* group = new QGroupBox(QCoreApplication::translate("telephone", pendingKinds()[kind].title));
+    group->setMinimumWidth(kLeastGroup);
     auto* grid = new QGridLayout(group);
     grid->setVerticalSpacing(4);
     grid->setColumnStretch(0, 1);

@@ -75,7 +75,7 @@ constexpr core::Tool kTools[] = {
 };
 
 constexpr int kDialWidth = 270;
-constexpr int kComboWidth = 96;
+constexpr int kLeastLetters = 7; ///< of the combos on the left
 constexpr int kMostDigits = 100;
 
 QLabel* plainLabel(const QString& name, QWidget* parent)
@@ -104,8 +104,9 @@ widgets::FilledCombo* combo(const QString& name, const QString& what,
     made->setObjectName(name);
     made->setAccessibleName(what);
     made->setToolTip(what);
-    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    made->setMinimumWidth(kComboWidth);
+    made->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    made->setMinimumContentsLength(kLeastLetters);
+    made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return made;
 }
 
