@@ -79,7 +79,8 @@ private Q_SLOTS:
             {u"frmTabFilter"_s, u"CON0069"_s}, {u"FrmDuplicator"_s, u"CON0044"_s},
             {u"FormMain"_s, u"CON0018"_s}, {u"FormMain1"_s, u"CON0019"_s},
             {u"FormMainBusiness"_s, u"CON0020"_s}, {u"TurboAdd"_s, u"CON0076"_s},
-            {u"FrmOthers"_s, u"CON0062"_s}, {u"FrmvCard"_s, u"CON0071"_s}, {u"FrmVCF"_s, u"CON0073"_s}};
+            {u"FrmOthers"_s, u"CON0062"_s}, {u"FrmvCard"_s, u"CON0071"_s}, {u"FrmVCF"_s, u"CON0073"_s},
+            {u"FrmDialer"_s, u"CON0043"_s}, {u"Form1"_s, u"CON001"_s}};
         support::ScreenFixture fixture;
         for (const QString& code : codes)
             fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));

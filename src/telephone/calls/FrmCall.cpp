@@ -41,6 +41,7 @@ namespace {
 
 using enum core::Tool::Place;
 
+constexpr int kEmails = 1; ///< of the kinds
 constexpr int kLeastGroup = 360;
 constexpr QStringView kFileName = u"Orvane Communicator.txt";
 constexpr core::Tool kTools[] = {
@@ -283,10 +284,10 @@ void FrmCall::handOver(int kind, int line)
         return inform(tr("Record not selected"));
     const qint64 id = contact.number(u"id");
     core::Screens& screens = context().screens;
-    if (auto* composer = screens.load<core::MailComposer>(kHands[kind].form))
-        composer->AddRecipient(id);
-    else if (auto* screen = screens.load<core::ContactScreen>(kHands[kind].form))
+    if (auto* screen = kind == kEmails ? nullptr : screens.load<core::ContactScreen>(kHands[kind].form))
         screen->showContact(id);
+    if (auto* composer = kind != kEmails ? nullptr : screens.load<core::MailComposer>(kHands[kind].form))
+        composer->AddRecipient(id);
     screens.show(kHands[kind].form);
 }
 
