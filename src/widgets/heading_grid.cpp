@@ -23,27 +23,8 @@ namespace {
 
 constexpr int RowPadding = 8;
 constexpr int WidestMargin = 2; ///< characters of a column that shows nothing
-constexpr int OrdinarySize = 8; ///< of a grid whose texts are as large as all others
-constexpr auto SizeProperty = "orvaneGridFont"; ///< of the application object
 
 } // namespace
-
-int gridFontSize()
-{
-    const int size = qApp->property(SizeProperty).toInt();
-    return size > 0 ? size : OrdinarySize;
-}
-
-void setGridFontSize(int size)
-{
-    if (size == gridFontSize())
-        return;
-    qApp->setProperty(SizeProperty, size);
-    for (QWidget* widget : QApplication::allWidgets()) {
-        if (auto* grid = qobject_cast<HeadingGrid*>(widget))
-            grid->followFontSize();
-    }
-}
 
 HeadingGrid::HeadingGrid(QWidget* parent)
     : QTableView(parent)
@@ -87,8 +68,8 @@ HeadingGrid::HeadingGrid(QWidget* parent)
 void HeadingGrid::followFontSize()
 {
     const QFont ordinary = QApplication::font(this);
-    if (gridFontSize() != OrdinarySize || font().pointSize() != ordinary.pointSize())
-        setFontSize(ordinary.pointSize() + gridFontSize() - OrdinarySize);
+    if (gridFontSize() != OrdinaryGridFont || font().pointSize() != ordinary.pointSize())
+        setFontSize(ordinary.pointSize() + gridFontSize() - OrdinaryGridFont);
 }
 
 void HeadingGrid::setHeadings(QStringView headings, const QStringList& columns)
@@ -147,6 +128,12 @@ void HeadingGrid::setKeyColumn(const QString& name)
 void HeadingGrid::showAs(const QString& name, std::function<QString(const QVariant&)> wording)
 {
     m_model->showAs(name, std::move(wording));
+}
+
+void HeadingGrid::showEmptyAs(
+    const QString& name, const QString& other, std::function<QString(const QVariant&)> wording)
+{
+    m_model->showEmptyAs(name, other, std::move(wording));
 }
 
 void HeadingGrid::setOutline(const QString& name)
@@ -218,9 +205,9 @@ bool HeadingGrid::isTicked(int sourceRow) const
     return m_model->isTicked(sourceRow);
 }
 
-void HeadingGrid::tickRows(const std::function<bool(int sourceRow)>& ticked)
+void HeadingGrid::tickRows(std::function<bool(int sourceRow)> ticked)
 {
-    m_model->tickRows(ticked);
+    m_model->tickRows(std::move(ticked));
 }
 
 void HeadingGrid::toggleTick(int row)
@@ -555,19 +542,17 @@ void HeadingGrid::fitToPlace()
 {
     if (!m_columnsGiveWay || !m_mayFit || m_wantedWidths.size() != m_model->columnCount())
         return;
-    QList<int> columns;
     QList<ColumnWish> wishes;
     for (int column = 0; column < m_wantedWidths.size(); ++column) {
-        if (isColumnHidden(column))
-            continue;
-        columns << column;
-        const int wanted = m_wantedWidths[column];
+        const int wanted = isColumnHidden(column) ? 0 : m_wantedWidths[column];
         wishes << ColumnWish{wanted, std::min(wanted, horizontalHeader()->sectionSizeHint(column))};
     }
-    const QList<int> widths = widthsWithin(viewport()->width(), wishes);
     m_isFitting = true;
-    for (int i = 0; i < columns.size(); ++i)
-        setColumnWidth(columns[i], widths[i]);
+    const QList<int> widths = widthsWithin(viewport()->width(), wishes);
+    for (int column = 0; column < widths.size(); ++column) {
+        if (!isColumnHidden(column))
+            setColumnWidth(column, widths[column]);
+    }
     m_isFitting = false;
 }
 

@@ -26,6 +26,7 @@ struct Heading {
 /// The size of the texts in all grids, as the person chose it: 8 is that of all other texts, and a larger one
 /// is as many points above it. Grids that are there change at once.
 int gridFontSize();
+inline constexpr int OrdinaryGridFont = 8; ///< of a grid whose texts are as large as all others
 void setGridFontSize(int size);
 
 /// Headings are one string of columns joined by "|"; a column is as wide as its text with all its blanks.
@@ -60,6 +61,9 @@ public:
     void setKeyColumn(const QString& name);
     /// Shows a column's values in another way: dates, ticks. No wording shows them as they are again.
     void showAs(const QString& name, std::function<QString(const QVariant&)> wording);
+    /// Where nothing stands in a column, shows a wording of another one instead.
+    void showEmptyAs(
+        const QString& name, const QString& other, std::function<QString(const QVariant&)> wording);
     /// Shows only those rows of the recordset, which rise, until the next fill; no value shows all. The
     /// current row stays while it is shown, and nobody hears of it. Takes one pass, however many there are.
     void showOnly(std::optional<std::vector<int>> rows);
@@ -76,7 +80,8 @@ public:
     /// Whether a click into a box, or Space, changes its tick.
     void setMayTick(bool may) { m_mayTick = may; }
     bool isTicked(int sourceRow) const;
-    void tickRows(const std::function<bool(int sourceRow)>& ticked);
+    /// Ticks all rows by a rule, which is asked when a row is looked at.
+    void tickRows(std::function<bool(int sourceRow)> ticked);
 
     /// Rows of equal texts stand under a heading line that folds; "" ends it. The rows must be sorted by the
     /// column. After a fill the groups are found in steps, so that the window stays alive; until then one

@@ -52,6 +52,7 @@ void RowsModel::fill(jet::Recordset rows)
     m_rows.clear();
     m_shown.reset();
     m_ticks.clear();
+    m_tickRule = {};
     pairOff();
     beginOutline();
     endResetModel();
@@ -66,6 +67,7 @@ void RowsModel::setRows(const QList<QStringList>& rows, const QStringList& names
     m_names = names;
     m_shown.reset();
     m_ticks.clear();
+    m_tickRule = {};
     pairOff();
     beginOutline();
     endResetModel();
@@ -88,8 +90,20 @@ void RowsModel::showAs(const QString& name, Wording wording)
     endResetModel();
 }
 
+void RowsModel::showEmptyAs(const QString& name, const QString& other, Wording wording)
+{
+    beginResetModel();
+    m_emptyName = name;
+    m_otherName = other;
+    m_emptyWording = std::move(wording);
+    pairOff();
+    endResetModel();
+}
+
 void RowsModel::pairOff()
 {
+    m_emptySource = sourceOf(m_emptyName);
+    m_otherSource = sourceOf(m_otherName);
     m_keySource = sourceOf(m_keyColumn.isEmpty() ? u"id"_s : m_keyColumn);
     m_outlineSource = sourceOf(m_outlineColumn);
     m_tickSource = sourceOf(m_tickColumnName);
@@ -154,7 +168,10 @@ QString RowsModel::sourceText(int row, int source) const
 {
     if (source < 0 || row < 0 || row >= rowsInAll())
         return {};
-    return m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
+    const QString text = m_fromList ? m_rows[row].value(source) : m_recordset.textAt(row, source);
+    if (source != m_emptySource || m_otherSource < 0 || !text.isEmpty())
+        return text;
+    return wordedText(row, m_otherSource, m_emptyWording);
 }
 
 qint64 RowsModel::sourceNumber(int row, int source) const
@@ -249,31 +266,25 @@ bool RowsModel::isTicked(int row) const
 {
     if (m_tickSource < 0 || row < 0 || row >= rowsInAll())
         return false;
-    if (!m_ticks.empty())
-        return m_ticks[size_t(row)];
+    if (const auto changed = m_ticks.constFind(row); changed != m_ticks.cend())
+        return *changed;
+    if (m_tickRule)
+        return m_tickRule(row);
     return m_fromList ? m_rows[row].value(m_tickSource) == u"True"_s
                       : m_recordset.valueAt(row, m_tickSource).toBool();
 }
 
 void RowsModel::setTicked(int row, bool ticked)
 {
-    if (m_ticks.empty()) {
-        std::vector<bool> asRead(static_cast<size_t>(rowsInAll()));
-        for (int each = 0; each < rowsInAll(); ++each)
-            asRead[size_t(each)] = isTicked(each);
-        m_ticks = std::move(asRead);
-    }
-    m_ticks[size_t(row)] = ticked;
+    m_ticks.insert(row, ticked);
     const QModelIndex cell = index(lineOfSource(row), tickColumn());
     Q_EMIT dataChanged(cell, cell, {Qt::CheckStateRole});
 }
 
-void RowsModel::tickRows(const std::function<bool(int row)>& ticked)
+void RowsModel::tickRows(std::function<bool(int row)> ticked)
 {
-    std::vector<bool> ticks(static_cast<size_t>(rowsInAll()));
-    for (int row = 0; row < rowsInAll(); ++row)
-        ticks[size_t(row)] = ticked(row);
-    m_ticks = std::move(ticks);
+    m_tickRule = std::move(ticked);
+    m_ticks.clear();
     if (rowCount() > 0 && tickColumn() >= 0)
         Q_EMIT dataChanged(index(0, tickColumn()), index(rowCount() - 1, tickColumn()), {Qt::CheckStateRole});
 }

@@ -24,6 +24,7 @@ public:
     void setRows(const QList<QStringList>& rows, const QStringList& names);
     void setKeyColumn(const QString& name);
     void showAs(const QString& name, Wording wording);
+    void showEmptyAs(const QString& name, const QString& other, Wording wording);
 
     const QList<Heading>& headings() const { return m_headings; }
     bool showsNothing(int column) const { return m_sources.value(column, -1) < 0; }
@@ -45,7 +46,7 @@ public:
     int tickColumn() const; ///< -1 when no heading stands over it
     bool isTicked(int row) const;
     void setTicked(int row, bool ticked);
-    void tickRows(const std::function<bool(int row)>& ticked); ///< all, also those out of sight
+    void tickRows(std::function<bool(int row)> ticked); ///< all, also those out of sight
     /// Whether a cell shows the same as the cell above it, and both are rows.
     bool repeatsAbove(const QModelIndex& index) const;
     /// The next row, in a circle from the given one, whose text in a column begins so; -1 when there is none.
@@ -100,6 +101,11 @@ private:
     QList<int> m_sources; ///< under each heading, -1 for none
     QString m_keyColumn;
     int m_keySource = -1; ///< of the key column, or of "id"
+    QString m_emptyName;
+    QString m_otherName;
+    int m_emptySource = -1;
+    int m_otherSource = -1;
+    Wording m_emptyWording;
     QHash<QString, Wording> m_wordings; ///< by lower-case name
     QHash<int, Wording> m_wordingsBySource;
 
@@ -113,7 +119,8 @@ private:
     std::optional<std::vector<int>> m_shown;
     QString m_tickColumnName;
     int m_tickSource = -1;
-    std::vector<bool> m_ticks; ///< by row, none until one was changed
+    std::function<bool(int row)> m_tickRule; ///< in place of what the rows have
+    QHash<int, bool> m_ticks; ///< of the rows that were changed since
 
     jet::Recordset m_recordset;
     bool m_fromList = true;

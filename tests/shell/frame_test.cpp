@@ -747,6 +747,7 @@ private Q_SLOTS:
         QCOMPARE(list->item(0)->text(), u"<i>Bela</i>"_s);
         QVERIFY(!first->isVisible());
         QCOMPARE(f.pane(u"lblContacts"_s), u"2 contacts"_s);
+        QVERIFY(!f.window.findChild<QListWidget*>(u"lstStartBirthdays"_s)->isVisible());
         auto* search = f.window.findChild<QLineEdit*>(u"txtStartSearch"_s);
         QTest::keyClicks(search, u"o'h"_s);
         QTRY_COMPARE(list->item(0)->text(), u"Asha O'Hara"_s);

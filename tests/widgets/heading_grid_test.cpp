@@ -1,5 +1,7 @@
 #include "jet/database.h"
 #include "support/columns.h"
+#include "widgets/column_widths.h"
+#include "widgets/grid_contents.h"
 #include "widgets/heading_grid.h"
 #include "widgets/record_list.h"
 
@@ -356,6 +358,42 @@ private Q_SLOTS:
         grid.mergeEqual({u"city"_s});
         QVERIFY(pictureOf(2) != pictureOf(3));
         QVERIFY(pictureOf(0) != pictureOf(1)); // Agra, then Delhi in its own cell
+    }
+
+    // Rows out of sight are not found, not counted and not in a group; the current one stays.
+    void showsAPartOfItsRows()
+    {
+        HeadingGrid grid;
+        QSignalSpy progress(&grid, &HeadingGrid::outlineProgress);
+        QSignalSpy rowChanges(&grid, &HeadingGrid::currentRowChanged);
+        grid.setOutline(u"city"_s);
+        grid.fill(u"  |City  |Name  ", rows(u"select id,city,Name from person order by city,Name"));
+        QTRY_COMPARE(progress.size(), 1);
+        grid.selectKey(4);
+        grid.showOnly(std::vector<int>{0, 1, 3}); // without Asha of Pune
+        QTRY_COMPARE(progress.size(), 2);
+        QCOMPARE(linesOf(grid),
+            (QStringList{u"[Agra]"_s, u"Bimal"_s, u"[Delhi]"_s, u"Bina"_s, u"[Pune]"_s, u"Chand"_s}));
+        QCOMPARE(grid.currentText(u"Name"_s), u"Chand"_s);
+        QCOMPARE(rowChanges.size(), 1);
+        QCOMPARE(grid.placeOf(grid.sourceRow(grid.currentRow())), 2);
+        QCOMPARE(grid.rowOf(1), -1);
+        grid.setCurrentRow(0);
+        QTest::keyClicks(&grid, u"as"_s);
+        QCOMPARE(grid.currentRow(), 0);
+        QCOMPARE(GridContents(&grid).text(5, 2), u"Chand"_s);
+        grid.showOnly(std::nullopt);
+        QCOMPARE(grid.recordCount(), 4);
+    }
+
+    void columnsGiveWay()
+    {
+        using Widths = QList<int>;
+        const QList<ColumnWish> wishes{{100, 40}, {60, 50}, {200, 60}};
+        QCOMPARE(widthsWithin(400, wishes), (Widths{100, 60, 200}));
+        QCOMPARE(widthsWithin(260, wishes), (Widths{90, 60, 110}));
+        QCOMPARE(widthsWithin(200, wishes), (Widths{60, 60, 80}));
+        QCOMPARE(widthsWithin(10, wishes), (Widths{40, 50, 60})); // no further than what can be read
     }
 
     void typingLooksThroughRowsThatAreNotHeld()

@@ -1,6 +1,6 @@
 #include "anniversaries/list/birthday_list_sql.h"
 
-#include "anniversaries/dated_persons.h"
+#include "core/dated_persons.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,17 +9,17 @@ namespace anniversaries {
 namespace {
 
 // Kept: all children show whether the birthday of the first one was copied.
-QStringView shownTick(const DatedPerson& person)
+QStringView shownTick(const core::DatedPerson& person)
 {
     constexpr int kFirstChild = 2;
-    const auto persons = datedPersons();
+    const auto persons = core::datedPersons();
     return &person > &persons[kFirstChild] ? persons[kFirstChild].copied : person.copied;
 }
 
 QString fullBirthdays(int thisYear)
 {
     QString sql;
-    for (const DatedPerson& person : datedPersons()) {
+    for (const core::DatedPerson& person : core::datedPersons()) {
         const bool isFirst = sql.isEmpty();
         const QString arm = isFirst
             ? u"select month(%1) as linkidid,day(%1) as sunsign,id,name as contact,%2 ,%1,%1,%3 - "
@@ -135,11 +135,11 @@ QString shortListSql(Occasion occasion)
                u"len(anniv) "
                "<> 0  order by month(anniv),day(anniv)"_s;
     QString sql;
-    for (const DatedPerson& person : datedPersons()) {
+    for (const core::DatedPerson& person : core::datedPersons()) {
         const QString arm = u"select month(%1) as linkid,day(%1) as sunsign,id,priority,name as contact,%2, "
                             "%1 from cnt_main where %2 is not null  and len(%2) <> 0 and %1 is not null and "
                             "len(%1) <> 0 "_s.arg(person.date, person.name);
-        const bool isLast = &person == &datedPersons().back();
+        const bool isLast = &person == &core::datedPersons().back();
         const QString order = isLast ? u"order by linkid,sunsign "_s : QString();
         sql += sql.isEmpty() ? arm : u"union ("_s + arm + order + u") "_s;
     }

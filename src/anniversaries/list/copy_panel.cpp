@@ -146,6 +146,8 @@ bool CopyPanel::copyRows(int times)
                                        : tr("copying anniversaries to the scheduler"));
     jet::Batch batch(m_context.data);
     SchedulerCopy copy(m_context.data, occasion, m_context.services.clock.today().year(), times);
+    if (!copy.isReady())
+        return false;
     const int rows = m_list->rows();
     PB1->setRange(0, rows);
     PB1->show();

@@ -51,22 +51,34 @@ void DayList::open(const ListView& view)
     fill();
 }
 
-// The key does not tell the rows of one contact apart.
 void DayList::refresh()
 {
     const std::optional<ListedDay> before = current();
     const bool quiet = std::exchange(m_isQuiet, true);
     fill();
-    for (int row = 0; before && row < rows(); ++row) {
-        const bool isSame = m_grid->recordset().valueAt(row, m_columns.id).toLongLong() == before->id
-            && text(row, m_columns.name) == before->name;
-        if (isSame && m_grid->placeOf(row) >= 0) {
-            m_grid->setCurrentSourceRow(row);
-            break;
-        }
-    }
+    if (const std::optional<int> row = before ? rowLike(*before) : std::nullopt)
+        m_grid->setCurrentSourceRow(*row);
     m_isQuiet = quiet;
     Q_EMIT currentChanged();
+}
+
+// The key does not tell the rows of one contact apart.
+std::optional<int> DayList::rowLike(const ListedDay& day) const
+{
+    const auto isSame = [&](int row) {
+        return m_grid->recordset().valueAt(row, m_columns.id).toLongLong() == day.id
+            && text(row, m_columns.name) == day.name;
+    };
+    const auto isShownRow = [this](int row) { return row >= 0 && m_grid->placeOf(row) >= 0; };
+    if (isInOrderOfDays() && day.date.isValid()) {
+        const int end = placeOfDay(day.date.month(), day.date.day() + 1);
+        for (int place = placeOfDay(day.date.month(), day.date.day()); place < end; ++place) {
+            if (isSame(m_grid->shownSourceRow(place)))
+                return m_grid->shownSourceRow(place);
+        }
+    }
+    const int row = m_grid->recordset().rowOf(m_columns.id, day.id);
+    return isShownRow(row) ? std::optional(row) : std::nullopt;
 }
 
 void DayList::fill()
@@ -75,6 +87,7 @@ void DayList::fill()
     const int thisYear = m_context.services.clock.today().year();
     jet::Recordset found = m_context.data.openRecordset(
         isFull ? fullListSql(occasion, regrouping, thisYear) : shortListSql(occasion));
+    m_facts.clear();
     const auto place = [&found](QStringView name) { return found.columnIndex(name); };
     m_columns = {place(u"id"), place(occasion == Occasion::Birthday ? u"contact" : u"name"), place(u"name"),
         place(u"spouse"), place(dateColumn(occasion)), place(u"category1"), place(u"category2"),
@@ -104,23 +117,78 @@ void DayList::setFilter(const ListFilter& filter)
 
 void DayList::applyFilter()
 {
+    m_grid->showOnly(std::nullopt);
     if (m_filter.hidesNothing())
-        return m_grid->showOnly(std::nullopt);
+        return;
     const QDate today = m_context.services.clock.today();
-    const bool needsPriority = m_filter.hides12 || m_filter.hides34 || !m_filter.priority.isEmpty();
+    ListFilter others = m_filter;
+    others.next60 = false;
+    if (others.hidesNothing() && isInOrderOfDays())
+        return m_grid->showOnly(rowsNear(today));
+    readFacts();
     std::vector<int> shown;
-    FilteredRow looked;
     for (int row = 0; row < rows(); ++row) {
-        if (m_filter.next60)
-            looked.date = dateAt(row);
-        if (needsPriority)
-            looked.priority = text(row, m_columns.priority);
-        if (!m_filter.category.isEmpty())
-            looked.category = text(row, m_columns.category1);
-        if (isShown(looked, m_filter, today))
+        const Fact& fact = m_facts[size_t(row)];
+        if (isShown({fact.date, m_priorities[fact.priority], m_categories[fact.category]}, m_filter, today))
             shown.push_back(row);
     }
     m_grid->showOnly(std::move(shown));
+}
+
+/// Those of the next days, in a list that is sorted by the day.
+std::vector<int> DayList::rowsNear(QDate today) const
+{
+    std::vector<int> shown;
+    for (int row = placeOfDay(today.month(), today.day()); row < rows(); ++row) {
+        const QDate date = dateAt(row);
+        const bool isLeapDay = date.month() == 2 && date.day() == 29;
+        if (isWithinNext60(date, today))
+            shown.push_back(row);
+        else if (!isLeapDay)
+            break;
+    }
+    return shown;
+}
+
+void DayList::readFacts()
+{
+    if (!m_facts.empty())
+        return;
+    const auto placeIn = [](QStringList& texts, const QString& text) {
+        const auto found = texts.indexOf(text);
+        if (found >= 0)
+            return int(found);
+        texts << text;
+        return int(texts.size()) - 1;
+    };
+    m_facts.reserve(size_t(rows()));
+    for (int row = 0; row < rows(); ++row)
+        m_facts.push_back({dateAt(row), placeIn(m_priorities, text(row, m_columns.priority)),
+            placeIn(m_categories, text(row, m_columns.category1))});
+}
+
+bool DayList::isInOrderOfDays() const
+{
+    return !m_view.isFull || m_view.regrouping == Regrouping::Refresh;
+}
+
+/// The first of the rows shown that is not before that day, in a list that is sorted by the day.
+int DayList::placeOfDay(int month, int day) const
+{
+    const auto isBefore = [&](int place) {
+        const QDate date = dateAt(m_grid->shownSourceRow(place));
+        return std::pair(date.month(), date.day()) < std::pair(month, day);
+    };
+    int from = 0;
+    int to = m_grid->recordCount();
+    while (from < to) {
+        const int middle = from + (to - from) / 2;
+        if (isBefore(middle))
+            from = middle + 1;
+        else
+            to = middle;
+    }
+    return from;
 }
 
 std::optional<ListedDay> DayList::current() const
@@ -145,7 +213,9 @@ ListedDay DayList::rowAt(int row) const
 
 bool DayList::goTo(QDate day)
 {
-    for (int place = 0; place < m_grid->recordCount(); ++place) {
+    const int begin = isInOrderOfDays() ? placeOfDay(day.month(), day.day()) : 0;
+    const int end = isInOrderOfDays() ? std::min(begin + 1, m_grid->recordCount()) : m_grid->recordCount();
+    for (int place = begin; place < end; ++place) {
         const int row = m_grid->shownSourceRow(place);
         const QDate date = dateAt(row);
         if (date.isValid() && date.month() == day.month() && date.day() == day.day()) {

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <optional>
+#include <vector>
 
 namespace widgets {
 class HeadingGrid;
@@ -71,6 +72,11 @@ Q_SIGNALS:
 private:
     void fill();
     void applyFilter();
+    std::vector<int> rowsNear(QDate today) const;
+    void readFacts();
+    bool isInOrderOfDays() const;
+    int placeOfDay(int month, int day) const;
+    std::optional<int> rowLike(const ListedDay& day) const;
     void showTicks();
     ListedDay rowAt(int row) const;
     QDate dateAt(int row) const;
@@ -81,11 +87,20 @@ private:
         int id, contact, name, spouse, date, category1, category2, city, age, priority, tick;
     };
 
+    /// What the filter asks of a row. Rows are costly to read, and these are read once.
+    struct Fact {
+        QDate date;
+        int priority, category; ///< places in the lists of texts
+    };
+
     core::Context& m_context;
     widgets::HeadingGrid* m_grid;
     ListView m_view;
     ListFilter m_filter;
     Columns m_columns{};
+    std::vector<Fact> m_facts; ///< by row, none until they are needed
+    QStringList m_priorities;
+    QStringList m_categories;
     bool m_isTicking = false;
     bool m_isQuiet = false; ///< rows become current by the list itself
 };

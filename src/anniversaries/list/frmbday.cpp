@@ -1,12 +1,14 @@
 #include "anniversaries/list/frmbday.h"
 
+#include "anniversaries/calendar_file/save_calendar.h"
+#include "anniversaries/list/birthday_tools.h"
 #include "anniversaries/list/copy_panel.h"
 #include "anniversaries/list/day_detail.h"
 #include "anniversaries/list/month_panel.h"
+#include "anniversaries/wishes/send_letter.h"
 #include "anniversaries/wishes/TimedWishPanel.h"
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
-#include "core/handover/contact_screen.h"
 #include "core/report_request.h"
 #include "core/screens.h"
 #include "core/vocabularies.h"
@@ -22,7 +24,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabBar>
@@ -36,80 +37,8 @@ namespace anniversaries {
 
 namespace {
 
-constexpr QStringView kLetter = u"FrmLetter";
 constexpr QStringView kSummary = u"FrmBirthSum";
 constexpr QStringView kYearView = u"FormAviewbday";
-constexpr int kFull = core::Tool::Labelled;
-constexpr int kIcon = core::Tool::IconOnly;
-constexpr int kMenu = core::Tool::Menu;
-constexpr core::Tool kTools[] = {
-    {.id = u"ViewNext",
-        .icon = u"clock",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "View Next"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Only the days of the next 60 days"),
-        .places = kFull},
-    {.id = u"Priority1",
-        .icon = u"star",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Priority 1 && 2"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Hides the people of priority 3 and 4"),
-        .places = kFull},
-    {.id = u"Priority2",
-        .icon = u"filter",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Priority 3 && 4"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Hides the people of priority 1 and 2"),
-        .places = kFull},
-    {.id = u"SendLetter",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by letter"),
-        .form = kLetter,
-        .places = kIcon | kMenu | core::Tool::GroupStart},
-    {.id = u"SendEmail",
-        .icon = u"envelope",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by e-mail"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Write the wishes as an e-mail and look at it"),
-        .places = kIcon | kMenu},
-    {.id = u"sendtoday",
-        .icon = u"next",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send to Outbox today"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Send the wishes by e-mail at once"),
-        .places = kIcon | kMenu},
-    {.id = u"Confirm",
-        .icon = u"question",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Confirm before sending"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Keep an e-mail with the wishes for the day"),
-        .places = kIcon | kMenu},
-    {.id = u"TransTask",
-        .icon = u"calendar",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Copy to Scheduler"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Copy the ticked days to the scheduler"),
-        .places = kFull | core::Tool::GroupStart},
-    {.id = u"Print",
-        .icon = u"printer",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Print"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "The list as a report"),
-        .places = kIcon | core::Tool::GroupStart},
-    {.id = u"Export",
-        .icon = u"export",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Export"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Save the list as a file"),
-        .places = kIcon},
-    {.id = u"ColorLegend",
-        .icon = u"colors",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Legend"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "What the colours of the days mean"),
-        .places = kIcon},
-    {.id = u"Simple",
-        .icon = u"list",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Go to Simple"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Short View"),
-        .places = kFull | core::Tool::GroupStart},
-    {.id = u"Details",
-        .icon = u"card",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Go to Details"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Full View"),
-        .places = kFull},
-};
-
 /// By the order of Regrouping.
 const QString kRegroupings[] = {u"Refresh"_s, u"Categ"_s, u"Priority"_s, u"Month"_s, u"Age"_s, u"City"_s};
 
@@ -129,7 +58,7 @@ QString chosenIn(const QComboBox* combo)
 
 frmbday::frmbday(core::Context& context, QWidget* parent)
     : Screen(context, parent)
-    , m_tools(new core::ToolSet(context.screens, {kTools, "anniversaries"}, this))
+    , m_tools(new core::ToolSet(context.screens, birthdayTools(), this))
     , m_contactTools(new core::ContactTools(context, core::hitTools(),
           {.callerForm = u"frmbday"_s,
               .chosen =
@@ -158,9 +87,9 @@ frmbday::frmbday(core::Context& context, QWidget* parent)
     splitter->addWidget(layOutSide());
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
-    splitter->setSizes({3000, 1});
+    splitter->setSizes({10'000, 1}); // the list has all the room that the side does not need
     auto* below = new QVBoxLayout;
-    below->setContentsMargins(8, 4, 8, 8);
+    below->setContentsMargins(6, 4, 6, 6);
     below->setSpacing(6);
     below->addWidget(splitter, 1);
     below->addWidget(layOutFoot());
@@ -210,6 +139,7 @@ QWidget* frmbday::layOutList()
     layout->addWidget(layOutFilters());
     layout->addWidget(ssTabMerge);
     layout->addWidget(FGBday, 1);
+    layout->addWidget(m_month->legend());
     layout->addWidget(Frame7);
     layout->addWidget(famTimedEmails);
     return list;
@@ -270,7 +200,7 @@ QWidget* frmbday::layOutSide()
 {
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(6, 0, 0, 0);
+    layout->setContentsMargins(3, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(m_month);
     layout->addWidget(m_detail);
@@ -279,15 +209,7 @@ QWidget* frmbday::layOutSide()
     layout->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
     layout->addWidget(toolButton(u"cmdSend"_s, tr("Send to Out&box today"), u"sendtoday"));
     layout->addWidget(toolButton(u"cmdLeter"_s, tr("&Confirm before sending"), u"Confirm"));
-    auto* side = new QScrollArea;
-    side->setWidget(page);
-    side->setWidgetResizable(true);
-    side->setFrameShape(QFrame::NoFrame);
-    side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    constexpr int kWidth = 202; // of a month, whose days can still be hit
-    side->setMinimumWidth(kWidth);
-    side->setMaximumWidth(2 * kWidth);
-    return side;
+    return page;
 }
 
 QWidget* frmbday::layOutFoot()
@@ -338,9 +260,10 @@ void frmbday::connectTools()
     on(u"SendEmail", [this] { sendWish(context(), currentWish(), WishWay::Show); });
     on(u"sendtoday", [this] { sendWish(context(), currentWish(), WishWay::Outbox); });
     on(u"Confirm", &frmbday::timeWishOfRow);
-    on(u"TransTask", &frmbday::copyToScheduler);
+    on(u"TransTask", &frmbday::beginCopy);
     on(u"Print", &frmbday::print);
     on(u"Export", &frmbday::exportGrid);
+    on(u"SaveCalendar", [this] { saveCalendarFile(context(), this); });
     on(u"ColorLegend", [this] { m_month->toggleLegend(); });
     const auto toDepth = [this](bool isFull) {
         showView({m_list->view().occasion, isFull, Regrouping::Refresh});
@@ -501,8 +424,12 @@ void frmbday::goToDay(QDate day)
                 : tr("No anniversary of the list is on that day"));
 }
 
-void frmbday::copyToScheduler()
+void frmbday::beginCopy()
 {
+    if (!m_isRead)
+        showView(m_list->view());
+    if (!m_tools->action(u"TransTask")->isEnabled())
+        return;
     famTimedEmails->hide();
     for (QWidget* control : {static_cast<QWidget*>(SSActiveTabs1), static_cast<QWidget*>(ssTabMerge),
              static_cast<QWidget*>(OptAll)})
@@ -545,15 +472,8 @@ void frmbday::sendLetter()
         ? jet::Recordset()
         : context().data.openRecordset(
             isFull ? contactOfRowSql(day->contact, day->category1) : contactNamedSql(day->name));
-    if (!contact.hasRow() || contact.number(u"id") == 0)
-        return inform(tr("Record not selected"));
-    shared().selectedContactId = contact.number(u"id");
-    shared().selectedContactName = contact.textOrEmpty(u"Name");
-    if (auto* letter = context().screens.load<core::ContactScreen>(kLetter))
-        letter->showContact(shared().selectedContactId);
-    if (auto* letter = context().screens.load<core::PageScreen>(kLetter))
-        letter->openPage(m_list->view().occasion == Occasion::Birthday ? u"Birthday2"_s : u"Anniversary"_s);
-    context().screens.show(kLetter);
+    writeWishLetter(context(), contact,
+        m_list->view().occasion == Occasion::Birthday ? u"Birthday2"_s : u"Anniversary"_s);
 }
 
 void frmbday::timeWishOfRow()

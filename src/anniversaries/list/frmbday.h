@@ -40,6 +40,8 @@ public:
     bool isTouched() const override;
     void bookChanged() override;
     void vocabulariesChanged() override;
+    /// Opens the panel that copies days to the scheduler; in the short list there is none.
+    void beginCopy();
 
 private:
     QWidget* layOutList();
@@ -56,7 +58,6 @@ private:
     void viewAll();
     void rowChanged();
     void goToDay(QDate day);
-    void copyToScheduler();
     void copyEnded();
     Wish currentWish() const;
     void sendLetter();

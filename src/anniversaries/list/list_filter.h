@@ -22,8 +22,8 @@ struct ListFilter {
 /// A row of the list, as far as it decides whether it is shown.
 struct FilteredRow {
     QDate date;
-    QString priority;
-    QString category;
+    QString priority = {};
+    QString category = {};
 };
 
 bool isShown(const FilteredRow& row, const ListFilter& filter, QDate today);

@@ -6,7 +6,7 @@
 #include "widgets/theme.h"
 
 #include <QFrame>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -65,8 +65,6 @@ MonthPanel::MonthPanel(core::Context& context, QWidget* parent)
     layout->setSpacing(6);
     layout->addWidget(SSMonth1);
     layout->addWidget(SSCommand6, 0, Qt::AlignLeft);
-    layout->addWidget(m_legend);
-    m_legend->hide();
     connect(SSCommand6, &QPushButton::toggled, m_legend, &QWidget::setVisible);
     connect(SSMonth1, &widgets::DayCalendar::dateSelected, this, &MonthPanel::dateSelected);
 }
@@ -77,14 +75,16 @@ QWidget* MonthPanel::layOutLegend()
         tr("Anniversary, priority 1 and 2"), tr("Anniversary, priority 3 and 4")};
     auto* legend = new QFrame;
     legend->setObjectName(u"FrameLegend"_s);
-    auto* grid = new QGridLayout(legend);
-    grid->setContentsMargins(2, 0, 0, 0);
-    grid->setVerticalSpacing(2);
-    grid->setColumnStretch(1, 1);
+    auto* row = new QHBoxLayout(legend);
+    row->setContentsMargins(0, 0, 0, 0);
     for (int style = 0; style < int(std::size(texts)); ++style) {
-        grid->addWidget(new Swatch(style), style, 0);
-        grid->addWidget(new QLabel(texts[style]), style, 1);
+        if (style > 0)
+            row->addStretch(1);
+        row->addWidget(new Swatch(style));
+        row->addWidget(new QLabel(texts[style]));
     }
+    row->addStretch(1);
+    legend->hide();
     return legend;
 }
 

@@ -23,6 +23,8 @@ public:
     void readDays();
     void choose(QDate date);
     void toggleLegend();
+    /// Explains the colours while the person wants to see it. To be placed by the screen.
+    QWidget* legend() const { return m_legend; }
 
 Q_SIGNALS:
     void dateSelected(QDate date); ///< by the person

@@ -1,7 +1,7 @@
 #include "anniversaries/list/scheduler_copy.h"
 
-#include "anniversaries/dated_persons.h"
 #include "anniversaries/list/birthday_list_sql.h"
+#include "core/dated_persons.h"
 #include "jet/date_text.h"
 
 using namespace Qt::StringLiterals;
@@ -22,7 +22,7 @@ QString fitting(const QString& text)
 QString flaggedSql(Occasion occasion)
 {
     QStringList flags;
-    for (const DatedPerson& person : datedPersons())
+    for (const core::DatedPerson& person : core::datedPersons())
         flags << person.copied.toString() + u"=true"_s;
     if (occasion == Occasion::Anniversary)
         flags = {kAnniversaryFlag.toString() + u"=true"_s};
@@ -76,7 +76,7 @@ QString SchedulerCopy::flagOf(const CopiedRow& row) const
         return kAnniversaryFlag.toString();
     jet::Database data = m_data;
     const jet::Recordset contact = data.openRecordset(u"select * from cnt_main where id=%1"_s.arg(row.id));
-    for (const DatedPerson& person : datedPersons()) {
+    for (const core::DatedPerson& person : core::datedPersons()) {
         if (row.date.isValid() && contact.hasRow() && contact.date(person.date) == row.date)
             return person.copied.toString();
     }

@@ -34,6 +34,8 @@ public:
     /// @param times years, beginning with this one
     SchedulerCopy(jet::Database& data, Occasion occasion, int thisYear, int times);
 
+    /// False in a book without a table for the scheduler.
+    bool isReady() const { return m_schedule.isValid(); }
     void copy(const CopiedRow& row);
 
 private:

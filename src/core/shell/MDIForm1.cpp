@@ -345,6 +345,7 @@ void MDIForm1::loadFrame()
     const FrameSettings settings = readFrameSettings(m_context->data, shared);
     widgets::setGridFontSize(shared.GridFontSize);
     m_tools->showPersonalTools(!settings.business);
+    m_startPage->showBirthdays(!settings.business);
     m_tools->showCityTools(shared.NationalMode);
     showToday();
     m_startPage->setToday(today);

@@ -1,5 +1,6 @@
 #include "core/shell/start_page.h"
 
+#include "core/shell/coming_birthdays.h"
 #include "core/shell/start_page_rows.h"
 #include "platform/clock.h"
 #include "widgets/theme.h"
@@ -24,6 +25,7 @@ constexpr int kTypedMs = 150;
 // One letter finds nearly everybody.
 constexpr int kLeastTyped = 2;
 constexpr int kMostShown = 10;
+constexpr int kDaysAhead = 14;
 
 struct Favourite {
     QStringView tool;
@@ -60,7 +62,9 @@ StartPage::StartPage(
     , m_count(new QLabel(this))
     , m_search(new QLineEdit(this))
     , m_heading(new QLabel(this))
-    , m_contacts(new QListWidget(this))
+    , m_contacts(makeList(u"lstStartContacts"_s, tr("Contacts")))
+    , m_birthdayPart(new QWidget(this))
+    , m_birthdays(makeList(u"lstStartBirthdays"_s, tr("Birthdays of the next days")))
     , m_first(new QToolButton(this))
 {
     setObjectName(u"StartPage"_s);
@@ -76,11 +80,6 @@ StartPage::StartPage(
     m_search->setAccessibleName(tr("Find a contact"));
     m_search->installEventFilter(this);
     m_heading->setObjectName(u"lblStartList"_s);
-    m_contacts->setObjectName(u"lstStartContacts"_s);
-    m_contacts->setAccessibleName(tr("Contacts"));
-    m_contacts->setFrameShape(QFrame::NoFrame);
-    m_contacts->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_contacts->setTextElideMode(Qt::ElideRight);
     m_first->setObjectName(u"cmdFirstContact"_s);
     m_first->setText(tr("Add your first contact"));
     m_first->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -95,6 +94,11 @@ StartPage::StartPage(
     connect(&m_typed, &QTimer::timeout, this, &StartPage::search);
     connect(m_contacts, &QListWidget::itemClicked, this, &StartPage::choose);
     connect(m_contacts, &QListWidget::itemActivated, this, &StartPage::choose);
+    const auto showBirthday = [this](const QListWidgetItem* item) {
+        Q_EMIT contactWanted(item->data(Qt::UserRole).toLongLong());
+    };
+    connect(m_birthdays, &QListWidget::itemClicked, this, showBirthday);
+    connect(m_birthdays, &QListWidget::itemActivated, this, showBirthday);
     connect(m_first, &QToolButton::clicked, this, [this] { Q_EMIT toolWanted(u"NewContact"_s); });
 
     auto* column = new QWidget(this);
@@ -107,8 +111,7 @@ StartPage::StartPage(
     centre->addSpacing(10);
     centre->addWidget(m_first, 0, Qt::AlignHCenter);
     centre->addWidget(m_search);
-    centre->addWidget(m_heading);
-    centre->addWidget(m_contacts, 4);
+    centre->addLayout(layOutLists(), 4);
     centre->addSpacing(10);
     centre->addWidget(layOutTools(isAvailable), 0, Qt::AlignHCenter);
     centre->addStretch(1);
@@ -116,6 +119,35 @@ StartPage::StartPage(
     whole->addStretch(1);
     whole->addWidget(column, 8);
     whole->addStretch(1);
+}
+
+QListWidget* StartPage::makeList(const QString& name, const QString& accessibleName)
+{
+    auto* list = new QListWidget(this);
+    list->setObjectName(name);
+    list->setAccessibleName(accessibleName);
+    list->setFrameShape(QFrame::NoFrame);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setTextElideMode(Qt::ElideRight);
+    return list;
+}
+
+// Side by side, so that both can be seen in a low window.
+QLayout* StartPage::layOutLists()
+{
+    auto* contacts = new QVBoxLayout;
+    contacts->addWidget(m_heading);
+    contacts->addWidget(m_contacts, 1);
+    auto* birthdays = new QVBoxLayout(m_birthdayPart);
+    birthdays->setContentsMargins(0, 0, 0, 0);
+    birthdays->addWidget(new QLabel(tr("Birthdays of the next days")));
+    birthdays->addWidget(m_birthdays, 1);
+    m_birthdayPart->hide();
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(16);
+    lists->addLayout(contacts, 1);
+    lists->addWidget(m_birthdayPart, 1);
+    return lists;
 }
 
 QWidget* StartPage::layOutTools(const std::function<bool(const core::Action&)>& isAvailable)
@@ -163,12 +195,19 @@ void StartPage::placeTools()
 void StartPage::setToday(QDate today)
 {
     m_day->setText(QLocale().toString(today, QLocale::LongFormat));
+    m_bookRead.clear(); // other birthdays are near
 }
 
 void StartPage::showWhatIsToCome(bool shown)
 {
     m_showsAll = shown;
     placeTools();
+}
+
+void StartPage::showBirthdays(bool shown)
+{
+    m_showsBirthdays = shown;
+    m_bookRead.clear();
 }
 
 // Behind the first picture of the page: a large book takes a moment.
@@ -189,6 +228,30 @@ void StartPage::readBook()
     m_first->setVisible(contacts == 0);
     m_search->setVisible(contacts > 0);
     search();
+    // Of a large book this is the longest part: the rest of the page is there before.
+    QTimer::singleShot(0, this, &StartPage::readBirthdays);
+}
+
+void StartPage::readBirthdays()
+{
+    m_birthdays->clear();
+    const QDate today = m_context.services.clock.today();
+    const auto coming = m_showsBirthdays && m_context.data.isOpen()
+        ? comingBirthdays(m_context.data, today, kDaysAhead, kMostShown)
+        : QList<ComingBirthday>();
+    for (const ComingBirthday& one : coming) {
+        const qint64 days = today.daysTo(one.day);
+        const QString when = days == 0 ? tr("Today")
+            : days == 1                ? tr("Tomorrow")
+                                       : QLocale().toString(one.day, u"ddd d MMM"_s);
+        QString who = one.contact.isEmpty() ? one.name : tr("%1 (%2)").arg(one.name, one.contact);
+        if (one.age)
+            who = tr("%1, %2").arg(who).arg(*one.age);
+        auto* item = new QListWidgetItem(when + u"  "_s + who, m_birthdays);
+        item->setData(Qt::UserRole, one.id);
+        item->setToolTip(who.toHtmlEscaped());
+    }
+    m_birthdayPart->setVisible(!coming.isEmpty());
 }
 
 void StartPage::search()

@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -17,7 +18,8 @@ class QToolButton;
 namespace shell {
 
 /// What the frame shows while no screen is open: the day, a search box, the contacts that were changed last,
-/// and the tools that are used most as large buttons. Into an empty book one button leads.
+/// the birthdays of the next days, and the tools that are used most as large buttons. Into an empty book one
+/// button leads.
 class StartPage : public QWidget {
     Q_OBJECT
 
@@ -27,6 +29,8 @@ public:
 
     void setToday(QDate today);
     void showWhatIsToCome(bool shown);
+    /// The business edition speaks of no birthdays.
+    void showBirthdays(bool shown);
 
 Q_SIGNALS:
     void toolWanted(const QString& toolId);
@@ -42,6 +46,9 @@ private:
     void readBook();
     void search();
     void fill(const QString& heading, const QString& sql);
+    void readBirthdays();
+    QListWidget* makeList(const QString& name, const QString& accessibleName);
+    QLayout* layOutLists();
     void choose();
 
     core::Context& m_context;
@@ -50,11 +57,14 @@ private:
     QLineEdit* m_search;
     QLabel* m_heading;
     QListWidget* m_contacts;
+    QWidget* m_birthdayPart;
+    QListWidget* m_birthdays;
     QToolButton* m_first;
     QList<QToolButton*> m_tools;
     QString m_bookRead; ///< the state of the book that is shown
     QTimer m_typed;
     bool m_showsAll = false;
+    bool m_showsBirthdays = true;
 };
 
 } // namespace shell

@@ -86,6 +86,7 @@ void FrmStdcode::layOut()
     chkMain = child<QCheckBox>(page, u"chkMain"_s);
     SSCommand1 = child<QPushButton>(page, u"SSCommand1"_s);
     m_count = child<QLabel>(page, u"lblCount"_s);
+    m_count->setWordWrap(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

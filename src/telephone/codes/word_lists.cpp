@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStackedWidget>
 #include <QTabBar>
 
 #include <utility>
@@ -28,11 +29,12 @@ WordLists::WordLists(jet::Database& book, bool nationalMode, QWidget* parent)
     , m_book(book)
     , m_nationalMode(nationalMode)
     , SSActiveTabs1(new QTabBar)
+    , m_pages(new QStackedWidget)
     , Grid1(new widgets::RecordList(nullptr, u"address"_s))
     , Grid2(new widgets::RecordList(nullptr, u"area"_s))
 {
     layOut();
-    connect(SSActiveTabs1, &QTabBar::currentChanged, this, &WordLists::showTab);
+    connect(SSActiveTabs1, &QTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
     for (QLineEdit* line : {Text1, m_city}) {
         connect(line, &QLineEdit::textEdited, this, &WordLists::read);
         line->installEventFilter(this);
@@ -54,6 +56,7 @@ void WordLists::layOut()
     SSActiveTabs1->addTab(tr("General"));
     SSActiveTabs1->addTab(tr("Specific"));
     SSActiveTabs1->setDrawBase(false);
+    SSActiveTabs1->setExpanding(false);
     Grid1->setEmptyText(tr("No stored address begins so"));
     Grid2->setEmptyText(tr("No area of this city is stored"));
     widgets::FormKit form(this);
@@ -63,11 +66,15 @@ void WordLists::layOut()
         .beside()
         .line(u"txtcity"_s, tr("&City"))
         .wide(u"SSActiveTabs1"_s, tr("Which words are listed"), SSActiveTabs1)
-        .wide(u"Grid1"_s, tr("Addresses"), Grid1)
-        .wide(u"Grid2"_s, tr("Areas of the city"), Grid2);
+        .wide(u"WordPages"_s, tr("Words"), m_pages);
+    Grid1->setObjectName(u"Grid1"_s);
+    Grid1->setAccessibleName(tr("Addresses"));
+    Grid2->setObjectName(u"Grid2"_s);
+    Grid2->setAccessibleName(tr("Areas of the city"));
+    for (widgets::RecordList* list : {Grid1, Grid2})
+        m_pages->addWidget(list);
     Text1 = child<QLineEdit>(this, u"Text1"_s);
     m_city = child<QLineEdit>(this, u"txtcity"_s);
-    showTab();
 }
 
 void WordLists::search(const QString& city, const QString& word)
@@ -109,12 +116,6 @@ bool WordLists::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void WordLists::showTab()
-{
-    Grid1->setVisible(SSActiveTabs1->currentIndex() == kGeneral);
-    Grid2->setVisible(SSActiveTabs1->currentIndex() == kSpecific);
 }
 
 widgets::RecordList* WordLists::shownList() const

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLineEdit;
+class QStackedWidget;
 class QTabBar;
 
 namespace widgets {
@@ -32,12 +33,12 @@ protected:
 
 private:
     void layOut();
-    void showTab();
     widgets::RecordList* shownList() const;
 
     jet::Database& m_book;
     bool m_nationalMode;
     QTabBar* SSActiveTabs1;
+    QStackedWidget* m_pages;
     widgets::RecordList* Grid1;
     widgets::RecordList* Grid2;
     QLineEdit* Text1 = nullptr;

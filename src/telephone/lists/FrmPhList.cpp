@@ -15,10 +15,10 @@
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "telephone/lists/contact_pane.h"
 #include "telephone/lists/number_files.h"
 #include "telephone/lists/phone_list_tools.h"
 #include "telephone/lists/phone_reports.h"
-#include "telephone/lists/slot_ticks.h"
 #include "telephone/own_city.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -47,7 +47,6 @@ namespace {
 
 using widgets::child;
 
-constexpr QStringView kContactHeadings = u"  |Name                       ";
 constexpr QStringView kNumberHeadings = u"||Name                    |Phone";
 constexpr QStringView kExportFolder = u"C:\\OVUserFiles\\Exported Files\\Excel";
 
@@ -93,20 +92,18 @@ FrmPhList::FrmPhList(core::Context& context, QWidget* parent)
                       return core::ChosenContact{id, id};
                   }},
           this))
-    , FG(new widgets::HeadingGrid)
+    , m_contacts(new ContactPane(context.data))
+    , FG(m_contacts->grid())
     , FGPhone(new widgets::HeadingGrid)
     , list1(new widgets::RecordList)
     , m_chosenIn(FG)
-    , m_slots(new SlotTicks)
     , SSActiveTabs1(new QTabBar)
-    , m_contacts(layOutContacts())
     , m_building(new QWidget)
     , m_naming(new QWidget)
     , m_ticks(new QWidget)
     , Check1(new QCheckBox(tr("Priority 1")))
     , Check2(new QCheckBox(tr("Priority 2")))
     , Check3(new QCheckBox(tr("Home City Only")))
-    , CmdList(child<QPushButton>(m_contacts, u"CmdList"_s))
     , Text1(new QLineEdit)
     , lblname(new QLabel)
     , m_numberMenu(new QMenu(this))
@@ -125,7 +122,6 @@ FrmPhList::FrmPhList(core::Context& context, QWidget* parent)
     layout->addWidget(layOutTools());
     layout->addWidget(splitter, 1);
     makeMenus();
-    connectContacts();
     connectLists();
     connectKeys();
     setFocusProxy(FG);
@@ -138,28 +134,6 @@ QToolBar* FrmPhList::layOutTools()
     auto* bar = m_tools->makeToolBar(this);
     connect(m_tools->action(u"Export"), &QAction::triggered, this, &FrmPhList::exportList);
     return bar;
-}
-
-QWidget* FrmPhList::layOutContacts()
-{
-    auto* page = new QWidget;
-    FG->setEmptyText(tr("No contacts here"));
-    FG->setHeadings(kContactHeadings, {QString(), u"name"_s});
-    widgets::FormKit form(page);
-    form.group(tr("Contacts"))
-        .combo(u"dcmbcat"_s, tr("Cate&gory"))
-        .combo(u"Dcmbsubcat"_s, tr("S&ub category"))
-        .combo(u"dcmbcity"_s, tr("C&ity"))
-        .beside()
-        .button(u"SSCommand3"_s, tr("Refresh"), u"restore", tr("List all contacts"))
-        .wide(u"FG"_s, tr("Contacts"), FG)
-        .wide(u"Numbers"_s, tr("Numbers of the contact"), m_slots)
-        .button(u"CmdList"_s, tr("Add   >>"), u"add", tr("Put the numbers with a tick into the list"));
-    page->layout()->setContentsMargins(0, 0, 0, 0);
-    dcmbcat = child<widgets::FilledCombo>(page, u"dcmbcat"_s);
-    Dcmbsubcat = child<widgets::FilledCombo>(page, u"Dcmbsubcat"_s);
-    dcmbcity = child<widgets::FilledCombo>(page, u"dcmbcity"_s);
-    return page;
 }
 
 QWidget* FrmPhList::layOutLists()
@@ -289,24 +263,11 @@ void FrmPhList::makeMenus()
     onMenu(list1, listMenu, [this] { return kind() == ListKind::User; });
 }
 
-void FrmPhList::connectContacts()
-{
-    connect(dcmbcat, &QComboBox::currentTextChanged, this, [this] {
-        Dcmbsubcat->refill();
-        const QSignalBlocker quiet(Dcmbsubcat);
-        Dcmbsubcat->setText(u"All"_s);
-    });
-    for (widgets::FilledCombo* combo : {dcmbcat, Dcmbsubcat, dcmbcity})
-        connect(combo, &QComboBox::currentTextChanged, this, &FrmPhList::filterContacts);
-    connect(child<QPushButton>(this, u"SSCommand3"_s), &QPushButton::clicked, this, &FrmPhList::clearFilter);
-    connect(FG, &widgets::HeadingGrid::currentRowChanged, this, &FrmPhList::showPerson);
-    connect(FG, &widgets::HeadingGrid::chosen, CmdList, &QPushButton::click);
-    for (const QString& name : {u"CmdList"_s, u"SSCommand9"_s})
-        connect(child<QPushButton>(this, name), &QPushButton::clicked, this, &FrmPhList::addPerson);
-}
-
 void FrmPhList::connectLists()
 {
+    connect(m_contacts, &ContactPane::rowChanged, this, &FrmPhList::showPerson);
+    connect(m_contacts, &ContactPane::addWanted, this, &FrmPhList::addPerson);
+    connect(child<QPushButton>(this, u"SSCommand9"_s), &QPushButton::clicked, this, &FrmPhList::addPerson);
     connect(SSActiveTabs1, &QTabBar::currentChanged, this, &FrmPhList::chooseTab);
     connect(list1, &widgets::HeadingGrid::currentRowChanged, this, [this](int row) {
         if (row >= 0)
@@ -353,15 +314,8 @@ void FrmPhList::connectKeys()
 void FrmPhList::load()
 {
     setFrameTitle(tr("Phone List Maker"));
-    const auto withAll = [this](const QString& sql) {
-        return QStringList{u"All"_s} + core::firstColumn(context().data, sql);
-    };
-    dcmbcat->setSource([withAll] { return withAll(contactCategoriesSql()); });
-    Dcmbsubcat->setSource(
-        [this, withAll] { return withAll(contactSubcategoriesSql(dcmbcat->currentText())); });
-    dcmbcity->setSource([withAll] { return withAll(contactCitiesSql()); });
     DBCombo1->setSource([this] { return core::firstColumn(context().data, listNamesSql(ListKind::User)); });
-    clearFilter();
+    m_contacts->load();
     chooseTab();
 }
 
@@ -372,9 +326,8 @@ bool FrmPhList::isTouched() const
 
 void FrmPhList::bookChanged()
 {
-    for (widgets::FilledCombo* combo : {dcmbcat, Dcmbsubcat, dcmbcity, DBCombo1})
-        combo->refill();
-    readContacts(m_contactsSql);
+    DBCombo1->refill();
+    m_contacts->readAgain();
     readLists();
     readNumbers();
 }
@@ -382,11 +335,6 @@ void FrmPhList::bookChanged()
 ListKind FrmPhList::kind() const
 {
     return static_cast<ListKind>(SSActiveTabs1->currentIndex());
-}
-
-ContactFilter FrmPhList::filter() const
-{
-    return {dcmbcat->currentText(), Dcmbsubcat->currentText(), dcmbcity->currentText()};
 }
 
 QString FrmPhList::listColumn() const
@@ -400,47 +348,12 @@ QString FrmPhList::listColumn() const
     return u"listname"_s;
 }
 
-// ---- contacts
-
-// The contacts are read in the other way of the engine, in which % and _ stand for letters that one types.
-void FrmPhList::readContacts(const QString& sql)
-{
-    jet::Recordset rows = jet::Connection(context().data).openRecordset(sql);
-    if (!rows.isValid())
-        return;
-    m_contactsSql = sql;
-    const qint64 current = FG->currentKey();
-    FG->fill(std::move(rows));
-    if (current == 0 || !FG->selectKey(current))
-        FG->setCurrentRow(-1);
-    showPerson();
-}
-
-void FrmPhList::filterContacts()
-{
-    readContacts(filteredContactsSql(filter()));
-}
-
-void FrmPhList::clearFilter()
-{
-    for (widgets::FilledCombo* combo : {dcmbcat, Dcmbsubcat, dcmbcity}) {
-        const QSignalBlocker quiet(combo);
-        combo->setText(u"All"_s);
-    }
-    Dcmbsubcat->refill();
-    readContacts(allContactsSql());
-}
-
 void FrmPhList::showPerson()
 {
     const int row = FG->currentRow();
-    if (row < 0) {
-        setPosition({});
-        return m_slots->show(nullptr);
-    }
-    m_chosenIn = FG;
-    setPosition(u"%1 of %2"_s.arg(row + 1).arg(FG->rowCount()));
-    m_slots->show([this, row](const QString& column) { return FG->textAt(row, column); });
+    setPosition(row < 0 ? QString() : u"%1 of %2"_s.arg(row + 1).arg(FG->rowCount()));
+    if (row >= 0)
+        m_chosenIn = FG;
 }
 
 // ---- lists
@@ -458,6 +371,7 @@ void FrmPhList::chooseTab()
         DBCombo1->setText({});
     }
     readLists();
+    FGPhone->setCurrentRow(-1);
     if (kind() == ListKind::Contacts)
         return readNumbers();
     m_numbersSql.clear();
@@ -497,6 +411,10 @@ void FrmPhList::readNumbers()
         return m_list.isEmpty() ? FGPhone->clearRows() : fillNumbers(listNumbersSql(kind(), m_list));
     const bool hasDefault = !context().data.openRecordset(defaultCitySql()).isEmpty();
     const QString city = ownCity(context().data);
+    for (QCheckBox* tick : {Check1, Check2, Check3})
+        tick->setToolTip(hasDefault
+                ? tr("Your cities have a default: all contacts are listed, whatever is ticked")
+                : QString());
     FGPhone->setEmptyText(Check3->isChecked() && city.isEmpty()
             ? tr("Your own city is not known; it stands with your own data")
             : tr("Tick what the list shall have"));
@@ -535,17 +453,16 @@ void FrmPhList::addPerson()
 {
     if (m_list.isEmpty() || kind() != ListKind::User)
         return warn(tr("List Name should be selected"));
-    if (FG->currentRow() < 0)
+    const NewMember member = m_contacts->member();
+    if (member.id == 0)
         return inform(tr("Record not selected"));
-    const NewMember member{FG->currentKey(), FG->currentText(u"name"_s), FG->currentText(u"category1"_s),
-        FG->currentText(u"h_city"_s), FG->currentText(u"priority"_s), m_slots->ticked()};
     switch (addMember(context().data, m_list, member)) {
     case MemberAdded::AlreadyThere: return inform(tr("This Person is already in this list"));
     case MemberAdded::NotStored: return core::tellFailedSave(context());
     case MemberAdded::NoNumber: return;
     case MemberAdded::Added: break;
     }
-    CmdList->setText(tr("Add >"));
+    m_contacts->noteAdded();
     playSound(core::sounds::Save);
     afterChange();
     tellSaved(member.name);

@@ -23,7 +23,7 @@ class RecordList;
 
 namespace telephone {
 
-class SlotTicks;
+class ContactPane;
 
 /// Makes lists of telephone numbers from the contacts, shows the lists of four kinds, prints and saves them.
 class FrmPhList : public core::Screen {
@@ -38,22 +38,16 @@ public:
     void bookChanged() override;
 
 private:
-    QWidget* layOutContacts();
     QWidget* layOutLists();
     QWidget* layOutNumbers();
     QToolBar* layOutTools();
     void layOutFoot(QWidget* foot);
-    void connectContacts();
     void connectLists();
     void connectKeys();
     void makeMenus();
 
     ListKind kind() const;
-    ContactFilter filter() const;
     QString listColumn() const; ///< the one with the names of the lists
-    void readContacts(const QString& sql);
-    void filterContacts();
-    void clearFilter();
     void showPerson();
 
     void chooseTab();
@@ -75,27 +69,21 @@ private:
     void exportList();
 
     QString m_list; ///< the one that is selected; empty for none
-    QString m_contactsSql;
     QString m_numbersSql;
     core::ContactTools* m_tools;
-    widgets::HeadingGrid* FG;
+    ContactPane* m_contacts;
+    widgets::HeadingGrid* FG; ///< of the contacts
     widgets::HeadingGrid* FGPhone;
     widgets::RecordList* list1;
     widgets::HeadingGrid* m_chosenIn; ///< the grid in which a contact was chosen last
-    SlotTicks* m_slots;
     QTabBar* SSActiveTabs1;
-    QWidget* m_contacts; ///< all that is for choosing a contact
     QWidget* m_building; ///< what changes a list
     QWidget* m_naming; ///< what names a new list
     QWidget* m_ticks; ///< what the contacts are narrowed down by
-    widgets::FilledCombo* dcmbcat = nullptr;
-    widgets::FilledCombo* Dcmbsubcat = nullptr;
-    widgets::FilledCombo* dcmbcity = nullptr;
     widgets::FilledCombo* DBCombo1 = nullptr;
     QCheckBox* Check1;
     QCheckBox* Check2;
     QCheckBox* Check3;
-    QPushButton* CmdList;
     QPushButton* SSCommand6 = nullptr;
     QPushButton* SSCommand11 = nullptr;
     QLineEdit* Text1;

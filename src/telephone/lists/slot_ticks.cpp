@@ -26,6 +26,7 @@ constexpr Group kGroups[] = {
     {QT_TRANSLATE_NOOP("telephone::SlotTicks", "Sp.Mob"), 1, 4, 1},
     {QT_TRANSLATE_NOOP("telephone::SlotTicks", "Fax"), 1, 5, 1},
 };
+constexpr QStringView kSampleNumber = u"022 234567890";
 constexpr int kCellsOfAGroup = 3; // caption, tick, number
 
 } // namespace
@@ -54,7 +55,7 @@ SlotTicks::SlotTicks(QWidget* parent)
             number->setAccessibleName(tr("Number %1").arg(tag));
             number->setTextFormat(Qt::PlainText);
             number->setTextInteractionFlags(Qt::TextSelectableByMouse);
-            number->setMinimumWidth(1);
+            number->setMinimumWidth(number->fontMetrics().horizontalAdvance(kSampleNumber.toString()));
             number->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
             layout->addWidget(tick, group.row + i, column + 1);
             layout->addWidget(number, group.row + i, column + 2);

@@ -27,7 +27,8 @@ namespace {
 using widgets::child;
 
 constexpr auto kSetting = "replacer/preview";
-constexpr QSize kDialogSize{720, 520};
+constexpr QSize kDialogSize{720, 560};
+constexpr QSize kSmallDialogSize{480, 400};
 
 QString translated(const char* text)
 {
@@ -54,42 +55,51 @@ QString headlineOf(const ReplacementPreview& preview)
         : text + u' ' + translated("The first %1 are listed.").arg(preview.cut.size());
 }
 
+widgets::HeadingGrid* countGrid(const ReplacementPreview& preview)
+{
+    QList<QStringList> rows;
+    for (const ReplacementPreview::Count& count : preview.counts)
+        rows << QStringList{captionOf(count.column), QString::number(count.rows)};
+    auto* grid = new widgets::HeadingGrid;
+    grid->setHeadings(
+        u'|' + translated("Where") + u"                                |"_s + translated("Changes"));
+    grid->setRows(rows, {u"where"_s, u"changes"_s});
+    grid->setContextMenuPolicy(Qt::NoContextMenu);
+    return grid;
+}
+
+widgets::HeadingGrid* cutGrid(const ReplacementPreview& preview)
+{
+    QList<QStringList> rows;
+    for (const CutText& text : preview.cut)
+        rows << QStringList{text.name, captionOf(text.column), text.before, text.after};
+    auto* grid = new widgets::HeadingGrid;
+    const QStringList headings{translated("Name") + u"                        "_s,
+        translated("Where") + u"                 "_s, translated("Old") + u"                "_s,
+        translated("New") + u"                "_s};
+    grid->setHeadings(u'|' + headings.join(u'|'));
+    grid->setRows(rows, {u"name"_s, u"where"_s, u"before"_s, u"after"_s});
+    grid->setContextMenuPolicy(Qt::NoContextMenu);
+    return grid;
+}
+
 bool confirm(
     core::Context& context, const Replacement& replacement, const ReplacementPreview& preview, QWidget* over)
 {
     QDialog dialog(over);
     dialog.setObjectName(u"ReplacePreview"_s);
     dialog.setWindowTitle(translated("Replace %1 by %2").arg(replacement.from, replacement.to));
-    dialog.resize(kDialogSize);
-    auto* counts = new widgets::HeadingGrid;
-    auto* cut = new widgets::HeadingGrid;
-    QList<QStringList> rows;
-    for (const ReplacementPreview::Count& count : preview.counts)
-        rows << QStringList{captionOf(count.column), QString::number(count.rows)};
-    counts->setHeadings(
-        u'|' + translated("Where") + u"                                |"_s + translated("Changes"));
-    counts->setRows(rows, {u"where"_s, u"changes"_s});
-    rows.clear();
-    for (const CutText& text : preview.cut)
-        rows << QStringList{text.name, captionOf(text.column), text.before, text.after};
-    const QStringList headings{translated("Name") + u"                        "_s,
-        translated("Where") + u"                 "_s, translated("Old") + u"                "_s,
-        translated("New") + u"                "_s};
-    cut->setHeadings(u'|' + headings.join(u'|'));
-    cut->setRows(rows, {u"name"_s, u"where"_s, u"before"_s, u"after"_s});
-    for (widgets::HeadingGrid* grid : {counts, cut})
-        grid->setContextMenuPolicy(Qt::NoContextMenu);
-    cut->setVisible(preview.cutCount > 0);
-
+    dialog.resize(preview.cutCount > 0 ? kDialogSize : kSmallDialogSize);
     widgets::FormKit form(&dialog);
     form.group().caption(u"lblChanges"_s, translated("%1 entries will change:").arg(preview.rows));
     if (isPattern(replacement.from))
         form.caption(u"lblPattern"_s,
             translated("In the old text * stands for any letters, ? for one, # for a digit, and brackets for "
                        "one of the letters between them."));
-    form.wide(u"FGCounts"_s, translated("What changes"), counts)
-        .caption(u"lblCut"_s, headlineOf(preview))
-        .wide(u"FGCut"_s, translated("What ends otherwise than before"), cut);
+    form.wide(u"FGCounts"_s, translated("What changes"), countGrid(preview))
+        .caption(u"lblCut"_s, headlineOf(preview));
+    if (preview.cutCount > 0)
+        form.wide(u"FGCut"_s, translated("What ends otherwise than before"), cutGrid(preview));
     QCheckBox* again = makePreviewBox(context, &dialog);
     form.wide(u"ChkPreview"_s, again->text(), again);
     form.buttonRow()

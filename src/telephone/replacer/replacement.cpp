@@ -141,24 +141,34 @@ Replaced replaceAll(jet::Database& book, const Replacement& replacement)
     return replaced;
 }
 
+// One walk through the book counts all columns; what is cut is read of the columns that have some.
 ReplacementPreview previewOf(jet::Database& book, const Replacement& replacement)
 {
-    ReplacementPreview preview;
+    const QList<ColumnChange> changes = columnChanges(replacement);
     const QString rest = QString::number(replacement.from.trimmed().size() + 1);
-    for (const ColumnChange& change : columnChanges(replacement)) {
-        const int rows = book.openRecordset(u"select count(id) from cnt_main where "_s + change.condition)
-                             .textAt(0)
-                             .toInt();
-        if (rows == 0)
-            continue;
-        preview.counts << ReplacementPreview::Count{change.column, rows};
-        preview.rows += rows;
-        const QString expected
+    QStringList cuts;
+    QStringList counted;
+    for (const ColumnChange& change : changes) {
+        const QString whole
             = u'\'' + inQuotes(replacement.to) + u"' & mid("_s + change.column + u',' + rest + u')';
+        cuts << change.condition + u" and "_s + change.value + u" <> "_s + whole;
+        for (const QString& condition : {change.condition, cuts.constLast()})
+            counted << u"count(iif("_s + condition + u",1,null))"_s;
+    }
+    const jet::Recordset counts = book.openRecordset(u"select "_s + counted.join(u',') + u" from cnt_main"_s);
+    ReplacementPreview preview;
+    for (qsizetype at = 0; counts.hasRow() && at < changes.size(); ++at) {
+        const ColumnChange& change = changes[at];
+        const int rows = counts.textAt(int(2 * at)).toInt();
+        const int cutRows = counts.textAt(int(2 * at + 1)).toInt();
+        if (rows > 0)
+            preview.counts << ReplacementPreview::Count{change.column, rows};
+        preview.rows += rows;
+        preview.cutCount += cutRows;
+        if (cutRows == 0 || preview.cut.size() >= kShownCuts)
+            continue;
         const jet::Recordset cut = book.openRecordset(u"select name,"_s + change.column + u" as before,"_s
-            + change.value + u" as after from cnt_main where "_s + change.condition + u" and "_s
-            + change.value + u" <> "_s + expected);
-        preview.cutCount += cut.count();
+            + change.value + u" as after from cnt_main where "_s + cuts[at]);
         for (int row = 0; row < cut.count() && preview.cut.size() < kShownCuts; ++row)
             preview.cut << CutText{cut.textAt(row, 0), change.column, cut.textAt(row, 1), cut.textAt(row, 2)};
     }

@@ -4,7 +4,7 @@
 
 #include <span>
 
-namespace anniversaries {
+namespace core {
 
 /// One person of a contact whose birthday the address book knows: the columns of name and date, and of the
 /// flag that says whether the date was copied to the scheduler.
@@ -17,4 +17,4 @@ struct DatedPerson {
 /// The contact, the spouse and the three children, in the order in which the lists and look-ups go.
 std::span<const DatedPerson> datedPersons();
 
-} // namespace anniversaries
+} // namespace core

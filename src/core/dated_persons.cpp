@@ -1,6 +1,6 @@
-#include "anniversaries/dated_persons.h"
+#include "core/dated_persons.h"
 
-namespace anniversaries {
+namespace core {
 
 std::span<const DatedPerson> datedPersons()
 {
@@ -10,4 +10,4 @@ std::span<const DatedPerson> datedPersons()
     return persons;
 }
 
-} // namespace anniversaries
+} // namespace core
