@@ -122,7 +122,7 @@ private Q_SLOTS:
         click(screen, u"CmdCall1"_s);
         QCOMPARE(f->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
         QCOMPARE(f->book.rows(u"select Callper1,SelectcallPer1,emailper5,SelectEmailPer5 from OV_PendWork"_s),
-            QStringList{u"Asha|null|Ms O'Hara|true"_s});
+            QStringList{u"Asha|false|Ms O'Hara|true"_s});
         f->drive.ensureFolder(u"C:\\Desktop");
         click(screen, u"CopyPendingItemonDesktop"_s);
         click(screen, u"GeneratetextFile"_s);

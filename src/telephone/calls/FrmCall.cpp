@@ -250,8 +250,9 @@ void FrmCall::storeName(int kind, int line)
 
 void FrmCall::storeTick(int kind, int line)
 {
-    storeName(kind, line);
     const bool isDone = tickBox(kind, line)->isChecked();
+    storeName(kind, line); // takes the mark of another name away
+    tickBox(kind, line)->setChecked(isDone);
     const jet::Step step(context().data, tr("the pending list"));
     if (!store(tickBox(kind, line)->objectName(), isDone)) {
         tickBox(kind, line)->setChecked(m_stored[kind][line].isDone);
