@@ -129,6 +129,13 @@ FrmCall::FrmCall(core::Context& context, QWidget* parent)
     setFocusProxy(nameBox(0, 0));
 }
 
+// The field that has the focus says that it is finished when it goes, and by then there is nothing to store.
+FrmCall::~FrmCall()
+{
+    for (auto* line : findChildren<QLineEdit*>())
+        line->disconnect(this);
+}
+
 QWidget* FrmCall::layOutKind(int kind)
 {
     auto* group = new QGroupBox(QCoreApplication::translate("telephone", pendingKinds()[kind].title));
