@@ -1,7 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "support/columns.h"
+#include "support/disk.h"
 #include "support/person.h"
 #include "support/screen_fixture.h"
 #include "telephone/dialer/FrmDialer.h"
@@ -194,7 +194,97 @@ private Q_SLOTS:
         click(dialer, u"CmdFilter_0"_s);
     }
 
+    // Names of lists and prefixes; what is typed there is not lost by another tool.
+    void setUp()
+    {
+        clickTool(u"Setup"_s);
+        click(dialer, u"CmdNew"_s);
+        support::type(dialer, u"Text2"_s, u"office'"_s); // takes no apostrophe
+        click(dialer, u"CmdSave"_s);
+        QVERIFY(support::isTold(u"There is a list of this name already"_s));
+        support::type(dialer, u"Text2"_s, u"Clients"_s);
+        f->boxes.expect(u"What you entered was not saved. Do you want to discard it?"_s, Answer::No);
+        clickTool(u"SelectPerson"_s);
+        click(dialer, u"CmdSave"_s);
+        auto* lists = control<widgets::HeadingGrid>(u"Grid2"_s);
+        QCOMPARE(lists->currentText(u"LIST"_s), u"Clients"_s);
+        support::clickRow(lists, 1);
+        click(dialer, u"CmdEdit"_s);
+        support::type(dialer, u"Text2"_s, u"OFFICE"_s);
+        click(dialer, u"CmdSave"_s);
+        QCOMPARE(f->book.firstText(u"select count(*) from cnt_phonenum where list='OFFICE'"_s), u"3"_s);
+        support::clickRow(lists, 0);
+        click(dialer, u"CmdDel"_s);
+        QCOMPARE(f->book.rows(u"select distinct list from cnt_phonenum"_s), QStringList{u"OFFICE"_s});
+        QCOMPARE(f->frame.notices.last(), u"Deleted the list Clients [&Undo]"_s);
+        support::type(dialer, u"txtPrefix3"_s, u"17"_s);
+        click(dialer, u"CmdPh"_s);
+        support::choose(dialer, u"cmbphone"_s, u"OFFICE"_s);
+        QCOMPARE(f->book.rows(u"select PBX,Prefix1,Prefix2,Prefix3 from cntb_setup"_s),
+            QStringList{u"0|95||17"_s});
+        click(dialer, u"Label1_1"_s);
+        QCOMPARE(number(), u"022-222"_s);
+    }
+
+    // What could not be written is told, and nothing that was entered goes.
+    void fullDisk()
+    {
+        dialer->showContact(1);
+        click(dialer, u"Cmdmisc"_s);
+        support::type(dialer, u"DBPurpose"_s, u"Order"_s);
+        f->book.expectFailure(u"CNT_PHCALL"_s);
+        f->boxes.answerAll(Answer::Yes);
+        {
+            const support::FullDisk full;
+            click(dialer, u"cmdCallSave"_s);
+        }
+        QVERIFY2(f->boxes.shown.value(0).contains(u"was not stored"), qPrintable(f->boxes.shown.join(u'|')));
+        f->boxes.shown.clear();
+        click(dialer, u"cmdCallSave"_s);
+        QCOMPARE(f->book.rows(u"select todo from cnt_phcall"_s), QStringList{u"Order"_s});
+    }
+
+    void modems()
+    {
+        f->modem.here = {{u"/dev/ttyUSB0"_s, u"USB modem"_s}};
+        f->modem.complaints[u"/dev/ttyS1"_s] = u"You may not use it"_s;
+        QTimer::singleShot(0, this, [this] {
+            QWidget* setup = QApplication::activeModalWidget();
+            QVERIFY(support::isTold(u"/dev/ttyUSB0 (USB modem)"_s));
+            support::choose(setup, u"CmbDevice_2"_s, u"/dev/ttyUSB0"_s);
+            support::type(setup, u"CmbDevice_1"_s, u"/dev/ttyS1"_s);
+            QVERIFY(support::isTold(u"You may not use it"_s));
+            support::type(setup, u"CmbDevice_1"_s, QString());
+            click(setup, u"cmdDeviceSave"_s);
+        });
+        click(dialer, u"CmdDialer"_s);
+        QCOMPARE(f->modem.devices.value(1), QString());
+        QCOMPARE(f->modem.devices.value(2), u"/dev/ttyUSB0"_s);
+        QCOMPARE(control<QComboBox>(u"CmbPort"_s)->currentText(), u"2"_s);
+    }
+
+    void personIsPicked()
+    {
+        support::type(dialer, u"txtNum"_s, u"4711"_s);
+        clickTool(u"SelectotherPhonenumber"_s);
+        support::choose(dialer, u"dbccat"_s, u"Friends"_s);
+        QTest::keyClick(control(u"DBCPerson"_s), Qt::Key_Return);
+        QCOMPARE(text(u"lblhcity"_s), u"Asha Oberoi"_s);
+        QCOMPARE(number(), u"4711"_s); // typed by hand, so it stays
+        click(dialer, u"lblhph_1"_s);
+        dialer->offerNumber(u"99"_s, u"Asha Oberoi"_s);
+        QCOMPARE(text(u"lblid"_s), u"1"_s);
+        f->book.expectFailure(u"O'Hara"_s);
+        dialer->showContact(2); // the number was of the other one
+        QCOMPARE(number(), u"777"_s);
+    }
+
 private:
+    void clickTool(const QString& name) const
+    {
+        QWidget* button = control<QToolBar>(u"ToolBars1"_s)->widgetForAction(control<QAction>(name));
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
     QString number() const { return dialer->findChild<QLineEdit*>(u"txtNum"_s)->text(); }
     QString text(const QString& name) const { return dialer->findChild<QLabel*>(name)->text(); }
     QString line(const QString& name) const { return dialer->findChild<QLineEdit*>(name)->text(); }

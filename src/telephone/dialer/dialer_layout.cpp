@@ -365,8 +365,6 @@ void FrmDialer::connectPanels()
     });
     connect(FrmeRelated, &PersonPicker::cancelled, this, &FrmDialer::closePanel);
     connect(FrmeRelated, &PersonPicker::picked, this, [this](qint64 id) { showContact(id); });
-    connect(FrmeCall, &DialerSetup::modeChanged, this,
-        [this] { m_memory->setKeysSwallowed(FrmeCall->isEditing()); });
     connect(FrmeCall, &DialerSetup::listAdded, this, [this](const QString& list) {
         m_memory->readLists();
         m_memory->showList(list);
@@ -378,8 +376,8 @@ void FrmDialer::connectPanels()
         context().screens.tellBookChanged(this);
     });
     connect(FrmeCall, &DialerSetup::listDeleted, this, [this](const QString& list) {
-        m_memory->showList({});
         m_memory->readLists();
+        m_memory->showList({});
         context().screens.tellBookChanged(this);
         const auto step = context().data.lastChange();
         context().frame.showNotice(tr("Deleted the list %1").arg(list), step ? tr("&Undo") : QString(),

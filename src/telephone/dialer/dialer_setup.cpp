@@ -115,7 +115,6 @@ void DialerSetup::setMode(Mode mode)
     m_hint->clear();
     if (mode != Mode::None)
         Text2->setFocus();
-    Q_EMIT modeChanged();
 }
 
 void DialerSetup::startEdit()
