@@ -126,7 +126,7 @@ Form1::Form1(core::Context& context, QWidget* parent)
     , sstab1(new QTabBar)
     , FG1(new widgets::HeadingGrid)
     , m_list(new core::ListPresenter(context.data, FG1, this))
-    , m_show(new QPushButton(tr("&Show")))
+    , m_show(new QPushButton(tr("Sho&w")))
     , m_allDays(new QPushButton(tr("&All days")))
     , m_editor(new CallSavePanel(context))
 {
@@ -144,7 +144,7 @@ void Form1::layOut()
     auto* body = new QWidget;
     widgets::FormKit form(body);
     form.group()
-        .fixedCombo(u"Combo1"_s, tr("&Person"))
+        .fixedCombo(u"Combo1"_s, tr("Pers&on"))
         .beside()
         .fixedCombo(u"CmbPurpose"_s, tr("P&urpose"))
         .beside()
