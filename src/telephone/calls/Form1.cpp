@@ -126,6 +126,8 @@ Form1::Form1(core::Context& context, QWidget* parent)
     , sstab1(new QTabBar)
     , FG1(new widgets::HeadingGrid)
     , m_list(new core::ListPresenter(context.data, FG1, this))
+    , m_show(new QPushButton(tr("Sho&w")))
+    , m_allDays(new QPushButton(tr("&All days")))
     , m_editor(new CallSavePanel(context))
 {
     setWindowTitle(tr("Previous Calls"));
@@ -142,18 +144,22 @@ void Form1::layOut()
     auto* body = new QWidget;
     widgets::FormKit form(body);
     form.group()
-        .fixedCombo(u"Combo1"_s, tr("&Person"))
+        .fixedCombo(u"Combo1"_s, tr("Pers&on"))
         .beside()
         .fixedCombo(u"CmbPurpose"_s, tr("P&urpose"))
         .beside()
         .fixedCombo(u"CmbResponse"_s, tr("&Response"))
         .date(u"ssdtFrom"_s, tr("&From"))
+        .grow(2)
         .beside()
         .date(u"ssdtTo"_s, tr("&to"))
-        .beside(0)
-        .button(u"Command1"_s, tr("&Show"), u"filter", tr("Calls of these days; with one date, of that day"))
-        .beside(0)
-        .button(u"CmdAllDates"_s, tr("&All days"), u"restore", tr("Calls of all days again"))
+        .grow(2)
+        .beside()
+        .widget(u"Command1"_s, {}, m_show)
+        .hint(tr("Calls of these days; with one date, of that day"))
+        .beside()
+        .widget(u"CmdAllDates"_s, {}, m_allDays)
+        .hint(tr("Calls of all days again"))
         .wide(u"sstab1"_s, tr("Which calls are listed"), sstab1)
         .wide(u"FG1"_s, tr("Calls"), FG1)
         .caption(u"lblCount"_s)
@@ -163,6 +169,12 @@ void Form1::layOut()
         .stretch()
         .button(u"CmdExit"_s, tr("Close"), u"exit", tr("Close the screen (Esc)"));
     m_editor->hide();
+    widgets::setIcon(m_show, u"filter");
+    widgets::setIcon(m_allDays, u"restore");
+    for (QPushButton* button : {m_show, m_allDays}) {
+        button->setAutoDefault(false);
+        button->setAccessibleName(button->text().remove(u'&'));
+    }
     Combo1 = child<widgets::FilledCombo>(body, u"Combo1"_s);
     CmbPurpose = child<widgets::FilledCombo>(body, u"CmbPurpose"_s);
     CmbResponse = child<widgets::FilledCombo>(body, u"CmbResponse"_s);

@@ -69,6 +69,8 @@ private:
     widgets::FilledCombo* CmbResponse = nullptr;
     widgets::DateBox* m_from = nullptr;
     widgets::DateBox* m_to = nullptr;
+    QPushButton* m_show;
+    QPushButton* m_allDays;
     CallSavePanel* m_editor;
     QLabel* m_count = nullptr;
     QString m_dates; ///< the condition that narrows the lists

@@ -16,6 +16,7 @@
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -40,6 +41,8 @@ namespace {
 
 using enum core::Tool::Place;
 
+constexpr int kEmails = 1; ///< of the kinds
+constexpr int kLeastGroup = 360;
 constexpr QStringView kFileName = u"Orvane Communicator.txt";
 constexpr core::Tool kTools[] = {
     {.id = u"GeneratetextFile",
@@ -92,8 +95,11 @@ FrmCall::FrmCall(core::Context& context, QWidget* parent)
     auto* body = new QWidget;
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(12, 12, 12, 12);
+    auto* groups = new widgets::WrappingRow;
+    groups->setSpacing(12);
     for (int kind = 0; kind < int(pendingKinds().size()); ++kind)
-        column->addWidget(layOutKind(kind));
+        groups->add(layOutKind(kind));
+    column->addLayout(groups);
     column->addWidget(m_hint);
     column->addStretch(1);
     auto* close = new QPushButton(tr("Close"));
@@ -123,9 +129,17 @@ FrmCall::FrmCall(core::Context& context, QWidget* parent)
     setFocusProxy(nameBox(0, 0));
 }
 
+// The field that has the focus says that it is finished when it goes, and by then there is nothing to store.
+FrmCall::~FrmCall()
+{
+    for (auto* line : findChildren<QLineEdit*>())
+        line->disconnect(this);
+}
+
 QWidget* FrmCall::layOutKind(int kind)
 {
     auto* group = new QGroupBox(QCoreApplication::translate("telephone", pendingKinds()[kind].title));
+    group->setMinimumWidth(kLeastGroup);
     auto* grid = new QGridLayout(group);
     grid->setVerticalSpacing(4);
     grid->setColumnStretch(0, 1);
@@ -243,8 +257,9 @@ void FrmCall::storeName(int kind, int line)
 
 void FrmCall::storeTick(int kind, int line)
 {
-    storeName(kind, line);
     const bool isDone = tickBox(kind, line)->isChecked();
+    storeName(kind, line); // takes the mark of another name away
+    tickBox(kind, line)->setChecked(isDone);
     const jet::Step step(context().data, tr("the pending list"));
     if (!store(tickBox(kind, line)->objectName(), isDone)) {
         tickBox(kind, line)->setChecked(m_stored[kind][line].isDone);
@@ -277,10 +292,10 @@ void FrmCall::handOver(int kind, int line)
         return inform(tr("Record not selected"));
     const qint64 id = contact.number(u"id");
     core::Screens& screens = context().screens;
-    if (auto* composer = screens.load<core::MailComposer>(kHands[kind].form))
-        composer->AddRecipient(id);
-    else if (auto* screen = screens.load<core::ContactScreen>(kHands[kind].form))
+    if (auto* screen = kind == kEmails ? nullptr : screens.load<core::ContactScreen>(kHands[kind].form))
         screen->showContact(id);
+    if (auto* composer = kind != kEmails ? nullptr : screens.load<core::MailComposer>(kHands[kind].form))
+        composer->AddRecipient(id);
     screens.show(kHands[kind].form);
 }
 

@@ -23,6 +23,7 @@ class FrmCall : public core::Screen {
 
 public:
     explicit FrmCall(core::Context& context, QWidget* parent = nullptr);
+    ~FrmCall() override;
 
     void load() override;
     void bookChanged() override;

@@ -114,6 +114,8 @@ bool FrmDialer::showContact(qint64 id)
     jet::Recordset contact = context().data.openRecordset(core::contactByIdSql(id));
     if (!contact.hasRow())
         return false;
+    if (!mayDiscard())
+        return true;
     const QString name = contact.textOrEmpty(u"Name");
     showOthers(true);
     showPerson(std::move(contact), NumberKind::None);
@@ -134,6 +136,8 @@ bool FrmDialer::showContact(qint64 id)
 
 void FrmDialer::offerNumber(const QString& number, const QString& who)
 {
+    if (!mayDiscard())
+        return;
     // One of the person who is shown leaves all else as it is.
     if (m_id != 0 && who == m_name) {
         setNumber(number, m_id);
@@ -379,14 +383,15 @@ void FrmDialer::dialByDesktop(const QString& number)
 {
     PBDial->hide();
     const QString address = telephoneAddress(number);
-    if (context().services.boxes.ask(
-            tr("No modem is set up for port %1. Do you want to call %2 with the telephone program of this "
-               "computer?")
-                .arg(CmbPort->currentText(), address),
-            tr("Dialer Status"))
-        != platform::Answer::Yes)
+    if (address.isEmpty()
+        || context().services.boxes.ask(
+               tr("No modem is set up for port %1. Do you want to call %2 with the telephone program of this "
+                  "computer?")
+                   .arg(CmbPort->currentText(), address),
+               tr("Dialer Status"))
+            != platform::Answer::Yes)
         return warn(tr("Please change the ComPort property to suitable port "));
-    if (address.isEmpty() || !context().services.shell.openAddress(u"tel:"_s + address))
+    if (!context().services.shell.openAddress(u"tel:"_s + address))
         return warn(tr("No telephone program was found on this computer."));
     saveCall();
 }
@@ -464,7 +469,6 @@ void FrmDialer::askToClosePanel()
 
 void FrmDialer::closePanel()
 {
-    m_memory->setKeysSwallowed(false);
     m_right->setCurrentWidget(m_personSide);
     enterNumber();
 }

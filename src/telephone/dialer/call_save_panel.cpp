@@ -116,23 +116,21 @@ void CallSavePanel::followCheck()
         ssdtNextCall->setDate(date->addDays(1));
 }
 
-bool CallSavePanel::store(jet::Recordset& calls)
-{
-    const Entered values = entered();
-    const auto next = values.isLater ? ssdtNextCall->date() : std::nullopt;
-    calls.set(u"Todo", values.purpose);
-    calls.set(u"Result", values.response);
-    calls.set(u"NextCall", next ? QVariant(*next) : QVariant(QString()));
-    calls.set(u"CallLater", values.isLater ? 1 : 0);
-    return calls.update();
-}
-
 void CallSavePanel::save()
 {
     if (Check1->isChecked() && ssdtNextCall->holdsBadText())
         return ssdtNextCall->askToMend();
     const QString who = m_call.name.isEmpty() ? m_call.number : m_call.name;
-    const jet::Step step(m_context.data, tr("the call to %1").arg(who));
+    if (!record(tr("the call to %1").arg(who)))
+        return core::tellFailedSave(m_context);
+    m_shown = entered();
+    m_context.services.sounds.play(core::sounds::Save);
+    Q_EMIT saved(who);
+}
+
+bool CallSavePanel::record(const QString& stepName)
+{
+    const jet::Step step(m_context.data, stepName);
     jet::Recordset calls = m_context.data.openRecordset(u"select * from CNT_PHCALL order by ID"_s);
     if (m_editedId == 0) {
         const QDateTime now = m_context.services.clock.now();
@@ -147,11 +145,13 @@ void CallSavePanel::save()
     } else if (calls.findFirst(u"ID="_s + QString::number(m_editedId))) {
         calls.edit();
     }
-    if (!store(calls))
-        return core::tellFailedSave(m_context);
-    m_shown = entered();
-    m_context.services.sounds.play(core::sounds::Save);
-    Q_EMIT saved(who);
+    const Entered values = entered();
+    const auto next = values.isLater ? ssdtNextCall->date() : std::nullopt;
+    calls.set(u"Todo", values.purpose);
+    calls.set(u"Result", values.response);
+    calls.set(u"NextCall", next ? QVariant(*next) : QVariant());
+    calls.set(u"CallLater", values.isLater ? 1 : 0);
+    return calls.update();
 }
 
 } // namespace telephone

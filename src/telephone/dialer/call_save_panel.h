@@ -51,7 +51,7 @@ private:
     Entered entered() const;
     void showValues(const Entered& values, const std::optional<QDate>& next);
     void save();
-    bool store(jet::Recordset& calls);
+    bool record(const QString& stepName);
     void followCheck();
 
     core::Context& m_context;

@@ -75,7 +75,7 @@ constexpr core::Tool kTools[] = {
 };
 
 constexpr int kDialWidth = 270;
-constexpr int kComboWidth = 96;
+constexpr int kLeastLetters = 7; ///< of the combos on the left
 constexpr int kMostDigits = 100;
 
 QLabel* plainLabel(const QString& name, QWidget* parent)
@@ -104,8 +104,9 @@ widgets::FilledCombo* combo(const QString& name, const QString& what,
     made->setObjectName(name);
     made->setAccessibleName(what);
     made->setToolTip(what);
-    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    made->setMinimumWidth(kComboWidth);
+    made->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    made->setMinimumContentsLength(kLeastLetters);
+    made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return made;
 }
 
@@ -364,8 +365,6 @@ void FrmDialer::connectPanels()
     });
     connect(FrmeRelated, &PersonPicker::cancelled, this, &FrmDialer::closePanel);
     connect(FrmeRelated, &PersonPicker::picked, this, [this](qint64 id) { showContact(id); });
-    connect(FrmeCall, &DialerSetup::modeChanged, this,
-        [this] { m_memory->setKeysSwallowed(FrmeCall->isEditing()); });
     connect(FrmeCall, &DialerSetup::listAdded, this, [this](const QString& list) {
         m_memory->readLists();
         m_memory->showList(list);
@@ -377,8 +376,8 @@ void FrmDialer::connectPanels()
         context().screens.tellBookChanged(this);
     });
     connect(FrmeCall, &DialerSetup::listDeleted, this, [this](const QString& list) {
-        m_memory->showList({});
         m_memory->readLists();
+        m_memory->showList({});
         context().screens.tellBookChanged(this);
         const auto step = context().data.lastChange();
         context().frame.showNotice(tr("Deleted the list %1").arg(list), step ? tr("&Undo") : QString(),

@@ -61,7 +61,7 @@ void DialerSetup::layOut()
         .button(u"CmdEdit"_s, tr("Ren&ame"), u"edit", tr("Change the name of the list that is marked"))
         .button(u"CmdDel"_s, tr("De&lete"), u"delete", tr("Delete the list with its numbers"))
         .line(u"Text2"_s, tr("&Name"), u"List"_s, KeyFilter::NoApostrophe)
-        .beside(0)
+        .beside()
         .button(u"CmdSave"_s, tr("&Save"), u"save", tr("Store the name (Enter)"))
         .caption(u"lblListHint"_s);
     form.group(tr("Dialled before a number"))
@@ -115,7 +115,6 @@ void DialerSetup::setMode(Mode mode)
     m_hint->clear();
     if (mode != Mode::None)
         Text2->setFocus();
-    Q_EMIT modeChanged();
 }
 
 void DialerSetup::startEdit()
@@ -146,12 +145,14 @@ void DialerSetup::saveName()
 
 void DialerSetup::addList(const QString& name)
 {
-    const jet::Step step(m_context.data, tr("the memory list %1").arg(name));
-    jet::Recordset rows = m_context.data.openRecordset(u"Select * from cnt_phonenum"_s);
-    rows.addNew();
-    rows.set(u"List", name);
-    if (!rows.update())
-        return core::tellFailedSave(m_context);
+    {
+        const jet::Step step(m_context.data, tr("the memory list %1").arg(name));
+        jet::Recordset rows = m_context.data.openRecordset(u"Select * from cnt_phonenum"_s);
+        rows.addNew();
+        rows.set(u"List", name);
+        if (!rows.update())
+            return core::tellFailedSave(m_context);
+    }
     m_context.services.sounds.play(core::sounds::Save);
     setMode(Mode::None);
     readLists(name);
@@ -161,9 +162,11 @@ void DialerSetup::addList(const QString& name)
 // A name with an apostrophe, from another program, leaves the list as it is, which is told.
 void DialerSetup::renameList(const QString& to)
 {
-    const jet::Step step(m_context.data, tr("the name of the memory list %1").arg(to));
-    if (m_context.data.execute(renameListSql(m_renamed, to)).changed == 0)
-        return core::tellFailedSave(m_context);
+    {
+        const jet::Step step(m_context.data, tr("the name of the memory list %1").arg(to));
+        if (m_context.data.execute(renameListSql(m_renamed, to)).changed == 0)
+            return core::tellFailedSave(m_context);
+    }
     m_context.services.sounds.play(core::sounds::Save);
     setMode(Mode::None);
     readLists(to);

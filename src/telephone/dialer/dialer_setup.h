@@ -23,10 +23,8 @@ public:
 
     void read();
     bool isTouched() const; ///< prefixes or a name that are not stored
-    bool isEditing() const { return m_mode == Mode::Edit; }
 
 Q_SIGNALS:
-    void modeChanged();
     void listAdded(const QString& name);
     void listsChanged(); ///< one was renamed or deleted
     void listDeleted(const QString& name);

@@ -8,9 +8,7 @@
 #include "widgets/theme.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QToolButton>
 
@@ -29,7 +27,6 @@ MemoryPanel::MemoryPanel(jet::Database& book, QWidget* parent)
     cmbphone->setToolTip(tr("The list whose ten places are shown; a new name begins a new list"));
     cmbphone->setSource([this] { return core::firstColumn(m_data, memoryListsSql()); });
     widgets::setKeyFilter(cmbphone, widgets::KeyFilter::NoApostrophe);
-    cmbphone->lineEdit()->installEventFilter(this);
     auto* title = new QLabel(tr("Memor&y"));
     title->setBuddy(cmbphone);
     LBLSAVE->setObjectName(u"LBLSAVE"_s);
@@ -133,16 +130,6 @@ void MemoryPanel::focusList(bool droppedDown)
     cmbphone->setFocus();
     if (droppedDown)
         cmbphone->showPopup();
-}
-
-bool MemoryPanel::eventFilter(QObject* watched, QEvent* event)
-{
-    if (m_swallowsKeys && event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (!key->text().isEmpty() && key->key() != Qt::Key_Tab && key->key() != Qt::Key_Escape)
-            return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace telephone

@@ -30,16 +30,11 @@ public:
     bool isEmpty(int slot) const;
     void showSaved(const QString& text);
     void focusList(bool droppedDown = false);
-    /// While a list is being renamed no other one can be typed.
-    void setKeysSwallowed(bool swallowed) { m_swallowsKeys = swallowed; }
 
 Q_SIGNALS:
     void slotClicked(int slot);
     void assignWanted(int slot);
     void clearWanted(int slot);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void addSlot(int slot, class QGridLayout* grid);
@@ -49,7 +44,6 @@ private:
     widgets::FilledCombo* cmbphone;
     QList<NumberButton*> m_slots; ///< Label1(0) to Label1(9)
     QLabel* LBLSAVE;
-    bool m_swallowsKeys = false;
 };
 
 } // namespace telephone
