@@ -200,6 +200,18 @@ QVariant dateFromIso(QStringView iso)
     return time.isValid() ? QVariant(QDateTime(date, time)) : QVariant();
 }
 
+std::optional<int> partOfIso(std::string_view iso, DatePart part)
+{
+    if (iso.size() < 10 || iso[4] != '-' || iso[7] != '-')
+        return {};
+    constexpr size_t kFrom[] = {0, 5, 8};
+    const size_t from = kFrom[size_t(part)];
+    int number = 0;
+    for (const char c : iso.substr(from, part == DatePart::Year ? 4 : 2))
+        number = c >= '0' && c <= '9' ? number * 10 + (c - '0') : number;
+    return number;
+}
+
 QString formatDate(QDate date, QStringView pattern)
 {
     if (!date.isValid())

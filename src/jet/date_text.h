@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include <optional>
+#include <string_view>
 
 // The one place of the house that reads and writes dates. Months have English names in every locale.
 
@@ -32,6 +33,10 @@ QString isoDate(QDate date, QTime time = {});
 QVariant dateFromIso(QStringView iso);
 /// The day at the beginning of an ISO date, also without its dashes, as cards have it.
 QDate dayOfIso(QStringView iso);
+
+enum class DatePart { Year, Month, Day };
+/// A part of a stored date, read in place, as lists do that look at every row; nothing for another text.
+std::optional<int> partOfIso(std::string_view iso, DatePart part);
 
 /// A date by a pattern of d, dd, m, mm, mmm, mmmm, yy, yyyy in any case; anything else stays as it is. "" for
 /// an invalid date.

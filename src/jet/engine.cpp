@@ -101,9 +101,14 @@ Outcome Engine::execute(QStringView sql, Way way)
     }
     int result = SQLITE_ERROR;
     {
-        const Prepared statement = prepareMain(*request, way);
+        std::optional<Prepared> narrowed = narrowedUpdate(*request, way);
+        const Prepared statement = narrowed ? std::move(*narrowed) : prepareMain(*request, way);
+        if (m_search)
+            m_search->setAssigned(translation.table, translation.assigned);
         if (statement)
             result = stepWrite(statement.get());
+        if (m_search)
+            m_search->setAssigned({}, {});
         if (result != SQLITE_DONE)
             reportLast(sql);
     }
@@ -290,6 +295,26 @@ std::optional<Engine::Narrowed> Engine::narrowed(const Request& request, Way way
     if (!result.rest)
         return {};
     return result;
+}
+
+// No other program can write while a batch is open, so what is known of the texts holds.
+std::optional<Prepared> Engine::narrowedUpdate(const Request& request, Way way)
+{
+    const Translation& translation = request.plan->translation;
+    if (!m_search || !isInBatch() || translation.kind != Translation::Kind::Action || !translation.filter)
+        return {};
+    noticeMissedChanges();
+    auto rows = m_search->rows(
+        translation.table, *translation.filter, *request.literals, way, TextSearch::AskedBy::Update);
+    if (!rows)
+        return {};
+    rows->doubtful.insert(rows->doubtful.end(), rows->sure.begin(), rows->sure.end());
+    if (rows->doubtful.size() > rows->all / kWorthwhilePart)
+        return {};
+    BoundTexts texts;
+    texts.rowLists = {jsonList(rows->doubtful)};
+    Prepared result = prepare(request, translation.narrowed, &Plan::narrowedPool, texts);
+    return result ? std::optional(std::move(result)) : std::nullopt;
 }
 
 Prepared Engine::prepareRow(const Request& request, qint64 key)

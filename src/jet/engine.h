@@ -112,6 +112,9 @@ public:
     bool isTooMuch(qint64 bytes) const { return m_file.limits().bytes > 0 && bytes > m_file.limits().bytes; }
 
 private:
+    /// An update within a batch, for the rows alone that the texts in memory name; nothing when main has to
+    /// be run.
+    std::optional<Prepared> narrowedUpdate(const Request& request, Way way);
     struct OpenBatch {
         int depth = 0;
         int failures = 0;

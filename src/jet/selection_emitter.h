@@ -28,8 +28,10 @@ private:
     bool isOfOneTable(const Select& s) const;
     bool isKey(const Expression& e) const;
     bool isWhole(const Expression& e) const; ///< a whole number or null, as far as one can tell
+    const Expression* datedColumn(const Expression& lead) const;
+    UnionParts::Reading readingOf(const Expression& lead) const;
     bool findLeads(const Select& s, const std::vector<ResultColumn>& columns, UnionParts* parts) const;
-    void keysOf(const Select& s, const UnionParts& parts, const std::vector<int>& varying, bool ofRows);
+    void keysOf(const Select& s, const std::vector<int>& varying, UnionParts* parts, bool ofRows);
     void rowsOf(const Select& s, const std::vector<ResultColumn>& columns);
     void listedRows(const TableName& from, int list);
     std::vector<int> varyingPositions(const Select& s);

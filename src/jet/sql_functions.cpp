@@ -6,6 +6,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <string_view>
@@ -103,24 +104,20 @@ void mid(sqlite3_context* context, int count, sqlite3_value** arguments)
     answer(context, stringOf(arguments[0]).mid(start - 1, qMin<qint64>(length, INT_MAX)));
 }
 
-/// The year, month or day of a stored date, read in place: these run over every row of the birthday lists.
-template <int from, int digits> void datePart(sqlite3_context* context, int, sqlite3_value** arguments)
+/// The year, month or day of a stored date.
+template <DatePart part> void datePart(sqlite3_context* context, int, sqlite3_value** arguments)
 {
-    const std::string_view iso = textOf(arguments[0]);
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    if (iso.size() < 10 || iso[4] != '-' || iso[7] != '-') {
+    std::optional<int> number = partOfIso(textOf(arguments[0]), part);
+    if (!number && isNull(arguments[0]))
+        return;
+    if (!number) {
         // A text column that holds a date in words, such as the scheduler's.
-        if (isNull(arguments[0]))
-            return;
         const auto parsed = parseDateText(stringOf(arguments[0]));
-        if (!parsed)
-            return sqlite3_result_error(context, "not a date", -1);
-        return sqlite3_result_int(context, parsed->mid(from, digits).toInt());
+        number = partOfIso(parsed.value_or(QString()).toStdString(), part);
     }
-    int number = 0;
-    for (int i = from; i < from + digits; ++i)
-        number = isDigit(iso[size_t(i)]) ? number * 10 + (iso[size_t(i)] - '0') : number;
-    sqlite3_result_int(context, number);
+    if (!number)
+        return sqlite3_result_error(context, "not a date", -1);
+    sqlite3_result_int(context, *number);
 }
 
 void format(sqlite3_context* context, int, sqlite3_value** arguments)
@@ -139,6 +136,16 @@ void val(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     if (isNumber(arguments[0]))
         return sqlite3_result_value(context, arguments[0]);
+    // Most are a digit or two; this runs over every row of a list.
+    constexpr size_t kShort = 9;
+    const std::string_view digits = textOf(arguments[0]);
+    if (digits.size() <= kShort
+        && std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+        int whole = 0;
+        for (const char digit : digits)
+            whole = whole * 10 + (digit - '0');
+        return sqlite3_result_int(context, whole);
+    }
     const QString text = stringOf(arguments[0]).remove(u' ');
     qsizetype end = 0;
     while (end < text.size() && (text[end].isDigit() || text[end] == u'.' || (end == 0 && text[end] == u'-')))
@@ -221,9 +228,9 @@ constexpr Function kFunctions[] = {
     {"jet_like_any_ado", -1, likeAny<Way::Ado>},
     {"jet_mid", 2, mid},
     {"jet_mid", 3, mid},
-    {"jet_year", 1, datePart<0, 4>},
-    {"jet_month", 1, datePart<5, 2>},
-    {"jet_day", 1, datePart<8, 2>},
+    {"jet_year", 1, datePart<DatePart::Year>},
+    {"jet_month", 1, datePart<DatePart::Month>},
+    {"jet_day", 1, datePart<DatePart::Day>},
     {"jet_format", 2, format},
     {"jet_val", 1, val},
     {"jet_cstr", 1, cstr},

@@ -167,6 +167,8 @@ void TextSearch::rowChanged(const char* table, sqlite3_int64 id)
     const auto known = m_tables.find(table);
     if (known == m_tables.end() || known->second->isTooMuch)
         return;
+    if (!m_assigned.isEmpty() && m_assignedTable == table)
+        return noteAssigned(*known->second, m_assigned, id);
     auto& changed = known->second->changed;
     changed.insert(id);
     if (!known->second->reading && !known->second->isWanted
@@ -174,25 +176,58 @@ void TextSearch::rowChanged(const char* table, sqlite3_int64 id)
         m_tables.erase(known);
 }
 
-std::optional<TextSearch::Rows> TextSearch::rows(
-    const QString& name, const TextFilter& filter, const std::vector<Literal>& literals, Way way)
+void TextSearch::setAssigned(const QString& table, const QStringList& columns)
+{
+    m_assignedTable = table.toStdString();
+    m_assigned = columns;
+}
+
+void TextSearch::noteAssigned(Table& table, const QStringList& columns, sqlite3_int64 id)
+{
+    for (const QString& column : columns) {
+        if (!table.columns.contains(column) || table.stale.contains(column))
+            continue;
+        auto& changed = table.changedIn[column];
+        changed.insert(id);
+        if (!table.reading && !table.isWanted && changed.size() * kMostChangedPart > table.index.rows()) {
+            table.changedIn.erase(column);
+            table.stale << column;
+        }
+    }
+}
+
+std::unordered_set<sqlite3_int64> TextSearch::changedOf(const Table& table, const QStringList& columns)
+{
+    std::unordered_set<sqlite3_int64> changed = table.changed;
+    for (const auto& [column, ids] : table.changedIn) {
+        if (columns.contains(column))
+            changed.insert(ids.begin(), ids.end());
+    }
+    return changed;
+}
+
+std::optional<TextSearch::Rows> TextSearch::rows(const QString& name, const TextFilter& filter,
+    const std::vector<Literal>& literals, Way way, AskedBy askedBy)
 {
     QStringList columns;
     collectColumns(filter, &columns);
-    Table* table = prepared(name, columns);
+    const bool isUpdate = askedBy == AskedBy::Update;
+    Table* table = isUpdate ? known(name, columns) : prepared(name, columns);
     if (!table)
         return {};
     Query query{*table, literals, way};
+    query.takesBeginnings = isUpdate;
     const auto marks = query.marks(filter);
     if (!marks || query.isBroken)
         return {};
     Rows found;
     found.all = marks->size();
-    found.doubtful.assign(table->changed.begin(), table->changed.end());
+    const auto changed = changedOf(*table, columns);
+    found.doubtful.assign(changed.begin(), changed.end());
     auto& fitting = filter.isWhole && query.isWhole ? found.sure : found.doubtful;
     for (size_t row = 0; row < marks->size(); ++row) {
         const sqlite3_int64 id = table->index.idAt(row);
-        if ((*marks)[row] && !table->changed.contains(id))
+        if ((*marks)[row] && !changed.contains(id))
             fitting.push_back(id);
     }
     return found;
@@ -222,10 +257,11 @@ std::optional<TextSearch::ArmRows> TextSearch::rowsOfArms(
     for (const QString& column : parts.varyingColumns)
         places.push_back(size_t(table->columns.indexOf(column)));
     ArmRows found;
-    found.doubtful.assign(table->changed.begin(), table->changed.end());
+    const auto changed = changedOf(*table, columns);
+    found.doubtful.assign(changed.begin(), changed.end());
     for (size_t row = 0; row < arms.size(); ++row) {
         const sqlite3_int64 id = table->index.idAt(row);
-        if (arms[row] == 0 || table->changed.contains(id))
+        if (arms[row] == 0 || changed.contains(id))
             continue;
         if (isSure)
             found.sure.push_back({id, arms[row], mayRepeat(*table, places, row, arms[row])});
@@ -247,6 +283,26 @@ bool TextSearch::mayRepeat(const Table& table, const std::vector<size_t>& column
     return false;
 }
 
+/// Whether what is kept of these columns is how the file is.
+bool TextSearch::isFresh(const Table& table, const QStringList& columns)
+{
+    return table.fileVersion == number(u"PRAGMA data_version"_s)
+        && std::all_of(columns.cbegin(), columns.cend(), [&table](const QString& column) {
+               return table.columns.contains(column) && !table.stale.contains(column);
+           });
+}
+
+TextSearch::Table* TextSearch::known(const QString& name, const QStringList& columns)
+{
+    const auto found = m_tables.find(name.toStdString());
+    if (found == m_tables.end())
+        return nullptr;
+    Table& table = *found->second;
+    takeWhatWasRead(table);
+    const bool isThere = !table.reading && !table.isWanted && !table.isTooMuch;
+    return isThere && isFresh(table, columns) ? &table : nullptr;
+}
+
 TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& columns)
 {
     const auto version = number(u"PRAGMA data_version"_s);
@@ -260,9 +316,7 @@ TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& 
     takeWhatWasRead(*table);
     if (table->reading || table->isWanted)
         return nullptr;
-    const bool hasAll = std::all_of(columns.cbegin(), columns.cend(),
-        [table](const QString& column) { return table->columns.contains(column); });
-    if (version && table->fileVersion == *version && hasAll)
+    if (isFresh(*table, columns))
         return table->isTooMuch ? nullptr : table;
     for (const QString& column : columns) {
         if (!table->columns.contains(column))
@@ -276,6 +330,8 @@ TextSearch::Table* TextSearch::prepared(const QString& name, const QStringList& 
     table->fileVersion = *version;
     table->index = {};
     table->changed.clear(); // from here on each change is noted
+    table->changedIn.clear();
+    table->stale.clear();
     table->isWanted = !m_fileAside.isEmpty();
     if (!table->isWanted)
         readNow(key, *table);

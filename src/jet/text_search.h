@@ -6,6 +6,7 @@
 #include "jet/translator.h"
 #include "jet/types.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <memory>
@@ -39,8 +40,11 @@ public:
     };
     /// In any order; no row that is in neither fits. Nothing when the search can not be helped. To be asked
     /// in the same read transaction as the search.
-    std::optional<Rows> rows(
-        const QString& table, const TextFilter& filter, const std::vector<Literal>& literals, Way way);
+    /// An update would look at every row otherwise: patterns that say how a text begins, or ask for one
+    /// letter, are worthwhile for it. It uses what is known and has nothing read.
+    enum class AskedBy { Search, Update };
+    std::optional<Rows> rows(const QString& table, const TextFilter& filter,
+        const std::vector<Literal>& literals, Way way, AskedBy askedBy = AskedBy::Search);
     /// A row that some arms of a union have.
     struct RowOfArms {
         sqlite3_int64 id;
@@ -55,6 +59,8 @@ public:
     std::optional<ArmRows> rowsOfArms(const UnionParts& parts, const std::vector<Literal>& literals, Way way);
 
     void rowChanged(const char* table, sqlite3_int64 id);
+    /// From now on only these columns of the rows of a table change; an empty list ends it.
+    void setAssigned(const QString& table, const QStringList& columns);
     /// Behind a search that looked at the file: reads what the next one can use, and does not keep this one
     /// from its rows.
     void readAhead();
@@ -70,12 +76,18 @@ private:
         std::unique_ptr<Reading> reading; ///< while it goes on
         bool isWanted = false; ///< to be read ahead
         std::unordered_set<sqlite3_int64> changed;
+        std::unordered_map<QString, std::unordered_set<sqlite3_int64>> changedIn; ///< a column alone
+        QStringList stale; ///< columns in which too many were changed
         sqlite3_int64 fileVersion = 0;
         bool isTooMuch = false;
     };
     struct Query;
 
     static bool mayRepeat(const Table& table, const std::vector<size_t>& columns, size_t row, quint32 arms);
+    static std::unordered_set<sqlite3_int64> changedOf(const Table& table, const QStringList& columns);
+    static void noteAssigned(Table& table, const QStringList& columns, sqlite3_int64 id);
+    bool isFresh(const Table& table, const QStringList& columns);
+    Table* known(const QString& name, const QStringList& columns);
     Table* prepared(const QString& name, const QStringList& columns);
     QByteArray readingSql(const std::string& name, const Table& table) const;
     void readNow(const std::string& name, Table& table);
@@ -85,6 +97,8 @@ private:
 
     sqlite3* m_connection;
     QString m_fileAside;
+    std::string m_assignedTable;
+    QStringList m_assigned;
     std::unordered_map<std::string, std::unique_ptr<Table>> m_tables; ///< by name as the file spells it
 };
 

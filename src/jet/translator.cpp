@@ -264,13 +264,32 @@ private:
             m_out += u" = "_s;
             stored(*assignment.value, column->type);
             first = false;
-        }
-        if (s.where) {
-            m_out += u" WHERE "_s;
-            truth(*s.where);
+            result.assigned << column->name;
         }
         result.main = takePiece();
+        if (s.where)
+            whereOfUpdate(*s.where, *target, &result);
         return result;
+    }
+
+    void whereOfUpdate(const Expression& where, const CatalogTable& target, Translation* result)
+    {
+        const Piece set = result->main;
+        const auto written = [&](QStringView narrowing) {
+            m_out += set.sql;
+            m_slots = set.values;
+            m_out += u" WHERE "_s;
+            m_out += narrowing;
+            if (!narrowing.isEmpty())
+                m_slots.push_back({-1, Slot::Reading::RowList});
+            truth(where);
+            return takePiece();
+        };
+        result->main = written({});
+        result->table = target.name;
+        result->filter = textFilter(where);
+        if (result->filter)
+            result->narrowed = written(u"rowid IN (SELECT value FROM json_each(?)) AND ");
     }
 
     Translation remove(const Statement& s)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/catalog.h"
+#include "jet/date_text.h"
 #include "jet/syntax_tree.h"
 #include "jet/text_filter.h"
 #include "jet/types.h"
@@ -51,11 +52,20 @@ struct UnionParts {
     bool byKey = false;
     /// Where leads and key stand in a row.
     std::vector<int> leadPositions = {};
+    /// How a lead is made of what `keys` gives: as it is, or a part of a date, which is quicker than to ask
+    /// the file engine for it.
+    struct Reading {
+        std::optional<DatePart> part = {};
+        std::optional<int> minuend = {}; ///< from which the part is taken away
+    };
+    std::vector<Reading> readings = {}; ///< one a lead
     int keyPosition = 0;
     /// Where rows of one key may differ. Looked at when the keys lead; otherwise equal leads are seldom.
     int varying = 0;
-    /// A row key, then for each arm: whether it has the row, its leads, its varying values.
+    /// A row key, and in the columns that `places` names for each arm: whether it has the row, its leads, its
+    /// varying values.
     Piece keys = {};
+    std::vector<int> places = {};
     Piece keysOfRows = {}; ///< the same for a list of rows
     Piece rows = {}; ///< the union with its order, each arm for a list of rows of its own
     /// What the arms ask of texts, when each asks something.
@@ -91,6 +101,8 @@ struct Translation {
     Piece narrowed = {};
     // Of a snapshot only:
     std::optional<UnionParts> parts = {};
+    // Of an update only, beside table, filter and narrowed:
+    QStringList assigned = {};
 };
 
 /// Turns a parsed statement into text for the file engine. Every name stands in brackets, every value is

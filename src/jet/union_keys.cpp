@@ -85,6 +85,16 @@ std::optional<qint32> leadAt(sqlite3_stmt* row, int column)
     return qint32(lead);
 }
 
+/// The same of a column of the keys, which may be a date of which the lead is a part.
+std::optional<qint32> leadOf(sqlite3_stmt* row, int column, const UnionParts::Reading& reading)
+{
+    if (!reading.part || sqlite3_column_type(row, column) == SQLITE_NULL)
+        return leadAt(row, column);
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+    const auto part = partOfIso({text ? text : "", size_t(sqlite3_column_bytes(row, column))}, *reading.part);
+    return part && reading.minuend ? std::optional(*reading.minuend - *part) : part;
+}
+
 std::vector<QByteArray> listsOf(const UnionRef* begin, const UnionRef* end, int arms)
 {
     std::vector<QByteArray> lists;
@@ -115,14 +125,14 @@ bool UnionReader::readRow(sqlite3_stmt* row)
     const int width = 1 + m_parts.leads + m_parts.varying;
     const size_t before = m_refs.size();
     for (int arm = 0; arm < m_parts.arms; ++arm) {
-        const int first = 1 + arm * width;
-        if (sqlite3_column_int(row, first) == 0)
+        const int* places = &m_parts.places[size_t(arm * width)];
+        if (sqlite3_column_int(row, places[0]) == 0)
             continue;
         UnionRef ref;
         ref.id = sqlite3_column_int64(row, 0);
         ref.arms = 1U << arm;
         for (int i = 0; i < m_parts.leads; ++i) {
-            const auto lead = leadAt(row, first + 1 + i);
+            const auto lead = leadOf(row, places[1 + i], m_parts.readings[size_t(i)]);
             if (!lead)
                 return false;
             ref.leads[size_t(i)] = *lead;
@@ -145,7 +155,8 @@ bool UnionReader::readRow(sqlite3_stmt* row)
 bool UnionReader::mayRepeat(sqlite3_stmt* row, quint32 arms) const
 {
     const int width = 1 + m_parts.leads + m_parts.varying;
-    const auto place = [&](int arm, int i) { return 2 + m_parts.leads + arm * width + i; };
+    const auto place
+        = [&](int arm, int i) { return m_parts.places[size_t(arm * width + 1 + m_parts.leads + i)]; };
     for (int a = 0; a < m_parts.arms; ++a) {
         for (int b = a + 1; b < m_parts.arms; ++b) {
             if ((arms >> a & arms >> b & 1) == 0)

@@ -59,6 +59,8 @@ private:
 /// A leading number of a row, null as the least of all; nothing for what is no whole number.
 std::optional<qint32> leadAt(sqlite3_stmt* row, int column);
 
+std::optional<qint32> leadOf(sqlite3_stmt* row, int column, const UnionParts::Reading& reading);
+
 /// The keys of listed refs, one list for each arm.
 std::vector<QByteArray> listsOf(const UnionRef* begin, const UnionRef* end, int arms);
 

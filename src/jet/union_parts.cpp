@@ -56,9 +56,9 @@ std::optional<UnionParts> SelectionEmitter::unionParts(
         if (parts.byKey && parts.leads == 0)
             varying = varyingPositions(s);
         parts.varying = int(varying.size());
-        keysOf(s, parts, varying, false);
+        keysOf(s, varying, &parts, false);
         parts.keys = takePiece();
-        keysOf(s, parts, varying, true);
+        keysOf(s, varying, &parts, true);
         parts.keysOfRows = takePiece();
         rowsOf(s, columns);
         parts.rows = takePiece();
@@ -133,12 +133,50 @@ bool SelectionEmitter::findLeads(
             parts->byKey = true;
         } else if (inEveryArm(position, whole)) {
             parts->leadPositions.push_back(position);
+            parts->readings.push_back(readingOf(*s.arms.front().items[size_t(position)].expression));
+            const auto alike = [&](const Expression& e) {
+                const UnionParts::Reading reading = readingOf(e);
+                return reading.part == parts->readings.back().part
+                    && reading.minuend == parts->readings.back().minuend;
+            };
+            if (!inEveryArm(position, alike))
+                parts->readings.back() = {};
             ++parts->leads;
         } else {
             break;
         }
     }
     return parts->byKey || parts->leads > 0;
+}
+
+/// The date column of which a lead is a part, as in month(m_bd) or 2026 - year(m_bd); null for another one.
+const Expression* SelectionEmitter::datedColumn(const Expression& lead) const
+{
+    const Expression& call = lead.kind == Expression::Kind::Arithmetic ? *lead.parts[1] : lead;
+    if (call.kind != Expression::Kind::Call || call.parts.size() != 1
+        || call.parts[0]->kind != Expression::Kind::Column)
+        return nullptr;
+    const CatalogColumn* column = resolve(*call.parts[0]);
+    return column && column->type == ColumnType::Date ? call.parts[0].get() : nullptr;
+}
+
+UnionParts::Reading SelectionEmitter::readingOf(const Expression& lead) const
+{
+    if (!datedColumn(lead))
+        return {};
+    const bool isDifference = lead.kind == Expression::Kind::Arithmetic;
+    if (isDifference && lead.parts[0]->kind != Expression::Kind::Number)
+        return {};
+    const QStringView name = isDifference ? lead.parts[1]->name : lead.name;
+    UnionParts::Reading reading;
+    for (const auto& [word, part] : {std::pair(u"year", DatePart::Year), std::pair(u"month", DatePart::Month),
+             std::pair(u"day", DatePart::Day)}) {
+        if (sameName(name, word))
+            reading.part = part;
+    }
+    if (isDifference)
+        reading.minuend = lead.parts[0]->name.toInt();
+    return reading;
 }
 
 std::vector<int> SelectionEmitter::varyingPositions(const Select& s)
@@ -172,24 +210,44 @@ void SelectionEmitter::listedRows(const TableName& from, int list)
 }
 
 void SelectionEmitter::keysOf(
-    const Select& s, const UnionParts& parts, const std::vector<int>& varying, bool ofRows)
+    const Select& s, const std::vector<int>& varying, UnionParts* parts, bool ofRows)
 {
     const TableName& from = s.arms.front().tables.front();
-    m_out += u"SELECT "_s;
-    rowKey(from);
+    std::vector<Piece> asked;
+    parts->places.clear();
+    // What several arms ask for is looked up once.
+    const auto place = [&] {
+        Piece piece = takePiece();
+        const auto same = std::find_if(asked.begin(), asked.end(),
+            [&](const Piece& other) { return other.sql == piece.sql && piece.values.empty(); });
+        parts->places.push_back(1 + int(same - asked.begin()));
+        if (same == asked.end())
+            asked.push_back(std::move(piece));
+    };
     for (const SelectArm& arm : s.arms) {
         // In a case the file engine leaves a condition at its first part that does not hold.
-        m_out += arm.where ? u", CASE WHEN "_s : u", 1"_s;
+        m_out += arm.where ? u"CASE WHEN "_s : u"1"_s;
         if (arm.where) {
             truth(*arm.where);
             m_out += u" THEN 1 END"_s;
         }
-        for (const auto& positions : {parts.leadPositions, varying}) {
-            for (const int position : positions) {
-                m_out += u", "_s;
-                expression(*arm.items[size_t(position)].expression);
-            }
+        place();
+        for (size_t i = 0; i < parts->leadPositions.size(); ++i) {
+            const Expression& lead = *arm.items[size_t(parts->leadPositions[i])].expression;
+            expression(parts->readings[i].part ? *datedColumn(lead) : lead);
+            place();
         }
+        for (const int position : varying) {
+            expression(*arm.items[size_t(position)].expression);
+            place();
+        }
+    }
+    m_out += u"SELECT "_s;
+    rowKey(from);
+    for (const Piece& piece : asked) {
+        m_out += u", "_s;
+        m_out += piece.sql;
+        m_slots.insert(m_slots.end(), piece.values.begin(), piece.values.end());
     }
     m_out += u" FROM "_s;
     if (ofRows)

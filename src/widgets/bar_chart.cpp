@@ -75,8 +75,16 @@ void BarChart::mousePressEvent(QMouseEvent* event)
 {
     if (m_bars.isEmpty() || event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
-    const int bar = int(event->position().y() * double(m_bars.size()) / height());
-    Q_EMIT chosen(std::clamp(bar, 0, int(m_bars.size()) - 1));
+    const int bar = int(event->position().y() / lineHeight(QFontMetricsF(font()), height()));
+    if (bar < m_bars.size())
+        Q_EMIT chosen(bar);
+}
+
+/// Few bars do not spread over all of a high place.
+double BarChart::lineHeight(const QFontMetricsF& metrics, double room) const
+{
+    constexpr double kHighest = 2.4; // texts
+    return std::min(room / double(m_bars.size()), metrics.height() * kHighest);
 }
 
 void BarChart::paintBars(QPainter& painter, const QRectF& where, const QPalette& colors) const
@@ -91,7 +99,7 @@ void BarChart::paintBars(QPainter& painter, const QRectF& where, const QPalette&
     labels = std::min(labels, where.width() / 3);
     const double numbers = metrics.horizontalAdvance(QString::number(most));
     const double room = std::max(1.0, where.width() - labels - numbers - 2 * Gap);
-    const double high = where.height() / double(m_bars.size());
+    const double high = lineHeight(metrics, where.height());
     const double thick = std::min(high * 0.66, metrics.height() * 1.4);
     double top = where.top();
     for (int i = 0; i < m_bars.size(); ++i, top += high) {

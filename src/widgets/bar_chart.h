@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFontMetricsF>
 #include <QList>
 #include <QWidget>
 
@@ -33,6 +34,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    double lineHeight(const QFontMetricsF& metrics, double room) const;
     void paintBars(QPainter& painter, const QRectF& where, const QPalette& colors) const;
 
     QList<Bar> m_bars;

@@ -346,8 +346,31 @@ void RowsModel::beginOutline()
         m_outline.clear();
 }
 
+// A list that is sorted by the number that stands in the headings knows where each begins. Which column it is
+// sorted by is seen in the rows.
+std::vector<int> RowsModel::startsOfRuns() const
+{
+    std::vector<int> starts;
+    std::optional<int> before;
+    int row = 0;
+    for (const jet::Recordset::Run& run : m_recordset.leadingRuns()) {
+        if (before != run.numbers[0]) {
+            if (sourceNumber(row, m_outlineSource) != run.numbers[0])
+                return {};
+            starts.push_back(row);
+        }
+        before = run.numbers[0];
+        row += run.rows;
+    }
+    return starts;
+}
+
 int RowsModel::outlineStep()
 {
+    if (m_scanned == 0 && !m_fromList && !m_shown) {
+        m_groupStarts = startsOfRuns();
+        m_scanned = m_groupStarts.empty() ? 0 : recordCount();
+    }
     const int limit = std::min(m_scanned + RowsAStep, recordCount());
     const auto sameAsGroup = [this](int place) {
         const int row = shownRow(place);

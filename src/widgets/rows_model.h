@@ -89,6 +89,7 @@ private:
     int rowsInAll() const;
     int sourceOf(const QString& name) const;
     void beginOutline();
+    std::vector<int> startsOfRuns() const; ///< empty when they have to be looked for
     QString headingText(int line) const;
     QString sourceText(int row, int source) const;
     qint64 sourceNumber(int row, int source) const;

@@ -145,6 +145,22 @@ private Q_SLOTS:
         QCOMPARE(child<QLabel>(m_form, u"LblDate"_s)->text(), u"30 Nov  -  Anniversary of Pat O'Hara"_s);
     }
 
+    // The rows of one contact are told apart.
+    void followsTheBook()
+    {
+        open();
+        for (const int tab : {0, 1}) {
+            clickTab(u"ssTabMerge"_s, tab);
+            QTRY_VERIFY(lineOf(u"D'Arcy"_s) >= 0 && !shownLines().contains(u"!!!!!"_s));
+            choose(u"D'Arcy"_s);
+            m_fixture->execute(u"update cnt_main set h_city='City %1', M_BD=#4/%2/1980# where id=1"_s.arg(
+                QString::number(tab), QString::number(tab + 1)));
+            m_fixture->screens.tellBookChanged();
+            QCOMPARE(grid()->currentText(u"name"_s), u"D'Arcy"_s);
+            QCOMPARE(child<QLabel>(m_form, u"lblcity"_s)->text(), u"City %1"_s.arg(tab));
+        }
+    }
+
     void copiesToTheScheduler()
     {
         open();
@@ -183,6 +199,61 @@ private Q_SLOTS:
         copy(u"9"_s, {}, u"Option3"_s);
         QCOMPARE(m_fixture->book.rows(u"select max([desc]), max(b_a_id), count(*) from ovs_schedular"_s),
             QStringList{u"Anniversary of Pat O'Hara D'Arcy|An1Pat O'Hara|9"_s});
+    }
+
+    // A list that is not read as a whole has the same groups, and the same days are found in it.
+    void longList()
+    {
+        constexpr int kMany = 5200;
+        QList<QStringList> people;
+        for (int i = 0; i < kMany; ++i)
+            people += QStringList{u"Person %1"_s.arg(i), QDate(1950, 1, 1).addDays(i).toString(Qt::ISODate),
+                QString::number(1 + i % 4)};
+        QVERIFY(
+            m_fixture->book.data().appendRows(u"cnt_main"_s, {u"Name"_s, u"M_BD"_s, u"Priority"_s}, people));
+        open();
+        child<QAction>(m_form, u"ViewNext"_s)->trigger();
+        const int near = grid()->recordCount();
+        child<QAction>(m_form, u"Priority1"_s)->trigger();
+        child<QAction>(m_form, u"Priority2"_s)->trigger();
+        QCOMPARE(grid()->recordCount(), 0);
+        for (const QString& tool : {u"ViewNext"_s, u"Priority1"_s, u"Priority2"_s})
+            child<QAction>(m_form, tool)->trigger();
+        clickTab(u"ssTabMerge"_s, 3);
+        QTRY_COMPARE(grid()->rowCount(), kMany + 6 + 12);
+        int ofDays = 0;
+        QStringList months;
+        for (int line = 0; line < grid()->rowCount(); ++line) {
+            const QModelIndex month = grid()->model()->index(line, 1);
+            const QDate born = QDate::fromString(grid()->textAt(line, u"m_bd"_s).left(10), Qt::ISODate);
+            if (grid()->isHeading(line))
+                months << month.data().toString();
+            else
+                QCOMPARE(month.data().toString(), months.constLast());
+            const QDate day(2026, born.month(), born.day());
+            ofDays += day.isValid() && day >= QDate(2026, 11, 22) ? 1 : 0;
+        }
+        QCOMPARE(months.size(), 12);
+        QCOMPARE(ofDays, near); // to the end of the year
+    }
+
+    // What is out of sight is not written; a tick is.
+    void exportsWhatIsSeen()
+    {
+        m_fixture->execute(u"update cnt_main set cpsmnbd=true where id=3"_s);
+        open();
+        child<QAction>(m_form, u"ViewNext"_s)->trigger();
+        child<QAction>(m_form, u"Priority1"_s)->trigger();
+        const QString path = m_fixture->root.filePath(u"days.csv"_s);
+        m_fixture->boxes.expectChoice(u"Export"_s, path);
+        support::click(m_form, u"SSCommand5"_s);
+        QCOMPARE(QFileInfo(m_fixture->boxes.suggested.constFirst()).fileName(),
+            u"Contact-Birthday - 22 Nov-2026.xls"_s);
+        const QStringList lines = QString::fromUtf8(support::bytesOf(path)).split(u"\r\n"_s);
+        QCOMPARE(lines.mid(1),
+            (QStringList{u"25 Nov,1,Friends,Club,Pat O'Hara,D'Arcy,25-Nov-1982,44,"_s,
+                u"24 Dec,1,Friends,Club,Pat O'Hara,Lee,24-Dec-2030,-4,"_s,
+                u"31 Dec,2,Work,,Cy Ray,Cy Ray,31-Dec-2026,0,Y"_s, QString()}));
     }
 
     // A copy that fails has done nothing, and can be made again.

@@ -78,7 +78,8 @@ private Q_SLOTS:
                         .join(u'|');
         QTEST(rows, "rows");
         auto* chart = child<widgets::BarChart>(form, u"Chart"_s);
-        QTest::mouseClick(chart, Qt::LeftButton, {}, QPoint(chart->width() / 2, chart->height() - 9));
+        QTest::mouseClick(
+            chart, Qt::LeftButton, {}, QPoint(chart->width() / 2, chart->fontMetrics().height() * 3));
         QCOMPARE(grid->currentRow(), 1);
         child<QAction>(form, u"PrintChart"_s)->trigger();
         QCOMPARE(m_fixture->printer.printed.size(), 1);

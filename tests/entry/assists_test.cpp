@@ -293,8 +293,8 @@ private Q_SLOTS:
         QCOMPARE(line->text(), u"12 ga."_s);
         f.screens.add<Streets>(u"FrmColony"_s);
         line->clear();
-        QTest::keyClicks(line, u"M.G. "_s); // and where none begins so
-        QCOMPARE(line->text(), u"M.G. "_s);
+        QTest::keyClicks(line, u" M.G. "_s); // and where none begins so
+        QCOMPARE(line->text(), u" M.G. "_s);
         line->clear();
         QTest::keyClicks(line, u"12 gard."_s);
         auto* streets = dynamic_cast<Streets*>(f.screens.find(u"FrmColony"));

@@ -142,6 +142,32 @@ private Q_SLOTS:
         QCOMPARE(row, rows.count());
     }
 
+    // Updates of one batch look at the texts in memory, those that an update before them has changed
+    // included.
+    void updatesFindTheirRows()
+    {
+        const QString sql = unionOf(phones(u"@ like '98*' and "_s), {});
+        QVERIFY(data().openRecordset(sql).isValid());
+        QTRY_VERIFY(data().searchMemory() > 0);
+        const QStringList changes{u"h_ph1 98 77"_s, u"h_ph2 98 77"_s, u"h_ph1 77 98"_s, u"mobile 9 98"_s,
+            u"h_ph1 98 9"_s, u"mobile 98 0"_s};
+        for (int round = 0; round < 3; ++round) {
+            jet::Batch batch(data());
+            for (const QString& change : changes) {
+                const QStringList part = change.split(u' ');
+                const QString where = part[0] + u" like '"_s + part[1] + u"*'"_s;
+                const QString count = u"select count(id) as n from cnt_main where "_s + where;
+                const qint64 rows = data().openRecordset(count).number(u"n");
+                const jet::Outcome outcome = data().execute(
+                    u"update cnt_main set %1 = '%2' & mid(%1,3,9) where %3"_s.arg(part[0], part[2], where));
+                QCOMPARE(outcome.changed, int(rows));
+                editOne();
+            }
+            QVERIFY(batch.commit());
+            compare(sql);
+        }
+    }
+
     // A list that is on the screen while its rows go, all of them at one stroke.
     void rowsThatWentMeanwhile()
     {

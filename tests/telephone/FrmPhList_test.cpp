@@ -70,8 +70,12 @@ private Q_SLOTS:
         m_form->bookChanged();
         QCOMPARE(shown(u"FGPhone"_s, u"phone"_s), u"111,900"_s);
 
+        support::type(m_form, u"DBCombo1"_s, u"ol"_s); // no list has this name
+        m_f->boxes.expect(u"List Name should be selected"_s);
+        click(m_form, u"SSCommand9"_s);
+        support::type(m_form, u"DBCombo1"_s, u"old"_s);
+        QCOMPARE(grid(u"list1"_s)->currentRow(), 1);
         // Only rows without a tag count as known.
-        support::clickRow(grid(u"list1"_s), 1);
         support::clickRow(grid(u"FG"_s), 1);
         m_f->boxes.expect(u"This Person is already in this list"_s);
         click(m_form, u"CmdList"_s);
@@ -81,8 +85,9 @@ private Q_SLOTS:
     {
         m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Old','Cyd H1','222',3)"_s);
         m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Old','Cyd H2','333',3)"_s);
+        m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Kin','Bob H1','222',2)"_s);
         open();
-        support::clickRow(grid(u"list1"_s), 0);
+        support::clickRow(grid(u"list1"_s), 1);
         support::clickRow(grid(u"FGPhone"_s), 0, 2);
         QCOMPARE(child<QLabel>(m_form, u"lblname"_s)->text(), u"Bob  222"_s);
         m_f->boxes.expect(u"Are you sure you want to delete ? "_s, platform::Answer::No);
@@ -98,7 +103,7 @@ private Q_SLOTS:
             u"Are you sure you want to delete the list Old with all its numbers?"_s, platform::Answer::Yes);
         grid(u"list1"_s)->setFocus();
         QTest::keyClick(grid(u"list1"_s), Qt::Key_Delete);
-        QCOMPARE(rows(u"1=1"_s), QStringList());
+        QCOMPARE(rows(u"1=1"_s), QStringList{u"Kin|Bob H1|2|null|null"_s});
     }
 
     void whatFailsIsTold()
@@ -174,6 +179,13 @@ private Q_SLOTS:
         for (const QString& button : {u"dxColorBtn2"_s, u"dxColorBtn3"_s}) {
             click(m_form, button);
             QCOMPARE(m_f->frame.placed.constLast(), u"FrmReportViewer"_s);
+            if (button == u"dxColorBtn3")
+                break;
+            m_f->boxes.expectChoice(u"Phone List"_s, m_f->root.filePath(u"list"_s));
+            child<QAction>(m_f->screens.find(u"FrmReportViewer"), u"SaveHtml"_s)->trigger();
+            const QByteArray page = support::bytesOf(m_f->root.filePath(u"list.html"_s));
+            QVERIFY(page.contains("Phone List - Old") && page.contains("222"));
+            QVERIFY(m_f->boxes.suggested.constLast().endsWith(u"Exported Files/Html/Phone List.html"));
         }
     }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
             u"2212345678901|22|09991|099991|099991|Mumbai|Mumbai North;2277"_s);
         row("codes without a zero", Codes, u"0"_s, u"7"_s,
             u"2212345678901|22|721|71|71|Mumbai|Mumbai North;2277"_s);
+        row("a code that is a sum", Codes, u"022-1"_s, u"7"_s, kBefore + u";2277"_s);
         row("a longer city is rewritten whole", Cities, u"Mumb"_s, u"O'Town"_s,
             u"2212345678901|22|0221|0229|0228|O'Town|O'Town;2277"_s);
     }
@@ -99,7 +100,7 @@ private Q_SLOTS:
         answer(u"CmdCancel"_s);
         click(m_form, u"cmdreplace"_s);
         QCOMPARE(m_told,
-            u"3 entries will change:;1 of them end otherwise than before.;"
+            u"3 entries will change:;1 of them lose digits at their end:;"
             "Ann,Home, first number,2212345678901,33123456789"_s);
         QCOMPARE(texts().constFirst(), kBefore);
         answer(u"ChkPreview"_s, u"CmdOk"_s);
@@ -141,7 +142,7 @@ private Q_SLOTS:
             "between them; leave the bracket out."_s);
         QTest::qWait(200); // for the search of what was typed
         replace(u"txtFstd=O22"_s, u"txtRstd=2"_s,
-            u"The old code may hold digits only, without blanks and other marks."_s);
+            u"The old code may hold digits only, with + or - between or in front of them."_s);
         // A wildcard works, and the preview says so.
         support::type(m_form, u"txtFind"_s, u"2?7"_s);
         support::type(m_form, u"txtreplace"_s, u"9"_s);

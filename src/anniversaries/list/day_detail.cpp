@@ -43,6 +43,7 @@ DayDetail::DayDetail(QWidget* parent)
     field(u"lblZodiac"_s, tr("Sign"));
     field(u"lblcity"_s, tr("City"));
     field(u"lblCateg"_s, tr("Category"));
+    layout->setRowStretch(row, 1);
     QFont bold = m_values.constFirst()->font();
     bold.setBold(true);
     m_values.constFirst()->setFont(bold);

@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "widgets/heading_grid.h"
 
+#include <QGuiApplication>
 #include <QLocale>
 
 #include <utility>
@@ -65,20 +66,21 @@ void DayList::refresh()
 // The key does not tell the rows of one contact apart.
 std::optional<int> DayList::rowLike(const ListedDay& day) const
 {
-    const auto isSame = [&](int row) {
-        return m_grid->recordset().valueAt(row, m_columns.id).toLongLong() == day.id
-            && text(row, m_columns.name) == day.name;
-    };
-    const auto isShownRow = [this](int row) { return row >= 0 && m_grid->placeOf(row) >= 0; };
+    constexpr int kFewRows = 20'000;
+    const jet::Recordset& list = m_grid->recordset();
+    int from = 0;
+    int to = list.holdsRows() || rows() <= kFewRows ? m_grid->recordCount() : 0;
     if (isInOrderOfDays() && day.date.isValid()) {
-        const int end = placeOfDay(day.date.month(), day.date.day() + 1);
-        for (int place = placeOfDay(day.date.month(), day.date.day()); place < end; ++place) {
-            if (isSame(m_grid->shownSourceRow(place)))
-                return m_grid->shownSourceRow(place);
-        }
+        from = placeOfDay(day.date.month(), day.date.day());
+        to = placeOfDay(day.date.month(), day.date.day() + 1);
     }
-    const int row = m_grid->recordset().rowOf(m_columns.id, day.id);
-    return isShownRow(row) ? std::optional(row) : std::nullopt;
+    for (int place = from; place < to; ++place) {
+        const int row = m_grid->shownSourceRow(place);
+        if (list.valueAt(row, m_columns.id).toLongLong() == day.id && text(row, m_columns.name) == day.name)
+            return row;
+    }
+    const int row = list.rowOf(m_columns.id, day.id);
+    return row >= 0 && m_grid->placeOf(row) >= 0 ? std::optional(row) : std::nullopt;
 }
 
 void DayList::fill()
@@ -161,10 +163,12 @@ void DayList::readFacts()
         texts << text;
         return int(texts.size()) - 1;
     };
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_facts.reserve(size_t(rows()));
     for (int row = 0; row < rows(); ++row)
         m_facts.push_back({dateAt(row), placeIn(m_priorities, text(row, m_columns.priority)),
             placeIn(m_categories, text(row, m_columns.category1))});
+    QGuiApplication::restoreOverrideCursor();
 }
 
 bool DayList::isInOrderOfDays() const

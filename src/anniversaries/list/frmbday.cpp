@@ -39,6 +39,8 @@ namespace {
 
 constexpr QStringView kSummary = u"FrmBirthSum";
 constexpr QStringView kYearView = u"FormAviewbday";
+/// What is beside the list takes no more room than it needs.
+const QList<int> kAllToList{10'000, 1};
 /// By the order of Regrouping.
 const QString kRegroupings[] = {u"Refresh"_s, u"Categ"_s, u"Priority"_s, u"Month"_s, u"Age"_s, u"City"_s};
 
@@ -79,19 +81,19 @@ frmbday::frmbday(core::Context& context, QWidget* parent)
     , m_detail(new DayDetail)
     , Frame7(new CopyPanel(context, m_list, this))
     , famTimedEmails(new TimedWishPanel(context, this))
+    , m_splitter(new QSplitter)
 {
     setWindowTitle(tr("Birthdays and Anniversaries"));
-    auto* splitter = new QSplitter;
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(layOutList());
-    splitter->addWidget(layOutSide());
-    splitter->setStretchFactor(0, 1);
-    splitter->setStretchFactor(1, 0);
-    splitter->setSizes({10'000, 1}); // the list has all the room that the side does not need
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(layOutList());
+    m_splitter->addWidget(layOutSide());
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 0);
+    m_splitter->setSizes(kAllToList);
     auto* below = new QVBoxLayout;
     below->setContentsMargins(6, 4, 6, 6);
     below->setSpacing(6);
-    below->addWidget(splitter, 1);
+    below->addWidget(m_splitter, 1);
     below->addWidget(layOutFoot());
     QToolBar* bar = m_tools->makeToolBar(this);
     bar->setObjectName(u"SSActiveToolBars1"_s);
@@ -126,6 +128,8 @@ QWidget* frmbday::layOutList()
 
     auto* heads = new QHBoxLayout;
     heads->addWidget(SSActiveTabs1);
+    heads->addSpacing(24);
+    heads->addWidget(ssTabMerge);
     heads->addStretch(1);
     auto* depth = new QLabel;
     depth->setObjectName(u"lblDepth"_s);
@@ -137,7 +141,6 @@ QWidget* frmbday::layOutList()
     layout->setSpacing(4);
     layout->addLayout(heads);
     layout->addWidget(layOutFilters());
-    layout->addWidget(ssTabMerge);
     layout->addWidget(FGBday, 1);
     layout->addWidget(m_month->legend());
     layout->addWidget(Frame7);
@@ -198,18 +201,43 @@ QPushButton* frmbday::toolButton(const QString& name, const QString& text, QStri
 
 QWidget* frmbday::layOutSide()
 {
-    auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(3, 0, 0, 0);
-    layout->setSpacing(6);
-    layout->addWidget(m_month);
-    layout->addWidget(m_detail);
-    layout->addStretch(1);
-    layout->addWidget(toolButton(u"cmdletter"_s, tr("Send by &letter"), u"SendLetter"));
-    layout->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
-    layout->addWidget(toolButton(u"cmdSend"_s, tr("Send to Out&box today"), u"sendtoday"));
-    layout->addWidget(toolButton(u"cmdLeter"_s, tr("&Confirm before sending"), u"Confirm"));
-    return page;
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(6);
+    buttons->addWidget(m_month->legendButton());
+    buttons->addStretch(1);
+    buttons->addWidget(toolButton(u"cmdletter"_s, tr("Send by &letter"), u"SendLetter"));
+    buttons->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
+    buttons->addWidget(toolButton(u"cmdSend"_s, tr("Send to Out&box today"), u"sendtoday"));
+    buttons->addWidget(toolButton(u"cmdLeter"_s, tr("&Confirm before sending"), u"Confirm"));
+    m_side = new QWidget;
+    m_sideLayout = new QBoxLayout(QBoxLayout::TopToBottom, m_side);
+    m_sideLayout->setContentsMargins(3, 0, 0, 0);
+    m_sideLayout->addWidget(m_month);
+    m_sideLayout->addWidget(m_detail, 1);
+    m_sideLayout->addLayout(buttons);
+    return m_side;
+}
+
+// Beside the month there is room for the whole list in a wide window only; in a narrow one it stands below,
+// and makes way for the panels.
+void frmbday::resizeEvent(QResizeEvent* event)
+{
+    Screen::resizeEvent(event);
+    settleSide();
+}
+
+void frmbday::settleSide()
+{
+    constexpr int kWide = 990;
+    const bool isWide = width() >= kWide;
+    m_side->setVisible(isWide || !(Frame7->isVisibleTo(this) || famTimedEmails->isVisibleTo(this)));
+    const Qt::Orientation orientation = isWide ? Qt::Horizontal : Qt::Vertical;
+    if (orientation == m_splitter->orientation())
+        return;
+    m_splitter->setOrientation(orientation);
+    m_sideLayout->setDirection(isWide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_sideLayout->setSpacing(isWide ? 6 : 16);
+    m_splitter->setSizes(kAllToList);
 }
 
 QWidget* frmbday::layOutFoot()
@@ -308,7 +336,10 @@ void frmbday::connectControls()
     connect(m_list, &DayList::currentChanged, this, &frmbday::rowChanged);
     connect(m_month, &MonthPanel::dateSelected, this, &frmbday::goToDay);
     connect(Frame7, &CopyPanel::closed, this, &frmbday::copyEnded);
-    connect(famTimedEmails, &TimedWishPanel::closed, this, [this] { FGBday->setFocus(); });
+    connect(famTimedEmails, &TimedWishPanel::closed, this, [this] {
+        settleSide();
+        FGBday->setFocus();
+    });
     connect(FGBday, &widgets::HeadingGrid::chosen, m_contactTools->action(u"FullView"), &QAction::trigger);
     connect(FGBday, &QWidget::customContextMenuRequested, this, &frmbday::popUpMenu);
 }
@@ -344,9 +375,10 @@ void frmbday::bookChanged()
     DBCcat->refill();
     DBCPriority->refill();
     m_month->readDays();
-    m_isStale = Frame7->isVisibleTo(this);
-    if (!m_isStale && m_isRead)
-        m_list->refresh();
+    if (!m_isRead || Frame7->isVisibleTo(this))
+        return;
+    m_list->refresh();
+    showEmptyText();
 }
 
 void frmbday::vocabulariesChanged()
@@ -362,12 +394,20 @@ void frmbday::showView(const ListView& view)
     const QSignalBlocker quietGroups(ssTabMerge);
     SSActiveTabs1->setCurrentIndex(view.occasion == Occasion::Birthday ? 0 : 1);
     ssTabMerge->setCurrentIndex(static_cast<int>(view.regrouping));
-    FGBday->setEmptyText(view.occasion == Occasion::Birthday
-            ? tr("No birthday is known. Enter them in the details of a contact.")
-            : tr("No anniversary is known. Enter them in the details of a contact."));
     m_list->open(view);
     showDepth();
+    showEmptyText();
     rowChanged();
+}
+
+void frmbday::showEmptyText()
+{
+    if (m_list->rows() > 0)
+        FGBday->setEmptyText(tr("No day of the list is as chosen above"));
+    else if (m_list->view().occasion == Occasion::Birthday)
+        FGBday->setEmptyText(tr("No birthday is known. Enter them in the details of a contact."));
+    else
+        FGBday->setEmptyText(tr("No anniversary is known. Enter them in the details of a contact."));
 }
 
 // What the short list does not have can not be filtered by, nor copied.
@@ -437,6 +477,7 @@ void frmbday::beginCopy()
     for (const QStringView id : {u"Simple", u"Details", u"TransTask"})
         m_tools->action(id)->setEnabled(false);
     Frame7->ask();
+    settleSide();
 }
 
 void frmbday::copyEnded()
@@ -446,7 +487,7 @@ void frmbday::copyEnded()
         control->setEnabled(true);
     for (const QStringView id : {u"Simple", u"Details", u"TransTask"})
         m_tools->action(id)->setEnabled(true);
-    m_isStale = false;
+    settleSide();
     m_list->refresh();
     FGBday->setFocus();
 }
@@ -481,8 +522,10 @@ void frmbday::timeWishOfRow()
     const Wish wish = currentWish();
     if (wish.id == 0)
         return inform(tr("Record not selected"));
-    if (!Frame7->isVisibleTo(this))
-        famTimedEmails->ask(wish);
+    if (Frame7->isVisibleTo(this))
+        return;
+    famTimedEmails->ask(wish);
+    settleSide();
 }
 
 void frmbday::print()

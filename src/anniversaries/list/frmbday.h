@@ -5,9 +5,10 @@
 #include "core/handover/page_screen.h"
 #include "core/screen.h"
 
-class QHBoxLayout;
+class QBoxLayout;
 class QPushButton;
 class QRadioButton;
+class QSplitter;
 class QTabBar;
 
 namespace core {
@@ -43,17 +44,22 @@ public:
     /// Opens the panel that copies days to the scheduler; in the short list there is none.
     void beginCopy();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* layOutList();
     QWidget* layOutFilters();
     QWidget* layOutSide();
     QWidget* layOutFoot();
     QPushButton* toolButton(const QString& name, const QString& text, QStringView tool);
+    void settleSide();
     void connectTools();
     void connectControls();
 
     void showView(const ListView& view);
     void showDepth();
+    void showEmptyText();
     void followFilter();
     void viewAll();
     void rowChanged();
@@ -81,8 +87,10 @@ private:
     DayDetail* m_detail;
     CopyPanel* Frame7;
     TimedWishPanel* famTimedEmails;
+    QSplitter* m_splitter;
+    QWidget* m_side = nullptr; ///< month, current day and what can be done with it
+    QBoxLayout* m_sideLayout = nullptr;
     bool m_isRead = false;
-    bool m_isStale = false; ///< the book has changed while something was being copied
 };
 
 } // namespace anniversaries

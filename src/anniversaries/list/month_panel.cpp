@@ -10,7 +10,10 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QTimerEvent>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -64,7 +67,6 @@ MonthPanel::MonthPanel(core::Context& context, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(SSMonth1);
-    layout->addWidget(SSCommand6, 0, Qt::AlignLeft);
     connect(SSCommand6, &QPushButton::toggled, m_legend, &QWidget::setVisible);
     connect(SSMonth1, &widgets::DayCalendar::dateSelected, this, &MonthPanel::dateSelected);
 }
@@ -90,16 +92,34 @@ QWidget* MonthPanel::layOutLegend()
 
 void MonthPanel::readDays()
 {
+    m_read.clear();
+    m_nextColumn = 0;
+    m_reading.start(0, this);
+}
+
+// A column at a time, so that the window lives; the days in sight stay until all are known.
+void MonthPanel::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_reading.timerId())
+        return QWidget::timerEvent(event);
+    readColumn(dayColumns()[m_nextColumn]);
+    if (++m_nextColumn < dayColumns().size())
+        return;
+    m_reading.stop();
     SSMonth1->clearDays();
-    for (const DayColumn& column : dayColumns()) {
-        const jet::Recordset days = m_context.data.openRecordset(daysSql(column.column));
-        // On a day of several the more important ones are seen.
-        for (const QStringView ofKind : {u"34", u"12"}) {
-            for (int row = 0; row < days.count(); ++row) {
-                const QString style = dayStyle(column.occasion, days.textAt(row, 2));
-                if (style.endsWith(ofKind))
-                    SSMonth1->setDayStyle(days.valueAt(row, 0).toInt(), days.valueAt(row, 1).toInt(), style);
-            }
+    for (const StyledDay& day : std::exchange(m_read, {}))
+        SSMonth1->setDayStyle(day.month, day.day, day.style);
+}
+
+// On a day of several the more important ones are seen.
+void MonthPanel::readColumn(const DayColumn& column)
+{
+    const jet::Recordset days = m_context.data.openRecordset(daysSql(column.column));
+    for (const QStringView ofKind : {u"34", u"12"}) {
+        for (int row = 0; row < days.count(); ++row) {
+            const QString style = dayStyle(column.occasion, days.textAt(row, 2));
+            if (style.endsWith(ofKind))
+                m_read << StyledDay{days.valueAt(row, 0).toInt(), days.valueAt(row, 1).toInt(), style};
         }
     }
 }

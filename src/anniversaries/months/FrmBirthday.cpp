@@ -130,6 +130,22 @@ void FrmBirthday::layOut()
     layout->addLayout(page, 1);
 }
 
+// Where there is no room for all months they have short names.
+void FrmBirthday::resizeEvent(QResizeEvent* event)
+{
+    Screen::resizeEvent(event);
+    const auto nameMonths = [this](QLocale::FormatType format) {
+        for (int month = 1; month <= kMonths; ++month)
+            SSTab->setTabText(month - 1, QLocale(QLocale::English).monthName(month, format));
+    };
+    nameMonths(QLocale::LongFormat);
+    int wanted = 0;
+    for (int tab = 0; tab < SSTab->count(); ++tab)
+        wanted += SSTab->tabRect(tab).width();
+    if (wanted > SSTab->parentWidget()->contentsRect().width() - 16)
+        nameMonths(QLocale::ShortFormat);
+}
+
 // A font that this computer has not would look like any other.
 void FrmBirthday::connectFonts()
 {

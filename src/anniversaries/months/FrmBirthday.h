@@ -28,6 +28,9 @@ public:
     void load() override;
     void bookChanged() override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void layOut();
     void connectFonts();

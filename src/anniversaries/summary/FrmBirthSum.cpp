@@ -64,14 +64,14 @@ void FrmBirthSum::layOut()
     Grid1->setObjectName(u"Grid1"_s);
     Grid1->setAccessibleName(tr("Birthdays counted"));
     Grid1->setEmptyText(tr("No birthday is known"));
+    Grid1->letColumnsGiveWay();
     m_chart->setObjectName(u"Chart"_s);
     m_chart->setAccessibleName(tr("Birthdays as bars"));
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(Grid1);
     splitter->addWidget(m_chart);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    splitter->setSizes({300, 500});
     auto* page = new QVBoxLayout;
     page->setContentsMargins(8, 6, 8, 8);
     page->setSpacing(6);

@@ -49,9 +49,11 @@ void saveReportFile(core::Context& context, const Report& report, ReportFormat f
     const platform::Drive& drive = context.services.drive;
     platform::MessageBoxes& boxes = context.services.boxes;
     drive.ensureFolder(row.folder);
-    const QString suffix = row.suffix.toString();
+    const bool hasOwnEnding = format == ReportFormat::Html && !report.htmlEnding.isEmpty();
+    const QString suffix = hasOwnEnding ? report.htmlEnding : row.suffix.toString();
+    const QString filter = hasOwnEnding ? u"HTML File (*.htm)|*"_s + suffix : row.filter.toString();
     const QString title = report.saveTitle.isEmpty() ? translated(row.title) : report.saveTitle;
-    const QString path = askForFile(context, title, row.filter,
+    const QString path = askForFile(context, title, filter,
         {drive.local(row.folder), platform::Drive::safeFileName(report.fileStem) + suffix}, suffix,
         [&suffix](const QString& name) {
             return QFileInfo(name).fileName().contains(suffix, Qt::CaseInsensitive);

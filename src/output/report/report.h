@@ -71,6 +71,7 @@ struct Report {
     QString printDate;
     QString fileStem; ///< of files that it is saved to
     QString saveTitle = {}; ///< of the dialog that asks for a file; that of the format where it is empty
+    QString htmlEnding = {}; ///< of the web page that it is saved to; ".htm" where it is empty
     std::shared_ptr<const ReportSource> source;
     Section header; ///< once, before all rows
     std::optional<Grouping> grouping;

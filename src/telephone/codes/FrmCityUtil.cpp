@@ -70,7 +70,7 @@ FrmCityUtil::FrmCityUtil(core::Context& context, QWidget* parent)
 
 void FrmCityUtil::layOut()
 {
-    FG1->setHeadings(kServiceHeadings, {QString(), u"category"_s, u"uname"_s, QString()});
+    FG1->setHeadings(kServiceHeadings, {QString(), u"category"_s, u"uname"_s, u"city"_s});
     FG1->setEmptyText(tr("No services are known here"));
     FG2->setHeadings(kSavedHeadings, {QString(), u"b_city"_s, u"category2"_s, u"name"_s});
     FG2->setEmptyText(tr("No service has been copied into the address book yet"));

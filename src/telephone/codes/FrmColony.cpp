@@ -52,8 +52,11 @@ void FrmColony::showEvent(QShowEvent* event)
         m_lists->read();
 }
 
+// The word comes without its last letter: of an initial, as in "M.G. Road", nothing is left to look up.
 bool FrmColony::hasWords(const QString& city, const QString& word)
 {
+    if (word.isEmpty())
+        return false;
     return !context().data.openRecordset(addressWordsSql(word, shared().NationalMode)).isEmpty()
         || !context().data.openRecordset(cityAreasSql(city)).isEmpty();
 }

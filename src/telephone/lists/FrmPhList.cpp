@@ -39,6 +39,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace telephone {
@@ -270,13 +272,13 @@ void FrmPhList::connectLists()
     connect(child<QPushButton>(this, u"SSCommand9"_s), &QPushButton::clicked, this, &FrmPhList::addPerson);
     connect(SSActiveTabs1, &QTabBar::currentChanged, this, &FrmPhList::chooseTab);
     connect(list1, &widgets::HeadingGrid::currentRowChanged, this, [this](int row) {
-        if (row >= 0)
-            chooseList(list1->currentText(listColumn()));
+        if (row < 0)
+            return;
+        const QSignalBlocker quiet(DBCombo1);
+        DBCombo1->setText(list1->currentText(listColumn()));
+        chooseList(DBCombo1->currentText());
     });
-    connect(DBCombo1, &QComboBox::currentTextChanged, this, [this](const QString& list) {
-        if (DBCombo1->hasFocus() || DBCombo1->lineEdit()->hasFocus())
-            chooseList(list.trimmed());
-    });
+    connect(DBCombo1, &QComboBox::currentTextChanged, this, &FrmPhList::typeList);
     connect(FGPhone, &widgets::HeadingGrid::currentRowChanged, this, &FrmPhList::showNumber);
     connect(FGPhone, &widgets::HeadingGrid::chosen, m_tools->action(u"Call"), &QAction::trigger);
     for (QCheckBox* tick : {Check1, Check2, Check3})
@@ -329,6 +331,8 @@ void FrmPhList::bookChanged()
     DBCombo1->refill();
     m_contacts->readAgain();
     readLists();
+    if (kind() != ListKind::Contacts && list1->currentRow() < 0)
+        m_list.clear(); // it has been taken back
     readNumbers();
 }
 
@@ -383,13 +387,32 @@ void FrmPhList::readLists()
 {
     if (kind() == ListKind::Contacts)
         return;
+    {
+        const QSignalBlocker quiet(list1);
+        list1->fill(u"Lists"_s, context().data.openRecordset(listNamesSql(kind())), {listColumn()});
+    }
+    pointAtList();
+}
+
+void FrmPhList::pointAtList()
+{
     const QSignalBlocker quiet(list1);
-    list1->fill(u"Lists"_s, context().data.openRecordset(listNamesSql(kind())), {listColumn()});
-    list1->setCurrentRow(-1);
     for (int row = 0; !m_list.isEmpty() && row < list1->rowCount(); ++row) {
         if (list1->textAt(row, listColumn()).compare(m_list, Qt::CaseInsensitive) == 0)
             return list1->setCurrentRow(row);
     }
+    list1->setCurrentRow(-1);
+}
+
+// A name that is only being typed is no list yet, and nothing can be put into it.
+void FrmPhList::typeList(const QString& typed)
+{
+    const QStringList known = DBCombo1->values();
+    const auto found = std::ranges::find_if(known, [name = typed.trimmed()](const QString& list) {
+        return list.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    chooseList(found == known.end() ? QString() : *found);
+    pointAtList();
 }
 
 void FrmPhList::chooseList(const QString& list)
@@ -397,18 +420,18 @@ void FrmPhList::chooseList(const QString& list)
     if (m_list == list)
         return;
     m_list = list;
-    if (!DBCombo1->lineEdit()->hasFocus()) {
-        const QSignalBlocker quiet(DBCombo1);
-        DBCombo1->setText(list);
-    }
-    FGPhone->setEmptyText(tr("No numbers in this list"));
+    FGPhone->setEmptyText(list.isEmpty() ? tr("Choose a list") : tr("No numbers in this list"));
     readNumbers();
 }
 
 void FrmPhList::readNumbers()
 {
+    if (kind() != ListKind::Contacts && m_list.isEmpty()) {
+        FGPhone->clearRows();
+        return showNumber();
+    }
     if (kind() != ListKind::Contacts)
-        return m_list.isEmpty() ? FGPhone->clearRows() : fillNumbers(listNumbersSql(kind(), m_list));
+        return fillNumbers(listNumbersSql(kind(), m_list));
     const bool hasDefault = !context().data.openRecordset(defaultCitySql()).isEmpty();
     const QString city = ownCity(context().data);
     for (QCheckBox* tick : {Check1, Check2, Check3})

@@ -52,6 +52,8 @@ private:
 
     void chooseTab();
     void readLists();
+    void pointAtList();
+    void typeList(const QString& typed);
     void chooseList(const QString& list);
     void readNumbers();
     void fillNumbers(const QString& sql);

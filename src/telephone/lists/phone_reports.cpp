@@ -58,6 +58,7 @@ output::Report phoneReport(
     report.title = list.isEmpty() ? say("Phone List") : say("Phone List") + u" - "_s + list;
     report.fileStem = u"Phone List"_s;
     report.saveTitle = say("Phone List");
+    report.htmlEnding = u".html"_s;
     report.source = std::move(rows);
     if (kind == ListKind::Contacts)
         report.paper = report.paper.turned();

@@ -45,14 +45,16 @@ bool showsPreview(const core::Context& context)
     return QSettings(settingsFile(context), QSettings::IniFormat).value(kSetting, true).toBool();
 }
 
-QString headlineOf(const ReplacementPreview& preview)
+QString headlineOf(ReplacedPart part, const ReplacementPreview& preview)
 {
     if (preview.cutCount == 0)
         return translated("None of them loses anything but its old beginning.");
-    const QString text = translated("%1 of them end otherwise than before.").arg(preview.cutCount);
+    const QString text = (part == ReplacedPart::Numbers ? translated("%1 of them lose digits at their end:")
+                                                        : translated("%1 of them end otherwise than before:"))
+                             .arg(preview.cutCount);
     return preview.cutCount <= preview.cut.size()
         ? text
-        : text + u' ' + translated("The first %1 are listed.").arg(preview.cut.size());
+        : text + u' ' + translated("(the first %1)").arg(preview.cut.size());
 }
 
 widgets::HeadingGrid* countGrid(const ReplacementPreview& preview)
@@ -97,7 +99,7 @@ bool confirm(
             translated("In the old text * stands for any letters, ? for one, # for a digit, and brackets for "
                        "one of the letters between them."));
     form.wide(u"FGCounts"_s, translated("What changes"), countGrid(preview))
-        .caption(u"lblCut"_s, headlineOf(preview));
+        .caption(u"lblCut"_s, headlineOf(replacement.part, preview));
     if (preview.cutCount > 0)
         form.wide(u"FGCut"_s, translated("What ends otherwise than before"), cutGrid(preview));
     QCheckBox* again = makePreviewBox(context, &dialog);

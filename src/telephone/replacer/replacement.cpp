@@ -4,6 +4,7 @@
 #include "telephone/sql_text.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -111,10 +112,10 @@ QList<ColumnChange> columnChanges(const Replacement& replacement)
 
 QString whyNotReplaced(const Replacement& replacement)
 {
-    const bool isDigits
-        = std::ranges::all_of(replacement.from.trimmed(), [](QChar letter) { return letter.isDigit(); });
-    if (replacement.part == ReplacedPart::Codes && !isDigits)
-        return translated("The old code may hold digits only, without blanks and other marks.");
+    // It stands in the statement as a number, or as a sum of numbers.
+    static const QRegularExpression sum(u"^[-+]?\\d+([-+.]\\d+)*$"_s);
+    if (replacement.part == ReplacedPart::Codes && !sum.match(replacement.from.trimmed()).hasMatch())
+        return translated("The old code may hold digits only, with + or - between or in front of them.");
     if (isBrokenPattern(replacement.from))
         return translated("The old text has an opening bracket [ without a closing one. Brackets stand for "
                           "one of the letters between them; leave the bracket out.");
