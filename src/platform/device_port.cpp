@@ -195,8 +195,9 @@ void DevicePort::failed()
 
 void DevicePort::tell() const
 {
-    if (m_listener)
-        m_listener();
+    // It may be exchanged by what it calls.
+    if (const auto listener = m_listener)
+        listener();
 }
 
 } // namespace platform

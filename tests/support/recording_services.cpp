@@ -286,16 +286,22 @@ bool ScriptedModem::setDevice(int number, const QString& path)
     return true;
 }
 
+void ScriptedModem::tell() const
+{
+    if (const auto told = listener)
+        told();
+}
+
 void ScriptedModem::say(const QByteArray& bytes)
 {
     waiting += bytes;
-    listener();
+    tell();
 }
 
 void ScriptedModem::vanish()
 {
     isOpen = false;
-    listener();
+    tell();
 }
 
 } // namespace support

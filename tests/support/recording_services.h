@@ -190,6 +190,8 @@ public:
     bool isOpen = false;
 
 private:
+    void tell() const;
+
     QByteArray waiting;
     std::function<void()> listener;
 };

@@ -54,9 +54,9 @@ private Q_SLOTS:
 
     void night()
     {
-        const std::pair<const char16_t*, bool> times[]
-            = {{u"9:59 PM", false}, {u"10:0 PM", true}, {u"12:30 PM", true}, {u"12:30 AM", false},
-                {u"1:0 AM", true}, {u"06:59 AM", true}, {u"7:0 AM", false}, {u"0:0 PM", false}, {u"", false}};
+        const std::pair<const char16_t*, bool> times[] = {{u"9:59 PM", false}, {u"10:0 PM", true},
+            {u"12:30 PM", true}, {u"12:30 AM", false}, {u"1:0 AM", true}, {u"06:59 AM", true},
+            {u"7:0 AM", false}, {u"0:0 PM", false}, {u"0:5 AM", false}, {u"", false}};
         for (const auto& [time, isAsleep] : times)
             QCOMPARE(isNight(QStringView(time)), isAsleep);
         QCOMPARE(timeHere(QTime(0, 5)), u"12:05 AM"_s);

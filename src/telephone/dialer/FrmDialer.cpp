@@ -61,8 +61,8 @@ void FrmDialer::load()
     });
     label(u"lblgmt"_s)->setHidden(shared().NationalMode);
     label(u"lbltimediff"_s)->setHidden(shared().NationalMode);
+    label(u"lblTime"_s)->hide();
     showLabels(0, {});
-    tab1->showCalls({});
 }
 
 bool FrmDialer::isTouched() const

@@ -267,8 +267,8 @@ QWidget* FrmDialer::layOutPerson()
     top->addWidget(CmdOther);
     auto* lower = new QHBoxLayout;
     lower->setSpacing(12);
-    lower->addWidget(m_memory, 1);
-    lower->addWidget(tab1, 1);
+    lower->addWidget(m_memory, 2);
+    lower->addWidget(tab1, 3);
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);

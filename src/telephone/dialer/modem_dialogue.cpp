@@ -33,13 +33,15 @@ ModemDialogue::ModemDialogue(platform::SerialPort& port, QObject* parent)
     : QObject(parent)
     , m_port(port)
 {
-    m_port.setListener([this] { listen(); });
 }
 
 ModemDialogue::~ModemDialogue()
 {
+    // Without a call the port may be another one's by now.
+    if (!isRunning())
+        return;
     m_port.setListener({});
-    if (m_state == State::Waiting || m_state == State::Answered)
+    if (m_state != State::LettingGo)
         m_port.Output(kHangUp.toByteArray());
     m_port.PortOpen(false);
 }
@@ -55,9 +57,11 @@ bool ModemDialogue::dial(int port, const QString& number)
     if (!m_port.PortOpen() && !m_port.PortOpen(true))
         return false;
     Q_EMIT progressed(60);
+    m_port.setListener([this] { listen(); });
     m_port.InBufferCount(0);
     m_state = State::Waiting;
     if (!m_port.Output(dialCommand(number))) {
+        m_port.setListener({});
         m_port.PortOpen(false);
         m_state = State::Idle;
         return false;
@@ -115,6 +119,7 @@ void ModemDialogue::letGo(End end)
 void ModemDialogue::finish(End end)
 {
     m_state = State::Idle;
+    m_port.setListener({});
     m_port.PortOpen(false);
     Q_EMIT ended(end);
 }
