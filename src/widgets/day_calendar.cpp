@@ -324,10 +324,11 @@ void DayCalendar::paintMonth(
         painter.setFont(usual);
     }
     painter.setPen(palette.color(QPalette::PlaceholderText));
+    const int letters = painter.fontMetrics().horizontalAdvance(u"Mon"_s) <= wide ? 2 : 1;
     for (int column = 0; column < 7; ++column) {
         const int weekday = (QLocale().firstDayOfWeek() - 1 + column) % 7 + 1;
         painter.drawText(QRectF(where.x() + column * wide, where.y() + high, wide, high), Qt::AlignCenter,
-            QLocale().standaloneDayName(weekday, QLocale::ShortFormat).left(2));
+            QLocale().standaloneDayName(weekday, QLocale::ShortFormat).left(letters));
     }
     for (QDate day = first; day.month() == first.month() && day.isValid(); day = day.addDays(1))
         paintDay(painter, dayRect(where, day), day, palette);

@@ -179,6 +179,7 @@ QWidget* frmzodiac::layOutReference()
 QWidget* frmzodiac::layOutList()
 {
     VSFlexGrid1->setObjectName(u"VSFlexGrid1"_s);
+    VSFlexGrid1->letColumnsGiveWay();
     VSFlexGrid1->setAccessibleName(tr("Who was born under the sign"));
     VSFlexGrid1->setEmptyText(tr("Nobody of the address book was born under this sign."));
     VSFlexGrid1->showAs(

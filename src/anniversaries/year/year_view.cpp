@@ -168,6 +168,7 @@ QWidget* YearView::layOutList()
     Grid1->setAccessibleName(tr("Who was born on that day"));
     Grid1->setEmptyText(tr("Nobody of the address book was born on that day."));
     Grid1->setContextMenuPolicy(Qt::CustomContextMenu);
+    Grid1->letColumnsGiveWay();
     const bool national = shared().NationalMode;
     const auto shown = [national](const QVariant& date) {
         return jet::formatDate(date.toDate(), national ? u"dd MMM-yyyy" : u"MMM-dd-yyyy");

@@ -63,6 +63,7 @@ StartPage::StartPage(
     , m_search(new QLineEdit(this))
     , m_heading(new QLabel(this))
     , m_contacts(makeList(u"lstStartContacts"_s, tr("Contacts")))
+    , m_contactPart(new QWidget(this))
     , m_birthdayPart(new QWidget(this))
     , m_birthdays(makeList(u"lstStartBirthdays"_s, tr("Birthdays of the next days")))
     , m_first(new QToolButton(this))
@@ -135,7 +136,8 @@ QListWidget* StartPage::makeList(const QString& name, const QString& accessibleN
 // Side by side, so that both can be seen in a low window.
 QLayout* StartPage::layOutLists()
 {
-    auto* contacts = new QVBoxLayout;
+    auto* contacts = new QVBoxLayout(m_contactPart);
+    contacts->setContentsMargins(0, 0, 0, 0);
     contacts->addWidget(m_heading);
     contacts->addWidget(m_contacts, 1);
     auto* birthdays = new QVBoxLayout(m_birthdayPart);
@@ -145,7 +147,7 @@ QLayout* StartPage::layOutLists()
     m_birthdayPart->hide();
     auto* lists = new QHBoxLayout;
     lists->setSpacing(16);
-    lists->addLayout(contacts, 1);
+    lists->addWidget(m_contactPart, 1);
     lists->addWidget(m_birthdayPart, 1);
     return lists;
 }
@@ -274,7 +276,7 @@ void StartPage::fill(const QString& heading, const QString& sql)
     }
     const bool hasSome = m_contacts->count() > 0;
     m_heading->setText(hasSome || m_search->text().isEmpty() ? heading : tr("Nothing found"));
-    m_heading->setVisible(hasSome || !m_search->text().isEmpty());
+    m_contactPart->setVisible(hasSome || !m_search->text().isEmpty());
     m_contacts->setVisible(hasSome);
 }
 

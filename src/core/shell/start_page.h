@@ -57,6 +57,7 @@ private:
     QLineEdit* m_search;
     QLabel* m_heading;
     QListWidget* m_contacts;
+    QWidget* m_contactPart;
     QWidget* m_birthdayPart;
     QListWidget* m_birthdays;
     QToolButton* m_first;
