@@ -24,7 +24,9 @@ import time
 PATIENCE = 20  # seconds until something that is not painted counts as never painted
 SPLASH, FRAME, FULL_VIEW = "frmSplash", "MDIForm1", "FullView"
 SCREENS = (("frmselector", "frmSelector"), ("frmselector1", "frmSelector1"), ("formtree2", "FormTree2"),
-           ("formmain1", "FormMain1"), ("businessadd", "FormMainBusiness"), ("turboadd", "TurboAdd"))
+           ("formmain1", "FormMain1"), ("businessadd", "FormMainBusiness"), ("turboadd", "TurboAdd"), ("frmbday", "frmbday"),
+           ("frmphlist", "FrmPhList"), ("frmphsearch", "FrmPhSearch"), ("frmdialer", "FrmDialer"),
+           ("previouscall", "Form1"))
 SCREEN_GOAL = 150_000  # microseconds, as orientation
 HAND_OVER = 100_000  # microseconds that the splash has to stand
 
