@@ -75,6 +75,7 @@ private Q_SLOTS:
     {
         auto* screen = f->open<telephone::Form1>(u"Form1"_s);
         auto* grid = screen->findChild<widgets::HeadingGrid*>(u"FG1"_s);
+        QCOMPARE(grid->model()->index(0, 2).data().toString(), u"Fri-1  Mar-24"_s);
         support::doubleClickRow(grid, 1, 1);
         QCOMPARE(f->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
         screen->activateWindow();

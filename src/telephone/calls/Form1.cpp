@@ -14,6 +14,7 @@
 #include "telephone/calls/call_reports.h"
 #include "telephone/dialer/call_save_panel.h"
 #include "telephone/number_hand_over.h"
+#include "telephone/weekday_date.h"
 #include "widgets/date_box.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
@@ -26,7 +27,6 @@
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabBar>
@@ -92,22 +92,22 @@ const Page& pageOf(int tab)
             u" "
             u"   |Purpose           |Response     |Next Call     ",
             {{}, u"lname"_s, u"date"_s, u"time1"_s, u"numb"_s, u"todo"_s, u"result"_s, u"nextcall"_s},
-            u"ddd-d  MMM-yy", {}},
+            u"ddd-d  mmm-yy", {}},
         {QT_TRANSLATE_NOOP("telephone", "By Person"),
             u"|Date             |Time       |Number           |Purpose           |Response     |Next Call    "
             u" ",
-            {{}, u"date"_s, u"time"_s, u"numb"_s, u"todo"_s, u"result"_s, u"nextcall"_s}, u"ddd-d  MMM-yy",
+            {{}, u"date"_s, u"time"_s, u"numb"_s, u"todo"_s, u"result"_s, u"nextcall"_s}, u"ddd-d  mmm-yy",
             u"lname"},
         {QT_TRANSLATE_NOOP("telephone", "By Month"),
             u"|Date        |Time       |Name                       |Number           |Purpose           "
             u"|Response     |Next Call     ",
             {{}, u"date"_s, u"time1"_s, u"lname"_s, u"numb"_s, u"todo"_s, u"result"_s, u"nextcall"_s},
-            u"ddd,d MMM", u"mnth"},
+            u"ddd,d mmm", u"mnth"},
         {QT_TRANSLATE_NOOP("telephone", "Call Later"),
             u"|Next Call      |Name                       |Date            |Time       |Number           "
             u"|Purpose           |Response     ",
             {{}, u"nextcall"_s, u"lname"_s, u"date"_s, u"time"_s, u"numb"_s, u"todo"_s, u"result"_s},
-            u"dd-MMM-yyyy", {}},
+            u"dd-mmm-yyyy", {}},
     };
     return pages[tab];
 }
@@ -304,9 +304,8 @@ void Form1::showTab()
             ? (tab == kToMake ? tr("No call is left to be made") : tr("No call was saved yet"))
             : tr("No call was made on these days"));
     FG1->setHeadings(page.headings, page.columns);
-    const auto dateText = [pattern = page.datePattern.toString()](const QVariant& date) {
-        return date.toDate().isValid() ? QLocale::c().toString(date.toDate(), pattern) : QString();
-    };
+    const auto dateText = [pattern = page.datePattern.toString()](
+                              const QVariant& date) { return weekdayDate(date.toDate(), pattern); };
     const auto timeText = [](const QVariant& time) { return time.toDateTime().time().toString(u"HH:mm"_s); };
     for (const QString& column : {u"date"_s, u"nextcall"_s})
         FG1->showAs(column, dateText);

@@ -1,8 +1,9 @@
 #include "telephone/calls/call_reports.h"
 
+#include "jet/date_text.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -56,8 +57,7 @@ output::Report callReport(
     const CallReportRow& row, const jet::Recordset& calls, const QString& datePattern, QDate today)
 {
     const auto dateText = [&](int at, int column) {
-        const QDate date = calls.valueAt(at, column).toDate();
-        return date.isValid() ? QLocale::c().toString(date, datePattern) : QString();
+        return jet::formatDate(calls.valueAt(at, column).toDate(), datePattern);
     };
     QStringList names;
     for (const Column& column : kColumns)
@@ -70,7 +70,7 @@ output::Report callReport(
     output::Report report;
     report.title = say(row.title);
     report.fileStem = row.name.toString();
-    report.printDate = QLocale::c().toString(today, datePattern);
+    report.printDate = jet::formatDate(today, datePattern);
     report.source = std::make_shared<output::ListSource>(names, rows);
     report.paper = report.paper.turned();
     output::LineRule line;

@@ -1,6 +1,6 @@
 #include "telephone/calls/call_statements.h"
 
-#include <QLocale>
+#include "jet/date_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,7 +10,7 @@ namespace {
 
 QString hashed(QDate date)
 {
-    return u'#' + QLocale::c().toString(date, u"dd-MMM-yyyy"_s) + u'#';
+    return u'#' + jet::formatDate(date, u"dd-mmm-yyyy") + u'#';
 }
 
 } // namespace
@@ -71,7 +71,7 @@ QString monthText(const QString& yearAndMonth)
 {
     const qsizetype comma = yearAndMonth.indexOf(u',');
     const QDate month(yearAndMonth.left(comma).toInt(), yearAndMonth.mid(comma + 1).toInt(), 1);
-    return month.isValid() ? QLocale::c().toString(month, u"MMMM yyyy"_s) : yearAndMonth;
+    return month.isValid() ? jet::formatDate(month, u"mmmm yyyy") : yearAndMonth;
 }
 
 } // namespace telephone

@@ -2,7 +2,9 @@
 
 #include "core/contact_lookups.h"
 #include "core/photo_file.h"
+#include "jet/date_text.h"
 #include "telephone/dialer/dialer_statements.h"
+#include "telephone/weekday_date.h"
 #include "widgets/fields.h"
 #include "widgets/form_kit.h"
 #include "widgets/heading_grid.h"
@@ -12,7 +14,6 @@
 #include <QDateTime>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QScrollArea>
 
 using namespace Qt::StringLiterals;
@@ -59,7 +60,7 @@ constexpr Line kLines[] = {
 
 QString dateText(const QDate& date)
 {
-    return date.isValid() ? QLocale::c().toString(date, u"MMM dd-yyyy"_s) : QString();
+    return jet::formatDate(date, u"mmm dd-yyyy");
 }
 
 QString textOf(const Line& line, const jet::Recordset& contact)
@@ -131,8 +132,8 @@ ContactDetails::ContactDetails(core::Context& context, QWidget* parent)
     Label28 = child<QLabel>(calls, u"Label28"_s);
     m_calls->setHeadings(kCallHeadings, {u"name"_s, u"date"_s, u"time"_s});
     m_calls->setEmptyText(tr("No call to this person was saved yet"));
-    m_calls->showAs(u"date"_s,
-        [](const QVariant& date) { return QLocale::c().toString(date.toDate(), u"ddd,dd  MMM"_s); });
+    m_calls->showAs(
+        u"date"_s, [](const QVariant& date) { return weekdayDate(date.toDate(), u"ddd,dd  mmm"); });
     m_calls->showAs(
         u"time"_s, [](const QVariant& time) { return time.toDateTime().time().toString(u"HH:mm"_s); });
     addTab(calls, tr("Calls"));
