@@ -75,7 +75,7 @@ void Screen::tellSaved(const QString& name) const
     const QString text = tr("Saved %1").arg(name.simplified());
     if (!step)
         return m_context.frame.showNotice(text);
-    m_context.frame.showNotice(text, tr("&Undo"),
+    m_context.frame.showNotice(text, tr("Undo"),
         [&context = m_context, id = step->id] { takeBack(context, jet::StepDirection::Back, id); });
 }
 

@@ -380,7 +380,7 @@ void FrmDialer::connectPanels()
         m_memory->showList({});
         context().screens.tellBookChanged(this);
         const auto step = context().data.lastChange();
-        context().frame.showNotice(tr("Deleted the list %1").arg(list), step ? tr("&Undo") : QString(),
+        context().frame.showNotice(tr("Deleted the list %1").arg(list), step ? tr("Undo") : QString(),
             [&book = context(), id = step ? step->id : 0] {
                 core::takeBack(book, jet::StepDirection::Back, id);
             });

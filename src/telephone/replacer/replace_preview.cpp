@@ -169,7 +169,7 @@ bool replaceWithPreview(core::Context& context, const Replacement& replacement, 
     const QString text = translated("Replaced %1 by %2 in %3 places")
                              .arg(replacement.from, replacement.to, QString::number(replaced.rows));
     if (const auto step = context.data.lastChange())
-        context.frame.showNotice(text, translated("&Undo"),
+        context.frame.showNotice(text, translated("Undo"),
             [&context, id = step->id] { core::takeBack(context, jet::StepDirection::Back, id); });
     else
         context.frame.showNotice(text);

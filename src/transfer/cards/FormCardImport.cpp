@@ -329,7 +329,7 @@ void FormCardImport::tellStored(int added, int photosLost)
     const QString text = tr("%1 contacts imported").arg(added);
     m_summary->setText(text);
     if (const auto step = context().data.lastChange())
-        context().frame.showNotice(text, tr("&Undo"),
+        context().frame.showNotice(text, tr("Undo"),
             [&context = context(), id = step->id] { core::takeBack(context, jet::StepDirection::Back, id); });
     if (photosLost > 0)
         warn(tr("%1 pictures could not be copied to the folder of photos. Their contacts are stored without.")
