@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(f->book.rows(u"select PerId,Numb,Name,[date],todo,nextcall,calllater from cnt_phcall"_s),
             QStringList{u"1|020111|Asha Oberoi|2024-03-15|Ann's order|2024-03-18|true"_s});
         QCOMPARE(control<widgets::HeadingGrid>(u"GridCalls"_s)->rowCount(), 1);
-        QCOMPARE(f->frame.notices.last(), u"Saved the call to Asha Oberoi [&Undo]"_s);
+        QCOMPARE(f->frame.notices.last(), u"Saved the call to Asha Oberoi [Undo]"_s);
     }
 
     // No answer: only the end of the call ends it, and an end that nobody waits for does not end the next
@@ -216,7 +216,7 @@ private Q_SLOTS:
         support::clickRow(lists, 0);
         click(dialer, u"CmdDel"_s);
         QCOMPARE(f->book.rows(u"select distinct list from cnt_phonenum"_s), QStringList{u"OFFICE"_s});
-        QCOMPARE(f->frame.notices.last(), u"Deleted the list Clients [&Undo]"_s);
+        QCOMPARE(f->frame.notices.last(), u"Deleted the list Clients [Undo]"_s);
         support::type(dialer, u"txtPrefix3"_s, u"17"_s);
         click(dialer, u"CmdPh"_s);
         support::choose(dialer, u"cmbphone"_s, u"OFFICE"_s);
