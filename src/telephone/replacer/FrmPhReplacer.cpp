@@ -32,6 +32,9 @@ namespace {
 using widgets::child;
 
 constexpr int kTypingMs = 150;
+/// What is replaced and by what, tab by tab.
+constexpr const char16_t* kBoxes[][2]
+    = {{u"txtFind", u"txtreplace"}, {u"txtFstd", u"txtRstd"}, {u"txtFcity", u"txtRcity"}};
 
 ReplacedPart partOf(const QTabWidget* tabs)
 {
@@ -222,8 +225,11 @@ void FrmPhReplacer::replace()
 {
     m_typing->stop();
     const Replacement wanted = entered();
-    if (wanted.from.trimmed().isEmpty() || wanted.to.trimmed().isEmpty())
-        return;
+    const bool lacksOld = wanted.from.trimmed().isEmpty();
+    if (lacksOld || wanted.to.trimmed().isEmpty()) {
+        const auto& [from, to] = kBoxes[SSActiveTabs1->currentIndex()];
+        return child<QLineEdit>(this, QString::fromUtf16(lacksOld ? from : to))->setFocus();
+    }
     const bool isDone = replaceWithPreview(context(), wanted, this);
     followPreviewSetting(context(), ChkPreview);
     if (!isDone)

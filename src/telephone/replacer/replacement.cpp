@@ -113,7 +113,7 @@ QList<ColumnChange> columnChanges(const Replacement& replacement)
 QString whyNotReplaced(const Replacement& replacement)
 {
     // It stands in the statement as a number, or as a sum of numbers.
-    static const QRegularExpression sum(u"^[-+]?\\d+([-+.]\\d+)*$"_s);
+    static const QRegularExpression sum(u"^[-+]?\\d+(\\.\\d+)?([-+]\\d+(\\.\\d+)?)*$"_s);
     if (replacement.part == ReplacedPart::Codes && !sum.match(replacement.from.trimmed()).hasMatch())
         return translated("The old code may hold digits only, with + or - between or in front of them.");
     if (isBrokenPattern(replacement.from))
