@@ -163,6 +163,10 @@ private Q_SLOTS:
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1"_s);
         click(m_form, u"SSCommand3"_s);
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1,2,3"_s);
+        m_f->execute(u"update cnt_main set category1='[VIP]' where id=2"_s);
+        m_form->bookChanged();
+        support::choose(m_form, u"dcmbcat"_s, u"[VIP]"_s);
+        QCOMPARE(support::keysOf(grid(u"FG"_s)), u"2"_s);
     }
 
     void numbersLeaveTheProgram()

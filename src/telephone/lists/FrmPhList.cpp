@@ -144,7 +144,6 @@ QWidget* FrmPhList::layOutLists()
 
     widgets::FormKit building(m_building);
     building.combo(u"DBCombo1"_s, tr("&List"))
-        .beside()
         .button(u"SSCommand9"_s, tr("Add"), u"add", tr("Put the numbers with a tick into the list"))
         .button(u"SSCommand10"_s, tr("Delete"), u"delete", tr("Take the number out of the list (Del)"))
         .button(u"ssNewList"_s, tr("List Add"), u"folder-add", tr("Make a new list"));
@@ -182,6 +181,7 @@ QWidget* FrmPhList::layOutNumbers()
     FGPhone->setObjectName(u"FGPhone"_s);
     FGPhone->setAccessibleName(tr("Numbers of the list"));
     FGPhone->setHeadings(kNumberHeadings, {QString(), QString(), u"name"_s, u"phone"_s});
+    FGPhone->letColumnsGiveWay();
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(list1);

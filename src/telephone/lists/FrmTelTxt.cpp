@@ -5,9 +5,9 @@
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "telephone/lists/chosen_pattern.h"
 #include "telephone/lists/number_files.h"
 #include "widgets/fields.h"
-#include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 #include "widgets/heading_grid.h"
 
@@ -86,7 +86,7 @@ void FrmTelTxt::bookChanged()
 
 NumberFilter FrmTelTxt::filter() const
 {
-    return {cmbgcat->currentText(), cmbpriority->currentText(), cmbgcity->currentText()};
+    return {chosenPattern(cmbgcat), cmbpriority->currentText(), chosenPattern(cmbgcity)};
 }
 
 // What is no pattern leaves the list as it was.

@@ -68,6 +68,9 @@ FrmPhReplacer::FrmPhReplacer(core::Context& context, QWidget* parent)
         connect(child<QLineEdit>(this, name), &QLineEdit::textEdited, m_typing, qOverload<>(&QTimer::start));
     connect(DBCombo1, &QComboBox::currentTextChanged, m_typing, qOverload<>(&QTimer::start));
     connect(SSActiveTabs1, &QTabWidget::currentChanged, this, &FrmPhReplacer::search);
+    for (int part = 0; part < SSActiveTabs1->count(); ++part)
+        child<QLineEdit>(this, QString::fromUtf16(kBoxes[part][1]))
+            ->setMaxLength(longestNew(static_cast<ReplacedPart>(part), context.schema));
     for (const QString& name : {u"cmdreplace"_s, u"CmdStdReplace"_s, u"CmdCity"_s})
         connect(child<QPushButton>(this, name), &QPushButton::clicked, this, &FrmPhReplacer::replace);
     setFocusProxy(child<QLineEdit>(this, u"txtFind"_s));

@@ -176,6 +176,17 @@ ReplacementPreview previewOf(jet::Database& book, const Replacement& replacement
     return preview;
 }
 
+int longestNew(ReplacedPart part, const jet::Schema& schema)
+{
+    constexpr int kRest = 9;
+    switch (part) {
+    case ReplacedPart::Numbers: return schema.textSize(u"cnt_main", u"h_ph1") - kRest;
+    case ReplacedPart::Codes: return schema.textSize(u"cnt_main", u"h_std") - kRest;
+    case ReplacedPart::Cities: break;
+    }
+    return schema.textSize(u"cnt_main", u"h_city");
+}
+
 QString captionOf(const QString& column)
 {
     const auto found

@@ -62,6 +62,7 @@ FrmPhSearch::FrmPhSearch(core::Context& context, QWidget* parent)
     for (widgets::FilledCombo* combo : {Combo1, DBCombo1})
         connect(combo, &QComboBox::currentTextChanged, m_typing, qOverload<>(&QTimer::start));
     connect(m_list, &core::ListPresenter::currentChanged, this, &FrmPhSearch::rowChanged);
+    txtreplace->setMaxLength(longestNew(ReplacedPart::Numbers, context.schema));
     setFocusProxy(DBCombo1);
 }
 
