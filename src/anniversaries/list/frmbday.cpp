@@ -205,7 +205,6 @@ QWidget* frmbday::layOutSide()
 {
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(6);
-    buttons->addWidget(m_month->legendButton());
     buttons->addStretch(1);
     buttons->addWidget(toolButton(u"cmdletter"_s, tr("Send by &letter"), u"SendLetter"));
     buttons->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
@@ -268,6 +267,7 @@ QWidget* frmbday::layOutFoot()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(help);
+    layout->addWidget(m_month->legendButton());
     layout->addStretch(1);
     layout->addWidget(toolButton(u"SSCommand2"_s, tr("Copy to &Scheduler"), u"TransTask"));
     layout->addWidget(toolButton(u"SSCommand5"_s, tr("E&xport"), u"Export"));
