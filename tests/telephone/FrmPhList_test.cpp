@@ -48,6 +48,9 @@ private Q_SLOTS:
             click(m_form, u"SSCommand5"_s);
         }
         support::type(m_form, u"Text1"_s, u"Bob's"_s);
+        m_f->boxes.expect(
+            u"What you entered was not saved. Do you want to discard it?"_s, platform::Answer::No);
+        child<QTabBar>(m_form, u"SSActiveTabs1"_s)->setCurrentIndex(1);
         QTest::keyClick(child<QLineEdit>(m_form, u"Text1"_s), Qt::Key_Return);
         QCOMPARE(rows(u"listname='Bob''s'"_s), QStringList{u"Bob's|null|null|null|null"_s});
         QCOMPARE(shown(u"list1"_s, u"listname"_s), u"Bob's,Old"_s);
@@ -104,6 +107,7 @@ private Q_SLOTS:
         grid(u"list1"_s)->setFocus();
         QTest::keyClick(grid(u"list1"_s), Qt::Key_Delete);
         QCOMPARE(rows(u"1=1"_s), QStringList{u"Kin|Bob H1|2|null|null"_s});
+        QCOMPARE(child<widgets::FilledCombo>(m_form, u"DBCombo1"_s)->values(), QStringList{u"Kin"_s});
     }
 
     void whatFailsIsTold()
@@ -159,6 +163,10 @@ private Q_SLOTS:
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1"_s);
         click(m_form, u"SSCommand3"_s);
         QCOMPARE(support::keysOf(grid(u"FG"_s)), u"1,2,3"_s);
+        m_f->execute(u"update cnt_main set category1='[VIP]' where id=2"_s);
+        m_form->bookChanged();
+        support::choose(m_form, u"dcmbcat"_s, u"[VIP]"_s);
+        QCOMPARE(support::keysOf(grid(u"FG"_s)), u"2"_s);
     }
 
     void numbersLeaveTheProgram()
@@ -214,6 +222,9 @@ private Q_SLOTS:
         support::choose(form, u"cmbpriority"_s, priority);
         support::type(form, u"cmbgcity"_s, city);
         const QStringList wanted = lines.split(u';');
+        m_f->book.expectFailure(u"["_s); // what is no pattern changes neither the list nor the file
+        support::type(form, u"cmbgcity"_s, u"["_s);
+        m_f->book.unexpected();
         QVERIFY(support::isTold(u"%1 Records Selected"_s.arg(wanted.size())));
         click(form, u"Cmd2"_s);
         QCOMPARE(support::bytesOf(m_f->drive.local(u"C:\\OVUserfiles\\OV_Timex.txt")),

@@ -149,6 +149,9 @@ private Q_SLOTS:
         QCOMPARE(text(u"txtstd"_s), u"617"_s);
         support::type(m_form, u"DBCombo1"_s, u"11"_s);
         QCOMPARE(rowsOf(u"FGPlaces"_s), QStringList{u"Delhi Delhi India"_s});
+        support::type(m_form, u"DBCombo1"_s, u"503"_s); // of the other city of that name
+        support::doubleClickRow(grid(u"FGPlaces"_s), 0, 1);
+        QCOMPARE(text(u"txtstd"_s), u"503"_s);
         click(m_form, u"Option1"_s);
         support::type(m_form, u"DBCombo3"_s, u"NNNNN"_s);
         QCOMPARE(rowsOf(u"FGPlaces"_s), QStringList{u"United States"_s});

@@ -94,7 +94,11 @@ bool CopyPanel::isTouched() const
 void CopyPanel::keyPressEvent(QKeyEvent* event)
 {
     if (!widgets::answerDialogKey(
-            event, this, [this] { copy(); }, [this] { leave(); }))
+            event, this, [this] { copy(); },
+            [this] {
+                if (m_screen->mayClose())
+                    leave();
+            }))
         QFrame::keyPressEvent(event);
 }
 

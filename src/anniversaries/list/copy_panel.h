@@ -29,6 +29,7 @@ public:
     void ask();
     /// Whether something was chosen that is not copied.
     bool isTouched() const;
+    void leave(); ///< what was chosen is given up
 
 Q_SIGNALS:
     void closed(); ///< copied or given up: the ticks of the list are to be read again
@@ -41,7 +42,6 @@ private:
     void followChoice();
     void copy();
     bool copyRows(int times);
-    void leave();
 
     core::Context& m_context;
     DayList* m_list;

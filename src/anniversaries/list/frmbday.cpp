@@ -7,6 +7,7 @@
 #include "anniversaries/list/month_panel.h"
 #include "anniversaries/wishes/send_letter.h"
 #include "anniversaries/wishes/TimedWishPanel.h"
+#include "core/contact_lookups.h"
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
 #include "core/report_request.h"
@@ -39,6 +40,7 @@ namespace {
 
 constexpr QStringView kSummary = u"FrmBirthSum";
 constexpr QStringView kYearView = u"FormAviewbday";
+constexpr QStringView kNotWhileCopying[] = {u"Simple", u"Details", u"TransTask", u"Confirm"};
 /// What is beside the list takes no more room than it needs.
 const QList<int> kAllToList{10'000, 1};
 /// By the order of Regrouping.
@@ -203,7 +205,6 @@ QWidget* frmbday::layOutSide()
 {
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(6);
-    buttons->addWidget(m_month->legendButton());
     buttons->addStretch(1);
     buttons->addWidget(toolButton(u"cmdletter"_s, tr("Send by &letter"), u"SendLetter"));
     buttons->addWidget(toolButton(u"cmdemail"_s, tr("Send by &e-mail"), u"SendEmail"));
@@ -266,6 +267,7 @@ QWidget* frmbday::layOutFoot()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(help);
+    layout->addWidget(m_month->legendButton());
     layout->addStretch(1);
     layout->addWidget(toolButton(u"SSCommand2"_s, tr("Copy to &Scheduler"), u"TransTask"));
     layout->addWidget(toolButton(u"SSCommand5"_s, tr("E&xport"), u"Export"));
@@ -360,8 +362,14 @@ void frmbday::openPage(const QString& page)
     const bool isAnniversary = page.compare(u"Anniversary"_s, Qt::CaseInsensitive) == 0;
     ListView view = m_list->view();
     view.occasion = isAnniversary ? Occasion::Anniversary : Occasion::Birthday;
-    if (!m_isRead || view != m_list->view())
-        showView(view);
+    if (m_isRead && view == m_list->view())
+        return;
+    if (Frame7->isVisibleTo(this)) { // its ticks are those of the list in front
+        if (!mayDiscard())
+            return;
+        Frame7->leave();
+    }
+    showView(view);
 }
 
 bool frmbday::isTouched() const
@@ -466,15 +474,15 @@ void frmbday::goToDay(QDate day)
 
 void frmbday::beginCopy()
 {
-    if (!m_isRead)
-        showView(m_list->view());
-    if (!m_tools->action(u"TransTask")->isEnabled())
+    if (Frame7->isVisibleTo(this) || !mayDiscard())
         return;
+    if (!m_isRead || !m_list->view().isFull)
+        showView({m_list->view().occasion, true, m_list->view().regrouping});
     famTimedEmails->hide();
     for (QWidget* control : {static_cast<QWidget*>(SSActiveTabs1), static_cast<QWidget*>(ssTabMerge),
              static_cast<QWidget*>(OptAll)})
         control->setEnabled(false); // they read the list anew, and with it the ticks
-    for (const QStringView id : {u"Simple", u"Details", u"TransTask"})
+    for (const QStringView id : kNotWhileCopying)
         m_tools->action(id)->setEnabled(false);
     Frame7->ask();
     settleSide();
@@ -485,7 +493,7 @@ void frmbday::copyEnded()
     for (QWidget* control : {static_cast<QWidget*>(SSActiveTabs1), static_cast<QWidget*>(ssTabMerge),
              static_cast<QWidget*>(OptAll)})
         control->setEnabled(true);
-    for (const QStringView id : {u"Simple", u"Details", u"TransTask"})
+    for (const QStringView id : kNotWhileCopying)
         m_tools->action(id)->setEnabled(true);
     settleSide();
     m_list->refresh();
@@ -509,10 +517,12 @@ void frmbday::sendLetter()
 {
     const std::optional<ListedDay> day = m_list->current();
     const bool isFull = m_list->view().isFull;
-    const jet::Recordset contact = !day
+    jet::Recordset contact = !day
         ? jet::Recordset()
         : context().data.openRecordset(
             isFull ? contactOfRowSql(day->contact, day->category1) : contactNamedSql(day->name));
+    if (isFull && day && !contact.hasRow()) // it has no category
+        contact = context().data.openRecordset(core::contactByIdSql(day->id));
     writeWishLetter(context(), contact,
         m_list->view().occasion == Occasion::Birthday ? u"Birthday2"_s : u"Anniversary"_s);
 }
@@ -522,7 +532,7 @@ void frmbday::timeWishOfRow()
     const Wish wish = currentWish();
     if (wish.id == 0)
         return inform(tr("Record not selected"));
-    if (Frame7->isVisibleTo(this))
+    if (!mayDiscard())
         return;
     famTimedEmails->ask(wish);
     settleSide();

@@ -107,21 +107,22 @@ void MonthPanel::timerEvent(QTimerEvent* event)
         return;
     m_reading.stop();
     SSMonth1->clearDays();
-    for (const StyledDay& day : std::exchange(m_read, {}))
-        SSMonth1->setDayStyle(day.month, day.day, day.style);
+    // On a day of several the more important ones are seen.
+    for (const QStringView style : {u"Birth34", u"Birth12", u"Anniv34", u"Anniv12"}) {
+        for (const StyledDay& day : std::as_const(m_read)) {
+            if (day.style == style)
+                SSMonth1->setDayStyle(day.month, day.day, day.style);
+        }
+    }
+    m_read.clear();
 }
 
-// On a day of several the more important ones are seen.
 void MonthPanel::readColumn(const DayColumn& column)
 {
     const jet::Recordset days = m_context.data.openRecordset(daysSql(column.column));
-    for (const QStringView ofKind : {u"34", u"12"}) {
-        for (int row = 0; row < days.count(); ++row) {
-            const QString style = dayStyle(column.occasion, days.textAt(row, 2));
-            if (style.endsWith(ofKind))
-                m_read << StyledDay{days.valueAt(row, 0).toInt(), days.valueAt(row, 1).toInt(), style};
-        }
-    }
+    for (int row = 0; row < days.count(); ++row)
+        m_read << StyledDay{days.valueAt(row, 0).toInt(), days.valueAt(row, 1).toInt(),
+            dayStyle(column.occasion, days.textAt(row, 2))};
 }
 
 void MonthPanel::choose(QDate date)

@@ -85,6 +85,8 @@ QString SchedulerCopy::flagOf(const CopiedRow& row) const
 
 void SchedulerCopy::setFlag(const CopiedRow& row, bool copied)
 {
+    if (copied)
+        m_flagged << row.id;
     if (const QString flag = flagOf(row); !flag.isEmpty())
         m_data.execute(u"update cnt_main set %1 = %2 where id = %3"_s.arg(
             flag, copied ? u"true"_s : u"false"_s, QString::number(row.id)));
@@ -93,6 +95,7 @@ void SchedulerCopy::setFlag(const CopiedRow& row, bool copied)
 void SchedulerCopy::addRows(const CopiedRow& row, const QString& key)
 {
     const QString kind = m_occasion == Occasion::Birthday ? u"Birthday"_s : u"Anniversary"_s;
+    m_scheduled << key.toLower();
     for (int year = m_thisYear; year < m_thisYear + m_times; ++year) {
         m_schedule.addNew();
         m_schedule.set(u"Done", false);

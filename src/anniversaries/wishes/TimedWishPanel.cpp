@@ -73,7 +73,11 @@ bool TimedWishPanel::isTouched() const
 void TimedWishPanel::keyPressEvent(QKeyEvent* event)
 {
     if (!widgets::answerDialogKey(
-            event, this, [this] { keep(); }, [this] { leave(); }))
+            event, this, [this] { keep(); },
+            [this] {
+                if (m_screen->mayClose())
+                    leave();
+            }))
         QFrame::keyPressEvent(event);
 }
 

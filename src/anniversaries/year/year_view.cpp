@@ -383,7 +383,8 @@ void YearView::timeWish(Occasion occasion)
     wish.occasion = occasion;
     if (wish.id == 0)
         return inform(tr("Record not selected"));
-    famTimedEmails->ask(wish);
+    if (mayDiscard())
+        famTimedEmails->ask(wish);
 }
 
 void YearView::writeLetter()

@@ -196,14 +196,22 @@ void Frmintstd::chooseState()
     showCountryCode(country);
 }
 
+// Of several cities with one name it is the one in the state that is chosen, or the first.
 void Frmintstd::showCity()
 {
     const QString city = DBCombo2->currentText().trimmed();
-    const jet::Recordset facts = context().info.openRecordset(world::cityFactsSql(city));
+    jet::Recordset facts = context().info.openRecordset(world::cityFactsSql(city));
+    int found = 0;
+    while (
+        found < facts.count() && facts.textAt(found, facts.columnIndex(u"state")) != m_state->currentText())
+        ++found;
+    found = found < facts.count() ? found : 0;
+    facts.moveTo(found);
     txtstd->setText(facts.textOrEmpty(u"cityisd"));
     if (!facts.hasRow())
         return;
-    const QString country = firstText(world::countryOfCitySql(city));
+    const QString country = firstText(
+        found > 0 ? world::countryOfIdSql(facts.textOrEmpty(u"country id")) : world::countryOfCitySql(city));
     setQuietly(m_country, country);
     setQuietly(m_state, facts.textOrEmpty(u"state"));
     m_state->refill();
@@ -249,7 +257,9 @@ void Frmintstd::takePlace(int row)
     const QString city = m_places->textAt(row, u"city"_s);
     if (city.isEmpty())
         return m_country->setText(m_places->textAt(row, u"country"_s));
-    DBCombo2->setText(city);
+    setQuietly(m_state, m_places->textAt(row, u"state"_s));
+    setQuietly(DBCombo2, city);
+    showCity();
 }
 
 } // namespace telephone

@@ -37,7 +37,6 @@ void frmstd::layOut()
 {
     m_places->setHeadings(u"|City                      |State                    |Pin   |Tel code ",
         {QString(), u"city"_s, u"state"_s, u"pin prefix"_s, u"std"_s});
-    m_places->setEmptyText(tr("No city has this code"));
     widgets::FormKit form(this);
     form.group(tr("Codes of a city"))
         .combo(u"dcmbstate"_s, tr("&State"))
@@ -102,6 +101,7 @@ void frmstd::showCodes()
 void frmstd::showPlaces()
 {
     const QString code = (kind() == CodeKind::Telephone ? DBCombo1 : DBCombo3)->currentText().trimmed();
+    m_places->setEmptyText(code.isEmpty() ? tr("Enter a code") : tr("No city has this code"));
     if (code.isEmpty())
         m_places->clearRows();
     else
@@ -112,7 +112,6 @@ void frmstd::followKind()
 {
     DBCombo1->setEnabled(kind() == CodeKind::Telephone);
     DBCombo3->setEnabled(kind() == CodeKind::Pin);
-    m_places->setEmptyText(tr("Enter a code"));
     showPlaces();
 }
 

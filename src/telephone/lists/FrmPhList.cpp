@@ -15,6 +15,7 @@
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "telephone/lists/button_row.h"
 #include "telephone/lists/contact_pane.h"
 #include "telephone/lists/number_files.h"
 #include "telephone/lists/phone_list_tools.h"
@@ -61,25 +62,6 @@ qint64 personIn(const widgets::HeadingGrid* grid)
 {
     const qint64 listed = grid->currentText(u"idd"_s).toLongLong();
     return listed != 0 ? listed : grid->currentText(u"id"_s).toLongLong();
-}
-
-QHBoxLayout* rowOf(QWidget* widget)
-{
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(6);
-    return row;
-}
-
-QPushButton* makeButton(const QString& name, const QString& text, QStringView icon, const QString& toolTip)
-{
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setToolTip(toolTip);
-    button->setAutoDefault(false);
-    if (!icon.isEmpty())
-        widgets::setIcon(button, icon);
-    return button;
 }
 
 } // namespace
@@ -162,7 +144,6 @@ QWidget* FrmPhList::layOutLists()
 
     widgets::FormKit building(m_building);
     building.combo(u"DBCombo1"_s, tr("&List"))
-        .beside()
         .button(u"SSCommand9"_s, tr("Add"), u"add", tr("Put the numbers with a tick into the list"))
         .button(u"SSCommand10"_s, tr("Delete"), u"delete", tr("Take the number out of the list (Del)"))
         .button(u"ssNewList"_s, tr("List Add"), u"folder-add", tr("Make a new list"));
@@ -200,6 +181,7 @@ QWidget* FrmPhList::layOutNumbers()
     FGPhone->setObjectName(u"FGPhone"_s);
     FGPhone->setAccessibleName(tr("Numbers of the list"));
     FGPhone->setHeadings(kNumberHeadings, {QString(), QString(), u"name"_s, u"phone"_s});
+    FGPhone->letColumnsGiveWay();
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(list1);
@@ -270,7 +252,7 @@ void FrmPhList::connectLists()
     connect(m_contacts, &ContactPane::rowChanged, this, &FrmPhList::showPerson);
     connect(m_contacts, &ContactPane::addWanted, this, &FrmPhList::addPerson);
     connect(child<QPushButton>(this, u"SSCommand9"_s), &QPushButton::clicked, this, &FrmPhList::addPerson);
-    connect(SSActiveTabs1, &QTabBar::currentChanged, this, &FrmPhList::chooseTab);
+    connect(SSActiveTabs1, &QTabBar::currentChanged, this, &FrmPhList::leaveTab);
     connect(list1, &widgets::HeadingGrid::currentRowChanged, this, [this](int row) {
         if (row < 0)
             return;
@@ -310,7 +292,10 @@ void FrmPhList::connectKeys()
         if (kind() == ListKind::User && list1->currentRow() >= 0)
             deleteList();
     });
-    onKey(Qt::Key_Escape, m_naming, [this] { beginList(false); });
+    onKey(Qt::Key_Escape, m_naming, [this] {
+        if (mayDiscard())
+            beginList(false);
+    });
 }
 
 void FrmPhList::load()
@@ -361,6 +346,15 @@ void FrmPhList::showPerson()
 }
 
 // ---- lists
+
+// Lists are named on the first tab only.
+void FrmPhList::leaveTab()
+{
+    if (mayDiscard())
+        return chooseTab();
+    const QSignalBlocker quiet(SSActiveTabs1);
+    SSActiveTabs1->setCurrentIndex(static_cast<int>(ListKind::User));
+}
 
 void FrmPhList::chooseTab()
 {
@@ -440,7 +434,8 @@ void FrmPhList::readNumbers()
                 : QString());
     FGPhone->setEmptyText(Check3->isChecked() && city.isEmpty()
             ? tr("Your own city is not known; it stands with your own data")
-            : tr("Tick what the list shall have"));
+            : hasDefault ? tr("No contacts here")
+                         : tr("Tick what the list shall have"));
     fillNumbers(
         contactPhonesSql({Check1->isChecked(), Check2->isChecked(), Check3->isChecked()}, hasDefault, city));
 }
@@ -550,8 +545,12 @@ void FrmPhList::deleteList()
     if (!telephone::deleteList(context().data, list))
         return core::tellFailedSave(context());
     playSound(core::sounds::Delete);
-    chooseTab();
-    context().screens.tellBookChanged(this);
+    {
+        const QSignalBlocker quiet(DBCombo1);
+        DBCombo1->setText({});
+    }
+    chooseList({});
+    afterChange();
 }
 
 void FrmPhList::afterChange()

@@ -50,6 +50,7 @@ private:
     QString listColumn() const; ///< the one with the names of the lists
     void showPerson();
 
+    void leaveTab();
     void chooseTab();
     void readLists();
     void pointAtList();

@@ -5,9 +5,9 @@
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
+#include "telephone/lists/chosen_pattern.h"
 #include "telephone/lists/number_files.h"
 #include "widgets/fields.h"
-#include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 #include "widgets/heading_grid.h"
 
@@ -86,15 +86,17 @@ void FrmTelTxt::bookChanged()
 
 NumberFilter FrmTelTxt::filter() const
 {
-    return {cmbgcat->currentText(), cmbpriority->currentText(), cmbgcity->currentText()};
+    return {chosenPattern(cmbgcat), cmbpriority->currentText(), chosenPattern(cmbgcity)};
 }
 
 // What is no pattern leaves the list as it was.
 void FrmTelTxt::readNumbers()
 {
-    jet::Recordset rows = context().data.openRecordset(filteredNumbersSql(filter()));
+    const QString sql = filteredNumbersSql(filter());
+    jet::Recordset rows = context().data.openRecordset(sql);
     if (!rows.isValid())
         return;
+    m_sql = sql;
     FG1->fill(std::move(rows));
     m_count->setText(tr("%1 Records Selected").arg(FG1->rowCount()));
 }
@@ -112,8 +114,7 @@ void FrmTelTxt::exportNumbers()
 {
     const platform::Drive& drive = context().services.drive;
     drive.ensureFolder(kTimexFile.left(kTimexFile.lastIndexOf(u'\\')));
-    const QString why
-        = exportTimex(context().data.openRecordset(filteredNumbersSql(filter())), drive.local(kTimexFile));
+    const QString why = exportTimex(context().data.openRecordset(m_sql), drive.local(kTimexFile));
     if (!why.isEmpty())
         return warn(tr("The numbers could not be saved as %1: %2.").arg(kTimexFile, why));
     const QString text

@@ -33,6 +33,7 @@ private:
     widgets::FilledCombo* cmbgcity;
     widgets::FilledCombo* cmbpriority;
     QLabel* m_count;
+    QString m_sql; ///< of the list that is shown
 };
 
 } // namespace telephone

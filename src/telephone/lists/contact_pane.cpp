@@ -1,9 +1,9 @@
 #include "telephone/lists/contact_pane.h"
 
 #include "core/vocabularies.h"
+#include "telephone/lists/chosen_pattern.h"
 #include "telephone/lists/slot_ticks.h"
 #include "widgets/fields.h"
-#include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
 #include "widgets/heading_grid.h"
 
@@ -76,7 +76,7 @@ void ContactPane::readAgain()
 
 ContactFilter ContactPane::filter() const
 {
-    return {dcmbcat->currentText(), Dcmbsubcat->currentText(), dcmbcity->currentText()};
+    return {chosenPattern(dcmbcat), chosenPattern(Dcmbsubcat), chosenPattern(dcmbcity)};
 }
 
 // Read in the other way of the engine: % and _ stand for letters in what a person types here.

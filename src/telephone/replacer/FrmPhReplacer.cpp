@@ -32,6 +32,9 @@ namespace {
 using widgets::child;
 
 constexpr int kTypingMs = 150;
+/// What is replaced and by what, tab by tab.
+constexpr const char16_t* kBoxes[][2]
+    = {{u"txtFind", u"txtreplace"}, {u"txtFstd", u"txtRstd"}, {u"txtFcity", u"txtRcity"}};
 
 ReplacedPart partOf(const QTabWidget* tabs)
 {
@@ -65,6 +68,9 @@ FrmPhReplacer::FrmPhReplacer(core::Context& context, QWidget* parent)
         connect(child<QLineEdit>(this, name), &QLineEdit::textEdited, m_typing, qOverload<>(&QTimer::start));
     connect(DBCombo1, &QComboBox::currentTextChanged, m_typing, qOverload<>(&QTimer::start));
     connect(SSActiveTabs1, &QTabWidget::currentChanged, this, &FrmPhReplacer::search);
+    for (int part = 0; part < SSActiveTabs1->count(); ++part)
+        child<QLineEdit>(this, QString::fromUtf16(kBoxes[part][1]))
+            ->setMaxLength(longestNew(static_cast<ReplacedPart>(part), context.schema));
     for (const QString& name : {u"cmdreplace"_s, u"CmdStdReplace"_s, u"CmdCity"_s})
         connect(child<QPushButton>(this, name), &QPushButton::clicked, this, &FrmPhReplacer::replace);
     setFocusProxy(child<QLineEdit>(this, u"txtFind"_s));
@@ -222,8 +228,11 @@ void FrmPhReplacer::replace()
 {
     m_typing->stop();
     const Replacement wanted = entered();
-    if (wanted.from.trimmed().isEmpty() || wanted.to.trimmed().isEmpty())
-        return;
+    const bool lacksOld = wanted.from.trimmed().isEmpty();
+    if (lacksOld || wanted.to.trimmed().isEmpty()) {
+        const auto& [from, to] = kBoxes[SSActiveTabs1->currentIndex()];
+        return child<QLineEdit>(this, QString::fromUtf16(lacksOld ? from : to))->setFocus();
+    }
     const bool isDone = replaceWithPreview(context(), wanted, this);
     followPreviewSetting(context(), ChkPreview);
     if (!isDone)

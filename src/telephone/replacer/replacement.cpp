@@ -113,7 +113,7 @@ QList<ColumnChange> columnChanges(const Replacement& replacement)
 QString whyNotReplaced(const Replacement& replacement)
 {
     // It stands in the statement as a number, or as a sum of numbers.
-    static const QRegularExpression sum(u"^[-+]?\\d+([-+.]\\d+)*$"_s);
+    static const QRegularExpression sum(u"^[-+]?\\d+(\\.\\d+)?([-+]\\d+(\\.\\d+)?)*$"_s);
     if (replacement.part == ReplacedPart::Codes && !sum.match(replacement.from.trimmed()).hasMatch())
         return translated("The old code may hold digits only, with + or - between or in front of them.");
     if (isBrokenPattern(replacement.from))
@@ -174,6 +174,17 @@ ReplacementPreview previewOf(jet::Database& book, const Replacement& replacement
             preview.cut << CutText{cut.textAt(row, 0), change.column, cut.textAt(row, 1), cut.textAt(row, 2)};
     }
     return preview;
+}
+
+int longestNew(ReplacedPart part, const jet::Schema& schema)
+{
+    constexpr int kRest = 9;
+    switch (part) {
+    case ReplacedPart::Numbers: return schema.textSize(u"cnt_main", u"h_ph1") - kRest;
+    case ReplacedPart::Codes: return schema.textSize(u"cnt_main", u"h_std") - kRest;
+    case ReplacedPart::Cities: break;
+    }
+    return schema.textSize(u"cnt_main", u"h_city");
 }
 
 QString captionOf(const QString& column)

@@ -62,6 +62,9 @@ struct ReplacementPreview {
 inline constexpr int kShownCuts = 1000;
 ReplacementPreview previewOf(jet::Database& book, const Replacement& replacement);
 
+/// How many characters the new text may have, so that with the rest of the old one it fits its columns.
+int longestNew(ReplacedPart part, const jet::Schema& schema);
+
 /// What a person calls a column.
 QString captionOf(const QString& column);
 

@@ -62,6 +62,7 @@ FrmPhSearch::FrmPhSearch(core::Context& context, QWidget* parent)
     for (widgets::FilledCombo* combo : {Combo1, DBCombo1})
         connect(combo, &QComboBox::currentTextChanged, m_typing, qOverload<>(&QTimer::start));
     connect(m_list, &core::ListPresenter::currentChanged, this, &FrmPhSearch::rowChanged);
+    txtreplace->setMaxLength(longestNew(ReplacedPart::Numbers, context.schema));
     setFocusProxy(DBCombo1);
 }
 
@@ -160,6 +161,8 @@ void FrmPhSearch::search()
     if (!m_list->open(numbersSql(city(), piece)))
         return;
     if (!piece.isEmpty() && FG2->rowCount() > 0 && !m_pieces.contains(piece)) {
+        if (!m_pieces.isEmpty() && piece.startsWith(m_pieces.constFirst()))
+            m_pieces.removeFirst(); // it was only on the way
         m_pieces.prepend(piece);
         m_pieces = m_pieces.mid(0, kKeptPieces);
         DBCombo1->refill();
@@ -193,8 +196,10 @@ void FrmPhSearch::rowChanged()
 void FrmPhSearch::replacePrefix()
 {
     const Replacement wanted{ReplacedPart::Numbers, txtFind->text(), txtreplace->text(), city()};
-    if (wanted.from.trimmed().isEmpty() || wanted.to.trimmed().isEmpty())
-        return;
+    for (QLineEdit* line : {txtFind, txtreplace}) {
+        if (line->text().trimmed().isEmpty())
+            return line->setFocus();
+    }
     if (wanted.city.isEmpty())
         return inform(tr("Choose the city whose numbers change. The replacer changes those of all cities."));
     if (!replaceWithPreview(context(), wanted, this))
