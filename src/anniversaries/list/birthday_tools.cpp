@@ -1,6 +1,6 @@
 #include "anniversaries/list/birthday_tools.h"
 
-#include "anniversaries/wishes/send_letter.h"
+#include "anniversaries/wishes/wish_tools.h"
 
 #include <QCoreApplication>
 
@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kFull = core::Tool::Labelled;
 constexpr int kIcon = core::Tool::IconOnly;
-constexpr int kMenu = core::Tool::Menu;
 constexpr core::Tool kTools[] = {
     {.id = u"ViewNext",
         .icon = u"clock",
@@ -27,26 +26,10 @@ constexpr core::Tool kTools[] = {
         .text = QT_TRANSLATE_NOOP("anniversaries", "Priority 3 && 4"),
         .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Hides the people of priority 1 and 2"),
         .places = kFull},
-    {.id = u"SendLetter",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by letter"),
-        .form = kLetterScreen,
-        .places = kIcon | kMenu | core::Tool::GroupStart},
-    {.id = u"SendEmail",
-        .icon = u"envelope",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by e-mail"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Write the wishes as an e-mail and look at it"),
-        .places = kIcon | kMenu},
-    {.id = u"sendtoday",
-        .icon = u"next",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send to Outbox today"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Send the wishes by e-mail at once"),
-        .places = kIcon | kMenu},
-    {.id = u"Confirm",
-        .icon = u"question",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Confirm before sending"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Keep an e-mail with the wishes for the day"),
-        .places = kIcon | kMenu},
+    tools::kSendLetter,
+    tools::kSendEmail,
+    tools::kSendToday,
+    tools::kConfirm,
     {.id = u"TransTask",
         .icon = u"calendar",
         .text = QT_TRANSLATE_NOOP("anniversaries", "Copy to Scheduler"),
@@ -57,11 +40,7 @@ constexpr core::Tool kTools[] = {
         .text = QT_TRANSLATE_NOOP("anniversaries", "Print"),
         .toolTip = QT_TRANSLATE_NOOP("anniversaries", "The list as a report"),
         .places = kIcon | core::Tool::GroupStart},
-    {.id = u"Export",
-        .icon = u"export",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Export"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Save the list as a file"),
-        .places = kIcon},
+    tools::kExport,
     {.id = u"SaveCalendar",
         .icon = u"save",
         .text = QT_TRANSLATE_NOOP("anniversaries", "Save as calendar file"),

@@ -2,9 +2,9 @@
 
 #include "anniversaries/list/birthday_list_sql.h"
 #include "anniversaries/list/frmbday.h"
-#include "anniversaries/wishes/send_letter.h"
 #include "anniversaries/wishes/send_wish.h"
 #include "anniversaries/wishes/TimedWishPanel.h"
+#include "anniversaries/wishes/wish_tools.h"
 #include "anniversaries/year/year_sign.h"
 #include "core/contact_tool_table.h"
 #include "core/contact_tools.h"
@@ -49,7 +49,6 @@ constexpr YearVariant kSigns{YearKind::Signs, u"FormZodiacYr",
     u"  is Anniversary of ", u"Anniversary", true};
 
 constexpr int kIcon = core::Tool::IconOnly;
-constexpr int kMenu = core::Tool::Menu;
 constexpr core::Tool kTools[] = {
     {.id = u"Birthday",
         .icon = u"cake",
@@ -62,26 +61,10 @@ constexpr core::Tool kTools[] = {
         .toolTip
         = QT_TRANSLATE_NOOP("anniversaries", "Wishes are for the wedding anniversary; keep an e-mail for it"),
         .places = kIcon},
-    {.id = u"SendLetter",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by letter"),
-        .form = kLetterScreen,
-        .places = kIcon | kMenu | core::Tool::GroupStart},
-    {.id = u"SendEmail",
-        .icon = u"envelope",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send by e-mail"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Write the wishes as an e-mail and look at it"),
-        .places = kIcon | kMenu},
-    {.id = u"sendtoday",
-        .icon = u"next",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Send to Outbox today"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Send the wishes by e-mail at once"),
-        .places = kIcon | kMenu},
-    {.id = u"Confirm",
-        .icon = u"question",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Confirm before sending"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Keep an e-mail with the wishes for the day"),
-        .places = kIcon | kMenu},
+    tools::kSendLetter,
+    tools::kSendEmail,
+    tools::kSendToday,
+    tools::kConfirm,
     {.id = u"TransTask",
         .icon = u"calendar",
         .text = QT_TRANSLATE_NOOP("anniversaries", "Copy to Scheduler"),
@@ -97,11 +80,7 @@ constexpr core::Tool kTools[] = {
         .text = QT_TRANSLATE_NOOP("anniversaries", "Print the year"),
         .toolTip = QT_TRANSLATE_NOOP("anniversaries", "The calendar on one page"),
         .places = kIcon},
-    {.id = u"Export",
-        .icon = u"export",
-        .text = QT_TRANSLATE_NOOP("anniversaries", "Export"),
-        .toolTip = QT_TRANSLATE_NOOP("anniversaries", "Save the list as a file"),
-        .places = kIcon},
+    tools::kExport,
 };
 
 QStringList marks()
