@@ -88,20 +88,24 @@ private Q_SLOTS:
     {
         m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Old','Cyd H1','222',3)"_s);
         m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Old','Cyd H2','333',3)"_s);
+        m_f->execute(u"insert into cnt_phlist (listname,Name,PerId) values ('Old','Ann Mob',1)"_s);
+        m_f->execute(u"insert into cnt_phlist (listname) values ('Old')"_s);
         m_f->execute(u"insert into cnt_phlist (listname,Name,phone,PerId) values ('Kin','Bob H1','222',2)"_s);
         open();
-        support::clickRow(grid(u"list1"_s), 1);
-        support::clickRow(grid(u"FGPhone"_s), 0, 2);
+        support::choose(m_form, u"DBCombo1"_s, u"Old"_s);
+        support::clickRow(grid(u"FGPhone"_s), 1, 2);
         QCOMPARE(child<QLabel>(m_form, u"lblname"_s)->text(), u"Bob  222"_s);
         m_f->boxes.expect(u"Are you sure you want to delete ? "_s, platform::Answer::No);
         click(m_form, u"SSCommand10"_s);
-        QCOMPARE(grid(u"FGPhone"_s)->rowCount(), 3);
-        m_f->boxes.expect(u"Are you sure you want to delete ? "_s, platform::Answer::Yes);
+        QCOMPARE(grid(u"FGPhone"_s)->rowCount(), 4);
         m_form->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_form));
         grid(u"FGPhone"_s)->setFocus();
-        QTest::keyClick(grid(u"FGPhone"_s), Qt::Key_Delete);
-        QCOMPARE(shown(u"FGPhone"_s, u"name"_s), u"Cyd H2"_s);
+        for (const QString& left : {u"Ann Mob,Cyd H2"_s, u"Ann Mob"_s, u""_s}) {
+            m_f->boxes.expect(u"Are you sure you want to delete ? "_s, platform::Answer::Yes);
+            QTest::keyClick(grid(u"FGPhone"_s), Qt::Key_Delete);
+            QCOMPARE(shown(u"FGPhone"_s, u"name"_s), left);
+        }
         m_f->boxes.expect(
             u"Are you sure you want to delete the list Old with all its numbers?"_s, platform::Answer::Yes);
         grid(u"list1"_s)->setFocus();

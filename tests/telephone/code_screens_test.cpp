@@ -162,6 +162,9 @@ private Q_SLOTS:
         open(u"FrmCityUtil"_s);
         m_f->boxes.expect(u"Select a city "_s);
         support::clickRow(grid(u"FG1"_s), 0, 1);
+        support::type(m_form, u"DBCity"_s, u"Nowhere"_s);
+        QTest::keyClick(child<QComboBox>(m_form, u"DBCity"_s)->lineEdit(), Qt::Key_Return);
+        QCOMPARE(grid(u"FG1"_s)->rowCount(), 0);
         support::choose(m_form, u"DBCity"_s, u"Pune"_s);
         m_f->boxes.expect(u"Record not selected"_s);
         click(m_form, u"Label2"_s);

@@ -258,8 +258,11 @@ QWidget* frmbday::layOutFoot()
         = button(u"SSCommand8"_s, tr("Su&mmary"), u"zodiac", tr("How many birthdays a sign and a month has"));
     summary->setEnabled(context().screens.has(kSummary));
     connect(summary, &QPushButton::clicked, this, [this] { context().screens.show(kSummary); });
-    auto* counts = new QLabel(tr("By sign and month"));
-    counts->setObjectName(u"Label18"_s);
+    auto* counts = button(u"Label18"_s, tr("By sign and month"), {}, summary->toolTip());
+    counts->setFlat(true);
+    counts->setFocusPolicy(Qt::NoFocus); // the keys have the button beside it
+    counts->setEnabled(summary->isEnabled());
+    connect(counts, &QPushButton::clicked, summary, &QPushButton::click);
     auto* help = button(u"CmdHelp"_s, tr("&Help"), u"help", {});
     connect(help, &QPushButton::clicked, this, [this, help] { showHelp(u"CON0032"_s, help); });
     auto* foot = new QWidget;

@@ -35,9 +35,9 @@ TimedWishPanel::TimedWishPanel(core::Context& context, core::Screen* screen)
         .date(u"dtpSendDate"_s, tr("Send &on"))
         .beside()
         .caption(u"lblSendDay"_s)
-        .check(u"chkAsk"_s, tr("&Ask me on that day"))
+        .check(u"chkAsk"_s, tr("As&k me on that day"))
         .hint(tr("At the first start from that day on the program offers to send it"))
-        .button(u"CmdSave"_s, tr("Sa&ve"), u"save", tr("Keep the wishes for that day"))
+        .button(u"CmdSave"_s, tr("Save"), u"save", tr("Keep the wishes for that day (Enter)"))
         .button(u"CmdHideTimed"_s, tr("Cancel"), u"cancel", tr("Send nothing (Esc)"));
     dtpSendDate = widgets::child<widgets::DateBox>(this, u"dtpSendDate"_s);
     dtpSendDate->setFormat(u"dd-MMM-yyyy"_s);

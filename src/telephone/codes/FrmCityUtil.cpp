@@ -16,6 +16,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 
@@ -51,6 +52,10 @@ FrmCityUtil::FrmCityUtil(core::Context& context, QWidget* parent)
     setWindowTitle(tr("City Utility"));
     layOut();
     connect(DBCity, &QComboBox::currentTextChanged, this, &FrmCityUtil::chooseCity);
+    connect(DBCity->lineEdit(), &QLineEdit::editingFinished, this, [this] {
+        if (m_listedCity != city())
+            readServices();
+    });
     connect(DBCategory, &QComboBox::currentTextChanged, this, &FrmCityUtil::readServices);
     connect(FG1, &widgets::HeadingGrid::currentRowChanged, this, &FrmCityUtil::showService);
     connect(FG1, &QTableView::clicked, this, &FrmCityUtil::clickService);
@@ -136,16 +141,18 @@ void FrmCityUtil::chooseCity()
         const QSignalBlocker quiet(DBCategory);
         DBCategory->setText({});
     }
+    // While a name is being typed there is no such city yet, and the list stays.
+    if (!city().isEmpty() && DBCity->lineEdit()->hasFocus()
+        && context().info.openRecordset(servicesSql(city(), {})).isEmpty())
+        return;
     readServices();
 }
 
-// While a name is being typed there is no such city yet, and the list stays.
 void FrmCityUtil::readServices()
 {
     jet::Recordset rows
         = context().info.openRecordset(servicesSql(city(), DBCategory->currentText().trimmed()));
-    if (rows.isEmpty() && !city().isEmpty() && DBCity->lineEdit()->hasFocus())
-        return;
+    m_listedCity = city();
     FG1->fill(std::move(rows));
     FG1->setCurrentRow(-1);
     showService(-1);

@@ -40,6 +40,7 @@ private:
     void call();
 
     SavedBy m_savedBy = SavedBy::City;
+    QString m_listedCity;
     CityService m_service; ///< that is shown; without an id for none
     core::ContactTools* m_tools;
     widgets::HeadingGrid* FG1;

@@ -72,7 +72,7 @@ FrmPhList::FrmPhList(core::Context& context, QWidget* parent)
           {.callerForm = u"FrmPhList"_s,
               .chosen =
                   [this] {
-                      const qint64 id = personIn(m_chosenIn);
+                      const qint64 id = personIn(m_chosenIn->currentRow() < 0 ? FG : m_chosenIn);
                       return core::ChosenContact{id, id};
                   }},
           this))
@@ -528,7 +528,7 @@ void FrmPhList::deleteNumber()
             tr("Are you sure you want to delete ? "), shared().AppTitle, platform::Icon::Warning)
         == platform::Answer::No)
         return;
-    if (!telephone::deleteNumber(context().data, m_list, FGPhone->currentText(u"phone"_s)))
+    if (!telephone::deleteNumber(context().data, m_list, FGPhone->currentText(u"phone"_s), personIn(FGPhone)))
         return core::tellFailedSave(context());
     playSound(core::sounds::Delete);
     afterChange();

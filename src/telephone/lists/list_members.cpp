@@ -66,13 +66,14 @@ bool deleteList(jet::Database& book, const QString& list)
     return book.execute(u"delete from cnt_phlist where listname='%1'"_s.arg(inQuotes(list))).ok;
 }
 
-bool deleteNumber(jet::Database& book, const QString& list, const QString& phone)
+bool deleteNumber(jet::Database& book, const QString& list, const QString& phone, qint64 person)
 {
     const jet::Step step(book, translated("deleting %1 from the list %2").arg(phone, list));
-    return book
-        .execute(u"delete from cnt_phlist where listname='%1' and phone ='%2'"_s.arg(
-            inQuotes(list), inQuotes(phone)))
-        .ok;
+    const QString ofList = u"delete from cnt_phlist where listname='"_s + inQuotes(list) + u"' and "_s;
+    if (phone.isEmpty())
+        return book.execute(ofList + u"(phone is null or phone='') and perid="_s + QString::number(person))
+            .ok;
+    return book.execute(ofList + u"phone ='"_s + inQuotes(phone) + u'\'').ok;
 }
 
 } // namespace telephone

@@ -30,7 +30,8 @@ MemberAdded addMember(jet::Database& book, const QString& list, const NewMember&
 bool addList(jet::Database& book, const QString& list);
 /// Takes a list away with all its numbers.
 bool deleteList(jet::Database& book, const QString& list);
-/// Takes every row of the list with that number away, also those of other persons.
-bool deleteNumber(jet::Database& book, const QString& list, const QString& phone);
+/// Takes every row of the list with that number away, also those of other persons. Of rows without a number
+/// only those of the person go.
+bool deleteNumber(jet::Database& book, const QString& list, const QString& phone, qint64 person);
 
 } // namespace telephone
