@@ -73,6 +73,12 @@ FrmCityUtil::FrmCityUtil(core::Context& context, QWidget* parent)
     setFocusProxy(DBCity);
 }
 
+// A field that loses the focus as it goes says that its text is entered.
+FrmCityUtil::~FrmCityUtil()
+{
+    DBCity->lineEdit()->disconnect(this);
+}
+
 void FrmCityUtil::layOut()
 {
     FG1->setHeadings(kServiceHeadings, {QString(), u"category"_s, u"uname"_s, u"city"_s});

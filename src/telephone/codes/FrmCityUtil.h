@@ -23,6 +23,7 @@ class FrmCityUtil : public core::Screen {
 
 public:
     explicit FrmCityUtil(core::Context& context, QWidget* parent = nullptr);
+    ~FrmCityUtil() override;
 
     void load() override;
     void bookChanged() override;

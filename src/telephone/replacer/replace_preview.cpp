@@ -126,7 +126,7 @@ QString nothingBeginsSo(const Replacement& replacement)
 
 QCheckBox* makePreviewBox(core::Context& context, QWidget* parent)
 {
-    auto* box = new QCheckBox(translated("Show this before replacing"), parent);
+    auto* box = new QCheckBox(translated("Show what will change before replacing"), parent);
     box->setObjectName(u"ChkPreview"_s);
     box->setToolTip(translated("Show what will change before it is changed"));
     box->setChecked(showsPreview(context));

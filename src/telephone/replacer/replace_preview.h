@@ -13,7 +13,7 @@ namespace telephone {
 /// @return whether something was changed
 bool replaceWithPreview(core::Context& context, const Replacement& replacement, QWidget* over);
 
-/// "Show this before replacing", kept for this computer.
+/// "Show what will change before replacing", kept for this computer.
 QCheckBox* makePreviewBox(core::Context& context, QWidget* parent);
 /// Brings such a box up to what another one was set to.
 void followPreviewSetting(const core::Context& context, QCheckBox* box);
