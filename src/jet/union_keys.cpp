@@ -7,6 +7,7 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace jet {
 
@@ -28,6 +29,47 @@ bool mayBeSame(sqlite3_stmt* row, int a, int b)
             size_t(sqlite3_column_bytes(row, column)));
     };
     return compareJet(text(a), text(b)) == 0;
+}
+
+constexpr qint32 kNull = std::numeric_limits<qint32>::min();
+
+/// Sorts refs that stand in the order of their keys: each into the place of its leads, which are few as the
+/// days of a year are. False, with nothing done, when there may be many.
+bool sortByFewLeads(std::vector<UnionRef>& refs)
+{
+    constexpr qint64 kMostPlaces = 1 << 17;
+    std::array<qint64, UnionParts::kMostLeads> least{};
+    std::array<qint64, UnionParts::kMostLeads> widths{};
+    qint64 places = 1;
+    for (size_t i = 0; i < widths.size(); ++i) {
+        qint64 low = std::numeric_limits<qint64>::max();
+        qint64 high = std::numeric_limits<qint64>::min();
+        for (const UnionRef& ref : refs) {
+            if (ref.leads[i] == kNull)
+                continue;
+            low = std::min<qint64>(low, ref.leads[i]);
+            high = std::max<qint64>(high, ref.leads[i]);
+        }
+        least[i] = low;
+        widths[i] = high < low ? 1 : high - low + 2; // the first one for null
+        if (widths[i] > kMostPlaces || (places *= widths[i]) > kMostPlaces)
+            return false;
+    }
+    const auto placeOf = [&](const UnionRef& ref) {
+        qint64 place = 0;
+        for (size_t i = 0; i < widths.size(); ++i)
+            place = place * widths[i] + (ref.leads[i] == kNull ? 0 : ref.leads[i] - least[i] + 1);
+        return size_t(place);
+    };
+    std::vector<size_t> starts(size_t(places) + 1);
+    for (const UnionRef& ref : refs)
+        ++starts[placeOf(ref) + 1];
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
+    std::vector<UnionRef> sorted(refs.size());
+    for (const UnionRef& ref : refs)
+        sorted[starts[placeOf(ref)]++] = ref;
+    refs = std::move(sorted);
+    return true;
 }
 
 } // namespace
@@ -74,13 +116,12 @@ std::vector<int> UnionKeys::blocksOf(sqlite3_int64 id) const
 
 std::optional<qint32> leadAt(sqlite3_stmt* row, int column)
 {
-    constexpr qint32 least = std::numeric_limits<qint32>::min();
     const int type = sqlite3_column_type(row, column);
     if (type == SQLITE_NULL)
-        return least;
+        return kNull;
     const double lead = sqlite3_column_double(row, column);
     const bool isNumber = type == SQLITE_INTEGER || type == SQLITE_FLOAT;
-    if (!isNumber || lead != std::floor(lead) || lead <= least || lead > std::numeric_limits<qint32>::max())
+    if (!isNumber || lead != std::floor(lead) || lead <= kNull || lead > std::numeric_limits<qint32>::max())
         return {};
     return qint32(lead);
 }
@@ -183,7 +224,9 @@ void UnionReader::add(sqlite3_int64 id, quint32 arms, bool isDoubtful)
 
 std::vector<UnionRef> UnionReader::take()
 {
-    if (!std::is_sorted(m_refs.begin(), m_refs.end()))
+    const bool isByKey = std::is_sorted(
+        m_refs.begin(), m_refs.end(), [](const UnionRef& a, const UnionRef& b) { return a.id < b.id; });
+    if (!std::is_sorted(m_refs.begin(), m_refs.end()) && !(isByKey && sortByFewLeads(m_refs)))
         std::sort(m_refs.begin(), m_refs.end());
     return std::move(m_refs);
 }

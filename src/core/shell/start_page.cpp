@@ -88,6 +88,10 @@ StartPage::StartPage(
     m_first->setMinimumSize(300, 150);
     widgets::setIcon(m_first, u"person-add");
 
+    constexpr int kBirthdaysMs = 400;
+    m_birthdaysDue.setSingleShot(true);
+    m_birthdaysDue.setInterval(kBirthdaysMs);
+    connect(&m_birthdaysDue, &QTimer::timeout, this, &StartPage::readBirthdays);
     m_typed.setSingleShot(true);
     m_typed.setInterval(kTypedMs);
     connect(m_search, &QLineEdit::textChanged, &m_typed, qOverload<>(&QTimer::start));
@@ -230,12 +234,16 @@ void StartPage::readBook()
     m_first->setVisible(contacts == 0);
     m_search->setVisible(contacts > 0);
     search();
-    // Of a large book this is the longest part: the rest of the page is there before.
-    QTimer::singleShot(0, this, &StartPage::readBirthdays);
+    // Of a large book this is the longest part: the rest of the page is there before, and a screen that is
+    // opened at once too.
+    m_birthdaysDue.start();
 }
 
 void StartPage::readBirthdays()
 {
+    // Whoever comes back to the page has it read then.
+    if (!isVisible())
+        return m_bookRead.clear();
     m_birthdays->clear();
     const QDate today = m_context.services.clock.today();
     const auto coming = m_showsBirthdays && m_context.data.isOpen()

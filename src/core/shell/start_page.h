@@ -64,6 +64,7 @@ private:
     QList<QToolButton*> m_tools;
     QString m_bookRead; ///< the state of the book that is shown
     QTimer m_typed;
+    QTimer m_birthdaysDue;
     bool m_showsAll = false;
     bool m_showsBirthdays = true;
 };
