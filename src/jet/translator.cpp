@@ -83,7 +83,14 @@ private:
         Translation result;
         selection(s, &result.columns);
         result.main = takePiece();
-        result.parts = unionParts(s, result.columns);
+        // What can be run as a whole is not to fail for its parts.
+        const size_t scopes = m_scopes.size();
+        try {
+            result.parts = unionParts(s, result.columns);
+        } catch (const Refusal&) {
+            takePiece();
+            m_scopes.resize(scopes);
+        }
         return result;
     }
 

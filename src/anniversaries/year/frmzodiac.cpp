@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -210,8 +211,11 @@ QWidget* frmzodiac::layOutList()
 void frmzodiac::load()
 {
     findChild<QAbstractButton*>(u"Aries"_s)->setChecked(true);
-    choose(u"Aries"_s);
+    m_sign = u"Aries"_s;
+    showReference(m_sign);
     setFrameTitle(windowTitle());
+    // In a large book the people take longer than the page.
+    QTimer::singleShot(0, this, &frmzodiac::listPeople);
 }
 
 void frmzodiac::bookChanged()
