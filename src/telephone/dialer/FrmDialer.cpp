@@ -20,6 +20,7 @@
 #include "telephone/dialer/modem_setup.h"
 #include "telephone/dialer/number_panel.h"
 #include "telephone/dialer/person_picker.h"
+#include "telephone/sql_text.h"
 #include "widgets/filled_combo.h"
 #include "widgets/long_text.h"
 
@@ -266,7 +267,7 @@ void FrmDialer::dialSlot(int slot)
     const QString caption = m_memory->caption(slot);
     const jet::Recordset row = context().data.openRecordset(memorySlotSql(m_memory->list(), slot));
     const jet::Recordset byCaption = context().data.openRecordset(memoryByCaptionSql(caption));
-    // A caption with an apostrophe finds nothing, the place itself is there.
+    // A caption that reads as another pattern finds nothing, the place itself is there.
     const jet::Recordset& found = byCaption.hasRow() ? byCaption : row;
     const QString name = found.textOrEmpty(u"Name");
     label(u"Label27"_s)->setText(widgets::beginning(label(u"Label27"_s), u"       "_s + name));
@@ -309,9 +310,9 @@ void FrmDialer::clearSlot(int slot)
 {
     {
         const jet::Step step(context().data, tr("emptying a place of the memory"));
-        if (!context().data.execute(
-                u"Delete * from cnt_phonenum where list='%1' and cmbnum = %2"_s.arg(m_memory->list())
-                    .arg(slot)))
+        if (!context().data.execute(u"Delete * from cnt_phonenum where list='%1' and cmbnum = %2"_s
+                                        .arg(inQuotes(m_memory->list()))
+                                        .arg(slot)))
             return core::tellFailedSave(context());
     }
     playSound(core::sounds::Delete);

@@ -159,7 +159,7 @@ void DialerSetup::addList(const QString& name)
     Q_EMIT listAdded(name);
 }
 
-// A name with an apostrophe, from another program, leaves the list as it is, which is told.
+// A list that has gone meanwhile can not be renamed, which is told.
 void DialerSetup::renameList(const QString& to)
 {
     {

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-/// The statements of the dialer. Texts stand in them as they are; one with an apostrophe breaks its
-/// statement.
+/// The statements of the dialer. Apostrophes of the values are doubled; wildcards stand for what they do.
 namespace telephone {
 
 inline constexpr int kMemorySlots = 10;
