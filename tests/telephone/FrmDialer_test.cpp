@@ -81,9 +81,11 @@ private Q_SLOTS:
         support::type(dialer, u"DBPurpose"_s, u"Ann's order"_s);
         for (int i = 0; i < 3; ++i)
             click(dialer, u"Check1"_s);
+        support::type(dialer, u"txtNum"_s, u"020112"_s); // the number that is there counts
+        click(dialer, u"Cmdmisc"_s);
         click(dialer, u"cmdCallSave"_s);
         QCOMPARE(f->book.rows(u"select PerId,Numb,Name,[date],todo,nextcall,calllater from cnt_phcall"_s),
-            QStringList{u"1|020111|Asha Oberoi|2024-03-15|Ann's order|2024-03-18|true"_s});
+            QStringList{u"1|020112|Asha Oberoi|2024-03-15|Ann's order|2024-03-18|true"_s});
         QCOMPARE(control<widgets::HeadingGrid>(u"GridCalls"_s)->rowCount(), 1);
         QCOMPARE(f->frame.notices.last(), u"Saved the call to Asha Oberoi [Undo]"_s);
     }

@@ -124,6 +124,7 @@ private Q_SLOTS:
         QCOMPARE(f->target(u"FrmDialer"_s)->contacts, QList<qint64>{1});
         QCOMPARE(f->book.rows(u"select Callper1,SelectcallPer1,emailper5,SelectEmailPer5 from OV_PendWork"_s),
             QStringList{u"Asha|false|Ms O'Hara|true"_s});
+        support::type(screen, u"letterper1"_s, u"Zed"_s); // the tool takes no focus
         f->drive.ensureFolder(u"C:\\Desktop");
         clickTool(screen, u"CopyPendingItemonDesktop"_s);
         clickTool(screen, u"GeneratetextFile"_s);
@@ -132,7 +133,8 @@ private Q_SLOTS:
         const QByteArray rule = QByteArray(50, '-') + "\r\n";
         QCOMPARE(file.readAll(),
             rule + "Calls\r\n" + rule + "Asha -Call Not Done\r\n" + rule + "E-mails\r\n" + rule
-                + "Ms O'Hara -Email Done\r\n" + rule + "Letters\r\n" + rule + rule);
+                + "Ms O'Hara -Email Done\r\n" + rule + "Letters\r\n" + rule + "Zed -Letter Not Done\r\n"
+                + rule);
         QVERIFY(f->drive.exists(u"C:\\Orvane Communicator.txt"));
         // A line without a name has nothing to be done; all of it goes only after a question.
         support::type(screen, u"emailper5"_s, QString());

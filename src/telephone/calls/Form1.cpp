@@ -1,5 +1,6 @@
 #include "telephone/calls/Form1.h"
 
+#include "core/contact_lookups.h"
 #include "core/date_patterns.h"
 #include "core/handover/contact_screen.h"
 #include "core/list_presenter.h"
@@ -361,8 +362,11 @@ void Form1::resetFilters()
 
 void Form1::narrow()
 {
-    if (widgets::DateBox* bad = widgets::DateBox::firstBad(this))
-        return bad->askToMend();
+    // That of the editor is asked for by its own save.
+    for (widgets::DateBox* box : {m_from, m_to}) {
+        if (box->holdsBadText())
+            return box->askToMend();
+    }
     m_dates = callDates(m_from->date(), m_to->date());
     resetFilters();
     if (sstab1->currentIndex() == kToMake)
@@ -396,9 +400,12 @@ void Form1::callAgain()
         u"select * from cnt_phcall where id="_s + QString::number(FG1->currentKey()));
     if (!call.hasRow())
         return inform(tr("Record not selected"));
+    // By the name that the person has now, by which the dialer knows whose number it is.
+    const jet::Recordset person = context().data.openRecordset(core::contactByIdSql(call.number(u"PerId")));
     if (auto* dialer = context().screens.load<core::ContactScreen>(kDialer))
         dialer->showContact(call.number(u"PerId"));
-    handOverNumber(context(), call.textOrEmpty(u"Numb"), call.textOrEmpty(u"Name"));
+    handOverNumber(context(), call.textOrEmpty(u"Numb"),
+        person.hasRow() ? person.textOrEmpty(u"Name") : call.textOrEmpty(u"Name"));
 }
 
 void Form1::editCall()

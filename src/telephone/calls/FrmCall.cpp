@@ -13,6 +13,7 @@
 #include "platform/storage.h"
 #include "platform/text_file.h"
 #include "telephone/dialer/dialer_statements.h"
+#include "telephone/sql_text.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/theme.h"
@@ -287,7 +288,7 @@ void FrmCall::handOver(int kind, int line)
     const QString name = nameBox(kind, line)->currentText();
     if (name.trimmed().isEmpty())
         return inform(tr("Select Person Name"));
-    const jet::Recordset contact = context().data.openRecordset(core::contactByNameSql(name));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByNameSql(inQuotes(name)));
     if (!contact.hasRow())
         return inform(tr("Record not selected"));
     const qint64 id = contact.number(u"id");
@@ -301,6 +302,7 @@ void FrmCall::handOver(int kind, int line)
 
 bool FrmCall::writeText(const QString& path)
 {
+    storeNames();
     if (platform::writeText(context().services.drive, path, pendingText(list()))) {
         playSound(core::sounds::Save);
         m_hint->setText(tr("Written to %1").arg(path));
@@ -343,13 +345,30 @@ void FrmCall::deleteAll()
     context().screens.tellBookChanged(this);
 }
 
+bool FrmCall::isTouched() const
+{
+    for (int kind = 0; kind < int(pendingKinds().size()); ++kind) {
+        for (int line = 0; line < kPendingLines; ++line) {
+            if (nameBox(kind, line)->currentText() != m_stored[kind][line].name)
+                return true;
+        }
+    }
+    return false;
+}
+
 bool FrmCall::mayClose()
+{
+    storeNames();
+    return mayDiscard();
+}
+
+// A tool of the bar leaves the focus, and what is typed, in the field.
+void FrmCall::storeNames()
 {
     for (int kind = 0; kind < int(pendingKinds().size()); ++kind) {
         for (int line = 0; line < kPendingLines; ++line)
             storeName(kind, line);
     }
-    return true;
 }
 
 void FrmCall::keyPressEvent(QKeyEvent* event)

@@ -27,6 +27,7 @@ public:
 
     void load() override;
     void bookChanged() override;
+    bool isTouched() const override; ///< a name that could not be stored
     bool mayClose() override; ///< what stands in a field is stored first
 
 protected:
@@ -41,6 +42,7 @@ private:
     void show(const jet::Recordset& row);
     PendingList list() const;
     void storeName(int kind, int line);
+    void storeNames();
     void storeTick(int kind, int line);
     bool store(const QString& column, const QVariant& value);
     void follow(int kind, int line);

@@ -152,8 +152,7 @@ void FrmDialer::offerNumber(const QString& number, const QString& who)
     label(u"labelcity"_s)->clear();
     showCityTime();
     showLabels(0, who);
-    cboPrefix->setValues({});
-    cboNum->setValues({});
+    fillPrefixes(NumberKind::None);
     setNumber(number, 0);
     closePanel();
     enterNumber();
@@ -284,6 +283,7 @@ void FrmDialer::dialSlot(int slot)
         m_contact = {};
         showCityTime();
         m_numbers->show(contactText());
+        fillPrefixes(tag.kind);
     }
     // The name alone, up to the dash before the tag.
     const QString stored = row.textOrEmpty(u"Name");
@@ -439,9 +439,12 @@ void FrmDialer::forgetNumber()
 
 void FrmDialer::endCall()
 {
+    const bool wasRunning = m_call->isRunning();
     m_call->cancel();
     DialButton->setEnabled(true);
-    saveCall();
+    // A call that was given up before has nothing to record.
+    if (!wasRunning || !txtNum->text().isEmpty() || !m_name.isEmpty())
+        saveCall();
 }
 
 void FrmDialer::saveCall()
@@ -450,7 +453,9 @@ void FrmDialer::saveCall()
         return inform(tr("Record not selected"));
     const bool isOpen = m_right->currentWidget() == frmCallSaveAs;
     showPanel(frmCallSaveAs);
-    if (!isOpen && m_right->currentWidget() == frmCallSaveAs)
+    if (isOpen)
+        frmCallSaveAs->setCall({m_id, txtNum->text(), m_name});
+    else if (m_right->currentWidget() == frmCallSaveAs)
         frmCallSaveAs->open({m_id, txtNum->text(), m_name});
 }
 

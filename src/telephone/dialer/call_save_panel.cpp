@@ -82,9 +82,15 @@ bool CallSavePanel::edit(qint64 callId)
     return true;
 }
 
+void CallSavePanel::setCall(const DialledCall& call)
+{
+    m_call = call;
+    m_what->setText(m_call.name.isEmpty() ? m_call.number : m_call.name + u'\n' + m_call.number);
+}
+
 void CallSavePanel::showValues(const Entered& values, const std::optional<QDate>& next)
 {
-    m_what->setText(m_call.name.isEmpty() ? m_call.number : m_call.name + u'\n' + m_call.number);
+    setCall(m_call);
     for (widgets::FilledCombo* combo : {DBPurpose, DBResponse})
         combo->refill();
     DBPurpose->setText(values.purpose);

@@ -32,6 +32,8 @@ public:
     explicit CallSavePanel(core::Context& context, QWidget* parent = nullptr);
 
     void open(const DialledCall& call);
+    /// Another call is the one to be recorded; what was entered stays.
+    void setCall(const DialledCall& call);
     /// To mend one that was recorded; false when it is not there any more.
     bool edit(qint64 callId);
     bool isTouched() const;

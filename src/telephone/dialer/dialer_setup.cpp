@@ -92,6 +92,7 @@ void DialerSetup::read()
     show(u"txtPrefix2"_s, m_stored.p2);
     show(u"txtPrefix3"_s, m_stored.p3);
     show(u"txtpbx"_s, m_stored.pbx);
+    m_stored = prefixes(); // as the lines have them
     Text2->clear();
     m_hint->clear();
     setMode(Mode::None);
@@ -180,8 +181,11 @@ void DialerSetup::deleteList()
         return m_hint->setText(tr("Mark a list first"));
     {
         const jet::Step step(m_context.data, tr("deleting the memory list %1").arg(name));
-        if (!m_context.data.execute(deleteListSql(name)))
+        const jet::Outcome deleted = m_context.data.execute(deleteListSql(name));
+        if (!deleted)
             return core::tellFailedSave(m_context);
+        if (deleted.changed == 0)
+            return m_hint->setText(tr("There is no list of that name"));
     }
     m_context.services.sounds.play(core::sounds::Delete);
     Text2->clear();

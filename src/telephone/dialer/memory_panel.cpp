@@ -93,7 +93,7 @@ void MemoryPanel::readLists()
 
 void MemoryPanel::readSlots()
 {
-    jet::Recordset rows = m_data.openRecordset(memorySlotsSql(cmbphone->currentText()));
+    jet::Recordset rows = m_data.openRecordset(memorySlotsSql(list()));
     for (int slot = 0; slot < kMemorySlots; ++slot) {
         const bool isNamed = rows.findFirst(u"cmbnum=%1"_s.arg(slot)) && rows.value(u"Name").isValid();
         m_slots[slot]->setValue(isNamed ? rows.textOrEmpty(u"Name") : u"Empty"_s);
@@ -102,7 +102,8 @@ void MemoryPanel::readSlots()
 
 QString MemoryPanel::list() const
 {
-    return cmbphone->currentText().trimmed();
+    const QString text = cmbphone->currentText();
+    return cmbphone->values().contains(text) ? text : text.trimmed();
 }
 
 void MemoryPanel::showList(const QString& list)
