@@ -1,6 +1,7 @@
 #include "telephone/search/phone_search_tools.h"
 
-#include <qnamespace.h>
+#include "telephone/contact_rows.h"
+
 #include <QtGlobal>
 
 namespace telephone {
@@ -11,25 +12,9 @@ using enum core::Tool::Place;
 using Task = core::ToolTask;
 
 constexpr core::Tool kTools[] = {
-    {.id = u"Call",
-        .icon = u"phone",
-        .text = QT_TRANSLATE_NOOP("telephone", "Call"),
-        .toolTip = QT_TRANSLATE_NOOP("telephone", "Show the person in the dialer"),
-        .task = Task::HandOver,
-        .form = u"FrmDialer",
-        .places = Labelled | Menu},
-    {.id = u"Email2",
-        .icon = u"envelope",
-        .text = QT_TRANSLATE_NOOP("telephone", "E-mail"),
-        .task = Task::AddRecipient,
-        .form = u"FormEmail",
-        .places = Labelled | Menu},
-    {.id = u"Letter",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("telephone", "Letter"),
-        .task = Task::HandOver,
-        .form = u"FrmLetter",
-        .places = Labelled | Menu},
+    rows::kCall,
+    rows::kEmail,
+    rows::kLetter,
     {.id = u"Details",
         .icon = u"link",
         .text = QT_TRANSLATE_NOOP("telephone", "Details"),
@@ -43,12 +28,7 @@ constexpr core::Tool kTools[] = {
         .task = Task::HandOver,
         .form = u"FullView",
         .places = IconOnly | Menu},
-    {.id = u"EditDetails",
-        .icon = u"person-edit",
-        .text = QT_TRANSLATE_NOOP("telephone", "Edit details"),
-        .task = Task::EditContact,
-        .form = u"FormMain",
-        .places = IconOnly | Menu},
+    rows::kEditDetails,
     {.id = u"SavetoDesktop",
         .icon = u"export",
         .text = QT_TRANSLATE_NOOP("telephone", "Save to the desktop"),
