@@ -196,9 +196,6 @@ void DayCalendar::placeHead()
 {
     if (!m_first.isValid())
         return;
-    m_title->setText(m_span == Span::Month
-            ? QLocale().standaloneMonthName(m_first.month()) + u' ' + QString::number(m_first.year())
-            : QString::number(m_first.year()));
     const QDate next = m_span == Span::Month ? m_first.addMonths(1) : m_first.addYears(1);
     m_back->setEnabled(isInRange(m_first.addDays(-1)));
     m_ahead->setEnabled(isInRange(next));
@@ -207,7 +204,16 @@ void DayCalendar::placeHead()
     m_back->setGeometry(0, 0, high, high);
     m_ahead->setGeometry(width() - high, 0, high, high);
     m_now->setGeometry(width() - high - nowWidth - 2, 0, nowWidth, high);
-    m_title->setGeometry(high, 0, qMax(0, width() - 2 * high - nowWidth), high);
+    const int room = qMax(0, width() - 2 * high - nowWidth - 2);
+    const QString year = QString::number(m_first.year());
+    const auto ofMonth = [&](QLocale::FormatType format) {
+        return QLocale().standaloneMonthName(m_first.month(), format) + u' ' + year;
+    };
+    QString title = m_span == Span::Month ? ofMonth(QLocale::LongFormat) : year;
+    if (m_span == Span::Month && m_title->fontMetrics().horizontalAdvance(title) > room)
+        title = ofMonth(QLocale::ShortFormat);
+    m_title->setText(title);
+    m_title->setGeometry(high, 0, room, high);
 }
 
 QSize DayCalendar::minimumSizeHint() const
