@@ -10,6 +10,7 @@
 #include "core/store/book_files.h"
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
+#include "letters/register_letters.h"
 #include "output/register_output.h"
 #include "platform/clock.h"
 #include "platform/desktop_boxes.h"
@@ -148,6 +149,7 @@ int main(int argc, char** argv)
     reports::registerReports(screens);
     anniversaries::registerAnniversaries(screens);
     telephone::registerTelephone(screens);
+    letters::registerLetters(screens);
 
     const shell::StorageNotice storageNotice(context);
     const shell::MailNotice mailNotice(context, post);

@@ -15,6 +15,7 @@ const QHash<QString, QStringList> kArrows{
     {u"formats"_s, {u"jet"_s}},
     {u"platform"_s, {u"formats"_s, u"jet"_s}},
     {u"widgets"_s, {u"platform"_s, u"formats"_s, u"jet"_s}},
+    {u"editor"_s, {u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"core"_s, {u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"output"_s, {u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
     {u"core/shell"_s, {u"output"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
@@ -22,7 +23,8 @@ const QHash<QString, QStringList> kArrows{
     {u"tools"_s, {u"core"_s, u"platform"_s, u"formats"_s, u"jet"_s}},
 };
 /// Every other room under src is a subsystem.
-const QStringList kOfASubsystem{u"output"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s};
+const QStringList kOfASubsystem{
+    u"output"_s, u"editor"_s, u"core"_s, u"widgets"_s, u"platform"_s, u"formats"_s, u"jet"_s};
 
 QList<File> filesUnder(const QStringList& folders, const QStringList& names)
 {

@@ -14,6 +14,7 @@
 #include "core/shell/window_state.h"
 #include "core/store/book_schema.h"
 #include "entry/register_entry.h"
+#include "letters/register_letters.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
 #include "support/columns.h"
@@ -634,6 +635,7 @@ private Q_SLOTS:
         reports::registerReports(f.registry);
         anniversaries::registerAnniversaries(f.registry);
         telephone::registerTelephone(f.registry);
+        letters::registerLetters(f.registry);
         transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         f.start();
@@ -773,6 +775,7 @@ private Q_SLOTS:
         entry::registerEntry(f.registry);
         anniversaries::registerAnniversaries(f.registry);
         telephone::registerTelephone(f.registry);
+        letters::registerLetters(f.registry);
         transfer::registerTransfer(f.registry);
         views::registerViews(f.registry);
         if (sample) // a mail that is due would ask

@@ -5,6 +5,7 @@
 #include "core/handover/contact_screen.h"
 #include "core/setup/register_setup.h"
 #include "entry/register_entry.h"
+#include "letters/register_letters.h"
 #include "support/person.h"
 #include "support/screen_fixture.h"
 #include "telephone/register_telephone.h"
@@ -47,6 +48,7 @@ private Q_SLOTS:
         fixture.shared.selectedContactName = Markup;
         anniversaries::registerAnniversaries(fixture.screens);
         telephone::registerTelephone(fixture.screens);
+        letters::registerLetters(fixture.screens);
         transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);
@@ -88,6 +90,7 @@ private Q_SLOTS:
             fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));
         anniversaries::registerAnniversaries(fixture.screens);
         telephone::registerTelephone(fixture.screens);
+        letters::registerLetters(fixture.screens);
         transfer::registerTransfer(fixture.screens);
         views::registerViews(fixture.screens);
         entry::registerEntry(fixture.screens);

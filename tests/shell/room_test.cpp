@@ -7,6 +7,7 @@
 #include "core/shell/MDIForm1.h"
 #include "core/shell/register_shell.h"
 #include "entry/register_entry.h"
+#include "letters/register_letters.h"
 #include "output/register_output.h"
 #include "reports/register_reports.h"
 #include "support/screen_fixture.h"
@@ -74,6 +75,7 @@ void RoomTest::everyScreen()
     registry.setContext(all);
     anniversaries::registerAnniversaries(registry);
     telephone::registerTelephone(registry);
+    letters::registerLetters(registry);
     transfer::registerTransfer(registry);
     views::registerViews(registry);
     entry::registerEntry(registry);

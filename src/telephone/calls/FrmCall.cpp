@@ -6,6 +6,7 @@
 #include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
+#include "core/sql_text.h"
 #include "core/tool_set.h"
 #include "platform/drive.h"
 #include "platform/message_boxes.h"
@@ -13,7 +14,6 @@
 #include "platform/storage.h"
 #include "platform/text_file.h"
 #include "telephone/dialer/dialer_statements.h"
-#include "telephone/sql_text.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/theme.h"
@@ -288,7 +288,7 @@ void FrmCall::handOver(int kind, int line)
     const QString name = nameBox(kind, line)->currentText();
     if (name.trimmed().isEmpty())
         return inform(tr("Select Person Name"));
-    const jet::Recordset contact = context().data.openRecordset(core::contactByNameSql(inQuotes(name)));
+    const jet::Recordset contact = context().data.openRecordset(core::contactByNameSql(core::inQuotes(name)));
     if (!contact.hasRow())
         return inform(tr("Record not selected"));
     const qint64 id = contact.number(u"id");

@@ -1,7 +1,7 @@
 #include "telephone/calls/call_statements.h"
 
+#include "core/sql_text.h"
 #include "jet/date_text.h"
-#include "telephone/sql_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +41,7 @@ QString filteredCallsSql(CallFilter filter, const QString& value)
     const QString column = filter == CallFilter::Person ? u"name"_s
         : filter == CallFilter::Purpose                 ? u"todo"_s
                                                         : u"result"_s;
-    return all + u" where "_s + column + u" like '"_s + inQuotes(value) + u'\'';
+    return all + u" where "_s + column + u" like '"_s + core::inQuotes(value) + u'\'';
 }
 
 QString callChoicesSql()

@@ -1,7 +1,7 @@
 #include "telephone/codes/Frmintstd.h"
 
+#include "core/sql_text.h"
 #include "core/vocabularies.h"
-#include "telephone/sql_text.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -123,8 +123,8 @@ void Frmintstd::offerValues()
     offer(m_country, true, world::countriesSql);
     offer(m_state, true, [this] { return world::statesOfSql(m_country->currentText()); });
     offer(DBCombo2, false, [this] {
-        return isAll(m_state->currentText()) ? world::citiesOfCountrySql(m_country->currentText())
-                                             : world::citiesOfStateSql(m_state->currentText());
+        return core::isAll(m_state->currentText()) ? world::citiesOfCountrySql(m_country->currentText())
+                                                   : world::citiesOfStateSql(m_state->currentText());
     });
     offer(DBCombo1, false, [] { return world::codesSql(CodeKind::Telephone); });
     offer(DBCombo3, false, [] { return world::codesSql(CodeKind::Pin); });
@@ -177,7 +177,7 @@ void Frmintstd::showCountryCode(const QString& country)
 {
     txtisd->setText(firstText(world::countryCodeSql(country)));
     const auto facts = context().info.openRecordset(
-        u"Select zip from wia_globalmas where country ='"_s + inQuotes(country) + u'\'');
+        u"Select zip from wia_globalmas where country ='"_s + core::inQuotes(country) + u'\'');
     txtPin->setText(facts.textOrEmpty(u"zip"));
 }
 
@@ -186,7 +186,7 @@ void Frmintstd::chooseState()
     setQuietly(DBCombo2, {});
     DBCombo2->refill();
     txtstd->clear();
-    if (isAll(m_state->currentText()))
+    if (core::isAll(m_state->currentText()))
         return;
     const QString country = firstText(world::countryOfStateSql(m_state->currentText()));
     if (country.isEmpty())

@@ -1,6 +1,6 @@
 #include "telephone/codes/address_words.h"
 
-#include "telephone/sql_text.h"
+#include "core/sql_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,12 +10,12 @@ namespace telephone {
 QString addressWordsSql(const QString& word, bool nationalMode)
 {
     return u"Select address from cnt_address where address like '%1*' and national='%2' order by address"_s
-        .arg(inQuotes(word), nationalMode ? u"C"_s : u"N"_s);
+        .arg(core::inQuotes(word), nationalMode ? u"C"_s : u"N"_s);
 }
 
 QString cityAreasSql(const QString& city)
 {
-    return u"Select area from cnt_address where city like'"_s + inQuotes(city) + u"' order by area"_s;
+    return u"Select area from cnt_address where city like'"_s + core::inQuotes(city) + u"' order by area"_s;
 }
 
 } // namespace telephone

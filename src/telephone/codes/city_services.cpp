@@ -1,8 +1,8 @@
 #include "telephone/codes/city_services.h"
 
 #include "core/contact_category.h"
+#include "core/sql_text.h"
 #include "jet/date_text.h"
-#include "telephone/sql_text.h"
 
 #include <QCoreApplication>
 
@@ -22,8 +22,9 @@ QString servicesSql(const QString& city, const QString& category)
 {
     if (city.isEmpty())
         return u"select * from WIA_CITYUTILITY order by CITY,STATE,CATEGORY"_s;
-    const QString ofCity = u" select * from WIA_CITYUTILITY where [CITY] = '"_s + inQuotes(city) + u'\'';
-    return category.isEmpty() ? ofCity : ofCity + u" and [CATEGORY] = '"_s + inQuotes(category) + u'\'';
+    const QString ofCity
+        = u" select * from WIA_CITYUTILITY where [CITY] = '"_s + core::inQuotes(city) + u'\'';
+    return category.isEmpty() ? ofCity : ofCity + u" and [CATEGORY] = '"_s + core::inQuotes(category) + u'\'';
 }
 
 QString serviceCitiesSql()
@@ -34,7 +35,7 @@ QString serviceCitiesSql()
 QString serviceCategoriesSql(const QString& city)
 {
     return u"select distinct CATEGORY from WIA_CITYUTILITY where [CITY]= '%1' order by CATEGORY"_s.arg(
-        inQuotes(city));
+        core::inQuotes(city));
 }
 
 QString contactCategoriesForServicesSql()
@@ -59,7 +60,7 @@ CityService serviceOf(const jet::Recordset& rows, int row, jet::Database& info, 
         .address = text(u"Address"),
         .areaCode = {},
         .phones = {text(u"phone1"), text(u"phone2"), text(u"phone3")}};
-    const QString city = inQuotes(service.city);
+    const QString city = core::inQuotes(service.city);
     for (const bool home : {nationalMode, !nationalMode}) {
         const auto codes
             = info.openRecordset(home ? u"Select std from wia_india where city='"_s + city + u'\''

@@ -5,6 +5,7 @@
 #include "core/screens.h"
 #include "core/settings.h"
 #include "core/sound_files.h"
+#include "core/sql_text.h"
 #include "core/tool_set.h"
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
@@ -20,7 +21,6 @@
 #include "telephone/dialer/modem_setup.h"
 #include "telephone/dialer/number_panel.h"
 #include "telephone/dialer/person_picker.h"
-#include "telephone/sql_text.h"
 #include "widgets/filled_combo.h"
 #include "widgets/long_text.h"
 
@@ -311,7 +311,7 @@ void FrmDialer::clearSlot(int slot)
     {
         const jet::Step step(context().data, tr("emptying a place of the memory"));
         if (!context().data.execute(u"Delete * from cnt_phonenum where list='%1' and cmbnum = %2"_s
-                                        .arg(inQuotes(m_memory->list()))
+                                        .arg(core::inQuotes(m_memory->list()))
                                         .arg(slot)))
             return core::tellFailedSave(context());
     }

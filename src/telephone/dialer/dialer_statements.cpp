@@ -1,6 +1,6 @@
 #include "telephone/dialer/dialer_statements.h"
 
-#include "telephone/sql_text.h"
+#include "core/sql_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +13,7 @@ QString memoryListsSql()
 
 QString memorySlotsSql(const QString& list)
 {
-    return u"select * from cnt_phonenum where list = '"_s + inQuotes(list) + u'\'';
+    return u"select * from cnt_phonenum where list = '"_s + core::inQuotes(list) + u'\'';
 }
 
 QString memorySlotSql(const QString& list, int slot)
@@ -23,31 +23,31 @@ QString memorySlotSql(const QString& list, int slot)
 
 QString memoryStoreSql(const QString& list, int slot)
 {
-    return u"select * from CNT_PHONENUM where [LIST] = '"_s + inQuotes(list) + u"' and [CMBNUM] ="_s
+    return u"select * from CNT_PHONENUM where [LIST] = '"_s + core::inQuotes(list) + u"' and [CMBNUM] ="_s
         + QString::number(slot);
 }
 
 QString memoryByCaptionSql(const QString& caption)
 {
-    return u"select * from cnt_phonenum where name like '"_s + inQuotes(caption) + u'\'';
+    return u"select * from cnt_phonenum where name like '"_s + core::inQuotes(caption) + u'\'';
 }
 
 QString renameListSql(const QString& from, const QString& to)
 {
-    return u"update cnt_phonenum set list = '"_s + inQuotes(to) + u"' where list ='"_s + inQuotes(from)
-        + u'\'';
+    return u"update cnt_phonenum set list = '"_s + core::inQuotes(to) + u"' where list ='"_s
+        + core::inQuotes(from) + u'\'';
 }
 
 QString deleteListSql(const QString& list)
 {
-    return u"Delete * from cnt_phonenum where list='"_s + inQuotes(list) + u'\'';
+    return u"Delete * from cnt_phonenum where list='"_s + core::inQuotes(list) + u'\'';
 }
 
 QString storePrefixesSql(const DialPrefixes& prefixes)
 {
-    return u"update cntb_setup set prefix2 ='"_s + inQuotes(prefixes.p2) + u"',prefix1 ='"_s
-        + inQuotes(prefixes.p1) + u"',pbx ='"_s + inQuotes(prefixes.pbx) + u"',prefix3='"_s
-        + inQuotes(prefixes.p3) + u'\'';
+    return u"update cntb_setup set prefix2 ='"_s + core::inQuotes(prefixes.p2) + u"',prefix1 ='"_s
+        + core::inQuotes(prefixes.p1) + u"',pbx ='"_s + core::inQuotes(prefixes.pbx) + u"',prefix3='"_s
+        + core::inQuotes(prefixes.p3) + u'\'';
 }
 
 QString homeCitySql(bool on)
@@ -65,7 +65,7 @@ QString cityCodesSql(bool national)
 
 QString cityTimeSql(const QString& label)
 {
-    return u"select * from wia_city where city like '"_s + inQuotes(label) + u'\'';
+    return u"select * from wia_city where city like '"_s + core::inQuotes(label) + u'\'';
 }
 
 QString peopleSql()
@@ -75,7 +75,7 @@ QString peopleSql()
 
 QString peopleOfSql(const QString& category)
 {
-    return u"select  distinct id,name from cnt_main where Category1='"_s + inQuotes(category)
+    return u"select  distinct id,name from cnt_main where Category1='"_s + core::inQuotes(category)
         + u"' and not isnull(name) and len(name) <> 0 order by name"_s;
 }
 
@@ -97,7 +97,8 @@ QString memoryContactsSql(const MemoryChoice& choice)
     for (const Term& term : terms) {
         if (term.value.trimmed().isEmpty() || term.value == u"All")
             continue;
-        sql += word + u' ' + QString::fromUtf16(term.column) + u" like '"_s + inQuotes(term.value) + u'\'';
+        sql += word + u' ' + QString::fromUtf16(term.column) + u" like '"_s + core::inQuotes(term.value)
+            + u'\'';
         word = u" And "_s;
     }
     return sql + u" order by category1"_s;
@@ -105,7 +106,7 @@ QString memoryContactsSql(const MemoryChoice& choice)
 
 QString memorySubcategoriesSql(const QString& category)
 {
-    return u"select distinct category2 from cnt_main where category1='"_s + inQuotes(category) + u'\'';
+    return u"select distinct category2 from cnt_main where category1='"_s + core::inQuotes(category) + u'\'';
 }
 
 QString phoneListNamesSql()
@@ -116,12 +117,12 @@ QString phoneListNamesSql()
 QString contactsOfPhoneListSql(const QString& list)
 {
     return u"select * from CNT_MAIN where ID in (select PERID from CNT_PHLIST where [LISTNAME] = '"_s
-        + inQuotes(list) + u"')"_s;
+        + core::inQuotes(list) + u"')"_s;
 }
 
 QString callsOfPersonSql(const QString& name)
 {
-    return u"select name,date,time from cnt_phcall where name='"_s + inQuotes(name)
+    return u"select name,date,time from cnt_phcall where name='"_s + core::inQuotes(name)
         + u"' order by time Desc,date desc"_s;
 }
 

@@ -1,7 +1,7 @@
 #include "telephone/lists/list_members.h"
 
+#include "core/sql_text.h"
 #include "telephone/lists/phone_list_sql.h"
-#include "telephone/sql_text.h"
 
 #include <QCoreApplication>
 
@@ -25,7 +25,7 @@ QString translated(const char* text)
 MemberAdded addMember(jet::Database& book, const QString& list, const NewMember& member)
 {
     const QString known = u"select * from cnt_phlist where name='%1' and listname='%2'"_s.arg(
-        inQuotes(member.name), inQuotes(list));
+        core::inQuotes(member.name), core::inQuotes(list));
     if (!book.openRecordset(known).isEmpty())
         return MemberAdded::AlreadyThere;
     const auto hasNumber = [](const TaggedNumber& each) { return !each.number.trimmed().isEmpty(); };
@@ -63,17 +63,17 @@ bool addList(jet::Database& book, const QString& list)
 bool deleteList(jet::Database& book, const QString& list)
 {
     const jet::Step step(book, translated("deleting the list %1").arg(list));
-    return book.execute(u"delete from cnt_phlist where listname='%1'"_s.arg(inQuotes(list))).ok;
+    return book.execute(u"delete from cnt_phlist where listname='%1'"_s.arg(core::inQuotes(list))).ok;
 }
 
 bool deleteNumber(jet::Database& book, const QString& list, const QString& phone, qint64 person)
 {
     const jet::Step step(book, translated("deleting %1 from the list %2").arg(phone, list));
-    const QString ofList = u"delete from cnt_phlist where listname='"_s + inQuotes(list) + u"' and "_s;
+    const QString ofList = u"delete from cnt_phlist where listname='"_s + core::inQuotes(list) + u"' and "_s;
     if (phone.isEmpty())
         return book.execute(ofList + u"(phone is null or phone='') and perid="_s + QString::number(person))
             .ok;
-    return book.execute(ofList + u"phone ='"_s + inQuotes(phone) + u'\'').ok;
+    return book.execute(ofList + u"phone ='"_s + core::inQuotes(phone) + u'\'').ok;
 }
 
 } // namespace telephone

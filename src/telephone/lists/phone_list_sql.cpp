@@ -1,6 +1,6 @@
 #include "telephone/lists/phone_list_sql.h"
 
-#include "telephone/sql_text.h"
+#include "core/sql_text.h"
 
 #include <QStringList>
 
@@ -21,7 +21,7 @@ QString listNamesSql(ListKind kind)
 
 QString listNumbersSql(ListKind kind, const QString& list)
 {
-    const QString name = inQuotes(list);
+    const QString name = core::inQuotes(list);
     switch (kind) {
     case ListKind::User:
         return u"select cnt_main.id as idd,cnt_phlist.name,cnt_phlist.phone from cnt_main,cnt_phlist where "
@@ -43,7 +43,7 @@ QString listNumbersSql(ListKind kind, const QString& list)
 
 QString newListSql(const QString& list)
 {
-    return u"select * from cnt_phlist where listname= '%1'"_s.arg(inQuotes(list));
+    return u"select * from cnt_phlist where listname= '%1'"_s.arg(core::inQuotes(list));
 }
 
 QString defaultCitySql()
@@ -57,7 +57,7 @@ QString contactPhonesSql(const ContactTicks& ticks, bool hasDefaultCity, const Q
     const QString contacts = u"select id,name,h_ph1 as phone  from cnt_main "_s;
     if (hasDefaultCity)
         return contacts + u"order by name"_s;
-    const QString inCity = u"where h_city ='%1'"_s.arg(inQuotes(homeCity));
+    const QString inCity = u"where h_city ='%1'"_s.arg(core::inQuotes(homeCity));
     if (!ticks.priority1 && !ticks.priority2) {
         return ticks.homeCityOnly
             ? u"select id,name,h_ph1 as phone from cnt_main "_s + inCity + u" order by name"_s
@@ -77,26 +77,26 @@ QString printedNumbersSql(ListKind kind, const QString& list)
     switch (kind) {
     case ListKind::User: return listNumbersSql(kind, list);
     case ListKind::Dialer:
-        return u"select * from cnt_phlist where listname='%1'order by name"_s.arg(inQuotes(list));
+        return u"select * from cnt_phlist where listname='%1'order by name"_s.arg(core::inQuotes(list));
     case ListKind::Contacts: return u"select * from cnt_main where priority = '1'order by name"_s;
     case ListKind::Associations: break;
     }
     return u"select cnt_main.name,cnt_main.h_ph1,cnt_main.h_ph2,cnt_main.h_ph3,cnt_main.w_ph1,cnt_main.w_ph2 "
            "from cnt_main,cnt_assogrp,cnt_assomember where cnt_assogrp.group='%1' and "
            "cnt_assogrp.id=cnt_assomember.groupid and cnt_assomember.cntid=cnt_main.id order by "
-           "cnt_main.name"_s.arg(inQuotes(list));
+           "cnt_main.name"_s.arg(core::inQuotes(list));
 }
 
 QString filteredContactsSql(const ContactFilter& filter)
 {
     QString clause;
     const auto add = [&clause](QStringView column, const QString& value) {
-        if (!isAll(value))
+        if (!core::isAll(value))
             clause += (clause.isEmpty() ? u" where "_s : u" and "_s) + u' ' + column.toString() + u" like '"_s
-                + inQuotes(value) + u'\'';
+                + core::inQuotes(value) + u'\'';
     };
-    if (!isAll(filter.category))
-        clause = u"where category1 like '%1'"_s.arg(inQuotes(filter.category));
+    if (!core::isAll(filter.category))
+        clause = u"where category1 like '%1'"_s.arg(core::inQuotes(filter.category));
     add(u"category2", filter.subcategory);
     add(u"h_city", filter.city);
     return u"Select * from cnt_main "_s + clause;
@@ -115,7 +115,7 @@ QString contactCategoriesSql()
 QString contactSubcategoriesSql(const QString& category)
 {
     return u"select distinct category2 from cnt_main where category1='%1' and  len(category2) <> 0 order by "
-           "category2"_s.arg(inQuotes(category));
+           "category2"_s.arg(core::inQuotes(category));
 }
 
 QString contactCitiesSql()
@@ -127,9 +127,9 @@ QString contactCitiesSql()
 QString filteredNumbersSql(const NumberFilter& filter)
 {
     QString clause;
-    if (!isAll(filter.category))
-        clause = u"where category1 like '%1'"_s.arg(inQuotes(filter.category));
-    if (!isAll(filter.priority)) {
+    if (!core::isAll(filter.category))
+        clause = u"where category1 like '%1'"_s.arg(core::inQuotes(filter.category));
+    if (!core::isAll(filter.priority)) {
         QStringList terms;
         const bool isUpTo = filter.priority.startsWith(u"<="_s);
         const int last = filter.priority.mid(isUpTo ? 2 : 0).toInt();
@@ -137,9 +137,9 @@ QString filteredNumbersSql(const NumberFilter& filter)
             terms << u"priority = '%1'"_s.arg(priority);
         clause += (clause.isEmpty() ? u"where "_s : u"  and  "_s) + u' ' + terms.join(u" or "_s) + u' ';
     }
-    if (!isAll(filter.city))
-        clause += (clause.isEmpty() ? u" where "_s : u" and "_s) + u" city like '"_s + inQuotes(filter.city)
-            + u'\'';
+    if (!core::isAll(filter.city))
+        clause += (clause.isEmpty() ? u" where "_s : u" and "_s) + u" city like '"_s
+            + core::inQuotes(filter.city) + u'\'';
     return u"select * from cnt_phlist "_s + clause;
 }
 

@@ -1,11 +1,11 @@
 #include "telephone/replacer/FrmPhReplacer.h"
 
 #include "core/screens.h"
+#include "core/sql_text.h"
 #include "core/vocabularies.h"
 #include "telephone/replacer/replace_preview.h"
 #include "telephone/replacer/replacer_lists.h"
 #include "telephone/search/number_union.h"
-#include "telephone/sql_text.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -190,8 +190,8 @@ Replacement FrmPhReplacer::entered() const
     case ReplacedPart::Numbers: break;
     }
     const QString city = DBCombo1->currentText();
-    return {
-        ReplacedPart::Numbers, typed(u"txtFind"_s), typed(u"txtreplace"_s), isAll(city) ? QString() : city};
+    return {ReplacedPart::Numbers, typed(u"txtFind"_s), typed(u"txtreplace"_s),
+        core::isAll(city) ? QString() : city};
 }
 
 // Only the list in front is read.

@@ -1,7 +1,7 @@
 #include "telephone/replacer/replacement.h"
 
+#include "core/sql_text.h"
 #include "telephone/search/number_union.h"
-#include "telephone/sql_text.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -100,10 +100,10 @@ bool isBrokenPattern(const QString& from)
 
 QList<ColumnChange> columnChanges(const Replacement& replacement)
 {
-    const QString from = inQuotes(replacement.from);
-    const QString to = inQuotes(replacement.to);
+    const QString from = core::inQuotes(replacement.from);
+    const QString to = core::inQuotes(replacement.to);
     switch (replacement.part) {
-    case ReplacedPart::Numbers: return numberChanges(from, to, inQuotes(replacement.city));
+    case ReplacedPart::Numbers: return numberChanges(from, to, core::inQuotes(replacement.city));
     case ReplacedPart::Codes: return codeChanges(from, to);
     case ReplacedPart::Cities: break;
     }
@@ -151,7 +151,7 @@ ReplacementPreview previewOf(jet::Database& book, const Replacement& replacement
     QStringList counted;
     for (const ColumnChange& change : changes) {
         const QString whole
-            = u'\'' + inQuotes(replacement.to) + u"' & mid("_s + change.column + u',' + rest + u')';
+            = u'\'' + core::inQuotes(replacement.to) + u"' & mid("_s + change.column + u',' + rest + u')';
         cuts << change.condition + u" and "_s + change.value + u" <> "_s + whole;
         for (const QString& condition : {change.condition, cuts.constLast()})
             counted << u"count(iif("_s + condition + u",1,null))"_s;

@@ -1,6 +1,6 @@
 #include "telephone/replacer/replacer_lists.h"
 
-#include "telephone/sql_text.h"
+#include "core/sql_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +36,7 @@ QString codesSql()
 // Kept: the codes at work stand beside the city of another address.
 QString codesBeginningSql(const QString& begin)
 {
-    const QString pattern = u" like '"_s + inQuotes(begin) + u"*'"_s;
+    const QString pattern = u" like '"_s + core::inQuotes(begin) + u"*'"_s;
     return u"select id,name,h_city, h_std as std  from cnt_main where h_std <> null  and len(h_std)<> 0 and h_std"_s
         + pattern
         + u"union (select id,name,h_city, b_std as std  from cnt_main where b_std <> null  and len(b_std)<> 0 and b_std"_s
@@ -52,12 +52,12 @@ QString citiesSql()
 
 QString citiesBeginningSql(const QString& begin)
 {
-    return citiesWith(u" like '"_s + inQuotes(begin) + u"*' "_s);
+    return citiesWith(u" like '"_s + core::inQuotes(begin) + u"*' "_s);
 }
 
 QString contactsOfCitySql(const QString& city)
 {
-    return citiesWith(u" = '"_s + inQuotes(city) + u"' "_s);
+    return citiesWith(u" = '"_s + core::inQuotes(city) + u"' "_s);
 }
 
 QString allCitiesSql()

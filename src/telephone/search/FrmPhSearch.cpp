@@ -4,12 +4,12 @@
 #include "core/list_presenter.h"
 #include "core/report_request.h"
 #include "core/screens.h"
+#include "core/sql_text.h"
 #include "core/vocabularies.h"
 #include "telephone/own_city.h"
 #include "telephone/replacer/replace_preview.h"
 #include "telephone/search/number_union.h"
 #include "telephone/search/phone_search_tools.h"
-#include "telephone/sql_text.h"
 #include "widgets/fields.h"
 #include "widgets/filled_combo.h"
 #include "widgets/form_kit.h"
@@ -150,7 +150,7 @@ void FrmPhSearch::bookChanged()
 QString FrmPhSearch::city() const
 {
     const QString text = Combo1->currentText();
-    return isAll(text) ? QString() : text;
+    return core::isAll(text) ? QString() : text;
 }
 
 // What is no pattern leaves the list as it was.

@@ -1,6 +1,6 @@
 #include "telephone/search/number_union.h"
 
-#include "telephone/sql_text.h"
+#include "core/sql_text.h"
 
 #include <QStringList>
 
@@ -36,10 +36,10 @@ QString numbersSql(const QString& city, const QString& piece)
         const QString column = slot.column.toString();
         QString condition = column + u" <> null  and len("_s + column + u")<> 0 "_s;
         if (!piece.isEmpty())
-            condition = column + u" like '*"_s + inQuotes(piece) + u"*' and "_s + column
+            condition = column + u" like '*"_s + core::inQuotes(piece) + u"*' and "_s + column
                 + u" <> null and len("_s + column + u")<> 0 "_s;
         else if (!city.isEmpty())
-            condition.prepend(slot.city.toString() + u" = '"_s + inQuotes(city) + u"' and "_s);
+            condition.prepend(slot.city.toString() + u" = '"_s + core::inQuotes(city) + u"' and "_s);
         members << u"select id,name,category1, "_s + column + u" as phone  from cnt_main where "_s
                 + condition;
     }
@@ -51,11 +51,12 @@ QString numbersBeginningSql(const QString& begin, const QString& city)
     QStringList members;
     for (const SearchedSlot& slot : searchedSlots()) {
         const QString column = slot.column.toString();
-        const QString inCity
-            = city.isEmpty() ? QString() : slot.city.toString() + u" = '"_s + inQuotes(city) + u"' and"_s;
+        const QString inCity = city.isEmpty()
+            ? QString()
+            : slot.city.toString() + u" = '"_s + core::inQuotes(city) + u"' and"_s;
         members << u"select id,name,category1, "_s + column + u" as phone from cnt_main where "_s + inCity
                 + u' ' + column + u" <> null  and len("_s + column + u")<> 0 and "_s + column + u" like '"_s
-                + inQuotes(begin) + u"*'"_s;
+                + core::inQuotes(begin) + u"*'"_s;
     }
     return unionOf(members);
 }

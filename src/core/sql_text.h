@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace telephone {
+namespace core {
 
 /// A value of the book between the apostrophes of a statement: one of its own is doubled, so that a list
 /// called "Bob's" is found like any other.
@@ -17,4 +17,4 @@ inline bool isAll(const QString& value)
     return value == u"All" || value.trimmed().isEmpty();
 }
 
-} // namespace telephone
+} // namespace core
