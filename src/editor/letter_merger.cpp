@@ -64,7 +64,7 @@ bool writeOpenDocument(const QString& path, const QList<RichText>& letters)
 QString freeStem(const QString& folder, const QString& stem)
 {
     QString free = folder + u'/' + stem;
-    for (int number = 2; QFileInfo::exists(free + u".rtf") || QFileInfo::exists(free + u".odt"); ++number)
+    for (int number = 2; QFileInfo::exists(free + u".rtf"_s) || QFileInfo::exists(free + u".odt"_s); ++number)
         free = u"%1/%2 (%3)"_s.arg(folder, stem).arg(number);
     return free;
 }
@@ -170,11 +170,11 @@ platform::MergeResult LetterMerger::run(const QString& folder, const QString& st
         size += letters.constLast().plain().size();
     }
     const QString path = freeStem(place, platform::Drive::safeFileName(stem));
-    if (!writeWhole(path + u".rtf", formats::writeRtf(letters)))
+    if (!writeWhole(path + u".rtf"_s, formats::writeRtf(letters)))
         return {.whyNot = platform::whyNotWritable(place)};
     m_files << path + u".rtf"_s;
     if (size <= kLargestDocument) {
-        if (!writeOpenDocument(path + u".odt", letters))
+        if (!writeOpenDocument(path + u".odt"_s, letters))
             return {.whyNot = platform::whyNotWritable(place)};
         m_files.prepend(path + u".odt"_s);
     }

@@ -94,7 +94,7 @@ bool writeCsv(const QString& path, const QList<QStringList>& rows)
 void removeDatabase(const QString& file)
 {
     for (const QStringView ending : {u"", u"-wal", u"-shm"})
-        QFile::remove(file + ending);
+        QFile::remove(file + ending.toString());
 }
 
 /// The CSV file beside a database. One that belongs to something else is left alone.
