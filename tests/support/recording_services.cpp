@@ -304,4 +304,32 @@ void ScriptedModem::vanish()
     tell();
 }
 
+bool RecordingWordProcessor::create()
+{
+    typed.clear();
+    data.clear();
+    return isThere;
+}
+
+QString RecordingWordProcessor::setData(
+    QStringView file, const QString& header, const QList<QStringList>& rows)
+{
+    data = {file.toString(), header};
+    for (const QStringList& row : rows)
+        data << row.join(u'|');
+    return {};
+}
+
+platform::MergeResult RecordingWordProcessor::run(const QString& folder, const QString& stem)
+{
+    merged << folder + u'\\' + stem;
+    return {.files = {merged.constLast()}};
+}
+
+bool RecordingWordProcessor::show()
+{
+    ++shows;
+    return true;
+}
+
 } // namespace support

@@ -99,6 +99,7 @@ public:
     RecordingMail mail;
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
+    RecordingWordProcessor wordProcessor;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
