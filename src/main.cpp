@@ -26,6 +26,7 @@
 #include "platform/mail_preview.h"
 #include "platform/mailbox_client.h"
 #include "platform/player_sounds.h"
+#include "platform/sane_scanner.h"
 #include "platform/shortcut_favourites.h"
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
@@ -130,6 +131,7 @@ int main(int argc, char** argv)
     platform::SerialDeviceFile modemPorts(QDir(folder).filePath(u"modem.ini"_s));
     platform::DevicePort modem(modemPorts);
     editor::LetterMerger wordProcessor(drive, desktop);
+    platform::SaneScanner scanner;
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -140,7 +142,7 @@ int main(int argc, char** argv)
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-            mailAccounts, modem, modemPorts, wordProcessor}};
+            mailAccounts, modem, modemPorts, wordProcessor, scanner}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

@@ -13,6 +13,7 @@ class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
+class Scanner;
 class SerialDevices;
 class SerialPort;
 class Shell;
@@ -43,6 +44,7 @@ struct Services {
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
     platform::WordProcessor& wordProcessor;
+    platform::Scanner& scanner;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

@@ -1,5 +1,7 @@
 #include "support/recording_services.h"
 
+#include <QFile>
+
 #include <QImage>
 #include <QPainter>
 
@@ -330,6 +332,15 @@ bool RecordingWordProcessor::show()
 {
     ++shows;
     return true;
+}
+
+void ScriptedScanner::scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done)
+{
+    orders << order;
+    QFile file(order.file);
+    const bool isWritten = !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) > 0;
+    file.close();
+    done(isWritten ? QString() : u"Out of paper"_s);
 }
 
 } // namespace support

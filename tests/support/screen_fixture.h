@@ -100,6 +100,7 @@ public:
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
+    ScriptedScanner scanner;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
