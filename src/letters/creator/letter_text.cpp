@@ -45,7 +45,7 @@ QString groupSalutationLine()
 void addLines(RichText& text, const QString& value, QStringView before = {})
 {
     for (const QString& line : value.split(u'\n'))
-        text.append(RichText::fromPlain(before + line));
+        text.append(RichText::fromPlain(before.toString() + line));
 }
 
 void addIndented(RichText& text, const QString& line)
