@@ -1,6 +1,10 @@
 #include "letters/register_letters.h"
 
 #include "core/screens.h"
+#include "letters/creator/FrmBusinessLetter.h"
+#include "letters/creator/FrmEmailInsert.h"
+#include "letters/creator/FrmGrpLetter.h"
+#include "letters/creator/FrmLetter.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
 #include "letters/record/FrmLetterRecord.h"
@@ -19,6 +23,10 @@ void registerLetters(core::Screens& screens)
     screens.add<FrmLettSum>(u"FrmLettSum"_s);
     screens.add<frmgmail1>(u"frmgmail1"_s);
     screens.add<frmScan>(u"frmScan"_s);
+    screens.add<FrmLetter>(u"FrmLetter"_s);
+    screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
+    screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
+    screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
 }
 
 } // namespace letters

@@ -168,6 +168,7 @@ std::optional<StoredLetter> storedLetter(jet::Database& data, const platform::Dr
     for (const AddressColumn& address : kAddressColumns)
         to.address.*address.part = row.textOrEmpty(address.column);
     to.category = row.textOrEmpty(u"category1");
+    readFromMerged(stored.merged, to, letter.parts);
     return stored;
 }
 

@@ -45,7 +45,7 @@ QString groupSalutationLine()
 void addLines(RichText& text, const QString& value, QStringView before = {})
 {
     for (const QString& line : value.split(u'\n'))
-        text.append(RichText::fromPlain(before + line));
+        text.append(RichText::fromPlain(before.toString() + line));
 }
 
 void addIndented(RichText& text, const QString& line)
@@ -166,6 +166,39 @@ RichText mergedLetter(const RichText& groupLetter, const Recipient& recipient)
     }
     merged.paragraphs << lines.mid(at);
     return merged;
+}
+
+RichText belowHead(const RichText& letter)
+{
+    const auto& lines = letter.paragraphs;
+    for (qsizetype at = 0, end = std::min(lines.size(), kLongestHead); at < end; ++at) {
+        if (lines.at(at).plain().startsWith(u"Dear "))
+            return {.paragraphs = lines.mid(at + 1)};
+    }
+    return letter;
+}
+
+void readFromMerged(const RichText& merged, Recipient& recipient, LetterParts& parts)
+{
+    const auto& lines = merged.paragraphs;
+    const QString start = salutationLine({});
+    for (qsizetype at = 0, end = std::min(lines.size(), kLongestHead); at < end; ++at) {
+        if (const QString line = lines.at(at).plain(); line.startsWith(start)) {
+            recipient.salutation = line.mid(start.size());
+            break;
+        }
+    }
+    const qsizetype last = lines.size() - 1;
+    const bool isSigned = last > 0 && lines.at(last - 1).plain() == kIndent.toString() + parts.ending;
+    if (isSigned && lines.at(last).plain().startsWith(kIndent))
+        parts.signature = lines.at(last).plain().mid(kIndent.size());
+    if (!merged.isFormatted() || composedLetter(recipient, parts).plain() != merged.plain())
+        return;
+    const qsizetype tail = composedLetter(
+        RichText(), {.closings = parts.closings, .ending = parts.ending, .signature = parts.signature})
+                               .paragraphs.size();
+    const qsizetype body = parts.body.paragraphs.size();
+    parts.body.paragraphs = lines.mid(lines.size() - tail - body, body);
 }
 
 RichText openingsAndBody(const LetterParts& parts)

@@ -49,6 +49,12 @@ std::optional<formats::RichText> withOtherHead(
 /// the line that speaks to the reader.
 formats::RichText mergedLetter(const formats::RichText& groupLetter, const Recipient& recipient);
 
+/// What stands below the line that speaks to the reader; the whole letter when there is no such line.
+formats::RichText belowHead(const formats::RichText& letter);
+/// What only the text of a kept letter tells: how it speaks to its reader, who signs it, and the looks of
+/// its body.
+void readFromMerged(const formats::RichText& merged, Recipient& recipient, LetterParts& parts);
+
 /// The text that is laid out with a letterhead of its own: opening lines and body.
 formats::RichText openingsAndBody(const LetterParts& parts);
 /// The same as one text, each part ended by a line break.
