@@ -91,7 +91,7 @@ void LetterCreator::layOut()
     auto* left = new QTabWidget;
     left->setObjectName(u"LetterSides"_s);
     left->setDocumentMode(true);
-    left->addTab(scrolled(m_recipients), tr("To"));
+    left->addTab(m_recipients, tr("To"));
     left->addTab(scrolled(m_phrases), tr("Phrases"));
     left->addTab(scrolled(m_details), tr("Record"));
     auto* splitter = new QSplitter;

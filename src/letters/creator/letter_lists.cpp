@@ -114,7 +114,7 @@ QString mailingListsSql()
 
 QString peopleSql(PeopleOf source, const QString& group, const QString& beginning)
 {
-    QStringList terms;
+    QStringList terms{u"name<>''"_s};
     switch (source) {
     case PeopleOf::Book: break;
     case PeopleOf::Category: terms << u"category1='"_s + inQuotes(group) + u'\''; break;
@@ -125,8 +125,7 @@ QString peopleSql(PeopleOf source, const QString& group, const QString& beginnin
     }
     if (!beginning.isEmpty())
         terms << u"name like '"_s + beginningWith(beginning) + u'\'';
-    const QString where = terms.isEmpty() ? QString() : u" where "_s + terms.join(u" and "_s);
-    return u"select id,name,h_city from cnt_main"_s + where + u" order by name"_s;
+    return u"select id,name,h_city from cnt_main where "_s + terms.join(u" and "_s) + u" order by name"_s;
 }
 
 } // namespace letters
