@@ -18,6 +18,7 @@ class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
+class Speller;
 } // namespace platform
 
 namespace core {
@@ -41,6 +42,7 @@ struct Services {
     platform::MailAccounts& mailAccounts;
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
+    platform::Speller& speller;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

@@ -99,6 +99,7 @@ public:
     RecordingMail mail;
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
+    FixedSpeller speller;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
