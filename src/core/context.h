@@ -19,6 +19,7 @@ class Shell;
 class Sounds;
 class SpecialFolders;
 class WordProcessor;
+class Speller;
 } // namespace platform
 
 namespace core {
@@ -43,6 +44,7 @@ struct Services {
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
     platform::WordProcessor& wordProcessor;
+    platform::Speller& speller;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

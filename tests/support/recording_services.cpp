@@ -332,4 +332,24 @@ bool RecordingWordProcessor::show()
     return true;
 }
 
+bool FixedSpeller::setDictionary(const QString& name)
+{
+    if (languages.contains(name))
+        language = name;
+    return language == name;
+}
+
+bool FixedSpeller::isKnown(const QString& word)
+{
+    ++checked;
+    return dictionary().isEmpty() || own.contains(word) || !faults.contains(word);
+}
+
+bool FixedSpeller::addWord(const QString& word)
+{
+    if (stores)
+        own << word;
+    return stores;
+}
+
 } // namespace support

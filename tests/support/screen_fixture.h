@@ -100,6 +100,7 @@ public:
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
+    FixedSpeller speller;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
