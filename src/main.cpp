@@ -20,13 +20,13 @@
 #include "platform/device_port.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
-#include "platform/hunspell_speller.h"
 #include "platform/keychain_secrets.h"
 #include "platform/mail_account_file.h"
 #include "platform/mail_post.h"
 #include "platform/mail_preview.h"
 #include "platform/mailbox_client.h"
 #include "platform/player_sounds.h"
+#include "platform/sane_scanner.h"
 #include "platform/shortcut_favourites.h"
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
@@ -131,7 +131,7 @@ int main(int argc, char** argv)
     platform::SerialDeviceFile modemPorts(QDir(folder).filePath(u"modem.ini"_s));
     platform::DevicePort modem(modemPorts);
     editor::LetterMerger wordProcessor(drive, desktop);
-    platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
+    platform::SaneScanner scanner;
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -142,7 +142,7 @@ int main(int argc, char** argv)
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-            mailAccounts, modem, modemPorts, wordProcessor, speller}};
+            mailAccounts, modem, modemPorts, wordProcessor, scanner}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

@@ -13,13 +13,13 @@ class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
+class Scanner;
 class SerialDevices;
 class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
 class WordProcessor;
-class Speller;
 } // namespace platform
 
 namespace core {
@@ -44,7 +44,7 @@ struct Services {
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
     platform::WordProcessor& wordProcessor;
-    platform::Speller& speller;
+    platform::Scanner& scanner;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

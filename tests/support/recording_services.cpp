@@ -1,5 +1,7 @@
 #include "support/recording_services.h"
 
+#include <QFile>
+
 #include <QImage>
 #include <QPainter>
 
@@ -332,24 +334,13 @@ bool RecordingWordProcessor::show()
     return true;
 }
 
-bool FixedSpeller::setDictionary(const QString& name)
+void ScriptedScanner::scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done)
 {
-    if (languages.contains(name))
-        language = name;
-    return language == name;
-}
-
-bool FixedSpeller::isKnown(const QString& word)
-{
-    ++checked;
-    return dictionary().isEmpty() || own.contains(word) || !faults.contains(word);
-}
-
-bool FixedSpeller::addWord(const QString& word)
-{
-    if (stores)
-        own << word;
-    return stores;
+    orders << order;
+    QFile file(order.file);
+    const bool isWritten = !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) > 0;
+    file.close();
+    done(isWritten ? QString() : u"Out of paper"_s);
 }
 
 } // namespace support

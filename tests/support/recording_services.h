@@ -13,6 +13,7 @@
 #include "platform/mail_account.h"
 #include "platform/mail_client.h"
 #include "platform/printer.h"
+#include "platform/scanner.h"
 #include "platform/serial_port.h"
 #include "platform/shell.h"
 #include "platform/sounds.h"
@@ -234,5 +235,21 @@ public:
         bool stores = true; ///< whether words can be added
         int checked = 0; ///< words that were looked up
     };
+
+/// A scanner that answers at once: each page is the picture that the test gave it.
+class ScriptedScanner final : public platform::Scanner {
+public:
+    bool isAvailable() const override { return true; }
+    void findDevices(std::function<void(const QList<platform::ScannerDevice>&)> found) override
+    {
+        found(devices);
+    }
+    void scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done) override;
+    void cancel() override { }
+
+    QList<platform::ScannerDevice> devices;
+    QByteArray picture;
+    QList<platform::ScanOrder> orders;
+};
 
 } // namespace support
