@@ -1,6 +1,10 @@
 #include "letters/register_letters.h"
 
 #include "core/screens.h"
+#include "letters/creator/FrmBusinessLetter.h"
+#include "letters/creator/FrmEmailInsert.h"
+#include "letters/creator/FrmGrpLetter.h"
+#include "letters/creator/FrmLetter.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
 #include "letters/record/FrmLetterRecord.h"
@@ -13,6 +17,10 @@ namespace letters {
 
 void registerLetters(core::Screens& screens)
 {
+    screens.add<FrmLetter>(u"FrmLetter"_s);
+    screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
+    screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
+    screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
     screens.add<FrmLetterRecord>(u"FrmLetterRecord"_s);
     screens.add<FrmEditLetterRecord>(u"FrmEditLetterRecord"_s);
     screens.add<Frmgmail>(u"Frmgmail"_s);
