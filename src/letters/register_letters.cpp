@@ -17,16 +17,16 @@ namespace letters {
 
 void registerLetters(core::Screens& screens)
 {
-    screens.add<FrmLetter>(u"FrmLetter"_s);
-    screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
-    screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
-    screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
     screens.add<FrmLetterRecord>(u"FrmLetterRecord"_s);
     screens.add<FrmEditLetterRecord>(u"FrmEditLetterRecord"_s);
     screens.add<Frmgmail>(u"Frmgmail"_s);
     screens.add<FrmLettSum>(u"FrmLettSum"_s);
     screens.add<frmgmail1>(u"frmgmail1"_s);
     screens.add<frmScan>(u"frmScan"_s);
+    screens.add<FrmLetter>(u"FrmLetter"_s);
+    screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
+    screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
+    screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
 }
 
 } // namespace letters

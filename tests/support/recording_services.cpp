@@ -1,7 +1,6 @@
 #include "support/recording_services.h"
 
 #include <QFile>
-
 #include <QImage>
 #include <QPainter>
 

@@ -23,9 +23,9 @@ QString namesFrom(const QString& beginning)
 
 } // namespace
 
-ContactChoice::ContactChoice(jet::Database& data, QWidget* parent)
+ContactChoice::ContactChoice(jet::Database& book, QWidget* parent)
     : QLineEdit(parent)
-    , m_data(data)
+    , m_data(book)
     , m_found(new QStandardItemModel(this))
     , m_completer(new QCompleter(m_found, this))
 {

@@ -15,7 +15,7 @@ class ContactChoice : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit ContactChoice(jet::Database& data, QWidget* parent = nullptr);
+    explicit ContactChoice(jet::Database& book, QWidget* parent = nullptr);
 
     void setContact(qint64 id, const QString& name);
     /// 0 for somebody whom the book does not have. A name that was typed whole and that one contact bears
