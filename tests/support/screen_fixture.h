@@ -100,6 +100,7 @@ public:
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
+    FixedSpeller speller;
     ScriptedScanner scanner;
     jet::Schema schema;
     core::SharedState shared;
