@@ -13,12 +13,14 @@ class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
+class Scanner;
 class SerialDevices;
 class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
 class Speller;
+class WordProcessor;
 } // namespace platform
 
 namespace core {
@@ -42,6 +44,8 @@ struct Services {
     platform::MailAccounts& mailAccounts;
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
+    platform::WordProcessor& wordProcessor;
+    platform::Scanner& scanner;
     platform::Speller& speller;
 };
 
