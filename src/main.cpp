@@ -134,6 +134,7 @@ int main(int argc, char** argv)
     editor::LetterMerger wordProcessor(drive, desktop);
     platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
     platform::SaneScanner scanner;
+    platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;

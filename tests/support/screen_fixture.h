@@ -102,6 +102,7 @@ public:
     RecordingWordProcessor wordProcessor;
     FixedSpeller speller;
     ScriptedScanner scanner;
+    FixedSpeller speller;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
