@@ -1,6 +1,6 @@
 #include "output/labels/address_report.h"
 
-#include <QCoreApplication>
+#include "output/labels/label_report.h"
 
 #include <utility>
 
@@ -12,20 +12,6 @@ namespace {
 
 constexpr QStringView kColumns = u"b.name,b.company,b.h_add1,b.h_add2,b.h_city,b.h_state,b.h_pin";
 constexpr QStringView kOthers[] = {u"company", u"h_add1", u"h_add2", u"h_city", u"h_state", u"h_pin"};
-
-struct Placing {
-    double indent; ///< shares of the width of the paper
-    double width;
-    double textScale;
-};
-/// In the order of AddressLayout.
-constexpr Placing kPlacings[]
-    = {{0, 0.5, 1}, {0.5, 0.5, 1}, {0.25, 0.5, 1.2}, {0, 0.62, 1.4}, {0.38, 0.62, 1.4}};
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("output", text);
-}
 
 // The table is the program's own scratch paper and nothing for a person to take back.
 void fillWorkTable(jet::Database& data, const QString& condition)
@@ -68,31 +54,8 @@ jet::Recordset addressRowsOf(jet::Database& data, const QString& ids)
 
 Report addressLabels(AddressLayout layout, jet::Recordset rows, const QString& printDate)
 {
-    const Placing& placing = kPlacings[static_cast<int>(layout)];
-    Report report;
-    report.title = say("Mailing List Labels");
-    report.printDate = printDate;
-    report.fileStem = u"Contact-Labels"_s;
-    report.source = std::make_shared<RecordsetSource>(std::move(rows), reportDates(false));
-    report.textScale = placing.textScale;
-    report.header.lines = {{{{say(" Orvane Contacts"), 1, TextRole::Strong},
-                                {say("Mailing List Labels"), 1, TextRole::GroupTitle, Align::Center},
-                                {say("Note -Cut & Paste on Envelopes"), 1, TextRole::Quiet, Align::Right}},
-        true}};
-    report.header.spaceBelow = 300;
-    report.detail.lines = {
-        {{{say("To."), 1, TextRole::Quiet}}},
-        {{{u"{name}"_s, 1, TextRole::Strong}}},
-        {{{u"{h_add1}"_s}}},
-        {{{u"{h_add2}"_s}}},
-        {{{u"{h_city}"_s}, {u"{h_state}"_s}}},
-        {{{u"{h_pin}"_s, 1, TextRole::Value, Align::Left, say("Zip")}}},
-    };
-    report.detail.indent = placing.indent;
-    report.detail.width = placing.width;
-    report.detail.isBoxed = true;
-    report.detail.spaceBelow = 400;
-    return report;
+    return labelReport(std::make_shared<RecordsetSource>(std::move(rows), reportDates(false)),
+        AddressSet::Home, builtinSheets()[static_cast<std::size_t>(layout)], printDate);
 }
 
 } // namespace output

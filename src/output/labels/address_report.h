@@ -7,8 +7,8 @@
 
 namespace output {
 
-/// The reports of names and addresses, to be cut out and put on envelopes: they differ in where a label
-/// stands on its page and how large it is.
+/// The reports of names and home addresses as labels: they differ in the sheet they are printed on, in the
+/// order of the sheets there are.
 enum class AddressLayout {
     rptHomeaddress,
     rptHomeaddress1,

@@ -15,6 +15,8 @@ constexpr QColor kQuiet(0x5f, 0x68, 0x76);
 constexpr QColor kRule(0xd1, 0xd5, 0xdb);
 constexpr QColor kMark(0xff, 0xe0, 0x66);
 constexpr double kRuleWidth = 10;
+constexpr double kFrameInset = 40; ///< of a label, so that the line is seen when a sheet lies askew
+constexpr double kCross = 110; ///< half of its arm
 
 bool isQuiet(TextRole role)
 {
@@ -43,9 +45,23 @@ PagePainter::PagePainter(const ReportPager& pager, PictureOf pictures)
 
 void PagePainter::paint(QPainter& painter, const Page& page, const PageMarks& marks) const
 {
-    paintHead(painter, page, marks);
+    if (m_pager.report().hasPageMarks)
+        paintHead(painter, page, marks);
+    else if (page.part > 1)
+        paintPart(painter, page.part);
     for (const PlacedBlock& placed : page.blocks)
         paintBlock(painter, placed, marks.found);
+}
+
+// A letter that goes on says which of its pages this is.
+void PagePainter::paintPart(QPainter& painter, int part) const
+{
+    const Paper& paper = m_pager.report().paper;
+    const double line = m_pager.setter().measure().lineHeight(TextRole::Quiet);
+    painter.setPen(kQuiet);
+    paintText(painter, u"\u2013 %1 \u2013"_s.arg(part),
+        {paper.margin, paper.margin - 2 * line, paper.width - 2 * paper.margin, line}, TextRole::Quiet,
+        Align::Center);
 }
 
 void PagePainter::paintHead(QPainter& painter, const Page& page, const PageMarks& marks) const
@@ -69,36 +85,68 @@ void PagePainter::paintHead(QPainter& painter, const Page& page, const PageMarks
     painter.drawLine(QLineF(margin, y, margin + width, y));
 }
 
+void PagePainter::paintFrame(QPainter& painter, const QRectF& label) const
+{
+    const SheetLayout& sheet = *m_pager.report().sheet;
+    painter.setPen(QPen(sheet.hasCrosses ? QColor(Qt::black) : kRule, kRuleWidth));
+    painter.setBrush(Qt::NoBrush);
+    if (sheet.isFramed)
+        painter.drawRect(label.adjusted(kFrameInset, kFrameInset, -kFrameInset, -kFrameInset));
+    if (!sheet.hasCrosses)
+        return;
+    for (const QPointF& corner :
+        {label.topLeft(), label.topRight(), label.bottomLeft(), label.bottomRight()}) {
+        painter.drawLine(QLineF(corner.x() - kCross, corner.y(), corner.x() + kCross, corner.y()));
+        painter.drawLine(QLineF(corner.x(), corner.y() - kCross, corner.x(), corner.y() + kCross));
+    }
+}
+
 void PagePainter::paintBlock(QPainter& painter, const PlacedBlock& placed, const QString& found) const
 {
     const Report& report = m_pager.report();
-    const double left = report.paper.margin;
     const double width = m_pager.setter().textWidth();
-    const bool isColored = placed.block.kind != BlockKind::ColumnHeads;
-    const SectionColors colors = isColored ? report.colors : SectionColors();
-    if (colors.back.isValid())
-        painter.fillRect(QRectF(left, placed.y, width, placed.height), colors.back);
-    if (placed.block.isBoxed) {
-        painter.setPen(QPen(colors.text, kRuleWidth));
+    const bool isColored = placed.block.kind != BlockKind::ColumnHeads && !placed.frame;
+    if (const SectionColors colors = isColored ? report.colors : SectionColors(); colors.back.isValid())
+        painter.fillRect(QRectF(placed.x, placed.y, width, placed.height), colors.back);
+    if (placed.frame)
+        paintFrame(painter, *placed.frame);
+    else if (placed.block.isBoxed) {
+        painter.setPen(QPen(report.colors.text, kRuleWidth));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(left + placed.block.x - kCellGap, placed.y - kCellGap / 2, placed.block.width,
-            placed.height - placed.block.spaceBelow + kCellGap));
+        painter.drawRect(QRectF(placed.x + placed.block.x - kCellGap, placed.y - kCellGap / 2,
+            placed.block.width, placed.height - placed.block.spaceBelow + kCellGap));
     }
-    double y = placed.y;
-    for (const Line& line : placed.block.lines) {
+    if (placed.scale == 1) {
+        paintLines(painter, placed.block, {placed.x, placed.y}, found);
+    } else {
+        painter.save();
+        painter.translate(placed.x, placed.y);
+        painter.scale(placed.scale, placed.scale);
+        paintLines(painter, placed.block, {}, found);
+        painter.restore();
+    }
+    if (!placed.block.picture.isEmpty())
+        paintPicture(painter, placed);
+}
+
+void PagePainter::paintLines(
+    QPainter& painter, const Block& block, QPointF origin, const QString& found) const
+{
+    const Report& report = m_pager.report();
+    const SectionColors colors = block.kind == BlockKind::ColumnHeads ? SectionColors() : report.colors;
+    double y = origin.y();
+    for (const Line& line : block.lines) {
         for (Cell cell : line.cells) {
-            cell.x += left;
+            cell.x += origin.x();
             paintCell(painter, cell, y, colors.text, found);
         }
         y += line.height;
         if (line.isRuled) {
             painter.setPen(
                 QPen(colors.back.isValid() ? between(colors.back, colors.text) : kRule, kRuleWidth));
-            painter.drawLine(QLineF(left, y, left + width, y));
+            painter.drawLine(QLineF(origin.x(), y, origin.x() + m_pager.setter().textWidth(), y));
         }
     }
-    if (!placed.block.picture.isEmpty())
-        paintPicture(painter, placed);
 }
 
 void PagePainter::paintCell(
@@ -113,6 +161,11 @@ void PagePainter::paintCell(
         paintText(painter, cell.label, {cell.x, y, width, height}, TextRole::Label, cell.align);
         y += height;
     }
+    if (!cell.rich.empty()) {
+        if (!found.isEmpty() && cell.text().contains(found, Qt::CaseInsensitive))
+            painter.fillRect(QRectF(cell.x, y, width, cell.rich.front().height), kMark);
+        return paintRich(painter, cell, y, color);
+    }
     const double height = measure.lineHeight(cell.role);
     for (const QString& text : cell.lines) {
         const QRectF place(cell.x, y, width, height);
@@ -122,6 +175,22 @@ void PagePainter::paintCell(
         paintText(painter, text, place, cell.role, cell.align);
         y += height;
     }
+}
+
+void PagePainter::paintRich(QPainter& painter, const Cell& cell, double y, const QColor& color) const
+{
+    const TextMeasure& measure = m_pager.setter().measure();
+    for (const RichLine& line : cell.rich) {
+        for (const RunOnLine& run : line.runs) {
+            QFont font = measure.styled(cell.role, run.style);
+            font.setWordSpacing(line.wordSpace);
+            painter.setFont(font);
+            painter.setPen(run.style.color == 0 ? color : QColor::fromRgba(run.style.color));
+            painter.drawText(QPointF(cell.x + run.x, y + line.ascent), run.text);
+        }
+        y += line.height;
+    }
+    painter.setFont(measure.font(cell.role));
 }
 
 void PagePainter::paintText(

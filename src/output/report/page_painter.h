@@ -29,9 +29,13 @@ public:
 
 private:
     void paintHead(QPainter& painter, const Page& page, const PageMarks& marks) const;
+    void paintPart(QPainter& painter, int part) const;
+    void paintFrame(QPainter& painter, const QRectF& label) const;
     void paintBlock(QPainter& painter, const PlacedBlock& placed, const QString& found) const;
+    void paintLines(QPainter& painter, const Block& block, QPointF origin, const QString& found) const;
     void paintCell(
         QPainter& painter, const Cell& cell, double y, const QColor& color, const QString& found) const;
+    void paintRich(QPainter& painter, const Cell& cell, double y, const QColor& color) const;
     void paintText(
         QPainter& painter, const QString& text, const QRectF& place, TextRole role, Align align) const;
     void paintPicture(QPainter& painter, const PlacedBlock& placed) const;

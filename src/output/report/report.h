@@ -33,6 +33,7 @@ struct CellRule {
 struct LineRule {
     std::vector<CellRule> cells;
     bool isRuled = false; ///< with a thin line below
+    double at = 0; ///< from the upper edge of the paper, where the lines above leave it free
 };
 
 /// A line of which no column says anything is left out.
@@ -66,6 +67,24 @@ struct Paper {
     Paper turned() const { return {height, width, margin}; }
 };
 
+/// Labels in columns and rows on a sheet. Lengths from the edges of the paper.
+struct SheetLayout {
+    int columns = 1;
+    int rows = 1;
+    double left = 0; ///< of the first label
+    double top = 0;
+    double width = 0; ///< of a label
+    double height = 0;
+    double pitchX = 0; ///< from a label to the one beside it
+    double pitchY = 0;
+    int firstLabel = 0; ///< labels of the first sheet that are used up
+    int copies = 1; ///< of each row
+    bool isFramed = true; ///< with a line around each label
+    bool hasCrosses = false; ///< at the corners of each label, to lay over a sheet
+
+    int labels() const { return columns * rows; } ///< of one sheet
+};
+
 struct Report {
     QString title;
     QString printDate;
@@ -83,6 +102,9 @@ struct Report {
     SectionColors colors; ///< of the sections, not of the margins
     Paper paper;
     double textScale = 1;
+    std::optional<SheetLayout> sheet; ///< the detail of each row on a label, as small as it takes to fit
+    bool hasPageMarks = true; ///< title and date at the head of a page, its number at the foot
+    bool rowsBeginPages = false; ///< each row is a letter of one page or more
 
     bool isEmpty() const { return !source || source->count() == 0; }
 };

@@ -1,6 +1,8 @@
 #include "output/report/report_blocks.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +14,17 @@ namespace {
 constexpr qsizetype kMostTextLines = 30;
 
 constexpr double kSpaceBelowHeads = 60;
+
+constexpr double kPageHead = 520; ///< title and date, and the line below them
+
+/// What a label that holds too much is set smaller by; a third is about what an eye can read.
+constexpr double kShrinks[] = {1, 0.92, 0.85, 0.78, 0.71, 0.64, 0.57, 0.5, 0.43, 0.36, 0.3};
+
+/// The height of a label whose letters have the size of a report, in twips. Larger ones are read from
+/// further.
+constexpr double kUsualLabel = 1900;
+constexpr double kSmallest = 0.8;
+constexpr double kLargest = 1.5;
 
 QString firstLetter(const QString& text)
 {
@@ -25,13 +38,49 @@ QString firstLetter(const QString& text)
 double heightOf(const Cell& cell, const TextMeasure& measure)
 {
     const double label = cell.label.isEmpty() ? 0 : measure.lineHeight(TextRole::Label);
+    if (!cell.rich.empty())
+        return std::accumulate(cell.rich.begin(), cell.rich.end(), label,
+            [](double sum, const RichLine& line) { return sum + line.height; });
     return label + static_cast<double>(cell.lines.size()) * measure.lineHeight(cell.role);
+}
+
+void setLooks(Cell& cell, const TextMeasure& measure)
+{
+    cell.rich = richLines(*cell.looks, cell.role, measure, cell.width - kCellGap);
+    for (const RichLine& line : cell.rich) {
+        QString text;
+        for (const RunOnLine& run : line.runs)
+            text += run.text;
+        cell.lines << text;
+    }
+}
+
+/// A text with looks goes to the next page line by line. It is the only one of its line that is long.
+std::vector<Line> lineByLine(Line line)
+{
+    std::vector<Line> pieces;
+    for (Cell& cell : line.cells) {
+        if (cell.rich.empty())
+            continue;
+        std::vector<RichLine> rich = std::move(cell.rich);
+        for (std::size_t at = 0; at < rich.size(); ++at) {
+            Cell part{.x = cell.x, .width = cell.width, .role = cell.role, .align = cell.align};
+            part.looks = at == 0 ? cell.looks : nullptr;
+            part.lines = {cell.lines.value(static_cast<qsizetype>(at))};
+            part.rich.push_back(std::move(rich[at]));
+            pieces.push_back({.cells = {std::move(part)}, .goesOn = at > 0});
+        }
+    }
+    return pieces;
 }
 
 /// Cuts a line that is too high into several, between lines of text.
 std::vector<Line> inPieces(Line line)
 {
     std::vector<Line> pieces;
+    const auto isRich = [](const Cell& cell) { return !cell.rich.empty(); };
+    if (std::any_of(line.cells.begin(), line.cells.end(), isRich))
+        return lineByLine(std::move(line));
     const auto tooHigh = [](const Cell& cell) { return cell.lines.size() > kMostTextLines; };
     while (std::any_of(line.cells.begin(), line.cells.end(), tooHigh)) {
         Line piece = line;
@@ -66,6 +115,7 @@ ReportSetter::SetLine ReportSetter::prepare(const LineRule& rule) const
 {
     SetLine line;
     line.isRuled = rule.isRuled;
+    line.at = rule.at;
     for (const CellRule& cell : rule.cells) {
         line.cells.push_back({TextTemplate(cell.text, *m_report.source), cell});
         line.shares += cell.share;
@@ -165,13 +215,41 @@ Block ReportSetter::columnHeads() const
     return block;
 }
 
-Block ReportSetter::set(const SetSection& section, BlockKind kind, int row, const NamedTexts& names) const
+double ReportSetter::pageTop() const
+{
+    return m_report.paper.margin + (m_report.hasPageMarks ? kPageHead : 0);
+}
+
+FittedBlock ReportSetter::label(int row) const
+{
+    const SheetLayout& sheet = *m_report.sheet;
+    const double width = sheet.width - 2 * kLabelPadding;
+    const double height = sheet.height - 2 * kLabelPadding;
+    FittedBlock fitted;
+    const double usual = std::clamp(sheet.height / kUsualLabel, kSmallest, kLargest);
+    for (const double shrink : kShrinks) {
+        const double scale = usual * shrink;
+        fitted = {set(m_detail, BlockKind::Detail, row, {}, width / scale), scale};
+        if (fitted.block.height * scale <= height)
+            break;
+    }
+    // What even the smallest letters do not bring in is left out, rather than printed on the next label.
+    Block& block = fitted.block;
+    while (block.height * fitted.scale > height && block.lines.size() > 1) {
+        block.height -= block.lines.back().height;
+        block.lines.pop_back();
+    }
+    return fitted;
+}
+
+Block ReportSetter::set(
+    const SetSection& section, BlockKind kind, int row, const NamedTexts& names, double textWidth) const
 {
     Block block{.kind = kind};
     if (section.picture >= 0)
         block.picture = m_report.source->text(row, section.picture).trimmed();
-    block.x = textWidth() * section.indent;
-    block.width = textWidth() * section.width;
+    block.x = textWidth * section.indent;
+    block.width = textWidth * section.width;
     block.isBoxed = section.isBoxed;
     const double width = block.width - (block.picture.isEmpty() ? 0 : kPictureWidth + kCellGap);
     for (const SetLine& line : section.lines)
@@ -190,6 +268,13 @@ Block ReportSetter::set(const SetSection& section, BlockKind kind, int row, cons
 void ReportSetter::setLine(
     const SetLine& rule, double width, int row, const NamedTexts& names, Block& block) const
 {
+    if (rule.at > 0) {
+        double y = pageTop();
+        for (const Line& above : block.lines)
+            y += above.height;
+        if (rule.at > y)
+            block.lines.push_back({.cells = {}, .height = rule.at - y, .isSpace = true});
+    }
     Line line;
     line.isRuled = rule.isRuled;
     line.cells.reserve(rule.cells.size());
@@ -202,7 +287,12 @@ void ReportSetter::setLine(
         const QString text = column.text.fill(*m_report.source, row, names);
         if (!text.isEmpty()) {
             cell.label = column.rule.label;
-            cell.lines = m_measure.wrap(text, cell.role, share - kCellGap);
+            const int field = column.text.onlyField();
+            cell.looks = field < 0 ? nullptr : m_report.source->looks(row, field);
+            if (cell.looks)
+                setLooks(cell, m_measure);
+            else
+                cell.lines = m_measure.wrap(text, cell.role, share - kCellGap);
         }
         hasFields |= column.text.hasFields();
         hasValue |= column.text.hasFields() && !text.isEmpty();

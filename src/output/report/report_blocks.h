@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/report/text_measure.h"
+#include "output/report/rich_lines.h"
 #include "output/report/text_template.h"
 
 #include <vector>
@@ -16,6 +16,8 @@ struct Cell {
     QStringList lines = {};
     TextRole role = TextRole::Value;
     Align align = Align::Left;
+    std::vector<RichLine> rich = {}; ///< in place of `lines`, for a text with looks
+    const formats::RichText* looks = nullptr; ///< that text whole, lives as long as the source
 
     QString text() const { return lines.join(u'\n'); }
 };
@@ -24,6 +26,8 @@ struct Line {
     std::vector<Cell> cells;
     double height = 0;
     bool isRuled = false;
+    bool isSpace = false; ///< so that the next line stands where it should
+    bool goesOn = false; ///< the rest of the line before, whose text with looks is whole there
 };
 
 /// A section of a report as it is set, for one row.
@@ -44,6 +48,13 @@ struct Block {
 inline constexpr double kPictureWidth = 1250;
 inline constexpr double kPictureHeight = 1500;
 inline constexpr double kCellGap = 110; ///< between a cell and the one to its right
+inline constexpr double kLabelPadding = 130; ///< between the edge of a label and its text
+
+/// A block that is drawn smaller, so that it fits.
+struct FittedBlock {
+    Block block;
+    double scale = 1;
+};
 
 /// Where one is in a report: in which section, for which row.
 struct Place {
@@ -67,6 +78,9 @@ public:
     Place after(const Place& place) const;
     Block block(const Place& place) const;
     Block columnHeads() const;
+    /// The detail of a row on a label of the sheet.
+    FittedBlock label(int row) const;
+    double pageTop() const; ///< where the first line of a page stands
 
 private:
     struct Column {
@@ -77,6 +91,7 @@ private:
         std::vector<Column> cells;
         double shares = 0;
         bool isRuled = false;
+        double at = 0;
     };
     struct SetSection {
         std::vector<SetLine> lines;
@@ -88,7 +103,12 @@ private:
     };
     SetSection prepare(const Section& section) const;
     SetLine prepare(const LineRule& rule) const;
-    Block set(const SetSection& section, BlockKind kind, int row, const NamedTexts& names) const;
+    Block set(const SetSection& section, BlockKind kind, int row, const NamedTexts& names) const
+    {
+        return set(section, kind, row, names, textWidth());
+    }
+    Block set(
+        const SetSection& section, BlockKind kind, int row, const NamedTexts& names, double textWidth) const;
     void setLine(const SetLine& rule, double width, int row, const NamedTexts& names, Block& block) const;
     QString groupKey(int row) const;
     bool endsGroup(int row) const;

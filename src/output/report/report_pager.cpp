@@ -8,28 +8,34 @@ namespace output {
 
 namespace {
 
-constexpr double kPageHead = 520; ///< title and date, and the line below them
 constexpr double kPageFoot = 400; ///< the page's number
 
-/// Takes away lines from the front, and those that do not fit into the room, but leaves one at least.
-/// @return how many of them stay
-int cutTo(Block& block, int from, double room)
+// The heading of a report of labels stands above those of the first sheet, if there is room; few printers
+// reach further up.
+constexpr double kSheetHeadTop = 300;
+constexpr double kSheetHeadGap = 90;
+
+/// The lines of a block from one on, as many as fit into the room, but one at least.
+Block partOf(const Block& whole, std::size_t from, double room)
 {
-    block.lines.erase(block.lines.begin(), block.lines.begin() + from);
-    block.height = block.spaceBelow;
-    if (from > 0)
-        block.picture.clear();
-    int kept = 0;
-    for (const Line& line : block.lines) {
-        if (kept > 0 && block.height + line.height > room)
+    Block part{.kind = whole.kind,
+        .spaceBelow = whole.spaceBelow,
+        .x = whole.x,
+        .width = whole.width,
+        .isBoxed = whole.isBoxed,
+        .height = whole.spaceBelow};
+    for (std::size_t at = from; at < whole.lines.size(); ++at) {
+        const Line& line = whole.lines[at];
+        if (at > from && part.height + line.height > room)
             break;
-        block.height += line.height;
-        ++kept;
+        part.height += line.height;
+        part.lines.push_back(line);
     }
-    block.lines.resize(static_cast<std::size_t>(kept));
-    if (!block.picture.isEmpty())
-        block.height = std::max(block.height, kPictureHeight + block.spaceBelow);
-    return kept;
+    if (from == 0 && !whole.picture.isEmpty()) {
+        part.picture = whole.picture;
+        part.height = std::max(part.height, kPictureHeight + part.spaceBelow);
+    }
+    return part;
 }
 
 } // namespace
@@ -43,16 +49,27 @@ ReportPager::ReportPager(const Report& report)
 
 double ReportPager::top() const
 {
-    return report().paper.margin + kPageHead + m_headsHeight;
+    return m_setter.pageTop() + m_headsHeight;
 }
 
 double ReportPager::bottom() const
 {
-    return report().paper.height - report().paper.margin - kPageFoot;
+    return report().paper.height - report().paper.margin - (report().hasPageMarks ? kPageFoot : 0);
+}
+
+int ReportPager::pageCount() const
+{
+    if (!report().sheet)
+        return static_cast<int>(m_starts.size());
+    const SheetLayout& sheet = *report().sheet;
+    const int labels = report().source ? report().source->count() * sheet.copies : 0;
+    return labels == 0 ? 0 : (sheet.firstLabel + labels - 1) / sheet.labels() + 1;
 }
 
 bool ReportPager::step(int milliseconds)
 {
+    if (report().sheet)
+        return false;
     QElapsedTimer clock;
     clock.start();
     do {
@@ -69,11 +86,47 @@ Page ReportPager::page(int number) const
     Page page{.number = number, .blocks = {}};
     if (number < 1 || number > pageCount())
         return page;
+    if (report().sheet)
+        return sheetPage(number);
     if (Block heads = m_setter.columnHeads(); !heads.isEmpty()) {
         const double height = heads.height;
-        page.blocks.push_back({std::move(heads), top() - m_headsHeight, height});
+        page.blocks.push_back({std::move(heads), report().paper.margin, top() - m_headsHeight, height});
     }
-    fill(m_starts[static_cast<std::size_t>(number - 1)], &page);
+    auto at = static_cast<std::size_t>(number - 1);
+    fill(m_starts[at], &page);
+    for (; at > 0 && m_starts[at].line > 0; --at)
+        ++page.part;
+    return page;
+}
+
+Page ReportPager::sheetPage(int number) const
+{
+    const SheetLayout& sheet = *report().sheet;
+    Page page{.number = number, .blocks = {}};
+    if (number == 1) {
+        Block head = m_setter.block(m_setter.first());
+        const double room = sheet.top - kSheetHeadTop - kSheetHeadGap;
+        if (!head.isEmpty() && room > 0) {
+            const double scale = std::min(1.0, room / head.height);
+            const double height = head.height;
+            page.blocks.push_back({std::move(head), report().paper.margin,
+                sheet.top - kSheetHeadGap - height * scale, height, scale});
+        }
+    }
+    const int first = (number - 1) * sheet.labels();
+    const int end = sheet.firstLabel + report().source->count() * sheet.copies;
+    FittedBlock label;
+    int row = -1;
+    for (int at = std::max(first, sheet.firstLabel); at < std::min(first + sheet.labels(), end); ++at) {
+        if (const int next = (at - sheet.firstLabel) / sheet.copies; next != row) {
+            row = next;
+            label = m_setter.label(row);
+        }
+        const double x = sheet.left + sheet.pitchX * ((at - first) % sheet.columns);
+        const double y = sheet.top + sheet.pitchY * ((at - first) / sheet.columns);
+        page.blocks.push_back({label.block, x + kLabelPadding, y + kLabelPadding, label.block.height,
+            label.scale, QRectF(x, y, sheet.width, sheet.height)});
+    }
     return page;
 }
 
@@ -86,36 +139,51 @@ bool ReportPager::leavesHeadingAlone(const Place& place, double room) const
     return !next.isEmpty() && next.height - next.spaceBelow > room;
 }
 
+// A block that takes several pages is set once for all of them.
+const Block& ReportPager::blockAt(const Place& place) const
+{
+    if (!m_set || m_setAt.row != place.row || m_setAt.kind != place.kind) {
+        m_set = m_setter.block(place);
+        m_setAt = place;
+    }
+    return *m_set;
+}
+
 Place ReportPager::fill(Place place, Page* page) const
 {
     double y = top();
     const double pageRoom = bottom() - top();
     bool isFirst = true;
     while (!place.atEnd) {
-        Block block = m_setter.block(place);
+        const Block& block = blockAt(place);
         if (block.isEmpty()) {
             place = m_setter.after(place);
             continue;
         }
         const double room = bottom() - y;
-        const bool isCut = place.line > 0 || block.height - block.spaceBelow > pageRoom;
         const auto lines = static_cast<int>(block.lines.size());
+        double height = block.height;
         int end = lines;
-        if (isCut)
-            end = place.line + cutTo(block, place.line, room);
-        if (!isFirst
-            && (block.height - block.spaceBelow > room || leavesHeadingAlone(place, room - block.height)))
+        std::optional<Block> part;
+        if (place.line > 0 || block.height - block.spaceBelow > pageRoom) {
+            part = partOf(block, static_cast<std::size_t>(place.line), room);
+            end = place.line + static_cast<int>(part->lines.size());
+            height = part->height;
+        }
+        if (!isFirst && (height - block.spaceBelow > room || leavesHeadingAlone(place, room - height)))
             return place;
-        const double height = block.height;
         if (page)
-            page->blocks.push_back({std::move(block), y, height});
+            page->blocks.push_back({part ? std::move(*part) : block, report().paper.margin, y, height});
         y += height;
         isFirst = false;
         if (end < lines) {
             place.line = end;
             return place;
         }
+        const bool endsPage = report().rowsBeginPages && place.kind == BlockKind::Detail;
         place = m_setter.after(place);
+        if (endsPage && place.kind == BlockKind::Detail)
+            return place;
     }
     return place;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "formats/rich_text.h"
 #include "jet/recordset.h"
 
 #include <QList>
@@ -18,6 +19,9 @@ public:
     virtual int count() const = 0;
     virtual int field(const QString& column) const = 0; ///< -1 when there is none
     virtual QString text(int row, int field) const = 0;
+    /// The same text with its looks; nullptr for a plain one. It is set with them where it stands in a cell
+    /// alone.
+    virtual const formats::RichText* looks(int /*row*/, int /*field*/) const { return nullptr; }
 };
 
 /// How dates of the book are written in a report. Birthdays have no year.

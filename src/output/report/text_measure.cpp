@@ -4,6 +4,8 @@
 #include <QGuiApplication>
 #include <QTextLayout>
 
+#include <algorithm>
+
 namespace output {
 
 namespace {
@@ -19,6 +21,7 @@ constexpr RoleLook kLooks[] = {{9, false}, {10.5, true}, {7, false}, {8, false},
 } // namespace
 
 TextMeasure::TextMeasure(double scale)
+    : m_scale(scale)
 {
     for (std::size_t role = 0; role < m_faces.size(); ++role) {
         Face& face = m_faces[role];
@@ -38,6 +41,20 @@ TextMeasure::TextMeasure(double scale)
 double TextMeasure::width(const QString& text, TextRole role) const
 {
     return QFontMetricsF(face(role).font).horizontalAdvance(text);
+}
+
+QFont TextMeasure::styled(TextRole role, const formats::CharStyle& style) const
+{
+    QFont font = face(role).font;
+    if (!style.family.isEmpty())
+        font.setFamily(style.family);
+    if (style.points > 0)
+        font.setPixelSize(std::max(1, qRound(style.points * kTwipsAPoint * m_scale)));
+    font.setBold(font.bold() || style.isBold);
+    font.setItalic(style.isItalic);
+    font.setUnderline(style.isUnderlined);
+    font.setStrikeOut(style.isStruckOut);
+    return font;
 }
 
 // Most texts are short, and shaping each of ten thousand contacts twice is what takes the time: the sum of

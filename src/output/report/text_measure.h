@@ -19,6 +19,8 @@ public:
     double lineHeight(TextRole role) const { return face(role).lineHeight; }
     double ascent(TextRole role) const { return face(role).ascent; }
     double width(const QString& text, TextRole role) const;
+    /// The font of a role with the looks of a run.
+    QFont styled(TextRole role, const formats::CharStyle& style) const;
     /// The lines that a text takes in a column; "\n" begins a new one, words that are too long are broken.
     QStringList wrap(const QString& text, TextRole role, double width) const;
 
@@ -36,6 +38,7 @@ private:
     static bool surelyFits(QStringView text, const Face& face, double width);
     static void wrapParagraph(const QString& text, const Face& face, double width, QStringList& lines);
 
+    double m_scale;
     std::array<Face, kRoles> m_faces;
 };
 

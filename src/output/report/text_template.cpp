@@ -25,6 +25,14 @@ TextTemplate::TextTemplate(const QString& text, const ReportSource& source)
     }
 }
 
+int TextTemplate::onlyField() const
+{
+    if (m_lines.size() != 1 || m_lines.front().pieces.size() != 1)
+        return -1;
+    const Piece& piece = m_lines.front().pieces.front();
+    return piece.before.isEmpty() && m_lines.front().end.isEmpty() ? piece.field : -1;
+}
+
 QString TextTemplate::fill(const ReportSource& source, int row, const NamedTexts& names) const
 {
     QString filled;

@@ -19,6 +19,8 @@ public:
     /// The lines that have a value, with "\n" between; a text without columns as it is.
     QString fill(const ReportSource& source, int row, const NamedTexts& names) const;
     bool hasFields() const { return m_hasFields; }
+    /// The column that is all of the text; -1 when there is more, or less.
+    int onlyField() const;
 
 private:
     struct Piece {
