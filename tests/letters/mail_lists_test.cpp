@@ -28,11 +28,11 @@ private Q_SLOTS:
     {
         support::columns<int, QString, int, bool, int, QString>(
             "tab", "group", "address", "onlySelected", "rows", "first");
-        const auto row = [](const char* name, MailTab tab, const QString& group, AddressType address,
+        const auto row = [](const char* name, MailTab tab, const QString& group, output::AddressSet address,
                              bool onlySelected, int rows, const QString& first) {
             QTest::newRow(name) << int(tab) << group << int(address) << onlySelected << rows << first;
         };
-        using enum AddressType;
+        using enum output::AddressSet;
         row("a list", MailTab::Lists, u"Diwali"_s, Home, false, 2, u"h_add1"_s);
         row("its work addresses", MailTab::Lists, u"Diwali"_s, Work2, false, 2, u"b_add1"_s);
         row("nobody of it is selected", MailTab::Lists, u"Christmas"_s, Home, true, 0, u"h_add1"_s);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         if (rows < 0)
             m_book->expectFailure(u"wma_handycontacts"_s);
         const jet::Recordset printed
-            = m_book->data().openRecordset(printedMembersSql(of, AddressType(address), onlySelected));
+            = m_book->data().openRecordset(printedMembersSql(of, output::AddressSet(address), onlySelected));
         QCOMPARE(printed.isValid(), rows >= 0);
         QCOMPARE(printed.count(), std::max(0, rows));
         QFETCH(QString, first);
@@ -74,7 +74,7 @@ private Q_SLOTS:
             const QString listed = mailMembersSql(all, filter);
             QVERIFY(clearSelection(m_book->data()));
             QVERIFY(selectWhere(m_book->data(), u"id in (1,2)"_s, jet::Way::Dao, true));
-            const QString sql = printedMembersSql(all, AddressType::Home, true, listed);
+            const QString sql = printedMembersSql(all, output::AddressSet::Home, true, listed);
             QCOMPARE(m_book->data().openRecordset(sql, jet::Way::Ado).count(), 2);
             QVERIFY(m_book->data().openRecordset(listed, jet::Way::Ado).count() > 2);
         }

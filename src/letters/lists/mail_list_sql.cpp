@@ -70,10 +70,10 @@ QString familyCondition(const MailFilter& filter)
     return u" relation LIKE '%1' and  [FMTREE] = True "_s.arg(core::inQuotes(filter.relation));
 }
 
-QString columnList(const QString& prefix, AddressType address)
+QString columnList(const QString& prefix, output::AddressSet address)
 {
     QStringList columns{u"name"_s, u"company"_s};
-    columns += addressColumns(address);
+    columns += output::addressColumns(address);
     return prefix + columns.join(u',' + prefix);
 }
 
@@ -128,18 +128,8 @@ QString mailMembersCondition(const MailGroup& group, const MailFilter& filter)
     return ofGroup(tablesOf(group.tab).members, group);
 }
 
-QStringList addressColumns(AddressType address)
-{
-    constexpr QStringView prefixes[] = {u"h", u"w", u"b"};
-    const QString prefix = prefixes[static_cast<int>(address)].toString();
-    QStringList columns;
-    for (const QStringView part : {u"_add1", u"_add2", u"_city", u"_state", u"_pin"})
-        columns << prefix + part.toString();
-    return columns;
-}
-
 QString printedMembersSql(
-    const MailGroup& group, AddressType address, bool onlySelected, const QString& listed)
+    const MailGroup& group, output::AddressSet address, bool onlySelected, const QString& listed)
 {
     const QString columns = columnList({}, address);
     const QString condition = ofGroup(tablesOf(group.tab).printed, group);
@@ -164,7 +154,7 @@ QString printedMembersSql(
     case MailTab::Handy: {
         // Kept: of the second work address all but the first line is read from the first one, and without a
         // selection a bracket is missing, so that nobody is listed.
-        const bool isWork2 = address == AddressType::Work2;
+        const bool isWork2 = address == output::AddressSet::Work2;
         const QString ofHandy = isWork2 ? u"name,company,b_add1,w_add2,w_city,w_state,w_pin"_s : columns;
         const QString select = u"SELECT "_s + ofHandy + u" FROM [cnt_main] where "_s;
         if (onlySelected)

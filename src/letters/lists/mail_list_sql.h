@@ -1,6 +1,6 @@
 #pragma once
 
-#include "letters/creator/letter_address.h"
+#include "output/labels/label_report.h"
 
 #include <QString>
 
@@ -43,10 +43,7 @@ QString mailMembersCondition(const MailGroup& group, const MailFilter& filter);
 /// @param listed the statement of the grid, from which the contacts of the book are printed
 /// @param onlySelected of them, those that bear the mark
 QString printedMembersSql(
-    const MailGroup& group, AddressType address, bool onlySelected, const QString& listed = {});
-/// The columns of an address as these statements name them: two lines, city, state and pin.
-QStringList addressColumns(AddressType address);
-
+    const MailGroup& group, output::AddressSet address, bool onlySelected, const QString& listed = {});
 QString defaultTownSql();
 QString relationsSql();
 
