@@ -209,7 +209,7 @@ QWidget* LabelPanel::layOutSheet(For who)
     grid->addWidget(m_test, 6, 0);
     grid->addWidget(preview, 6, 1);
     grid->setRowStretch(0, 1);
-    connect(m_test, &QPushButton::clicked, this, &LabelPanel::printTest);
+    connect(m_test, &QPushButton::clicked, this, &LabelPanel::testWanted);
     connect(preview, &QPushButton::clicked, this, &LabelPanel::previewWanted);
     return box;
 }
@@ -321,11 +321,6 @@ bool LabelPanel::storeOwn(const QList<LabelSheet>& sheets, const QString& curren
     else
         readOwn(current);
     return why.isEmpty();
-}
-
-void LabelPanel::printTest()
-{
-    output::ShowReportViewer(m_context, output::testSheet(choice().sheet), tr("Test page of labels"));
 }
 
 bool showLabels(core::Context& context, jet::Recordset rows, const LabelChoice& choice, const QString& list)

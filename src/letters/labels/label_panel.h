@@ -26,7 +26,7 @@ struct LabelChoice {
 };
 
 /// The choices before labels are printed: one of five types of sheets or one of the person's own, which
-/// address, where on the sheet to begin, how often each. Prints a test page by itself.
+/// address, where on the sheet to begin, how often each.
 class LabelPanel : public QWidget {
     Q_OBJECT
 
@@ -41,6 +41,7 @@ public:
 
 Q_SIGNALS:
     void previewWanted();
+    void testWanted(); ///< a page with crosses for the sheet of the choice
 
 private:
     QWidget* layOutTypes(For who);
@@ -52,7 +53,6 @@ private:
     void editOwn(bool isNew);
     void deleteOwn();
     bool storeOwn(const QList<output::LabelSheet>& sheets, const QString& current);
-    void printTest();
 
     core::Context& m_context;
     QList<output::LabelSheet> m_own;

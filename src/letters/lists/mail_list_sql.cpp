@@ -11,29 +11,24 @@ namespace {
 /// Where a kind of group keeps its names and members.
 struct GroupTables {
     QStringView names; ///< the statement of all groups
-    QStringView byName; ///< the id of one; empty for groups without one
     QStringView members; ///< the subselection of the ids of contacts, of the grid
     QStringView printed; ///< the same as it is printed
 };
 
 /// In the order of MailTab. "%1" is the group.
 constexpr GroupTables kTables[kMailTabs] = {
-    {u"select distinct listname from cnt_maillist where listname is not null and listname <> ''", u"",
+    {u"select distinct listname from cnt_maillist where listname is not null and listname <> ''",
         u"id IN(SELECT perid from [cnt_maillist] WHERE listname='%1')", u""},
-    {u"", u"", u"", u""},
-    {u"", u"", u"fmtree=true", u""},
+    {u"", u"", u""},
+    {u"", u"fmtree=true", u""},
     {u"select [GROUP],ID from CNT_ASSOGRP where [GROUP] <> null",
-        u"select ID from CNT_ASSOGRP where [GROUP] = '%1'",
         u"id IN (select CNTID from CNT_ASSOMEMBER where [GROUPID] = %1)",
         u"id IN(SELECT cntid FROM [cnt_assomember] WHERE Groupid = %1)"},
-    {u"", u"", u"id in (SELECT cntid FROM [wma_handycontacts])",
-        u"id in(select cntid from [wma_handycontacts])"},
+    {u"", u"id in (SELECT cntid FROM [wma_handycontacts])", u"id in(select cntid from [wma_handycontacts])"},
     {u"select [group],id from wma_kittygroup where [group] <> null",
-        u"select ID from WMA_KITTYGROUP where [GROUP] = '%1'",
         u"id IN(select CNTID from WMA_KITTYMEMBER where [GROUPID] = %1)",
         u"id IN(SELECT cntid FROM [wma_kittymember] WHERE Groupid = %1)"},
     {u"select [event],id from wma_partyplanner where [event] <> null",
-        u"select ID from WMA_PARTYPLANNER where [EVENT] = '%1'",
         u"id IN (SELECT gid FROM [wma_partyguest] where [PID] = %1)",
         u"id IN(SELECT gid FROM [wma_partyguest] WHERE PID = %1)"},
 };
@@ -87,11 +82,6 @@ bool hasGroups(MailTab tab)
 QString mailGroupsSql(MailTab tab)
 {
     return tablesOf(tab).names.toString();
-}
-
-QString mailGroupIdSql(MailTab tab, const QString& group)
-{
-    return tablesOf(tab).byName.toString().replace(u"%1"_s, core::inQuotes(group));
 }
 
 QString mailMembersSql(const MailGroup& group, const MailFilter& filter)
@@ -167,6 +157,23 @@ QString printedMembersSql(
     }
     return u"SELECT "_s + columns + u" FROM [cnt_main] WHERE "_s
         + (onlySelected ? u"selected = true AND "_s : QString()) + condition;
+}
+
+QString savedMembersSql(const MailGroup& group, const MailFilter& filter, output::AddressSet address)
+{
+    constexpr QStringView prefixes[] = {u"h", u"w", u"b"};
+    const QString prefix = prefixes[static_cast<int>(address)].toString();
+    QString columns = u"name"_s;
+    for (const QStringView part : {u"_add1", u"_add2", u"_city", u"_state", u"_country", u"_pin"})
+        columns += u',' + prefix + part.toString();
+    return u"select "_s + columns + u" from [cnt_main] where "_s + mailMembersCondition(group, filter)
+        + u" order by name"_s;
+}
+
+QString memberIdsSql(const MailGroup& group, const MailFilter& filter)
+{
+    return u"select id,name from [cnt_main] where "_s + mailMembersCondition(group, filter)
+        + u" order by name"_s;
 }
 
 QString defaultTownSql()

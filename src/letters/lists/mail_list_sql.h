@@ -15,9 +15,6 @@ inline constexpr int kMailTabs = 7;
 bool hasGroups(MailTab tab);
 /// The groups of a tab, their names in the first column.
 QString mailGroupsSql(MailTab tab);
-/// The id of a group of associations, groups and parties by its name.
-QString mailGroupIdSql(MailTab tab, const QString& group);
-
 /// What is chosen on a tab.
 struct MailGroup {
     MailTab tab = MailTab::Lists;
@@ -44,6 +41,11 @@ QString mailMembersCondition(const MailGroup& group, const MailFilter& filter);
 /// @param onlySelected of them, those that bear the mark
 QString printedMembersSql(
     const MailGroup& group, output::AddressSet address, bool onlySelected, const QString& listed = {});
+/// The same members for a file: the name and the whole address.
+QString savedMembersSql(const MailGroup& group, const MailFilter& filter, output::AddressSet address);
+/// Their ids, by name.
+QString memberIdsSql(const MailGroup& group, const MailFilter& filter);
+
 QString defaultTownSql();
 QString relationsSql();
 
