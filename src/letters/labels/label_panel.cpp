@@ -119,7 +119,6 @@ QWidget* LabelPanel::layOutTypes(For who)
         auto* label = new QLabel(type);
         if (row < kTypes) {
             label->setText(type + u"   "_s + output::builtinSheets()[size_t(row)].name);
-            label->setWordWrap(true);
         }
         grid->addWidget(label, row + 1, 0);
         for (int column = 0; column < kAddresses; ++column) {

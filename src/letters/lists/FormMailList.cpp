@@ -11,6 +11,7 @@
 #include "letters/lists/list_members.h"
 #include "letters/lists/mail_letter.h"
 #include "letters/lists/mail_list_tools.h"
+#include "letters/lists/mail_tabs.h"
 #include "letters/lists/member_pane.h"
 #include "letters/lists/print_dialog.h"
 #include "letters/lists/save_list.h"
@@ -51,45 +52,6 @@ constexpr QStringView kPicker = u"FrmMailLstAdd";
 constexpr QStringView kGroupLetter = u"FrmGrpLetter";
 constexpr QStringView kExported = u"C:\\OVUserFiles\\Exported Files";
 constexpr QStringView kLetter = u"C:\\OVUserFiles\\Exported Files\\Mail.rtf";
-
-struct TabRow {
-    const char* caption;
-    const char* heading; ///< above the groups; none for a tab without
-    QStringView column; ///< with the names of the groups
-    const char* noGroups; ///< what a tab without groups says
-    const char* noMembers;
-};
-/// In the order of MailTab.
-constexpr TabRow kTabRows[kMailTabs] = {
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "User List"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "List Name"), u"listname",
-        QT_TRANSLATE_NOOP(
-            "letters::FormMailList", "No mailing lists yet.\nMake the first with \"Add New List\"."),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Nobody is in this list")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Contacts"), nullptr, u"", nullptr,
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No contacts here")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Family Tree"), nullptr, u"", nullptr,
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Nobody stands in the family tree")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Associations"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Groups"), u"group",
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No associations yet"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Nobody is in this group")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Handy Contacts"), nullptr, u"", nullptr,
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No handy contacts are kept in this book")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Groups"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Groups"), u"group",
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No groups are kept in this book"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Nobody is in this group")},
-    {QT_TRANSLATE_NOOP("letters::FormMailList", "Parties"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "Parties"), u"event",
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No parties are planned in this book"),
-        QT_TRANSLATE_NOOP("letters::FormMailList", "No guests yet")},
-};
-
-const TabRow& rowOf(MailTab tab)
-{
-    return kTabRows[static_cast<int>(tab)];
-}
 
 QPushButton* buttonOf(const QString& name, const QString& text, QStringView icon, const QString& toolTip)
 {
@@ -145,14 +107,15 @@ FormMailList::FormMailList(core::Context& context, QWidget* parent)
     SSActiveTabs1->setAccessibleName(tr("Kinds of groups"));
     SSActiveTabs1->setDrawBase(false);
     SSActiveTabs1->setExpanding(false);
-    for (const TabRow& row : kTabRows)
-        SSActiveTabs1->addTab(tr(row.caption));
+    for (const MailTabTexts& row : mailTabs())
+        SSActiveTabs1->addTab(row.caption());
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(layOutGroups());
+    m_groups = layOutGroups();
+    splitter->addWidget(m_groups);
     splitter->addWidget(m_members);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 2);
     auto* body = new QVBoxLayout;
     body->setContentsMargins(8, 4, 8, 8);
     body->setSpacing(6);
@@ -400,6 +363,7 @@ void FormMailList::chooseTab()
 {
     const bool isBook = tab() == MailTab::Contacts;
     const bool isFamily = tab() == MailTab::Family;
+    m_groups->setVisible(tab() != MailTab::Handy);
     list1->setVisible(hasGroups(tab()));
     m_filters->setVisible(!hasGroups(tab()));
     m_listTools->setVisible(tab() == MailTab::Lists);
@@ -423,10 +387,10 @@ void FormMailList::readGroups()
     if (!hasGroups(tab()))
         return;
     const QSignalBlocker quiet(list1);
-    const TabRow& row = rowOf(tab());
-    list1->setAccessibleName(tr(row.heading));
-    list1->setEmptyText(tr(row.noGroups));
-    list1->fill(tr(row.heading), context().data.openRecordset(mailGroupsSql(tab())), {row.column.toString()});
+    const MailTabTexts& row = textsOf(tab());
+    list1->setAccessibleName(row.heading());
+    list1->setEmptyText(row.noGroups());
+    list1->fill(row.heading(), context().data.openRecordset(mailGroupsSql(tab())), {row.column.toString()});
     list1->setCurrentRow(-1);
 }
 
@@ -434,7 +398,7 @@ bool FormMailList::pointAt(const QString& group)
 {
     const QSignalBlocker quiet(list1);
     for (int row = 0; row < list1->rowCount(); ++row) {
-        if (list1->textAt(row, rowOf(tab()).column.toString()).compare(group, Qt::CaseInsensitive) == 0) {
+        if (list1->textAt(row, textsOf(tab()).column.toString()).compare(group, Qt::CaseInsensitive) == 0) {
             list1->setCurrentRow(row);
             return true;
         }
@@ -450,7 +414,7 @@ void FormMailList::chooseGroup()
 
 void FormMailList::showMembers()
 {
-    const TabRow& row = rowOf(tab());
+    const MailTabTexts& row = textsOf(tab());
     if (hasGroups(tab()) && list1->currentRow() < 0) {
         m_members->showNone(list1->rowCount() == 0 ? QString() : tr("Choose a list"));
     } else {
@@ -459,7 +423,7 @@ void FormMailList::showMembers()
             group.name = list1->currentText(row.column.toString());
             group.id = list1->currentKey();
         }
-        QString empty = tr(row.noMembers);
+        QString empty = row.noMembers();
         if (tab() == MailTab::Contacts && m_ticks[2]->isChecked())
             empty = tr("Nobody has \"%1 \", with a blank at the end, as the city of the home").arg(m_town);
         m_members->show(group, filter(), empty);
@@ -567,7 +531,7 @@ void FormMailList::askWhatToPrint(bool onlySelected)
         return inform(tr("Record not selected"));
     m_onlySelected = onlySelected;
     const QString whose
-        = m_members->group().name.isEmpty() ? tr(rowOf(tab()).caption) : m_members->group().name;
+        = m_members->group().name.isEmpty() ? textsOf(tab()).caption() : m_members->group().name;
     m_print->ask(onlySelected ? tr("%1: those selected, %2").arg(whose).arg(m_members->selected())
                               : tr("%1: all members, %2").arg(whose).arg(m_members->grid()->rowCount()));
 }
@@ -585,7 +549,7 @@ void FormMailList::saveAsFile()
     constexpr output::GridFormat formats[]
         = {output::GridFormat::Xls, output::GridFormat::Csv, output::GridFormat::Txt};
     const QString list
-        = m_members->group().name.isEmpty() ? tr(rowOf(tab()).caption) : m_members->group().name;
+        = m_members->group().name.isEmpty() ? textsOf(tab()).caption() : m_members->group().name;
     jet::Recordset rows
         = context().data.openRecordset(savedMembersSql(m_members->group(), m_members->filter(),
                                            output::AddressSet(m_addresses->checkedId())),

@@ -80,6 +80,7 @@ private:
     PrintDialog* m_print;
     QTabBar* SSActiveTabs1;
     widgets::HeadingGrid* list1;
+    QWidget* m_groups; ///< or what narrows the members down
     QWidget* m_filters;
     QWidget* m_listTools; ///< what changes a mailing list
     QList<QCheckBox*> m_ticks; ///< first and second priority, the town of one's own

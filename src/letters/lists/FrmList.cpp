@@ -30,11 +30,11 @@ FrmList::FrmList(core::Context& context, QWidget* parent)
         tr("Nobody is chosen.\nChoose contacts in another screen and its tool \"Add to a list\"."));
     widgets::FormKit form(this);
     form.group()
-        .caption(u"lblPeople"_s)
-        .wide(u"lstPeople"_s, tr("People to be added"), m_names)
         .combo(u"cmbList"_s, tr("&List"))
         .hint(tr("A list that is there, or the name of a new mailing list"))
-        .caption(u"lblWhat"_s);
+        .caption(u"lblWhat"_s)
+        .caption(u"lblPeople"_s)
+        .wide(u"lstPeople"_s, tr("People to be added"), m_names);
     form.buttonRow()
         .stretch()
         .button(u"cmdOk"_s, tr("&Add"), u"add", tr("Put the people into the list (Enter)"))
@@ -48,10 +48,6 @@ FrmList::FrmList(core::Context& context, QWidget* parent)
     cmdOk = child<QPushButton>(this, u"cmdOk"_s);
     setFocusProxy(cmbList);
     connect(cmbList, &QComboBox::currentTextChanged, this, &FrmList::follow);
-    connect(cmbList->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        if (cmdOk->isEnabled())
-            cmdOk->click();
-    });
     connect(cmdOk, &QPushButton::clicked, this, &FrmList::add);
     connect(child<QPushButton>(this, u"cmdCancel"_s), &QPushButton::clicked, this, &Screen::closeRequested);
 }
@@ -192,6 +188,8 @@ void FrmList::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
         Q_EMIT closeRequested();
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && cmdOk->isEnabled())
+        cmdOk->click();
     else
         Screen::keyPressEvent(event);
 }
