@@ -138,11 +138,11 @@ QToolBar* FormMailList::layOutTools()
 {
     auto* bar = m_tools->makeToolBar(this);
     auto* help = new QAction(tr("Help"), this);
-    help->setObjectName(u"CmdHelp"_s);
     widgets::setIcon(help, u"help");
     help->setToolTip(tr("What this screen is for"));
     bar->addSeparator();
     bar->addAction(help);
+    bar->widgetForAction(help)->setObjectName(u"CmdHelp"_s);
     connect(help, &QAction::triggered, this,
         [this, bar, help] { showHelp(u"CON0017"_s, bar->widgetForAction(help)); });
     return bar;
