@@ -9,6 +9,7 @@
 #include "core/shell/storage_notice.h"
 #include "core/store/book_files.h"
 #include "core/store/book_schema.h"
+#include "editor/letter_merger.h"
 #include "entry/register_entry.h"
 #include "letters/register_letters.h"
 #include "output/register_output.h"
@@ -25,6 +26,7 @@
 #include "platform/mail_preview.h"
 #include "platform/mailbox_client.h"
 #include "platform/player_sounds.h"
+#include "platform/sane_scanner.h"
 #include "platform/shortcut_favourites.h"
 #include "platform/single_instance.h"
 #include "platform/user_folders.h"
@@ -128,6 +130,8 @@ int main(int argc, char** argv)
     mail.setPreview([](const platform::MailItem& item) { return platform::showMailPreview(item); });
     platform::SerialDeviceFile modemPorts(QDir(folder).filePath(u"modem.ini"_s));
     platform::DevicePort modem(modemPorts);
+    editor::LetterMerger wordProcessor(drive, desktop);
+    platform::SaneScanner scanner;
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -138,7 +142,7 @@ int main(int argc, char** argv)
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-            mailAccounts, modem, modemPorts}};
+            mailAccounts, modem, modemPorts, wordProcessor, scanner}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

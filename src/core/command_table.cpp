@@ -21,7 +21,7 @@ constexpr OpenScreen birthdays(QStringView page)
     return {.form = u"frmbday", .page = page};
 }
 
-constexpr OpenScreen ArrangeLetters{.form = u"Frmgmail", .title = u"Arrange Letter"};
+constexpr OpenScreen ArrangeLetters{.form = u"Frmgmail", .page = u"Arrange", .title = u"Arrange Letter"};
 constexpr OpenScreen ArrangeEmails{
     .form = u"FrmEmilRec", .page = u"E_Mail Category Wise", .title = u"Arrange Emails"};
 constexpr OpenScreen EmailRecord{.form = u"FrmEmailRecord", .title = u"Email Record"};

@@ -13,11 +13,13 @@ class MailClient;
 class MailContacts;
 class MessageBoxes;
 class Printer;
+class Scanner;
 class SerialDevices;
 class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
+class WordProcessor;
 } // namespace platform
 
 namespace core {
@@ -41,6 +43,8 @@ struct Services {
     platform::MailAccounts& mailAccounts;
     platform::SerialPort& modem;
     platform::SerialDevices& modemPorts;
+    platform::WordProcessor& wordProcessor;
+    platform::Scanner& scanner;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

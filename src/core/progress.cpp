@@ -30,4 +30,10 @@ bool Progress::advance(int done)
     return !m_dialog || !m_dialog->wasCanceled();
 }
 
+void Progress::say(const QString& text)
+{
+    if (m_dialog)
+        m_dialog->setLabelText(text);
+}
+
 } // namespace core

@@ -22,6 +22,8 @@ public:
 
     /// Shows how much is done and lets the window live; false when the person has stopped the work.
     bool advance(int done);
+    /// What is being done now, in place of the text so far.
+    void say(const QString& text);
 
 private:
     std::unique_ptr<QProgressDialog> m_dialog;

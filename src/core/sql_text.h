@@ -11,6 +11,19 @@ inline QString inQuotes(const QString& value)
     return QString(value).replace(u'\'', QStringLiteral("''"));
 }
 
+/// A text within the pattern of a `like`, where its letters stand for themselves.
+inline QString likeText(const QString& text)
+{
+    QString pattern;
+    for (const QChar letter : text) {
+        if (letter == u'*' || letter == u'?' || letter == u'#' || letter == u'[')
+            pattern += u'[' + QString(letter) + u']';
+        else
+            pattern += letter;
+    }
+    return inQuotes(pattern);
+}
+
 /// Filters start with "All"; it and a blank value mean no condition.
 inline bool isAll(const QString& value)
 {

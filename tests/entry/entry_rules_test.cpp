@@ -1,10 +1,10 @@
 #include <QtTest>
 
 #include "core/photo_file.h"
+#include "core/stored_file.h"
 #include "entry/assists/address_lookup.h"
 #include "entry/assists/city_assist.h"
 #include "entry/assists/typed_word.h"
-#include "entry/form/photo_store.h"
 #include "platform/folder_drive.h"
 #include "support/columns.h"
 #include "support/disk.h"
@@ -180,14 +180,14 @@ private Q_SLOTS:
         const QString path = support::put(root.filePath(chosen), "picture");
         const bool goesWithTheSave = mode != u"Link" && chosen.startsWith(u"in/");
         {
-            const StoredPhoto failed(drive, path, mode);
+            const core::StoredFile failed(drive, core::kPhotoFolder, path, mode);
             QCOMPARE(failed.path(), stored);
             QVERIFY(QFile::exists(core::photoFile(drive, stored)));
         }
         // A save that failed leaves the picture where it was, and no copy.
         QVERIFY(QFile::exists(path));
         QCOMPARE(QFile::exists(core::photoFile(drive, stored)), !goesWithTheSave);
-        StoredPhoto(drive, path, mode).keep();
+        core::StoredFile(drive, core::kPhotoFolder, path, mode).keep();
         QTEST(QFile::exists(path), "stays");
         QVERIFY(QFile::exists(core::photoFile(drive, stored)));
     }
@@ -195,7 +195,7 @@ private Q_SLOTS:
     void photoNeverOverwrites()
     {
         const auto storePhoto = [](const platform::Drive& on, const QString& chosen, const QString& mode) {
-            StoredPhoto photo(on, chosen, mode);
+            core::StoredFile photo(on, core::kPhotoFolder, chosen, mode);
             photo.keep();
             return photo.path();
         };

@@ -1,5 +1,6 @@
 #include "support/recording_services.h"
 
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 
@@ -302,6 +303,43 @@ void ScriptedModem::vanish()
 {
     isOpen = false;
     tell();
+}
+
+bool RecordingWordProcessor::create()
+{
+    typed.clear();
+    data.clear();
+    return isThere;
+}
+
+QString RecordingWordProcessor::setData(
+    QStringView file, const QString& header, const QList<QStringList>& rows)
+{
+    data = {file.toString(), header};
+    for (const QStringList& row : rows)
+        data << row.join(u'|');
+    return {};
+}
+
+platform::MergeResult RecordingWordProcessor::run(const QString& folder, const QString& stem)
+{
+    merged << folder + u'\\' + stem;
+    return {.files = {merged.constLast()}};
+}
+
+bool RecordingWordProcessor::show()
+{
+    ++shows;
+    return true;
+}
+
+void ScriptedScanner::scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done)
+{
+    orders << order;
+    QFile file(order.file);
+    const bool isWritten = !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) > 0;
+    file.close();
+    done(isWritten ? QString() : u"Out of paper"_s);
 }
 
 } // namespace support

@@ -13,10 +13,12 @@
 #include "platform/mail_account.h"
 #include "platform/mail_client.h"
 #include "platform/printer.h"
+#include "platform/scanner.h"
 #include "platform/serial_port.h"
 #include "platform/shell.h"
 #include "platform/sounds.h"
 #include "platform/special_folders.h"
+#include "platform/word_processor.h"
 
 /// Services of the platform that only write down what was asked of them.
 namespace support {
@@ -194,6 +196,40 @@ private:
 
     QByteArray waiting;
     std::function<void()> listener;
+};
+
+/// A word processor that keeps what was typed, fields between double angles.
+class RecordingWordProcessor final : public platform::WordProcessor {
+public:
+    bool create() override;
+    QString setData(QStringView file, const QString& header, const QList<QStringList>& rows) override;
+    void typeText(const QString& text) override { typed += text; }
+    void typeField(const QString& column) override { typed += u'«' + column + u'»'; }
+    void typeParagraphs(const formats::RichText& text) override { typed += text.plain() + u'\n'; }
+    platform::MergeResult run(const QString& folder, const QString& stem) override;
+    bool show() override;
+
+    bool isThere = true;
+    QString typed;
+    QStringList data; ///< path, header and rows of the data file, the values with bars between
+    QStringList merged; ///< "folder\\stem" of each document
+    int shows = 0;
+};
+
+/// A scanner that answers at once: each page is the picture that the test gave it.
+class ScriptedScanner final : public platform::Scanner {
+public:
+    bool isAvailable() const override { return true; }
+    void findDevices(std::function<void(const QList<platform::ScannerDevice>&)> found) override
+    {
+        found(devices);
+    }
+    void scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done) override;
+    void cancel() override { }
+
+    QList<platform::ScannerDevice> devices;
+    QByteArray picture;
+    QList<platform::ScanOrder> orders;
 };
 
 } // namespace support

@@ -99,6 +99,8 @@ public:
     RecordingMail mail;
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
+    RecordingWordProcessor wordProcessor;
+    ScriptedScanner scanner;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;

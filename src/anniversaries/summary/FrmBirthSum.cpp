@@ -2,13 +2,12 @@
 
 #include "core/tool_set.h"
 #include "output/grid/list_print.h"
-#include "platform/printer.h"
+#include "output/print_chart.h"
 #include "widgets/bar_chart.h"
 #include "widgets/heading_grid.h"
 
 #include <QAction>
 #include <QLabel>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabBar>
@@ -121,22 +120,8 @@ void FrmBirthSum::showCounts()
 
 void FrmBirthSum::printChart()
 {
-    constexpr double kWide = 11906; // A4, in twips
-    constexpr double kHigh = 16838;
-    constexpr double kMargin = 1134;
-    const QString title = m_tabs->tabText(m_tabs->currentIndex());
-    const platform::PrintJob job{
-        title, kWide, kHigh, 1, [this, title](QPainter& painter, int) {
-            const QRectF page = QRectF(0, 0, kWide, kHigh).adjusted(kMargin, kMargin, -kMargin, -kMargin);
-            QFont font = painter.font();
-            font.setPixelSize(320);
-            painter.setFont(font);
-            painter.drawText(page, Qt::AlignLeft | Qt::AlignTop, title);
-            font.setPixelSize(200);
-            painter.setFont(font);
-            m_chart->print(painter, page.adjusted(0, 600, 0, -page.height() / 2));
-        }};
-    if (context().services.printer.print(job, this) == platform::Printed::Failed)
+    if (!output::printChart(
+            context().services.printer, *m_chart, m_tabs->tabText(m_tabs->currentIndex()), this))
         warn(tr("The bars could not be printed."));
 }
 

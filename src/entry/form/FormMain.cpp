@@ -489,7 +489,7 @@ SaveOptions FormMain::saveOptions(const QString& name) const
 qint64 FormMain::add(const FormValues& values, const QString& name)
 {
     shared().TableName = u"Contact-AddData"_s;
-    StoredPhoto photo = m_photo->store();
+    core::StoredFile photo = m_photo->store();
     FormValues stored = values;
     stored.texts[u"Photo"_s] = photo.path();
     const qint64 id = [&] {
@@ -512,7 +512,7 @@ qint64 FormMain::edit(const FormValues& values, const QString& name)
     jet::Recordset rows = m_editor.open();
     if (!rows.hasRow())
         return addAgain(rows, values, name);
-    StoredPhoto photo = m_photo->store();
+    core::StoredFile photo = m_photo->store();
     FormValues stored = values;
     stored.texts[u"Photo"_s] = photo.path();
     const auto edits = columnEdits(m_variant.editColumns, stored, saveOptions(name),

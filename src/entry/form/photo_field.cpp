@@ -57,11 +57,12 @@ void PhotoField::choose()
 }
 
 // Nothing is copied or moved where nothing was chosen.
-StoredPhoto PhotoField::store() const
+core::StoredFile PhotoField::store() const
 {
     if (!m_isChosen)
-        return StoredPhoto(m_path);
-    return StoredPhoto(m_context.services.drive, m_path, m_context.shared.PhotoStoreMode);
+        return core::StoredFile(m_path);
+    return core::StoredFile(
+        m_context.services.drive, core::kPhotoFolder, m_path, m_context.shared.PhotoStoreMode);
 }
 
 } // namespace entry

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/context.h"
-#include "entry/form/photo_store.h"
+#include "core/stored_file.h"
 
 #include <QObject>
 
@@ -23,7 +23,7 @@ public:
     /// As the contact stores it, or of this computer while it is only chosen.
     const QString& path() const { return m_path; }
     /// Puts a chosen picture where the settings want it; keep() it when the contact is stored.
-    StoredPhoto store() const;
+    core::StoredFile store() const;
 
 private:
     void show(const QString& path);

@@ -1,4 +1,4 @@
-#include "entry/form/photo_store.h"
+#include "core/stored_file.h"
 
 #include "platform/drive.h"
 
@@ -8,11 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace entry {
+namespace core {
 
 namespace {
-
-constexpr QStringView kFolder = u"C:\\OVUserFiles\\Photos";
 
 QString freeName(const QString& folder, const QFileInfo& file)
 {
@@ -28,24 +26,25 @@ QString freeName(const QString& folder, const QFileInfo& file)
 
 } // namespace
 
-StoredPhoto::StoredPhoto(const platform::Drive& drive, const QString& chosen, const QString& mode)
+StoredFile::StoredFile(
+    const platform::Drive& drive, QStringView folder, const QString& chosen, const QString& mode)
     : m_chosen(chosen)
     , m_isMoved(mode == u"Move")
 {
     const QString own = drive.named(chosen);
     m_path = own.isEmpty() ? chosen : own;
-    if ((!m_isMoved && mode != u"Copy") || !drive.ensureFolder(kFolder))
+    if ((!m_isMoved && mode != u"Copy") || !drive.ensureFolder(folder))
         return;
-    const QString folder = drive.local(kFolder);
-    // A picture that lies there already needs no second copy.
-    if (QFileInfo(chosen).canonicalPath() == QFileInfo(folder).canonicalFilePath())
+    const QString place = drive.local(folder);
+    // A file that lies there already needs no second copy.
+    if (QFileInfo(chosen).canonicalPath() == QFileInfo(place).canonicalFilePath())
         return;
-    const QString name = freeName(folder, QFileInfo(chosen));
-    const QString target = QDir(folder).filePath(name);
+    const QString name = freeName(place, QFileInfo(chosen));
+    const QString target = QDir(place).filePath(name);
     if (name.isEmpty() || !(m_isMoved ? QFile::rename(chosen, target) : QFile::copy(chosen, target)))
         return;
     m_copy = target;
-    m_path = kFolder.toString() + u'\\' + name;
+    m_path = folder.toString() + u'\\' + name;
 }
 
 namespace {
@@ -60,13 +59,13 @@ void putBack(const QString& copy, const QString& chosen, bool isMoved)
 
 } // namespace
 
-StoredPhoto::~StoredPhoto()
+StoredFile::~StoredFile()
 {
     if (!m_copy.isEmpty())
         putBack(m_copy, m_chosen, m_isMoved);
 }
 
-jet::StepFollower StoredPhoto::follower() const
+jet::StepFollower StoredFile::follower() const
 {
     if (m_copy.isEmpty())
         return {};
@@ -80,4 +79,4 @@ jet::StepFollower StoredPhoto::follower() const
     };
 }
 
-} // namespace entry
+} // namespace core

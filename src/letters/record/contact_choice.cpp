@@ -1,0 +1,79 @@
+#include "letters/record/contact_choice.h"
+
+#include "core/sql_text.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QStandardItemModel>
+
+using namespace Qt::StringLiterals;
+
+namespace letters {
+
+namespace {
+
+constexpr int kMostOffered = 40;
+
+QString namesFrom(const QString& beginning)
+{
+    return u"select top %1 id,name,h_city from cnt_main where name like '%2*' order by name"_s
+        .arg(kMostOffered)
+        .arg(core::likeText(beginning));
+}
+
+} // namespace
+
+ContactChoice::ContactChoice(jet::Database& book, QWidget* parent)
+    : QLineEdit(parent)
+    , m_data(book)
+    , m_found(new QStandardItemModel(this))
+    , m_completer(new QCompleter(m_found, this))
+{
+    m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    m_completer->setCompletionRole(Qt::EditRole);
+    m_completer->setMaxVisibleItems(12);
+    setCompleter(m_completer);
+    connect(this, &QLineEdit::textEdited, this, &ContactChoice::suggest);
+    connect(m_completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+        [this](const QModelIndex& index) {
+            setContact(index.data(Qt::UserRole).toLongLong(), index.data(Qt::EditRole).toString());
+            Q_EMIT contactPicked();
+        });
+}
+
+void ContactChoice::setContact(qint64 id, const QString& name)
+{
+    m_id = id;
+    m_name = name;
+    setText(name);
+}
+
+qint64 ContactChoice::contactId() const
+{
+    const QString typed = text().trimmed();
+    if (m_id != 0 && typed == m_name.trimmed())
+        return m_id;
+    if (typed.isEmpty())
+        return 0;
+    const jet::Recordset named
+        = m_data.openRecordset(u"select top 2 id from cnt_main where name='%1'"_s.arg(core::inQuotes(typed)));
+    return named.count() == 1 ? named.number(u"id") : 0;
+}
+
+void ContactChoice::suggest(const QString& typed)
+{
+    m_found->clear();
+    if (typed.trimmed().isEmpty())
+        return;
+    const jet::Recordset people = m_data.openRecordset(namesFrom(typed));
+    for (int row = 0; row < people.count(); ++row) {
+        const QString city = people.textAt(row, 2).simplified();
+        auto* item = new QStandardItem(people.textAt(row, 1));
+        item->setData(people.valueAt(row, 0), Qt::UserRole);
+        if (!city.isEmpty())
+            item->setToolTip(city.toHtmlEscaped());
+        m_found->appendRow(item);
+    }
+}
+
+} // namespace letters
