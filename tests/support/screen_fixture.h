@@ -100,7 +100,6 @@ public:
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
-    FixedSpeller speller;
     ScriptedScanner scanner;
     FixedSpeller speller;
     jet::Schema schema;

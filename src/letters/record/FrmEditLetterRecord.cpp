@@ -88,7 +88,8 @@ void FrmEditLetterRecord::load()
     setFrameTitle(windowTitle());
     m_fields.control<widgets::DateBox>(u"Ssdate1"_s)->setFormat(core::datePattern(shared().NationalMode));
     // Opened by itself it begins with the latest letter.
-    const jet::Recordset last = context().data.openRecordset(u"select id from cnt_letters order by id desc"_s);
+    const jet::Recordset last
+        = context().data.openRecordset(u"select id from cnt_letters order by id desc"_s);
     if (!display(last.hasRow() ? last.number(u"id") : 0))
         m_fields.keepAsLoaded();
 }
