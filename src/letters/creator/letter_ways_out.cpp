@@ -133,6 +133,8 @@ void LetterCreator::preview(int style)
         .signature = text.signature,
         .body = openingsAndBody(text)};
     look.closing.removeAll(QString());
+    for (const Recipient& to : recipients)
+        look.readers << to.salutation;
     if (m_isHandmade) {
         // What was changed by hand has its closing in it.
         look.body = belowHead(RText->text());

@@ -38,6 +38,8 @@ public:
     LetterRows(const LetterLook& look, std::shared_ptr<const ReportSource> rows)
         : m_rows(std::move(rows))
         , m_bodyField(m_rows->field(u"Body"_s))
+        , m_personField(m_rows->field(u"person"_s))
+        , m_readers(look.readers)
         , m_body(look.body)
     {
         set(u"sender"_s, look.senderName);
@@ -54,11 +56,17 @@ public:
     int count() const override { return m_rows->count(); }
     int field(const QString& column) const override
     {
+        if (column == u"reader")
+            return m_personField < 0 ? -1 : kReader;
         const auto own = static_cast<int>(m_names.indexOf(column));
         return own >= 0 ? kOwn + own : m_rows->field(column);
     }
     QString text(int row, int field) const override
     {
+        if (field == kReader) {
+            const QString reader = m_readers.value(row);
+            return reader.trimmed().isEmpty() ? m_rows->text(row, m_personField) : reader;
+        }
         if (field >= kOwn)
             return m_texts[field - kOwn];
         return field == m_bodyField && !m_body.isEmpty() ? m_body.plain() : m_rows->text(row, field);
@@ -69,7 +77,8 @@ public:
     }
 
 private:
-    static constexpr int kOwn = 1000; ///< above the columns of a table
+    static constexpr int kReader = 1000; ///< above the columns of a table
+    static constexpr int kOwn = 1001;
 
     void set(const QString& name, const QString& text)
     {
@@ -79,6 +88,8 @@ private:
 
     std::shared_ptr<const ReportSource> m_rows;
     int m_bodyField;
+    int m_personField;
+    QStringList m_readers;
     formats::RichText m_body;
     QStringList m_names;
     QStringList m_texts;
@@ -111,7 +122,7 @@ void addAddress(Lines& lines, const Places& places)
 
 void addText(Lines& lines)
 {
-    lines.insert(lines.end(), {blank(), line(u"{greeting} {person}"_s), blank(), line(u"{Body}"_s), blank()});
+    lines.insert(lines.end(), {blank(), line(u"{greeting} {reader}"_s), blank(), line(u"{Body}"_s), blank()});
     lines.push_back(line(u"{closing}"_s));
 }
 

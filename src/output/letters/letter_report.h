@@ -16,6 +16,7 @@ struct LetterLook {
     QStringList senderAddress = {}; ///< by line
     QString date = {};
     QString greeting = {}; ///< in front of the name
+    QStringList readers = {}; ///< how each is spoken to, by row; by the name where nothing is given
     QStringList closing = {}; ///< lines below the body
     QString ending = {};
     QString signature = {};
