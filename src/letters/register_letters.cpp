@@ -5,6 +5,7 @@
 #include "letters/creator/FrmEmailInsert.h"
 #include "letters/creator/FrmGrpLetter.h"
 #include "letters/creator/FrmLetter.h"
+#include "letters/ltr_setup/FormLtrSetUp.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
 #include "letters/record/FrmLetterRecord.h"
@@ -27,6 +28,7 @@ void registerLetters(core::Screens& screens)
     screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
     screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
     screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
+    screens.add<FormLtrSetUp>(u"FormLtrSetUp"_s);
 }
 
 } // namespace letters

@@ -210,6 +210,8 @@ void LetterCreator::load()
             found << rows.textAt(row, rows.columnIndex(u"word"));
         return found;
     };
+    for (editor::TextEditor* text : {txtdetails, RText})
+        text->setSpeller(&context().services.speller);
     txtdetails->setWordSource(words);
     RText->setWordSource(words);
     m_recipients->load();
