@@ -4,6 +4,7 @@
 #include "letters/ltr_setup/entry_panel.h"
 #include "letters/ltr_setup/journal_panel.h"
 #include "letters/ltr_setup/lines_panel.h"
+#include "letters/ltr_setup/list_choice.h"
 #include "letters/ltr_setup/mail_fields_panel.h"
 #include "widgets/narrow_bars.h"
 #include "widgets/theme.h"
@@ -30,6 +31,12 @@ constexpr auto kHelpCode = "helpCode"; ///< of a page
 constexpr auto kPage = "setUpPage"; ///< of a panel: the name by which other screens open it
 constexpr QStringView kGeneralHelp = u"CON0012";
 
+QWidget* narrow(QWidget* panel)
+{
+    panel->setMaximumWidth(kWidestList);
+    return panel;
+}
+
 QWidget* named(QWidget* panel, const char* page)
 {
     panel->setProperty(kPage, QString::fromLatin1(page));
@@ -55,8 +62,8 @@ FormLtrSetUp::FormLtrSetUp(core::Context& context, QWidget* parent)
     addTab(listsOf(ListTab::Mail) << named(new SignaturePanel(context), "Signature")
                                   << named(new MailFieldsPanel(context), "Fields"),
         tr("E-mail"), u"edit", u"CON0014"_s);
-    addTab(listsOf(ListTab::MailDatabase), tr("E-mail database"), u"drive", u"CON0016"_s);
-    addTab({named(new UserFieldsPanel(context), "User fields")}, tr("User fields"), u"star",
+    addTab({named(mailDatabase(), "Email lists")}, tr("E-mail database"), u"drive", u"CON0016"_s);
+    addTab({named(narrow(new UserFieldsPanel(context)), "User fields")}, tr("User fields"), u"star",
         kGeneralHelp.toString());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 10, 10, 10);
@@ -77,7 +84,7 @@ void FormLtrSetUp::addTab(
     row->setSpacing(0);
     core::Screens& screens = context().screens;
     for (QWidget* each : panels) {
-        if (panels.size() > 1 && each->maximumWidth() == QWIDGETSIZE_MAX)
+        if (each->maximumWidth() == QWIDGETSIZE_MAX && panels.size() > 1)
             each->setMaximumWidth(2 * kWidestList);
         row->add(each);
         connect(static_cast<core::SetupPanel*>(each), &core::SetupPanel::vocabulariesChanged, this,
@@ -104,6 +111,16 @@ QList<QWidget*> FormLtrSetUp::listsOf(ListTab tab)
         panels << panel;
     }
     return panels;
+}
+
+QWidget* FormLtrSetUp::mailDatabase()
+{
+    QList<const StoredList*> lists;
+    for (const StoredList& list : storedLists()) {
+        if (list.tab == ListTab::MailDatabase)
+            lists << &list;
+    }
+    return new ListChoice(context(), lists);
 }
 
 QWidget* FormLtrSetUp::layOutFoot()
@@ -169,7 +186,8 @@ void FormLtrSetUp::bookChanged()
 // What is typed and not saved stays while other tabs are looked at.
 void FormLtrSetUp::readTab()
 {
-    for (auto* panel : SSTab1->currentWidget()->findChildren<core::SetupPanel*>()) {
+    const auto* page = static_cast<QScrollArea*>(SSTab1->currentWidget())->widget();
+    for (auto* panel : page->findChildren<core::SetupPanel*>(Qt::FindDirectChildrenOnly)) {
         if (!panel->isTouched())
             panel->refresh();
     }

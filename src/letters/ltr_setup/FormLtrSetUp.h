@@ -31,6 +31,7 @@ private:
     void addTab(
         const QList<QWidget*>& panels, const QString& caption, QStringView icon, const QString& helpCode);
     QList<QWidget*> listsOf(ListTab tab);
+    QWidget* mailDatabase();
     QWidget* layOutFoot();
     void readTab();
 
