@@ -165,6 +165,13 @@ void TextEditor::setReadOnly(bool readOnly)
     m_tools->follow();
 }
 
+void TextEditor::setPlain()
+{
+    m_isPlain = true;
+    m_field->setAcceptRichText(false);
+    m_tools->setVisible(false);
+}
+
 QTextEdit& TextEditor::field() const
 {
     return *m_field;
@@ -187,7 +194,9 @@ void TextEditor::perform(TextCommand command)
     case TextCommand::PastePlain: return m_field->pastePlain();
     case TextCommand::CheckSpelling: return m_spelling->open();
     case TextCommand::OfferWords: return m_offers->offerAll();
-    default: return applyLook(*m_field, command);
+    default:
+        if (!m_isPlain)
+            applyLook(*m_field, command);
     }
 }
 

@@ -52,6 +52,8 @@ public:
     bool isModified() const;
     void setModified(bool modified);
     void setReadOnly(bool readOnly);
+    /// For texts that have no looks: without the tool bar, and nothing is pasted with looks.
+    void setPlain();
     /// What a tool of the bar does.
     void perform(TextCommand command);
     /// The field itself, for its name, its place in the order of tabs and its menu.
@@ -86,6 +88,7 @@ private:
     QMenu* m_spellingMenu;
     QLabel* m_counts;
     QTimer m_countSoon;
+    bool m_isPlain = false;
 };
 
 } // namespace editor

@@ -52,7 +52,8 @@ TextField::TextField(QWidget* parent)
 
 void TextField::insertFromMimeData(const QMimeData* source)
 {
-    insertRichText(textCursor(), textOf(*source));
+    const formats::RichText text = textOf(*source);
+    insertRichText(textCursor(), acceptRichText() ? text : formats::RichText::fromPlain(text.plain()));
     ensureCursorVisible();
 }
 

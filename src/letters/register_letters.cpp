@@ -9,6 +9,7 @@
 #include "letters/lists/FormMailList.h"
 #include "letters/lists/FrmList.h"
 #include "letters/lists/FrmMailLstAdd.h"
+#include "letters/ltr_setup/FormLtrSetUp.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
 #include "letters/record/FrmLetterRecord.h"
@@ -35,6 +36,7 @@ void registerLetters(core::Screens& screens)
     screens.add<FrmBusinessLetter>(u"FrmBusinessLetter"_s);
     screens.add<FrmGrpLetter>(u"FrmGrpLetter"_s);
     screens.add<FrmEmailInsert>(u"FrmEmailInsert"_s);
+    screens.add<FormLtrSetUp>(u"FormLtrSetUp"_s);
 }
 
 } // namespace letters

@@ -66,7 +66,7 @@ FrmOthers::FrmOthers(core::Context& context, QWidget* parent)
 // On a small screen a page scrolls, rather than the window growing out of it.
 void FrmOthers::addTab(QWidget* page, const QString& caption, QStringView icon)
 {
-    if (auto* panel = qobject_cast<SetupPanel*>(page))
+    if (auto* panel = qobject_cast<core::SetupPanel*>(page))
         watch(panel);
     auto* scroller = new QScrollArea;
     auto* holder = new QWidget;
@@ -150,11 +150,13 @@ QWidget* FrmOthers::layOutFoot()
     return foot;
 }
 
-void FrmOthers::watch(SetupPanel* panel)
+void FrmOthers::watch(core::SetupPanel* panel)
 {
     core::Screens& screens = context().screens;
-    connect(panel, &SetupPanel::vocabulariesChanged, this, [&screens] { screens.tellVocabulariesChanged(); });
-    connect(panel, &SetupPanel::contactsChanged, this, [this, &screens] { screens.tellBookChanged(this); });
+    connect(panel, &core::SetupPanel::vocabulariesChanged, this,
+        [&screens] { screens.tellVocabulariesChanged(); });
+    connect(
+        panel, &core::SetupPanel::contactsChanged, this, [this, &screens] { screens.tellBookChanged(this); });
 }
 
 QSize FrmOthers::sizeHint() const
@@ -180,7 +182,7 @@ void FrmOthers::openPage(const QString& page)
 
 bool FrmOthers::isTouched() const
 {
-    return std::ranges::any_of(sstab1->findChildren<SetupPanel*>(), &SetupPanel::isTouched);
+    return std::ranges::any_of(sstab1->findChildren<core::SetupPanel*>(), &core::SetupPanel::isTouched);
 }
 
 // Another screen may have changed a list or a setting.
@@ -193,7 +195,7 @@ void FrmOthers::readTab()
 {
     QWidget* page = sstab1->currentWidget();
     // What is typed and not saved stays while other tabs are looked at.
-    for (auto* panel : page->findChildren<SetupPanel*>()) {
+    for (auto* panel : page->findChildren<core::SetupPanel*>()) {
         if (!panel->isTouched())
             panel->refresh();
     }

@@ -9,9 +9,12 @@ namespace widgets {
 class HeadingGrid;
 }
 
+namespace core {
+class SetupPanel;
+}
+
 namespace setup {
 
-class SetupPanel;
 enum class ListTab;
 
 /// The set-up of the address book: what the entry forms offer and what a new contact starts with. A tab is
@@ -33,7 +36,7 @@ private:
     QWidget* addresses();
     void addTab(QWidget* page, const QString& caption, QStringView icon);
     QWidget* layOutFoot();
-    void watch(SetupPanel* panel);
+    void watch(core::SetupPanel* panel);
     void readTab();
 
     QTabWidget* sstab1;

@@ -28,13 +28,13 @@ constexpr QStringView kBackupFolder = u"C:\\OVUserFiles\\Others\\Backup";
 } // namespace
 
 CategoryDeletion::CategoryDeletion(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , m_choice(new QButtonGroup(this))
     , optDel1(new QRadioButton(tr("Delete Category name ")))
     , optDel3(new QRadioButton(tr("Delete Category && move all Records to")))
     , optDel2(new QRadioButton(tr("Delete Category  && all Records")))
     , m_what(new QLabel)
-    , m_hint(makeHint(u"lblDelHint"_s))
+    , m_hint(core::makeHint(u"lblDelHint"_s))
 {
     layOut();
     connectControls();

@@ -2,7 +2,7 @@
 
 #include "core/contact_category.h"
 #include "core/setup/category_statements.h"
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 class QButtonGroup;
 class QRadioButton;
@@ -14,7 +14,7 @@ class FilledCombo;
 namespace setup {
 
 /// Asks what becomes of the contacts of a category that is to go, and deletes it. Hidden until then.
-class CategoryDeletion : public SetupPanel {
+class CategoryDeletion : public core::SetupPanel {
     Q_OBJECT
 
 public:

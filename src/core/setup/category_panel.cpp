@@ -43,12 +43,12 @@ bool isSame(const Category& one, const Category& other)
 } // namespace
 
 CategoryPanel::CategoryPanel(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , m_views(new QStackedWidget)
     , FG(new widgets::HeadingGrid)
     , SSTree1(new QTreeWidget)
     , CmdList(new QPushButton)
-    , m_hint(makeHint(u"lblCatHint"_s))
+    , m_hint(core::makeHint(u"lblCatHint"_s))
     , m_deletion(new CategoryDeletion(context))
 {
     auto* fields = new QWidget;
@@ -157,8 +157,8 @@ void CategoryPanel::connectControls()
     deleteKey->setContext(Qt::WidgetWithChildrenShortcut);
     connect(deleteKey, &QShortcut::activated, this, &CategoryPanel::askToDelete);
     connect(m_deletion, &CategoryDeletion::deleted, this, [this] { stored(0); });
-    connect(m_deletion, &SetupPanel::vocabulariesChanged, this, &SetupPanel::vocabulariesChanged);
-    connect(m_deletion, &SetupPanel::contactsChanged, this, &SetupPanel::contactsChanged);
+    connect(m_deletion, &core::SetupPanel::vocabulariesChanged, this, &core::SetupPanel::vocabulariesChanged);
+    connect(m_deletion, &core::SetupPanel::contactsChanged, this, &core::SetupPanel::contactsChanged);
 }
 
 // ---- lists

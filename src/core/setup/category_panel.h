@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/contact_category.h"
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 class QPushButton;
 class QStackedWidget;
@@ -19,7 +19,7 @@ class CategoryDeletion;
 
 /// The categories as a flat list or a tree; beside it the chosen one, which can be renamed in all records or
 /// deleted in one of three ways, and new ones.
-class CategoryPanel : public SetupPanel {
+class CategoryPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

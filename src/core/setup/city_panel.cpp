@@ -32,12 +32,12 @@ constexpr QStringView kHeadings = u"City                  |Priority|Default";
 } // namespace
 
 CityPanel::CityPanel(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , DataGrid(new widgets::HeadingGrid)
     , m_available(new widgets::RecordList(nullptr, u"city"_s))
     , LblAdd(new QPushButton(tr("Add")))
     , CmdCityDel(new QPushButton(tr("Remove")))
-    , m_hint(makeHint(u"lblCityHint"_s))
+    , m_hint(core::makeHint(u"lblCityHint"_s))
 {
     layOut();
     const bool national = context.shared.NationalMode;

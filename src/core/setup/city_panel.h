@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/setup/city_statements.h"
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 class QCheckBox;
 class QPushButton;
@@ -16,7 +16,7 @@ class RecordList;
 namespace setup {
 
 /// The frequent cities beside those of the world, from which they are chosen, and the default city.
-class CityPanel : public SetupPanel {
+class CityPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

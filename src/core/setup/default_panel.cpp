@@ -35,10 +35,10 @@ constexpr int kLowestPriority = 5;
 } // namespace
 
 DefaultPanel::DefaultPanel(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , m_rules(new QButtonGroup(this))
     , m_fonts(new QButtonGroup(this))
-    , m_hint(makeHint(u"lblDefaultHint"_s))
+    , m_hint(core::makeHint(u"lblDefaultHint"_s))
 {
     widgets::FormKit form(
         this, [this](QStringView column) { return this->context().schema.textSize(u"cntb_setup", column); });

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/setup/setup_panel.h"
 #include "core/setup/setup_settings.h"
+#include "core/setup_panel.h"
 
 class QButtonGroup;
 
@@ -14,7 +14,7 @@ namespace setup {
 
 /// What a new contact starts with, which copies are made of it, where files go, and how large lists are.
 /// Check boxes and the company suffix are written at once, the rest by its Save button.
-class DefaultPanel : public SetupPanel {
+class DefaultPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

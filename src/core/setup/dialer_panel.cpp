@@ -35,8 +35,8 @@ constexpr PrefixRow kPrefixes[] = {
 } // namespace
 
 DialerPanel::DialerPanel(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
-    , m_hint(makeHint(u"lblDialHint"_s))
+    : core::SetupPanel(context, parent)
+    , m_hint(core::makeHint(u"lblDialHint"_s))
 {
     const Switch& city = switchOf(u"chkDialerCity");
     widgets::FormKit form(

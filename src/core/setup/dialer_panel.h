@@ -1,13 +1,13 @@
 #pragma once
 
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 class QCheckBox;
 
 namespace setup {
 
 /// What is dialled before a number.
-class DialerPanel : public SetupPanel {
+class DialerPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

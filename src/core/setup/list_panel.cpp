@@ -21,11 +21,11 @@ using widgets::child;
 namespace setup {
 
 ListPanel::ListPanel(core::Context& context, const QList<const WordList*>& lists, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , m_lists(lists)
     , m_list(lists.constFirst())
     , m_words(new widgets::RecordList(nullptr, lists.constFirst()->column.toString()))
-    , m_hint(makeHint(u"lblHint"_s + lists.constFirst()->name.toString()))
+    , m_hint(core::makeHint(u"lblHint"_s + lists.constFirst()->name.toString()))
 {
     layOut();
     connect(m_words, &widgets::RecordList::currentRowChanged, this, &ListPanel::wordChosen);

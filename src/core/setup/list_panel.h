@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/setup/setup_lists.h"
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 #include <QList>
 
@@ -17,7 +17,7 @@ namespace setup {
 
 /// One word list, or several that share a pair of buttons and are chosen above: the words, and a box in which
 /// the chosen one is changed or a new one typed. What can not be stored is said in a hint below.
-class ListPanel : public SetupPanel {
+class ListPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

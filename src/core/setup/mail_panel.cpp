@@ -60,9 +60,9 @@ constexpr LineRow kLines[] = {
 } // namespace
 
 MailPanel::MailPanel(core::Context& context, QWidget* parent)
-    : SetupPanel(context, parent)
+    : core::SetupPanel(context, parent)
     , m_accounts(context.services.mailAccounts)
-    , m_hint(makeHint(u"lblMailHint"_s))
+    , m_hint(core::makeHint(u"lblMailHint"_s))
 {
     widgets::FormKit form(this);
     layOut(form);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 #include "platform/mail_account.h"
 
 class QLineEdit;
@@ -15,7 +15,7 @@ namespace setup {
 
 /// The account by which mail leaves. The password goes to the secret store of the desktop and is never shown
 /// again.
-class MailPanel : public SetupPanel {
+class MailPanel : public core::SetupPanel {
     Q_OBJECT
 
 public:

@@ -1,4 +1,4 @@
-#include "core/setup/setup_panel.h"
+#include "core/setup_panel.h"
 
 #include "core/save_failure.h"
 #include "platform/message_boxes.h"
@@ -8,9 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace setup {
+namespace core {
 
-SetupPanel::SetupPanel(core::Context& context, QWidget* parent)
+SetupPanel::SetupPanel(Context& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
 {
@@ -38,8 +38,8 @@ QString SetupPanel::notStored(const QString& hint) const
     const auto failure = data().lastFailure();
     if (!failure)
         return hint;
-    core::noteFailedSaveIsTold(m_context);
-    return hint + u' ' + core::savingFailed(*failure);
+    noteFailedSaveIsTold(m_context);
+    return hint + u' ' + savingFailed(*failure);
 }
 
 QLabel* makeHint(const QString& name)
@@ -53,4 +53,4 @@ QLabel* makeHint(const QString& name)
     return hint;
 }
 
-} // namespace setup
+} // namespace core

@@ -6,14 +6,14 @@
 
 class QLabel;
 
-namespace setup {
+namespace core {
 
 /// One tab of the set-up, or a piece of one. It is read when it is looked at.
 class SetupPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SetupPanel(core::Context& context, QWidget* parent = nullptr);
+    explicit SetupPanel(Context& context, QWidget* parent = nullptr);
 
     /// Reads what the panel shows. Called each time when the tab comes in sight.
     virtual void refresh() = 0;
@@ -26,7 +26,7 @@ Q_SIGNALS:
     void contactsChanged();
 
 protected:
-    core::Context& context() const { return m_context; }
+    Context& context() const { return m_context; }
     jet::Database& data() const { return m_context.data; }
     void playSound(QStringView name) const; ///< "save", "Cancel", "Del"
     void inform(const QString& text) const;
@@ -36,10 +36,10 @@ protected:
     QString notStored(const QString& hint) const;
 
 private:
-    core::Context& m_context;
+    Context& m_context;
 };
 
 /// A line of quiet text for what a person has to know but not to confirm; it keeps its room when it is empty.
 QLabel* makeHint(const QString& name);
 
-} // namespace setup
+} // namespace core

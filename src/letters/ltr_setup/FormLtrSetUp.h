@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/handover/page_screen.h"
+#include "core/screen.h"
+
+class QTabWidget;
+
+namespace core {
+class SetupPanel;
+}
+
+namespace letters {
+
+enum class ListTab;
+
+/// The set-up of letters and mail: what their creators offer, and the stored texts. A tab is read when it is
+/// looked at; other screens follow each change at once.
+class FormLtrSetUp : public core::Screen, public core::PageScreen {
+    Q_OBJECT
+
+public:
+    explicit FormLtrSetUp(core::Context& context, QWidget* parent = nullptr);
+
+    void load() override;
+    void openPage(const QString& page) override;
+    void bookChanged() override;
+    bool isTouched() const override;
+    QSize sizeHint() const override;
+
+private:
+    void addTab(
+        const QList<QWidget*>& panels, const QString& caption, QStringView icon, const QString& helpCode);
+    QList<QWidget*> listsOf(ListTab tab);
+    QWidget* mailDatabase();
+    QWidget* layOutFoot();
+    void readTab();
+
+    QTabWidget* SSTab1;
+};
+
+} // namespace letters
