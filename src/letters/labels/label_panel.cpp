@@ -213,6 +213,13 @@ QWidget* LabelPanel::layOutSheet(For who)
     return box;
 }
 
+// Another panel may have stored or deleted a sheet meanwhile.
+void LabelPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    readOwn(cmbOwnSheet->currentText());
+}
+
 void LabelPanel::readOwn(const QString& current)
 {
     m_own = readOwnSheets(m_context.services.drive);
@@ -274,6 +281,9 @@ void LabelPanel::follow()
 
 void LabelPanel::editOwn(bool isNew)
 {
+    readOwn(cmbOwnSheet->currentText());
+    if (!isNew && m_own.isEmpty())
+        return;
     const int at = cmbOwnSheet->currentIndex();
     LabelSheet sheet = isNew ? choice().sheet : m_own.value(at);
     if (isNew && sheet.layout.width <= 0)
@@ -299,6 +309,7 @@ void LabelPanel::editOwn(bool isNew)
 
 void LabelPanel::deleteOwn()
 {
+    readOwn(cmbOwnSheet->currentText());
     const int at = cmbOwnSheet->currentIndex();
     if (at < 0
         || m_context.services.boxes.ask(tr("Do you want to forget the sheet %1?").arg(m_own[at].name),
