@@ -133,6 +133,7 @@ QWidget* LabelPanel::layOutTypes(For who)
     grid->addWidget(layOutOwn(), kTypes + 2, 0, 1, kAddresses + 1);
     if (who == For::List) {
         auto* lists = new QHBoxLayout;
+        lists->setSpacing(14);
         lists->addWidget(new QLabel(tr("Or a list:")));
         int id = kNameList;
         for (auto* option : {named(new QRadioButton(tr(" &Name List")), u"Option4"_s, tr("The names alone")),
