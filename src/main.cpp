@@ -20,6 +20,7 @@
 #include "platform/device_port.h"
 #include "platform/folder_drive.h"
 #include "platform/help_window.h"
+#include "platform/hunspell_speller.h"
 #include "platform/keychain_secrets.h"
 #include "platform/mail_account_file.h"
 #include "platform/mail_post.h"
@@ -132,6 +133,7 @@ int main(int argc, char** argv)
     platform::DevicePort modem(modemPorts);
     editor::LetterMerger wordProcessor(drive, desktop);
     platform::SaneScanner scanner;
+    platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;
@@ -142,7 +144,7 @@ int main(int argc, char** argv)
     shell::MDIForm1 frame;
     core::Context context{data, info, schema, shared, screens, frame,
         {drive, boxes, desktop, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-            mailAccounts, modem, modemPorts, wordProcessor, scanner}};
+            mailAccounts, modem, modemPorts, wordProcessor, scanner, speller}};
     screens.setContext(context);
     shell::registerShell(screens);
     setup::registerSetup(screens);

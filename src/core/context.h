@@ -19,6 +19,7 @@ class SerialPort;
 class Shell;
 class Sounds;
 class SpecialFolders;
+class Speller;
 class WordProcessor;
 } // namespace platform
 
@@ -45,6 +46,7 @@ struct Services {
     platform::SerialDevices& modemPorts;
     platform::WordProcessor& wordProcessor;
     platform::Scanner& scanner;
+    platform::Speller& speller;
 };
 
 /// All that a screen gets; made once in main() and passed on to screens only. Plain functions take the values

@@ -406,7 +406,8 @@ void Reader::flush()
         std::string_view charset = charsetOfCodePage(codePage);
         if (charset.empty())
             charset = charsetOfCodePage(kStandardCodePage);
-        put(textOfBytes(m_pending, QByteArray(charset.data(), qsizetype(charset.size()))));
+        QString text = textOfBytes(m_pending, QByteArray(charset.data(), qsizetype(charset.size())));
+        put(text.remove(u'\r'));
     }
     m_pending.clear();
 }
@@ -492,6 +493,7 @@ void Reader::endParagraph(const ParagraphStyle& style)
     for (TextRun& run : m_paragraph.runs) {
         if (!run.text.isValidUtf16())
             run.text = QString::fromUtf8(run.text.toUtf8());
+        run.text.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
     }
     m_text.paragraphs << std::exchange(m_paragraph, {});
 }

@@ -342,4 +342,24 @@ void ScriptedScanner::scan(const platform::ScanOrder& order, std::function<void(
     done(isWritten ? QString() : u"Out of paper"_s);
 }
 
+bool FixedSpeller::setDictionary(const QString& name)
+{
+    if (languages.contains(name))
+        language = name;
+    return language == name;
+}
+
+bool FixedSpeller::isKnown(const QString& word)
+{
+    ++checked;
+    return dictionary().isEmpty() || own.contains(word) || !faults.contains(word);
+}
+
+bool FixedSpeller::addWord(const QString& word)
+{
+    if (stores)
+        own << word;
+    return stores;
+}
+
 } // namespace support

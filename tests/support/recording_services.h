@@ -18,6 +18,7 @@
 #include "platform/shell.h"
 #include "platform/sounds.h"
 #include "platform/special_folders.h"
+#include "platform/speller.h"
 #include "platform/word_processor.h"
 
 /// Services of the platform that only write down what was asked of them.
@@ -230,6 +231,26 @@ public:
     QList<platform::ScannerDevice> devices;
     QByteArray picture;
     QList<platform::ScanOrder> orders;
+};
+
+/// A speller that knows all words but those that the test names.
+class FixedSpeller final : public platform::Speller {
+public:
+    QStringList dictionaries() const override { return languages; }
+    QString dictionary() const override { return languages.isEmpty() ? QString() : language; }
+    bool setDictionary(const QString& name) override;
+    bool isKnown(const QString& word) override;
+    QStringList suggestions(const QString& word) override { return faults.value(word); }
+    QStringList ownWords() const override { return own; }
+    bool addWord(const QString& word) override;
+    bool removeWord(const QString& word) override { return own.removeOne(word); }
+
+    QHash<QString, QStringList> faults; ///< words that are wrong, with what may have been meant
+    QStringList own;
+    QStringList languages{QStringLiteral("en_US")};
+    QString language = QStringLiteral("en_US");
+    bool stores = true; ///< whether words can be added
+    int checked = 0; ///< words that were looked up
 };
 
 } // namespace support

@@ -50,7 +50,7 @@ ScreenFixture::ScreenFixture(TestBook::Rows rows)
     , schema(TestBook::schema())
     , context{book.data(), book.data(), schema, shared, screens, frame,
           {drive, boxes, shell, sounds, folders, favourites, help, mailContacts, clock, printer, mail,
-              mailAccounts, modem, modem, wordProcessor, scanner}}
+              mailAccounts, modem, modem, wordProcessor, scanner, speller}}
 {
     screens.setContext(context);
     widgets::DateBox::setToday([this] { return clock.today(); });

@@ -101,6 +101,7 @@ public:
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
     ScriptedScanner scanner;
+    FixedSpeller speller;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "editor/text_commands.h"
+
+#include <QHash>
+#include <QToolBar>
+
+class QComboBox;
+class QTextEdit;
+
+namespace widgets {
+class FilledCombo;
+}
+
+namespace editor {
+
+/// The tools of a text in one row. What a narrow place has no room for stands behind the arrow at its end.
+class TextTools : public QToolBar {
+    Q_OBJECT
+
+public:
+    explicit TextTools(QTextEdit* field);
+
+    /// Tools and boxes as the place of the caret is, and as far as the text can be changed.
+    void follow();
+    QAction* tool(TextCommand command) const { return m_tools.value(command); }
+
+Q_SIGNALS:
+    void commanded(editor::TextCommand command);
+
+private:
+    void addBoxes();
+    void addTools();
+    QAction* colorTool();
+    void setFamily(const QString& family);
+    void setSize();
+    void setColor(const QColor& color);
+
+    QTextEdit* m_field;
+    widgets::FilledCombo* m_family;
+    QComboBox* m_size;
+    QAction* m_color = nullptr;
+    QHash<TextCommand, QAction*> m_tools;
+};
+
+} // namespace editor
