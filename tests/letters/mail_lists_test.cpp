@@ -93,6 +93,10 @@ private Q_SLOTS:
         QCOMPARE(second.known, 2);
         QCOMPARE(members(list), u"1,2,4"_s);
 
+        const auto stop = [](int) { return false; };
+        QVERIFY(addListMembers(m_book->data(), list, QList<qint64>(100, 3), stop).isStopped);
+        QCOMPARE(members(list), u"1,2,4"_s);
+
         // Every row of a name goes, also of a namesake, and what stands there under a name from before.
         m_book->data().execute(u"update cnt_main set name='Rahul Sharma' where id=2"_s);
         m_book->data().execute(u"update cnt_maillist set name='Rahul Sharma' where perid=2"_s);

@@ -133,6 +133,7 @@ QWidget* LabelPanel::layOutTypes(For who)
     grid->addWidget(layOutOwn(), kTypes + 2, 0, 1, kAddresses + 1);
     if (who == For::List) {
         auto* lists = new QHBoxLayout;
+        lists->setSpacing(14);
         lists->addWidget(new QLabel(tr("Or a list:")));
         int id = kNameList;
         for (auto* option : {named(new QRadioButton(tr(" &Name List")), u"Option4"_s, tr("The names alone")),
@@ -213,6 +214,13 @@ QWidget* LabelPanel::layOutSheet(For who)
     return box;
 }
 
+// Another panel may have stored or deleted a sheet meanwhile.
+void LabelPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    readOwn(cmbOwnSheet->currentText());
+}
+
 void LabelPanel::readOwn(const QString& current)
 {
     m_own = readOwnSheets(m_context.services.drive);
@@ -274,6 +282,9 @@ void LabelPanel::follow()
 
 void LabelPanel::editOwn(bool isNew)
 {
+    readOwn(cmbOwnSheet->currentText());
+    if (!isNew && m_own.isEmpty())
+        return;
     const int at = cmbOwnSheet->currentIndex();
     LabelSheet sheet = isNew ? choice().sheet : m_own.value(at);
     if (isNew && sheet.layout.width <= 0)
@@ -299,6 +310,7 @@ void LabelPanel::editOwn(bool isNew)
 
 void LabelPanel::deleteOwn()
 {
+    readOwn(cmbOwnSheet->currentText());
     const int at = cmbOwnSheet->currentIndex();
     if (at < 0
         || m_context.services.boxes.ask(tr("Do you want to forget the sheet %1?").arg(m_own[at].name),

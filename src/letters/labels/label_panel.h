@@ -43,6 +43,9 @@ Q_SIGNALS:
     void previewWanted();
     void testWanted(); ///< a page with crosses for the sheet of the choice
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* layOutTypes(For who);
     QWidget* layOutSheet(For who);

@@ -268,7 +268,7 @@ void FormMailList::makeMenus()
 void FormMailList::connectControls()
 {
     connect(SSActiveTabs1, &QTabBar::currentChanged, this, &FormMailList::chooseTab);
-    connect(list1, &widgets::HeadingGrid::currentRowChanged, this, &FormMailList::chooseGroup);
+    connect(list1, &widgets::HeadingGrid::currentRowChanged, this, &FormMailList::showMembers);
     connect(m_members, &MemberPane::currentChanged, this, &FormMailList::showPlace);
     connect(m_members, &MemberPane::selectionChanged, this,
         [this] { this->context().screens.tellBookChanged(this); });
@@ -330,20 +330,20 @@ void FormMailList::openPage(const QString& page)
     if (page.contains(u':')) {
         readGroups();
         if (pointAt(page.section(u':', 1)))
-            chooseGroup();
+            showMembers();
     }
 }
 
 void FormMailList::bookChanged()
 {
     cmbRelation->refill();
-    const QString group = m_members->group().name;
+    const MailGroup group = m_members->group();
     readGroups();
     if (!hasGroups(tab()))
         return m_members->readAgain();
-    if (!group.isEmpty() && pointAt(group))
+    if (!group.name.isEmpty() && pointAt(group.name, group.id))
         return m_members->readAgain();
-    chooseGroup();
+    showMembers();
 }
 
 MailTab FormMailList::tab() const
@@ -379,7 +379,7 @@ void FormMailList::chooseTab()
     if (!hasGroups(tab()))
         return showMembers();
     readGroups();
-    chooseGroup();
+    showMembers();
 }
 
 void FormMailList::readGroups()
@@ -394,9 +394,11 @@ void FormMailList::readGroups()
     list1->setCurrentRow(-1);
 }
 
-bool FormMailList::pointAt(const QString& group)
+bool FormMailList::pointAt(const QString& group, qint64 id)
 {
     const QSignalBlocker quiet(list1);
+    if (id != 0)
+        return list1->selectKey(id);
     for (int row = 0; row < list1->rowCount(); ++row) {
         if (list1->textAt(row, textsOf(tab()).column.toString()).compare(group, Qt::CaseInsensitive) == 0) {
             list1->setCurrentRow(row);
@@ -404,12 +406,6 @@ bool FormMailList::pointAt(const QString& group)
         }
     }
     return false;
-}
-
-void FormMailList::chooseGroup()
-{
-    if (hasGroups(tab()))
-        showMembers();
 }
 
 void FormMailList::showMembers()

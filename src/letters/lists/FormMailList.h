@@ -56,8 +56,8 @@ private:
     MailFilter filter() const;
     void chooseTab();
     void readGroups();
-    void chooseGroup();
-    bool pointAt(const QString& group);
+    /// By the id, of groups that have one and where it is known.
+    bool pointAt(const QString& group, qint64 id = 0);
     void showMembers();
     void showPlace();
 

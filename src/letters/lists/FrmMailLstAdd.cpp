@@ -1,6 +1,7 @@
 #include "letters/lists/FrmMailLstAdd.h"
 
 #include "core/frame.h"
+#include "core/progress.h"
 #include "core/save_failure.h"
 #include "core/screens.h"
 #include "core/sound_files.h"
@@ -39,6 +40,7 @@ const QStringList kColumns{
     QString(), u"h_city"_s, u"first"_s, u"last"_s, u"name"_s, u"category1"_s, u"sex"_s};
 constexpr int kLongestListName = 255;
 constexpr qsizetype kToldNames = 10;
+constexpr int kTooFewToWatch = 2000;
 
 QString someOf(const QStringList& names)
 {
@@ -279,7 +281,15 @@ void FrmMailLstAdd::store()
 void FrmMailLstAdd::storeList()
 {
     const QString list = cmbListName->currentText().trimmed();
-    const MembersAdded added = addListMembers(context().data, list, ticked());
+    const QList<qint64> ids = ticked();
+    const MembersAdded added = [&] {
+        core::Progress progress(u"addProgress"_s, windowTitle(), tr("Adding people to %1").arg(list),
+            int(ids.size()), this, kTooFewToWatch);
+        return addListMembers(
+            context().data, list, ids, [&progress](int done) { return progress.advance(done); });
+    }();
+    if (added.isStopped)
+        return inform(tr("Stopped. Nobody was added."));
     if (!added.isStored)
         return core::tellFailedSave(context());
     playSound(core::sounds::Save);

@@ -15,6 +15,7 @@ namespace letters {
 namespace {
 
 constexpr qsizetype kIdsInAStatement = 250;
+constexpr int kPeopleAStep = 100;
 
 QString say(const char* text)
 {
@@ -53,14 +54,20 @@ QStringList idLists(const QList<qint64>& ids)
     return lists;
 }
 
-MembersAdded addListMembers(jet::Database& book, const QString& list, const QList<qint64>& ids)
+MembersAdded addListMembers(jet::Database& book, const QString& list, const QList<qint64>& ids,
+    const std::function<bool(int)>& progress)
 {
     MembersAdded result;
     const jet::Step step(book, say("adding people to the list %1").arg(list));
     jet::Batch batch(book);
     QSet<qint64> known = membersOf(book, list);
     jet::Recordset rows = book.openRecordset(u"select * from cnt_maillist where 1>2"_s);
+    int done = 0;
     for (const qint64 id : ids) {
+        if (++done % kPeopleAStep == 0 && progress && !progress(done)) {
+            batch.rollBack();
+            return {.isStopped = true};
+        }
         const jet::Recordset person
             = book.openRecordset(u"SELECT id,name FROM [cnt_main] WHERE id = "_s + QString::number(id));
         if (!person.hasRow() || known.contains(id)) {

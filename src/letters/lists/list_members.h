@@ -6,11 +6,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace letters {
 
 /// What became of people who were to be put into a list.
 struct MembersAdded {
     bool isStored = true; ///< false when nothing was, because the book could not be written
+    bool isStopped = false; ///< by the person
     int added = 0;
     int known = 0; ///< were in it already, or are gone
     QStringList without
@@ -18,7 +21,9 @@ struct MembersAdded {
 };
 
 /// Puts contacts into a mailing list, which need not be there yet; nobody stands in it twice.
-MembersAdded addListMembers(jet::Database& book, const QString& list, const QList<qint64>& ids);
+/// @param progress is told how many were looked at; when it is false, nobody is added
+MembersAdded addListMembers(jet::Database& book, const QString& list, const QList<qint64>& ids,
+    const std::function<bool(int)>& progress = {});
 /// Takes a person out: every row of that name in that list goes, and what stands there for the contact under
 /// a name from before.
 /// @param id of the contact where it is known, else 0
