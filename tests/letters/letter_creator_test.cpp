@@ -64,7 +64,7 @@ private Q_SLOTS:
             QStringList{u"Rahul Sharma|Mumbai|Don't worry.|All my own.|Yours Faithfully|Formal|Sent|Personal|"
                         "2024|Business"_s});
         QCOMPARE(f->book.rows(u"select JDate,Priority,categ1,categ2,[desc],person1 from OV_JOURNAL where "
-                              "Priority='3'"_s),
+                              "Priority='3' and person1='Rahul'"_s),
             QStringList{u"2024-03-15|3|Letters|Sent|Sent Thanks Letter to Rahul|Rahul"_s});
         QVERIFY(!s->isTouched());
         const QString kept = whole();
@@ -75,7 +75,8 @@ private Q_SLOTS:
         QCOMPARE(whole(), kept);
         QVERIFY(!s->findChild<QWidget*>(u"HandmadeStrip"_s)->isVisible());
         act(u"Save"_s);
-        QCOMPARE(f->book.rows(u"select count(*) from OV_JOURNAL where Priority='3'"_s), QStringList{u"1"_s});
+        QCOMPARE(f->book.rows(u"select count(*) from OV_JOURNAL where Priority='3' and person1='Rahul'"_s),
+            QStringList{u"1"_s});
     }
 
     void toSeveral()

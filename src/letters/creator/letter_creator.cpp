@@ -2,14 +2,10 @@
 
 #include "core/contact_lookups.h"
 #include "core/date_patterns.h"
-#include "core/frame.h"
 #include "core/screens.h"
-#include "core/sound_files.h"
 #include "core/tool_set.h"
 #include "core/vocabularies.h"
 #include "editor/text_editor.h"
-#include "formats/rtf_reader.h"
-#include "formats/rtf_writer.h"
 #include "letters/creator/letter_fields.h"
 #include "letters/creator/letter_lists.h"
 #include "letters/creator/letter_tools.h"
@@ -43,8 +39,6 @@ constexpr int kComposeDelay = 150; ///< milliseconds behind the last key
 // Above this a letter that is out of sight is composed when it is looked at.
 constexpr qsizetype kLongText = 50'000;
 constexpr int kMostWords = 50; ///< that are offered at once
-
-constexpr QChar kBetween(0x1f); ///< the parts of an address in a draft
 
 constexpr QStringView kStyles[] = {u"Style1", u"Style2", u"Style3"};
 
@@ -468,15 +462,20 @@ void LetterCreator::begin()
     m_isDirty = false;
 }
 
+void LetterCreator::showParts(const LetterParts& parts)
+{
+    m_phrases->show(parts);
+    m_isSetting = true;
+    txtdetails->setText(parts.body);
+    m_isSetting = false;
+}
+
 void LetterCreator::showStored(const StoredLetter& stored)
 {
     const LetterToKeep& letter = stored.letter;
     begin();
     m_kind = letter.kind;
-    m_phrases->show(letter.parts);
-    m_isSetting = true;
-    txtdetails->setText(letter.parts.body);
-    m_isSetting = false;
+    showParts(letter.parts);
     m_details->show({letter.date, letter.type, letter.category, letter.serialNumber, letter.note});
     Recipient to = stored.recipient;
     if (to.id != 0 && context().data.openRecordset(core::contactNameSql(to.id)).isEmpty())
@@ -484,7 +483,7 @@ void LetterCreator::showStored(const StoredLetter& stored)
     m_recipients->setRecipients({to});
     m_head = letterHead(to);
     setWhole(stored.merged);
-    setHandmade(composedLetter(to, parts()) != stored.merged);
+    setHandmade(composedLetter(to, parts()) != RText->text());
     m_composing.stop();
     m_isDirty = false;
 }
@@ -534,105 +533,6 @@ void LetterCreator::openPage(const QString& page)
 void LetterCreator::insertPhrase(const QString& text)
 {
     (m_pages->currentIndex() == 1 ? RText : txtdetails)->insertText(text);
-}
-
-// ---- a letter that was not saved
-
-bool LetterCreator::asksToSave()
-{
-    return context().services.boxes.ask(
-               tr("You did not  save the changes, Wish to save? "), shared().AppTitle)
-        == platform::Answer::Yes;
-}
-
-// Closed without being saved it comes back when the screen is opened again.
-bool LetterCreator::mayClose()
-{
-    if (!m_isDirty)
-        return true;
-    if (asksToSave())
-        return save();
-    keepDraft();
-    playSound(core::sounds::Cancel);
-    return true;
-}
-
-bool LetterCreator::mayEndProgram()
-{
-    if (!m_isDirty)
-        return true;
-    return asksToSave() ? save() : mayDiscard();
-}
-
-void LetterCreator::keepDraft()
-{
-    const auto rtf
-        = [](const editor::TextEditor* text) { return QString::fromLatin1(formats::writeRtf(text->text())); };
-    widgets::FieldValues draft;
-    LetterParts text = parts();
-    for (size_t line = 0; line < text.openings.size(); ++line)
-        draft.texts.insert(u"opening%1"_s.arg(line), text.openings.at(line));
-    for (size_t line = 0; line < text.closings.size(); ++line)
-        draft.texts.insert(u"closing%1"_s.arg(line), text.closings.at(line));
-    draft.texts.insert(u"ending"_s, text.ending);
-    draft.texts.insert(u"signature"_s, text.signature);
-    draft.texts.insert(u"body"_s, rtf(txtdetails));
-    if (m_isHandmade)
-        draft.texts.insert(u"whole"_s, rtf(RText));
-    QStringList ids;
-    for (const Recipient& to : m_recipients->recipients()) {
-        const LetterAddress& at = to.address;
-        if (to.id != 0)
-            ids << QString::number(to.id);
-        else
-            draft.texts.insert(u"stranger"_s,
-                QStringList{to.name, to.salutation, at.line1, at.line2, at.city, at.state, at.country, at.pin}
-                    .join(kBetween));
-    }
-    draft.texts.insert(u"recipients"_s, ids.join(u','));
-    shared().unsavedEntries.insert(objectName(), draft);
-}
-
-bool LetterCreator::showDraft()
-{
-    const widgets::FieldValues draft = shared().unsavedEntries.take(objectName());
-    if (draft.texts.isEmpty())
-        return false;
-    const auto textOf = [&draft](QStringView name) {
-        return formats::readRtf(draft.text(name).toLatin1()).value_or(formats::RichText());
-    };
-    LetterParts text;
-    for (size_t line = 0; line < text.openings.size(); ++line)
-        text.openings.at(line) = draft.text(u"opening%1"_s.arg(line));
-    for (size_t line = 0; line < text.closings.size(); ++line)
-        text.closings.at(line) = draft.text(u"closing%1"_s.arg(line));
-    text.ending = draft.text(u"ending");
-    text.signature = draft.text(u"signature");
-    m_phrases->show(text);
-    m_isSetting = true;
-    txtdetails->setText(textOf(u"body"));
-    m_isSetting = false;
-    QList<qint64> ids;
-    for (const QString& id : draft.text(u"recipients").split(u',', Qt::SkipEmptyParts))
-        ids << id.toLongLong();
-    QList<Recipient> recipients = m_recipients->readContacts(ids).value_or(QList<Recipient>());
-    const QStringList stranger = draft.text(u"stranger").split(kBetween);
-    if (stranger.size() == 8)
-        recipients << Recipient{0, stranger[0], stranger[1],
-            {stranger[2], stranger[3], stranger[4], stranger[5], stranger[6], stranger[7]}, {}};
-    m_recipients->setRecipients(recipients);
-    compose();
-    if (draft.texts.contains(u"whole"_s)) {
-        setWhole(textOf(u"whole"));
-        setHandmade(true);
-    }
-    m_isDirty = true;
-    context().frame.showNotice(tr("The letter that was not saved is here again"), tr("Discard"),
-        [&screens = context().screens, name = objectName()] {
-            if (auto* creator = dynamic_cast<LetterCreator*>(screens.find(name)))
-                creator->begin();
-        });
-    return true;
 }
 
 } // namespace letters

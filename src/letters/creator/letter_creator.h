@@ -82,16 +82,15 @@ private:
     void followRecipients();
     void chooseCaption(const QString& caption);
     void greetFamily();
+    void showParts(const LetterParts& parts);
     void showStored(const StoredLetter& stored);
     void begin();
 
-    // A letter that was not saved
+    // Ways out, in letter_ways_out.cpp
     bool asksToSave();
     void keepDraft();
-    bool showDraft();
-
-    // Ways out, in letter_ways_out.cpp
-    QList<Recipient> chosenRecipients() const;
+    void showDraft();
+    QList<Recipient> chosenRecipients();
     bool save();
     void preview(int style);
     void writeFiles();
