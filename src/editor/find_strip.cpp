@@ -1,6 +1,7 @@
 #include "editor/find_strip.h"
 
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -67,18 +68,22 @@ void FindStrip::layOut()
     m_replace = addButton(u"cmdReplace"_s, tr("Replace"), {}, tr("Replace this one and find the next"));
     m_replaceAll = addButton(u"cmdReplaceAll"_s, tr("Replace all"), {}, tr("Replace them all"));
     auto* shut = addButton(u"cmdCloseFind"_s, {}, u"close", tr("Close (Esc)"));
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 2, 0, 2);
-    layout->setSpacing(4);
-    layout->addWidget(m_wanted, 3);
-    layout->addWidget(previous);
-    layout->addWidget(next);
-    layout->addWidget(m_matchCase);
-    layout->addWidget(m_other, 3);
-    layout->addWidget(m_replace);
-    layout->addWidget(m_replaceAll);
-    layout->addWidget(m_told, 2);
-    layout->addWidget(shut);
+    auto* rows = new widgets::WrappingRow(this);
+    rows->setContentsMargins(0, 2, 0, 2);
+    rows->setSpacing(4);
+    auto* finding = new QHBoxLayout;
+    finding->addWidget(m_wanted, 3);
+    finding->addWidget(previous);
+    finding->addWidget(next);
+    finding->addWidget(m_matchCase);
+    auto* replacing = new QHBoxLayout;
+    replacing->addWidget(m_other, 3);
+    replacing->addWidget(m_replace);
+    replacing->addWidget(m_replaceAll);
+    replacing->addWidget(m_told, 2);
+    replacing->addWidget(shut);
+    rows->add(finding, 2);
+    rows->add(replacing, 3);
     connect(previous, &QPushButton::clicked, this, [this] { find(true); });
     connect(next, &QPushButton::clicked, this, [this] { find(false); });
     connect(m_replace, &QPushButton::clicked, this, &FindStrip::replace);

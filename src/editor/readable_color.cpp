@@ -7,7 +7,7 @@ namespace editor {
 
 namespace {
 
-constexpr double kLeastContrast = 3;
+constexpr double kLeastContrast = 4.5;
 
 double luminance(const QColor& color)
 {

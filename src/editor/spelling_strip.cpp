@@ -4,6 +4,7 @@
 #include "editor/text_marks.h"
 #include "platform/speller.h"
 #include "widgets/theme.h"
+#include "widgets/wrapping_row.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -45,11 +46,15 @@ void SpellingStrip::layOut()
     m_other->setEditable(true);
     m_other->setInsertPolicy(QComboBox::NoInsert);
     m_other->setCompleter(nullptr);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 2, 0, 2);
-    layout->setSpacing(4);
-    layout->addWidget(m_told, 2);
-    layout->addWidget(m_other, 3);
+    auto* rows = new widgets::WrappingRow(this);
+    rows->setContentsMargins(0, 2, 0, 2);
+    rows->setSpacing(4);
+    auto* word = new QHBoxLayout;
+    word->addWidget(m_told, 2);
+    word->addWidget(m_other, 3);
+    auto* layout = new QHBoxLayout;
+    rows->add(word, 2);
+    rows->add(layout, 3);
     const auto add = [&](const char* name, const QString& text, const QString& toolTip, auto action) {
         auto* button = new QPushButton(text);
         button->setObjectName(QString::fromLatin1(name));

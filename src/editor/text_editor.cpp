@@ -14,6 +14,7 @@
 
 #include <QActionGroup>
 #include <QContextMenuEvent>
+#include <QFontDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -188,6 +189,29 @@ void TextEditor::perform(TextCommand command)
     case TextCommand::OfferWords: return m_offers->offerAll();
     default: return applyLook(*m_field, command);
     }
+}
+
+void TextEditor::checkSpelling()
+{
+    perform(TextCommand::CheckSpelling);
+}
+
+// A font that a person chooses is family, size and looks at once.
+void TextEditor::chooseFont()
+{
+    bool isChosen = false;
+    const QFont font = QFontDialog::getFont(&isChosen, m_field->currentFont(), window(), tr("Font"));
+    if (!isChosen || m_field->isReadOnly())
+        return;
+    changeLooks(*m_field, [&](QTextCharFormat& format) {
+        format.setFontFamilies({font.family()});
+        format.setFontPointSize(font.pointSizeF());
+        format.setFontWeight(font.bold() ? QFont::Bold : QFont::Normal);
+        format.setFontItalic(font.italic());
+        format.setFontUnderline(font.underline());
+        format.setFontStrikeOut(font.strikeOut());
+    });
+    m_field->setFocus();
 }
 
 void TextEditor::changeEvent(QEvent* event)

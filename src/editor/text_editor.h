@@ -57,6 +57,10 @@ public:
     /// The field itself, for its name, its place in the order of tabs and its menu.
     QTextEdit& field() const;
 
+public Q_SLOTS:
+    void checkSpelling(); ///< word by word, from the caret
+    void chooseFont(); ///< for what is selected, or for what is typed next
+
 Q_SIGNALS:
     void textChanged();
 

@@ -53,6 +53,10 @@ constexpr ToolRow kTools[] = {
     {TextCommand::AlignRight, u"AlignRight", u"align-right", QT_TRANSLATE_NOOP("editor", "Align right"), "",
         true},
     {TextCommand::Justify, u"Justify", u"align-justify", QT_TRANSLATE_NOOP("editor", "Justify"), "", true},
+    {TextCommand::CheckSpelling, u"Spelling", u"spelling",
+        QT_TRANSLATE_NOOP("editor", "Check the spelling from here"), "F7", false},
+    {TextCommand::Find, u"FindText", u"search", QT_TRANSLATE_NOOP("editor", "Find and replace"), "Ctrl+F",
+        false},
     {TextCommand::Undo, u"UndoText", u"undo", QT_TRANSLATE_NOOP("editor", "Undo typing"), "Ctrl+Z", false},
     {TextCommand::Redo, u"RedoText", u"redo", QT_TRANSLATE_NOOP("editor", "Redo typing"), "Ctrl+Y", false},
     {TextCommand::Cut, u"CutText", u"cut", QT_TRANSLATE_NOOP("editor", "Cut"), "Ctrl+X", false},
@@ -60,10 +64,6 @@ constexpr ToolRow kTools[] = {
     {TextCommand::Paste, u"PasteText", u"paste", QT_TRANSLATE_NOOP("editor", "Paste"), "Ctrl+V", false},
     {TextCommand::PastePlain, u"PastePlain", u"paste-plain",
         QT_TRANSLATE_NOOP("editor", "Paste without looks"), "Ctrl+Shift+V", false},
-    {TextCommand::Find, u"FindText", u"search", QT_TRANSLATE_NOOP("editor", "Find and replace"), "Ctrl+F",
-        false},
-    {TextCommand::CheckSpelling, u"Spelling", u"spelling",
-        QT_TRANSLATE_NOOP("editor", "Check the spelling from here"), "F7", false},
 };
 
 constexpr TextCommand kGapsBefore[]
@@ -126,7 +126,7 @@ void TextTools::addBoxes()
     m_family->setObjectName(u"cmbFontFamily"_s);
     m_family->setAccessibleName(tr("Font"));
     m_family->setToolTip(tr("Font"));
-    m_family->setFixedWidth(150);
+    m_family->setFixedWidth(128);
     m_family->setSource([] { return QStringList{inEditor("Standard font")} + QFontDatabase::families(); });
     m_size->setObjectName(u"cmbFontSize"_s);
     m_size->setAccessibleName(tr("Size of letters"));
@@ -134,7 +134,7 @@ void TextTools::addBoxes()
     m_size->setEditable(true);
     m_size->setInsertPolicy(QComboBox::NoInsert);
     m_size->setCompleter(nullptr);
-    m_size->setFixedWidth(66);
+    m_size->setFixedWidth(58);
     for (const int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48, 72})
         m_size->addItem(QString::number(size));
     auto* numbers = new QDoubleValidator(kSmallestSize, kLargestSize, 1, m_size);

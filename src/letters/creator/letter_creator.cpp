@@ -17,7 +17,6 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QFontDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -51,19 +50,6 @@ QScrollArea* scrolled(QWidget* page)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(page->minimumSizeHint().width() + 16);
     return area;
-}
-
-/// The font of what is selected, or of what is typed next.
-void chooseFont(QTextEdit& field)
-{
-    bool chosen = false;
-    const QFont font = QFontDialog::getFont(&chosen, field.currentCharFormat().font(), &field);
-    if (!chosen)
-        return;
-    QTextCharFormat looks;
-    looks.setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
-    field.mergeCurrentCharFormat(looks);
-    field.setFocus();
 }
 
 } // namespace
@@ -297,9 +283,9 @@ void LetterCreator::performOnText(QStringView id, editor::TextEditor* text)
     else if (id.startsWith(u"Paste"))
         field.paste();
     else if (id == u"Font")
-        chooseFont(field);
+        text->chooseFont();
     else
-        text->perform(editor::TextCommand::CheckSpelling);
+        text->checkSpelling();
 }
 
 // ---- the letter
