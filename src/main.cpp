@@ -132,8 +132,8 @@ int main(int argc, char** argv)
     platform::SerialDeviceFile modemPorts(QDir(folder).filePath(u"modem.ini"_s));
     platform::DevicePort modem(modemPorts);
     editor::LetterMerger wordProcessor(drive, desktop);
-    platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
     platform::SaneScanner scanner;
+    platform::HunspellSpeller speller(folder, platform::dictionaryFolders(), QLocale::system().name());
     widgets::DateBox::setToday([&clock] { return clock.today(); });
 
     jet::Database data;

@@ -217,6 +217,22 @@ public:
     int shows = 0;
 };
 
+/// A scanner that answers at once: each page is the picture that the test gave it.
+class ScriptedScanner final : public platform::Scanner {
+public:
+    bool isAvailable() const override { return true; }
+    void findDevices(std::function<void(const QList<platform::ScannerDevice>&)> found) override
+    {
+        found(devices);
+    }
+    void scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done) override;
+    void cancel() override { }
+
+    QList<platform::ScannerDevice> devices;
+    QByteArray picture;
+    QList<platform::ScanOrder> orders;
+};
+
 /// A speller that knows all words but those that the test names.
 class FixedSpeller final : public platform::Speller {
 public:
@@ -235,22 +251,6 @@ public:
     QString language = QStringLiteral("en_US");
     bool stores = true; ///< whether words can be added
     int checked = 0; ///< words that were looked up
-};
-
-/// A scanner that answers at once: each page is the picture that the test gave it.
-class ScriptedScanner final : public platform::Scanner {
-public:
-    bool isAvailable() const override { return true; }
-    void findDevices(std::function<void(const QList<platform::ScannerDevice>&)> found) override
-    {
-        found(devices);
-    }
-    void scan(const platform::ScanOrder& order, std::function<void(const QString& cause)> done) override;
-    void cancel() override { }
-
-    QList<platform::ScannerDevice> devices;
-    QByteArray picture;
-    QList<platform::ScanOrder> orders;
 };
 
 } // namespace support

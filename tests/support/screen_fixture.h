@@ -100,8 +100,8 @@ public:
     RecordingMailAccounts mailAccounts;
     ScriptedModem modem;
     RecordingWordProcessor wordProcessor;
-    FixedSpeller speller;
     ScriptedScanner scanner;
+    FixedSpeller speller;
     jet::Schema schema;
     core::SharedState shared;
     core::Screens screens;
