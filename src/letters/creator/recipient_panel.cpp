@@ -44,7 +44,7 @@ constexpr std::array kBoxes{
 };
 constexpr size_t kFirstOfAddress = 1;
 
-constexpr int kListHeight = 84; ///< of the least list: its heading and two people
+constexpr int kListHeight = 92; ///< of the least list: its heading and two people
 
 } // namespace
 
@@ -65,10 +65,11 @@ RecipientPanel::RecipientPanel(core::Context& context, QWidget* parent)
 
 void RecipientPanel::layOut()
 {
-    list1->setHeadings(u"|To                         |City             ");
+    list1->setHeadings(u"|To                 |City        ");
     list1->letColumnsGiveWay();
     list1->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list1->setEmptyText(tr("Nobody yet. Type a name above,\nor choose people with \"Select\"."));
+    list1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list1->setMinimumHeight(kListHeight);
     widgets::FormKit form(m_fields);
     form.group(tr("Recipients"))
