@@ -60,7 +60,8 @@ LetterCreator::LetterCreator(core::Context& context, const LetterForm& form, QWi
     , m_kind(form.kind.toString())
     , m_tools(new core::ToolSet(context.screens, letterTools(), this))
     , m_wholeTools(new core::ToolSet(context.screens, wholeLetterTools(), this))
-    , m_recipients(new RecipientPanel(context))
+    , m_recipients(new RecipientPanel(
+          context, form.forGroups ? RecipientPanel::Ticks::Shown : RecipientPanel::Ticks::None))
     , m_phrases(new PhrasePanel)
     , m_details(new LetterDetails(form))
     , m_pages(new QTabWidget)
@@ -151,14 +152,38 @@ void LetterCreator::layOutTools()
     for (const QStringView style : kStyles)
         m_tools->action(style)->setCheckable(true);
     m_tools->action(kStyles[0])->setChecked(true);
+    addEditMenu(bar);
     auto* help = new QAction(tr("Help"), this);
-    help->setObjectName(u"CmdHelp"_s);
     help->setToolTip(tr("What this screen is for"));
     widgets::setIcon(help, u"help");
     bar->addAction(help);
+    bar->widgetForAction(help)->setObjectName(u"CmdHelp"_s);
     connect(help, &QAction::triggered, this,
         [this, bar, help] { showHelp(u"CON004"_s, bar->widgetForAction(help)); });
     layout()->addWidget(bar);
+}
+
+/// What is done with the text in front; each page has tools of its own.
+void LetterCreator::addEditMenu(QToolBar* bar)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"EditMenu"_s);
+    m_tools->addTo(menu, {}, core::Tool::FilterMenu);
+    m_wholeTools->addTo(menu);
+    const auto follow = [this](int page) {
+        for (const QStringView id : {u"Cut1", u"Copy1", u"Paste1"})
+            m_tools->action(id)->setVisible(page == 0);
+        for (const QStringView id : {u"Cut", u"Copy", u"Paste"})
+            m_wholeTools->action(id)->setVisible(page == 1);
+    };
+    follow(m_pages->currentIndex());
+    connect(m_pages, &QTabWidget::currentChanged, this, follow);
+    menu->menuAction()->setText(tr("Edit"));
+    menu->menuAction()->setToolTip(tr("Cut, copy, paste"));
+    widgets::setIcon(menu->menuAction(), u"edit");
+    bar->addAction(menu->menuAction());
+    qobject_cast<QToolButton*>(bar->widgetForAction(menu->menuAction()))
+        ->setPopupMode(QToolButton::InstantPopup);
 }
 
 void LetterCreator::connectControls()
@@ -171,6 +196,7 @@ void LetterCreator::connectControls()
         m_details->showHistory(context().data, m_recipients->current().name);
         composeSoon();
     });
+    connect(m_recipients, &RecipientPanel::typed, this, [this] { m_isDirty = true; });
     connect(m_phrases, &PhrasePanel::changed, this, &LetterCreator::touch);
     connect(m_phrases, &PhrasePanel::captionChosen, this, &LetterCreator::chooseCaption);
     connect(m_phrases, &PhrasePanel::greetingWanted, this, &LetterCreator::greetFamily);
@@ -463,7 +489,7 @@ void LetterCreator::showStored(const StoredLetter& stored)
     Recipient to = stored.recipient;
     if (to.id != 0 && context().data.openRecordset(core::contactNameSql(to.id)).isEmpty())
         to.id = 0;
-    m_recipients->setRecipients({to});
+    m_recipients->setRecipients({to}, false);
     m_head = letterHead(to);
     setWhole(stored.merged);
     setHandmade(composedLetter(to, parts()) != RText->text());
@@ -482,6 +508,12 @@ bool LetterCreator::takeContacts(const QList<qint64>& ids, const QString& listNa
 {
     const auto found = m_recipients->readContacts(ids);
     if (!found || found->isEmpty())
+        return false;
+    if (m_isDirty && m_recipients->isAddressTyped()
+        && context().services.boxes.ask(
+               tr("You have typed an address by hand. Do you want to write to somebody else instead?"),
+               shared().AppTitle, platform::Icon::Warning)
+            == platform::Answer::No)
         return false;
     m_recipients->setRecipients(*found);
     if (!listName.isEmpty())

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 class QTabWidget;
+class QToolBar;
 
 namespace core {
 struct Tool;
@@ -62,7 +63,7 @@ private:
     void layOut();
     QWidget* layOutLetter();
     void layOutTools();
-    void makeEditMenus();
+    void addEditMenu(QToolBar* bar);
     void connectControls();
     void perform(const core::Tool& tool);
     void performOnText(QStringView id, editor::TextEditor* text);

@@ -71,6 +71,7 @@ void fillSender(jet::Database& data, output::LetterLook& look)
 /// Those that the letter goes to; says so when there are none.
 QList<Recipient> LetterCreator::chosenRecipients()
 {
+    m_recipients->takeTypedName();
     compose();
     const QList<Recipient> recipients = m_recipients->recipients();
     if (recipients.isEmpty())
@@ -210,7 +211,8 @@ void LetterCreator::merge(bool withLetterFile)
     const QList<Recipient> recipients = chosenRecipients();
     if (recipients.isEmpty())
         return;
-    const auto merged = mergeLetters(context().services.wordProcessor, parts(), recipients,
+    const auto merged = mergeLetters(context().services.wordProcessor,
+        m_isHandmade ? belowHead(RText->text()) : composedLetter(formats::RichText(), parts()), recipients,
         m_form.mergeFolder.toString(), context().services.clock.today());
     if (!merged)
         return;
