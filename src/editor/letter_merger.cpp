@@ -8,6 +8,7 @@
 #include "platform/shell.h"
 #include "platform/storage.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -17,6 +18,7 @@
 #include <QTextDocumentWriter>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,11 +55,11 @@ bool writeOpenDocument(const QString& path, const QList<RichText>& letters)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         cursor.mergeBlockFormat(format);
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QTextDocumentWriter writer(&file, "odf");
-    return writer.write(&document) && platform::commitWhole(file);
+    // The writer closes what it writes to, which a file that is saved as a whole does not bear.
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QTextDocumentWriter writer(&bytes, "odf");
+    return writer.write(&document) && writeWhole(path, bytes.data());
 }
 
 /// A name for both files that no file of the folder bears.
@@ -174,8 +176,10 @@ platform::MergeResult LetterMerger::run(const QString& folder, const QString& st
         return {.whyNot = platform::whyNotWritable(place)};
     m_files << path + u".rtf"_s;
     if (size <= kLargestDocument) {
-        if (!writeOpenDocument(path + u".odt"_s, letters))
+        if (!writeOpenDocument(path + u".odt"_s, letters)) {
+            QFile::remove(std::exchange(m_files, {}).constFirst());
             return {.whyNot = platform::whyNotWritable(place)};
+        }
         m_files.prepend(path + u".odt"_s);
     }
     return {.files = m_files};

@@ -64,7 +64,7 @@ private Q_SLOTS:
             QStringList{u"Rahul Sharma|Mumbai|Don't worry.|All my own.|Yours Faithfully|Formal|Sent|Personal|"
                         "2024|Business"_s});
         QCOMPARE(f->book.rows(u"select JDate,Priority,categ1,categ2,[desc],person1 from OV_JOURNAL where "
-                              "Priority='3'"_s),
+                              "Priority='3' and person1='Rahul'"_s),
             QStringList{u"2024-03-15|3|Letters|Sent|Sent Thanks Letter to Rahul|Rahul"_s});
         QVERIFY(!s->isTouched());
         const QString kept = whole();
@@ -75,7 +75,8 @@ private Q_SLOTS:
         QCOMPARE(whole(), kept);
         QVERIFY(!s->findChild<QWidget*>(u"HandmadeStrip"_s)->isVisible());
         act(u"Save"_s);
-        QCOMPARE(f->book.rows(u"select count(*) from OV_JOURNAL where Priority='3'"_s), QStringList{u"1"_s});
+        QCOMPARE(f->book.rows(u"select count(*) from OV_JOURNAL where Priority='3' and person1='Rahul'"_s),
+            QStringList{u"1"_s});
     }
 
     void toSeveral()
@@ -243,9 +244,33 @@ private Q_SLOTS:
         s->openPage(u"Birthday2"_s);
         click(s, u"CmdGreeting"_s);
         QTRY_VERIFY(whole().contains(u"\nHurrah!\n  Say my Hello to "));
+    }
+
+    // Only those with a tick get the letter to the members of a list.
+    void toMembersOfAList()
+    {
         auto* group = f->open<letters::FrmGrpLetter>(u"FrmGrpLetter"_s);
-        QVERIFY(group->takeContacts({1}, u"Diwali"_s));
+        QVERIFY(group->takeContacts({1, 2, 3}, u"Diwali"_s));
         QTRY_VERIFY(group->findChild<QTextEdit*>(u"RText"_s)->toPlainText().startsWith(u"<<Person Name>>"));
+        support::clickRow(group->findChild<widgets::HeadingGrid*>(u"list1"_s), 1, 0);
+        group->findChild<QAction*>(u"Save"_s)->trigger();
+        QCOMPARE(f->book.rows(u"select person,type2 from cnt_letters order by id"_s),
+            (QStringList{u"Rahul Sharma|Group"_s, u"Priya Mehta|Group"_s}));
+    }
+
+    // A newcomer writes to somebody who is not in the book.
+    void toAStranger()
+    {
+        type(s, u"DBCperson"_s, u"D'Arcy"_s);
+        type(s, u"txtadd1"_s, u"1 Mill Lane"_s);
+        QVERIFY(s->isTouched());
+        f->boxes.expect(
+            u"You have typed an address by hand. Do you want to write to somebody else instead?"_s,
+            Answer::No);
+        QVERIFY(!s->showContact(1));
+        act(u"Save"_s);
+        QCOMPARE(f->book.rows(u"select PerId,person,Add1,Merged like 'D''Arcy*' from cnt_letters"_s),
+            QStringList{u"0|D'Arcy|1 Mill Lane|true"_s});
     }
 
 private:

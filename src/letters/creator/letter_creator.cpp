@@ -2,14 +2,10 @@
 
 #include "core/contact_lookups.h"
 #include "core/date_patterns.h"
-#include "core/frame.h"
 #include "core/screens.h"
-#include "core/sound_files.h"
 #include "core/tool_set.h"
 #include "core/vocabularies.h"
 #include "editor/text_editor.h"
-#include "formats/rtf_reader.h"
-#include "formats/rtf_writer.h"
 #include "letters/creator/letter_fields.h"
 #include "letters/creator/letter_lists.h"
 #include "letters/creator/letter_tools.h"
@@ -21,7 +17,6 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QFontDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -44,8 +39,6 @@ constexpr int kComposeDelay = 150; ///< milliseconds behind the last key
 constexpr qsizetype kLongText = 50'000;
 constexpr int kMostWords = 50; ///< that are offered at once
 
-constexpr QChar kBetween(0x1f); ///< the parts of an address in a draft
-
 constexpr QStringView kStyles[] = {u"Style1", u"Style2", u"Style3"};
 
 QScrollArea* scrolled(QWidget* page)
@@ -59,19 +52,6 @@ QScrollArea* scrolled(QWidget* page)
     return area;
 }
 
-/// The font of what is selected, or of what is typed next.
-void chooseFont(QTextEdit& field)
-{
-    bool chosen = false;
-    const QFont font = QFontDialog::getFont(&chosen, field.currentCharFormat().font(), &field);
-    if (!chosen)
-        return;
-    QTextCharFormat looks;
-    looks.setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
-    field.mergeCurrentCharFormat(looks);
-    field.setFocus();
-}
-
 } // namespace
 
 LetterCreator::LetterCreator(core::Context& context, const LetterForm& form, QWidget* parent)
@@ -80,7 +60,8 @@ LetterCreator::LetterCreator(core::Context& context, const LetterForm& form, QWi
     , m_kind(form.kind.toString())
     , m_tools(new core::ToolSet(context.screens, letterTools(), this))
     , m_wholeTools(new core::ToolSet(context.screens, wholeLetterTools(), this))
-    , m_recipients(new RecipientPanel(context))
+    , m_recipients(new RecipientPanel(
+          context, form.forGroups ? RecipientPanel::Ticks::Shown : RecipientPanel::Ticks::None))
     , m_phrases(new PhrasePanel)
     , m_details(new LetterDetails(form))
     , m_pages(new QTabWidget)
@@ -144,18 +125,15 @@ QWidget* LetterCreator::layOutLetter()
         tr("Write here what the letter says, or choose a stored text under \"Phrases\"."));
     RText->field().setObjectName(u"RText"_s);
     RText->field().setAccessibleName(tr("Whole letter"));
-    auto* whole = new QWidget;
-    auto* wholeLayout = new QVBoxLayout(whole);
-    wholeLayout->setContentsMargins(0, 0, 0, 0);
-    wholeLayout->setSpacing(0);
-    auto* bar = m_wholeTools->makeToolBar(whole);
-    bar->setObjectName(u"Toolbar2"_s);
-    wholeLayout->addWidget(bar);
-    wholeLayout->addWidget(RText, 1);
     m_pages->setObjectName(u"LetterPages"_s);
     m_pages->setDocumentMode(true);
     m_pages->addTab(txtdetails, tr("Text"));
-    m_pages->addTab(whole, tr("Whole letter"));
+    m_pages->addTab(RText, tr("Whole letter"));
+    auto* bar = m_wholeTools->makeToolBar(this);
+    bar->setObjectName(u"Toolbar2"_s);
+    m_pages->setCornerWidget(bar);
+    connect(m_pages, &QTabWidget::currentChanged, bar, [bar](int page) { bar->setVisible(page == 1); });
+    bar->hide();
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -174,14 +152,38 @@ void LetterCreator::layOutTools()
     for (const QStringView style : kStyles)
         m_tools->action(style)->setCheckable(true);
     m_tools->action(kStyles[0])->setChecked(true);
+    addEditMenu(bar);
     auto* help = new QAction(tr("Help"), this);
-    help->setObjectName(u"CmdHelp"_s);
     help->setToolTip(tr("What this screen is for"));
     widgets::setIcon(help, u"help");
     bar->addAction(help);
+    bar->widgetForAction(help)->setObjectName(u"CmdHelp"_s);
     connect(help, &QAction::triggered, this,
         [this, bar, help] { showHelp(u"CON004"_s, bar->widgetForAction(help)); });
     layout()->addWidget(bar);
+}
+
+/// What is done with the text in front; each page has tools of its own.
+void LetterCreator::addEditMenu(QToolBar* bar)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"EditMenu"_s);
+    m_tools->addTo(menu, {}, core::Tool::FilterMenu);
+    m_wholeTools->addTo(menu);
+    const auto follow = [this](int page) {
+        for (const QStringView id : {u"Cut1", u"Copy1", u"Paste1"})
+            m_tools->action(id)->setVisible(page == 0);
+        for (const QStringView id : {u"Cut", u"Copy", u"Paste"})
+            m_wholeTools->action(id)->setVisible(page == 1);
+    };
+    follow(m_pages->currentIndex());
+    connect(m_pages, &QTabWidget::currentChanged, this, follow);
+    menu->menuAction()->setText(tr("Edit"));
+    menu->menuAction()->setToolTip(tr("Cut, copy, paste"));
+    widgets::setIcon(menu->menuAction(), u"edit");
+    bar->addAction(menu->menuAction());
+    qobject_cast<QToolButton*>(bar->widgetForAction(menu->menuAction()))
+        ->setPopupMode(QToolButton::InstantPopup);
 }
 
 void LetterCreator::connectControls()
@@ -194,6 +196,7 @@ void LetterCreator::connectControls()
         m_details->showHistory(context().data, m_recipients->current().name);
         composeSoon();
     });
+    connect(m_recipients, &RecipientPanel::typed, this, [this] { m_isDirty = true; });
     connect(m_phrases, &PhrasePanel::changed, this, &LetterCreator::touch);
     connect(m_phrases, &PhrasePanel::captionChosen, this, &LetterCreator::chooseCaption);
     connect(m_phrases, &PhrasePanel::greetingWanted, this, &LetterCreator::greetFamily);
@@ -307,9 +310,9 @@ void LetterCreator::performOnText(QStringView id, editor::TextEditor* text)
     else if (id.startsWith(u"Paste"))
         field.paste();
     else if (id == u"Font")
-        chooseFont(field);
+        text->chooseFont();
     else
-        text->perform(editor::TextCommand::CheckSpelling);
+        text->checkSpelling();
 }
 
 // ---- the letter
@@ -472,23 +475,28 @@ void LetterCreator::begin()
     m_isDirty = false;
 }
 
+void LetterCreator::showParts(const LetterParts& parts)
+{
+    m_phrases->show(parts);
+    m_isSetting = true;
+    txtdetails->setText(parts.body);
+    m_isSetting = false;
+}
+
 void LetterCreator::showStored(const StoredLetter& stored)
 {
     const LetterToKeep& letter = stored.letter;
     begin();
     m_kind = letter.kind;
-    m_phrases->show(letter.parts);
-    m_isSetting = true;
-    txtdetails->setText(letter.parts.body);
-    m_isSetting = false;
+    showParts(letter.parts);
     m_details->show({letter.date, letter.type, letter.category, letter.serialNumber, letter.note});
     Recipient to = stored.recipient;
     if (to.id != 0 && context().data.openRecordset(core::contactNameSql(to.id)).isEmpty())
         to.id = 0;
-    m_recipients->setRecipients({to});
+    m_recipients->setRecipients({to}, false);
     m_head = letterHead(to);
     setWhole(stored.merged);
-    setHandmade(composedLetter(to, parts()) != stored.merged);
+    setHandmade(composedLetter(to, parts()) != RText->text());
     m_composing.stop();
     m_isDirty = false;
 }
@@ -504,6 +512,12 @@ bool LetterCreator::takeContacts(const QList<qint64>& ids, const QString& listNa
 {
     const auto found = m_recipients->readContacts(ids);
     if (!found || found->isEmpty())
+        return false;
+    if (m_isDirty && m_recipients->isAddressTyped()
+        && context().services.boxes.ask(
+               tr("You have typed an address by hand. Do you want to write to somebody else instead?"),
+               shared().AppTitle, platform::Icon::Warning)
+            == platform::Answer::No)
         return false;
     m_recipients->setRecipients(*found);
     if (!listName.isEmpty())
@@ -538,105 +552,6 @@ void LetterCreator::openPage(const QString& page)
 void LetterCreator::insertPhrase(const QString& text)
 {
     (m_pages->currentIndex() == 1 ? RText : txtdetails)->insertText(text);
-}
-
-// ---- a letter that was not saved
-
-bool LetterCreator::asksToSave()
-{
-    return context().services.boxes.ask(
-               tr("You did not  save the changes, Wish to save? "), shared().AppTitle)
-        == platform::Answer::Yes;
-}
-
-// Closed without being saved it comes back when the screen is opened again.
-bool LetterCreator::mayClose()
-{
-    if (!m_isDirty)
-        return true;
-    if (asksToSave())
-        return save();
-    keepDraft();
-    playSound(core::sounds::Cancel);
-    return true;
-}
-
-bool LetterCreator::mayEndProgram()
-{
-    if (!m_isDirty)
-        return true;
-    return asksToSave() ? save() : mayDiscard();
-}
-
-void LetterCreator::keepDraft()
-{
-    const auto rtf
-        = [](const editor::TextEditor* text) { return QString::fromLatin1(formats::writeRtf(text->text())); };
-    widgets::FieldValues draft;
-    LetterParts text = parts();
-    for (size_t line = 0; line < text.openings.size(); ++line)
-        draft.texts.insert(u"opening%1"_s.arg(line), text.openings.at(line));
-    for (size_t line = 0; line < text.closings.size(); ++line)
-        draft.texts.insert(u"closing%1"_s.arg(line), text.closings.at(line));
-    draft.texts.insert(u"ending"_s, text.ending);
-    draft.texts.insert(u"signature"_s, text.signature);
-    draft.texts.insert(u"body"_s, rtf(txtdetails));
-    if (m_isHandmade)
-        draft.texts.insert(u"whole"_s, rtf(RText));
-    QStringList ids;
-    for (const Recipient& to : m_recipients->recipients()) {
-        const LetterAddress& at = to.address;
-        if (to.id != 0)
-            ids << QString::number(to.id);
-        else
-            draft.texts.insert(u"stranger"_s,
-                QStringList{to.name, to.salutation, at.line1, at.line2, at.city, at.state, at.country, at.pin}
-                    .join(kBetween));
-    }
-    draft.texts.insert(u"recipients"_s, ids.join(u','));
-    shared().unsavedEntries.insert(objectName(), draft);
-}
-
-bool LetterCreator::showDraft()
-{
-    const widgets::FieldValues draft = shared().unsavedEntries.take(objectName());
-    if (draft.texts.isEmpty())
-        return false;
-    const auto textOf = [&draft](QStringView name) {
-        return formats::readRtf(draft.text(name).toLatin1()).value_or(formats::RichText());
-    };
-    LetterParts text;
-    for (size_t line = 0; line < text.openings.size(); ++line)
-        text.openings.at(line) = draft.text(u"opening%1"_s.arg(line));
-    for (size_t line = 0; line < text.closings.size(); ++line)
-        text.closings.at(line) = draft.text(u"closing%1"_s.arg(line));
-    text.ending = draft.text(u"ending");
-    text.signature = draft.text(u"signature");
-    m_phrases->show(text);
-    m_isSetting = true;
-    txtdetails->setText(textOf(u"body"));
-    m_isSetting = false;
-    QList<qint64> ids;
-    for (const QString& id : draft.text(u"recipients").split(u',', Qt::SkipEmptyParts))
-        ids << id.toLongLong();
-    QList<Recipient> recipients = m_recipients->readContacts(ids).value_or(QList<Recipient>());
-    const QStringList stranger = draft.text(u"stranger").split(kBetween);
-    if (stranger.size() == 8)
-        recipients << Recipient{0, stranger[0], stranger[1],
-            {stranger[2], stranger[3], stranger[4], stranger[5], stranger[6], stranger[7]}, {}};
-    m_recipients->setRecipients(recipients);
-    compose();
-    if (draft.texts.contains(u"whole"_s)) {
-        setWhole(textOf(u"whole"));
-        setHandmade(true);
-    }
-    m_isDirty = true;
-    context().frame.showNotice(tr("The letter that was not saved is here again"), tr("Discard"),
-        [&screens = context().screens, name = objectName()] {
-            if (auto* creator = dynamic_cast<LetterCreator*>(screens.find(name)))
-                creator->begin();
-        });
-    return true;
 }
 
 } // namespace letters

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 class QTabWidget;
+class QToolBar;
 
 namespace core {
 struct Tool;
@@ -62,7 +63,7 @@ private:
     void layOut();
     QWidget* layOutLetter();
     void layOutTools();
-    void makeEditMenus();
+    void addEditMenu(QToolBar* bar);
     void connectControls();
     void perform(const core::Tool& tool);
     void performOnText(QStringView id, editor::TextEditor* text);
@@ -82,16 +83,15 @@ private:
     void followRecipients();
     void chooseCaption(const QString& caption);
     void greetFamily();
+    void showParts(const LetterParts& parts);
     void showStored(const StoredLetter& stored);
     void begin();
 
-    // A letter that was not saved
+    // Ways out, in letter_ways_out.cpp
     bool asksToSave();
     void keepDraft();
-    bool showDraft();
-
-    // Ways out, in letter_ways_out.cpp
-    QList<Recipient> chosenRecipients() const;
+    void showDraft();
+    QList<Recipient> chosenRecipients();
     bool save();
     void preview(int style);
     void writeFiles();

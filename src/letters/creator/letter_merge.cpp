@@ -19,8 +19,9 @@ QString dayOf(const QDate& date)
 
 } // namespace
 
-std::optional<platform::MergeResult> mergeLetters(platform::WordProcessor& words, const LetterParts& parts,
-    const QList<Recipient>& recipients, const QString& folder, const QDate& today)
+std::optional<platform::MergeResult> mergeLetters(platform::WordProcessor& words,
+    const formats::RichText& text, const QList<Recipient>& recipients, const QString& folder,
+    const QDate& today)
 {
     if (!words.create())
         return std::nullopt;
@@ -46,7 +47,7 @@ std::optional<platform::MergeResult> mergeLetters(platform::WordProcessor& words
             words.typeText(step.after);
     }
     words.typeText(u"\n"_s);
-    words.typeParagraphs(composedLetter(formats::RichText(), parts));
+    words.typeParagraphs(text);
     auto merged = words.run(folder, u"Letters "_s + dayOf(today));
     if (merged)
         words.show();

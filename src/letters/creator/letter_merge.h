@@ -9,10 +9,12 @@ namespace letters {
 
 /// Writes a letter to several through the word processor: the rows of its readers, a document with their
 /// names and addresses as fields, the text, and the merge of them.
+/// @param text of the letter below its address
 /// @param folder of the merged document
 /// @return nothing when there is no word processor
-std::optional<platform::MergeResult> mergeLetters(platform::WordProcessor& words, const LetterParts& parts,
-    const QList<Recipient>& recipients, const QString& folder, const QDate& today);
+std::optional<platform::MergeResult> mergeLetters(platform::WordProcessor& words,
+    const formats::RichText& text, const QList<Recipient>& recipients, const QString& folder,
+    const QDate& today);
 
 /// The letter as it stands, as a file of its own; with the same text for the journal where that is kept.
 inline constexpr QStringView kLetterFile = u"C:\\Letter.rtf";

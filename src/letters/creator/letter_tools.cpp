@@ -65,9 +65,9 @@ constexpr core::Tool kTools[] = {
         .places = Menu},
     {.id = u"Style2", .icon = u"report", .text = QT_TRANSLATE_NOOP("letters", "&Classic"), .places = Menu},
     {.id = u"Style3", .icon = u"report", .text = QT_TRANSLATE_NOOP("letters", "&Modern"), .places = Menu},
-    {.id = u"Cut1", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "Cu&t"), .places = FilterMenu},
-    {.id = u"Copy1", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "&Copy"), .places = FilterMenu},
-    {.id = u"Paste1", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "&Paste"), .places = FilterMenu},
+    {.id = u"Cut1", .icon = u"cut", .text = QT_TRANSLATE_NOOP("letters", "Cu&t"), .places = FilterMenu},
+    {.id = u"Copy1", .icon = u"copy", .text = QT_TRANSLATE_NOOP("letters", "&Copy"), .places = FilterMenu},
+    {.id = u"Paste1", .icon = u"paste", .text = QT_TRANSLATE_NOOP("letters", "&Paste"), .places = FilterMenu},
 };
 
 constexpr core::Tool kWholeLetterTools[] = {
@@ -77,13 +77,13 @@ constexpr core::Tool kWholeLetterTools[] = {
         .toolTip = QT_TRANSLATE_NOOP("letters", "The font of what is selected"),
         .places = Labelled},
     {.id = u"Spelling",
-        .icon = u"search",
+        .icon = u"spelling",
         .text = QT_TRANSLATE_NOOP("letters", "Spelling"),
         .toolTip = QT_TRANSLATE_NOOP("letters", "Check the spelling word by word"),
         .places = Labelled},
-    {.id = u"Cut", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "Cu&t"), .places = Menu},
-    {.id = u"Copy", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "&Copy"), .places = Menu},
-    {.id = u"Paste", .icon = {}, .text = QT_TRANSLATE_NOOP("letters", "&Paste"), .places = Menu},
+    {.id = u"Cut", .icon = u"cut", .text = QT_TRANSLATE_NOOP("letters", "Cu&t"), .places = Menu},
+    {.id = u"Copy", .icon = u"copy", .text = QT_TRANSLATE_NOOP("letters", "&Copy"), .places = Menu},
+    {.id = u"Paste", .icon = u"paste", .text = QT_TRANSLATE_NOOP("letters", "&Paste"), .places = Menu},
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "editor/text_editor.h"
 #include "jet/date_text.h"
 #include "letters/creator/letter_database.h"
+#include "letters/creator/letter_draft.h"
 #include "letters/creator/letter_fields.h"
 #include "letters/creator/letter_files.h"
 #include "letters/creator/letter_merge.h"
@@ -68,8 +69,10 @@ void fillSender(jet::Database& data, output::LetterLook& look)
 } // namespace
 
 /// Those that the letter goes to; says so when there are none.
-QList<Recipient> LetterCreator::chosenRecipients() const
+QList<Recipient> LetterCreator::chosenRecipients()
 {
+    m_recipients->takeTypedName();
+    compose();
     const QList<Recipient> recipients = m_recipients->recipients();
     if (recipients.isEmpty())
         inform(tr("Record not selected"));
@@ -210,7 +213,8 @@ void LetterCreator::merge(bool withLetterFile)
     const QList<Recipient> recipients = chosenRecipients();
     if (recipients.isEmpty())
         return;
-    const auto merged = mergeLetters(context().services.wordProcessor, parts(), recipients,
+    const auto merged = mergeLetters(context().services.wordProcessor,
+        m_isHandmade ? belowHead(RText->text()) : composedLetter(formats::RichText(), parts()), recipients,
         m_form.mergeFolder.toString(), context().services.clock.today());
     if (!merged)
         return;
@@ -245,6 +249,69 @@ void LetterCreator::tellPlace(const QString& text, const QString& file)
 {
     context().frame.showNotice(
         text, tr("Open"), [&shell = context().services.shell, file] { shell.openFile(file); });
+}
+
+// ---- a letter that was not saved
+
+bool LetterCreator::asksToSave()
+{
+    return context().services.boxes.ask(
+               tr("You did not  save the changes, Wish to save? "), shared().AppTitle)
+        == platform::Answer::Yes;
+}
+
+// Closed without being saved it comes back when the screen is opened again.
+bool LetterCreator::mayClose()
+{
+    if (!m_isDirty)
+        return true;
+    if (asksToSave())
+        return save();
+    keepDraft();
+    playSound(core::sounds::Cancel);
+    return true;
+}
+
+bool LetterCreator::mayEndProgram()
+{
+    if (!m_isDirty)
+        return true;
+    return asksToSave() ? save() : mayDiscard();
+}
+
+void LetterCreator::keepDraft()
+{
+    LetterDraft draft{.parts = parts()};
+    if (m_isHandmade)
+        draft.whole = RText->text();
+    for (const Recipient& to : m_recipients->recipients()) {
+        if (to.id != 0)
+            draft.contacts << to.id;
+        else
+            draft.strangers << to;
+    }
+    shared().unsavedEntries.insert(objectName(), draftValues(draft));
+}
+
+void LetterCreator::showDraft()
+{
+    const auto draft = draftFrom(shared().unsavedEntries.take(objectName()));
+    if (!draft)
+        return;
+    showParts(draft->parts);
+    m_recipients->setRecipients(
+        m_recipients->readContacts(draft->contacts).value_or(QList<Recipient>()) + draft->strangers);
+    compose();
+    if (draft->whole) {
+        setWhole(*draft->whole);
+        setHandmade(true);
+    }
+    m_isDirty = true;
+    context().frame.showNotice(tr("The letter that was not saved is here again"), tr("Discard"),
+        [&screens = context().screens, name = objectName()] {
+            if (auto* creator = dynamic_cast<LetterCreator*>(screens.find(name)))
+                creator->begin();
+        });
 }
 
 } // namespace letters

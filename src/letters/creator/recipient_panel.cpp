@@ -44,13 +44,14 @@ constexpr std::array kBoxes{
 };
 constexpr size_t kFirstOfAddress = 1;
 
-constexpr int kListHeight = 84; ///< of the least list: its heading and two people
+constexpr int kListHeight = 92; ///< of the least list: its heading and two people
 
 } // namespace
 
-RecipientPanel::RecipientPanel(core::Context& context, QWidget* parent)
+RecipientPanel::RecipientPanel(core::Context& context, Ticks ticks, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
+    , m_ticks(ticks)
     , m_pages(new QStackedLayout(this))
     , m_fields(new QWidget)
     , m_picker(new PeoplePicker(context.data))
@@ -65,10 +66,17 @@ RecipientPanel::RecipientPanel(core::Context& context, QWidget* parent)
 
 void RecipientPanel::layOut()
 {
-    list1->setHeadings(u"|To                         |City             ");
+    const bool hasTicks = m_ticks == Ticks::Shown;
+    list1->setHeadings(
+        u"   |To                 |City        ", {hasTicks ? u"tick"_s : QString(), u"name"_s, u"city"_s});
+    if (hasTicks) {
+        list1->setTickColumn(u"tick"_s);
+        list1->setMayTick(true);
+    }
     list1->letColumnsGiveWay();
     list1->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list1->setEmptyText(tr("Nobody yet. Type a name above,\nor choose people with \"Select\"."));
+    list1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list1->setMinimumHeight(kListHeight);
     widgets::FormKit form(m_fields);
     form.group(tr("Recipients"))
@@ -126,12 +134,18 @@ void RecipientPanel::connectControls()
     list1->addAction(remove);
     list1->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &RecipientPanel::chooseType);
-    for (QWidget* box : std::as_const(m_boxes)) {
-        if (auto* line = qobject_cast<QLineEdit*>(box))
-            connect(line, &QLineEdit::textEdited, this, &RecipientPanel::takeBoxes);
+    connect(list1, &widgets::HeadingGrid::tickChanged, this, [this](int row) {
+        m_wanted[row] = list1->isTicked(row);
+        tellCount();
+        Q_EMIT changed();
+    });
+    for (size_t box = 0; box < kBoxes.size(); ++box) {
+        const auto take = [this, box] { takeBox(box); };
+        if (auto* line = qobject_cast<QLineEdit*>(m_boxes.at(qsizetype(box))))
+            connect(line, &QLineEdit::textEdited, this, take);
         else
-            connect(qobject_cast<QComboBox*>(box), &QComboBox::currentTextChanged, this,
-                &RecipientPanel::takeBoxes);
+            connect(qobject_cast<QComboBox*>(m_boxes.at(qsizetype(box))), &QComboBox::currentTextChanged,
+                this, take);
     }
     connect(m_picker, &PeoplePicker::picked, this, qOverload<const QList<qint64>&>(&RecipientPanel::add));
     connect(m_picker, &PeoplePicker::finished, this, [this] {
@@ -160,6 +174,8 @@ void RecipientPanel::bookChanged()
 {
     DBCperson->refill();
     m_picker->readAgain();
+    if (!m_isAddressTyped)
+        readAddresses();
     for (Recipient& to : m_recipients) {
         if (to.id != 0 && m_context.data.openRecordset(core::contactNameSql(to.id)).isEmpty())
             to.id = 0;
@@ -172,7 +188,14 @@ QList<Recipient> RecipientPanel::recipients() const
 {
     if (m_recipients.isEmpty() && m_free != Recipient())
         return {m_free};
-    return m_recipients;
+    if (m_ticks == Ticks::None)
+        return m_recipients;
+    QList<Recipient> wanted;
+    for (qsizetype row = 0; row < m_recipients.size(); ++row) {
+        if (m_wanted.at(row))
+            wanted << m_recipients.at(row);
+    }
+    return wanted;
 }
 
 Recipient RecipientPanel::current() const
@@ -185,11 +208,12 @@ AddressType RecipientPanel::addressType() const
     return AddressType(std::max(0, m_type));
 }
 
-void RecipientPanel::setRecipients(const QList<Recipient>& recipients)
+void RecipientPanel::setRecipients(const QList<Recipient>& recipients, bool areAsInBook)
 {
     m_recipients = recipients;
+    m_wanted = QList<bool>(recipients.size(), true);
     m_free = {};
-    m_isAddressTyped = false;
+    m_isAddressTyped = !areAsInBook;
     fillList(m_recipients.isEmpty() ? -1 : 0);
     Q_EMIT changed();
 }
@@ -230,6 +254,8 @@ void RecipientPanel::add(const QList<Recipient>& recipients)
         m_recipients << m_free;
     m_free = {};
     m_recipients << recipients;
+    while (m_wanted.size() < m_recipients.size())
+        m_wanted << true;
     fillList(static_cast<int>(m_recipients.size()) - 1);
     Q_EMIT changed();
 }
@@ -253,7 +279,8 @@ void RecipientPanel::takeTypedName()
     if (stranger.salutation.trimmed().isEmpty())
         stranger.salutation = name;
     m_free = {};
-    add({stranger});
+    add(QList<Recipient>{stranger});
+    Q_EMIT typed();
     m_boxes.at(kFirstOfAddress)->setFocus();
 }
 
@@ -265,8 +292,10 @@ void RecipientPanel::removeSelected()
     std::sort(rows.rbegin(), rows.rend());
     if (rows.isEmpty())
         return;
-    for (const int row : std::as_const(rows))
+    for (const int row : std::as_const(rows)) {
         m_recipients.removeAt(row);
+        m_wanted.removeAt(row);
+    }
     fillList(std::min(rows.constLast(), static_cast<int>(m_recipients.size()) - 1));
     Q_EMIT changed();
 }
@@ -284,13 +313,20 @@ void RecipientPanel::fillList(int row)
         rows << QStringList{QString(), to.name, to.address.city};
     {
         const QSignalBlocker quiet(list1);
-        list1->setRows(rows);
+        list1->setRows(rows, {u"tick"_s, u"name"_s, u"city"_s});
+        list1->tickRows([this](int each) { return m_wanted.value(each); });
         list1->setCurrentRow(row);
     }
-    m_count->setText(m_recipients.size() > 1 ? tr("%1 recipients").arg(m_recipients.size()) : QString());
+    tellCount();
     child<QPushButton>(this, u"CmdRemove"_s)->setEnabled(!m_recipients.isEmpty());
     showCurrent();
     Q_EMIT currentChanged();
+}
+
+void RecipientPanel::tellCount()
+{
+    const qsizetype count = recipients().size();
+    m_count->setText(m_recipients.size() > 1 ? tr("%1 recipients").arg(count) : QString());
 }
 
 // ---- where
@@ -304,19 +340,19 @@ void RecipientPanel::showCurrent()
     m_isShowing = false;
 }
 
-void RecipientPanel::takeBoxes()
+// Only the box that was changed: a line shows less than an address of several lines holds.
+void RecipientPanel::takeBox(size_t box)
 {
     if (m_isShowing)
         return;
     const int row = list1->currentRow();
     const bool isListed = row >= 0 && row < m_recipients.size();
     Recipient& to = isListed ? m_recipients[row] : m_free;
-    const LetterAddress before = to.address;
-    for (qsizetype box = 0; box < m_boxes.size(); ++box)
-        kBoxes.at(size_t(box)).part(to) = widgets::textOf(m_boxes.at(box));
+    kBoxes.at(box).part(to) = widgets::textOf(m_boxes.at(qsizetype(box)));
     if (!isListed)
         to.name = to.salutation;
-    m_isAddressTyped |= to.address != before;
+    m_isAddressTyped |= box >= kFirstOfAddress;
+    Q_EMIT typed();
     Q_EMIT changed();
 }
 
@@ -335,16 +371,25 @@ void RecipientPanel::chooseType()
     }
     m_type = type;
     m_isAddressTyped = false;
+    readAddresses();
+    Q_EMIT changed();
+}
+
+void RecipientPanel::readAddresses()
+{
     for (Recipient& to : m_recipients) {
         if (to.id == 0)
             continue;
         const jet::Recordset contact
             = m_context.data.openRecordset(u"select * from cnt_main where id="_s + QString::number(to.id));
-        if (contact.hasRow())
-            to.address = letterAddress(contact, addressType());
+        if (!contact.hasRow())
+            continue;
+        const QString spokenTo = to.salutation == to.name ? QString() : to.salutation;
+        to = recipientOf(contact, addressType());
+        if (!spokenTo.isEmpty())
+            to.salutation = spokenTo;
     }
     fillList(list1->currentRow());
-    Q_EMIT changed();
 }
 
 } // namespace letters

@@ -28,16 +28,22 @@ class RecipientPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit RecipientPanel(core::Context& context, QWidget* parent = nullptr);
+    enum class Ticks { None, Shown };
+    /// @param ticks shown where the letter goes only to those in the list that have one
+    RecipientPanel(core::Context& context, Ticks ticks, QWidget* parent = nullptr);
 
     void load();
     void bookChanged();
 
-    /// Those in the list; without any, whoever stands in the boxes.
+    /// Those in the list, where ticks are shown those that have one; without any in the list, whoever stands
+    /// in the boxes.
     QList<Recipient> recipients() const;
     Recipient current() const;
     AddressType addressType() const;
-    void setRecipients(const QList<Recipient>& recipients);
+    /// @param areAsInBook whether names and addresses follow the book
+    void setRecipients(const QList<Recipient>& recipients, bool areAsInBook = true);
+    bool isAddressTyped() const { return m_isAddressTyped; } ///< one that the book does not have
+    void takeTypedName(); ///< that was not yet put into the list
     /// Contacts of the book with their addresses, in this order; those that are gone are left out. Nothing
     /// when the person has stopped the reading of a long list.
     std::optional<QList<Recipient>> readContacts(const QList<qint64>& ids);
@@ -46,21 +52,25 @@ public:
 Q_SIGNALS:
     void changed(); ///< other people, or another name or address
     void currentChanged();
+    void typed(); ///< by a person, into the boxes
 
 private:
     void layOut();
     void connectControls();
-    void takeTypedName();
     void add(const QList<qint64>& ids);
     void add(const QList<Recipient>& recipients);
     void removeSelected();
     void chooseType();
     void fillList(int row);
     void showCurrent();
-    void takeBoxes();
+    void tellCount();
+    void takeBox(size_t box);
+    void readAddresses();
 
     core::Context& m_context;
+    Ticks m_ticks;
     QList<Recipient> m_recipients;
+    QList<bool> m_wanted; ///< for each of them, whether the letter goes there
     Recipient m_free; ///< in the boxes while the list is empty
     bool m_isAddressTyped = false; ///< one that the book does not have
     bool m_isShowing = false; ///< the boxes are being filled
