@@ -30,7 +30,7 @@ public:
         , all{data, info, schema, shared, registry, window,
               {drive, which == Boxes::Scripted ? static_cast<platform::MessageBoxes&>(boxes) : real, shell,
                   sounds, folders, favourites, help, mailContacts, clock, printer, mail, mailAccounts, modem,
-                  modem}}
+                  modem, wordProcessor, scanner, speller}}
     {
         QDir().mkpath(root.filePath(u"program"_s));
         registry.setContext(all);
