@@ -5,6 +5,10 @@
 #include "letters/creator/FrmEmailInsert.h"
 #include "letters/creator/FrmGrpLetter.h"
 #include "letters/creator/FrmLetter.h"
+#include "letters/labels/FrmlblReport.h"
+#include "letters/lists/FormMailList.h"
+#include "letters/lists/FrmList.h"
+#include "letters/lists/FrmMailLstAdd.h"
 #include "letters/ltr_setup/FormLtrSetUp.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
@@ -18,6 +22,10 @@ namespace letters {
 
 void registerLetters(core::Screens& screens)
 {
+    screens.add<FormMailList>(u"FormMailList"_s);
+    screens.add<FrmMailLstAdd>(u"FrmMailLstAdd"_s);
+    screens.add<FrmList>(u"FrmList"_s);
+    screens.add<FrmlblReport>(u"FrmlblReport"_s);
     screens.add<FrmLetterRecord>(u"FrmLetterRecord"_s);
     screens.add<FrmEditLetterRecord>(u"FrmEditLetterRecord"_s);
     screens.add<Frmgmail>(u"Frmgmail"_s);

@@ -34,5 +34,11 @@ inline constexpr core::Tool kEditDetails{.id = u"EditDetails",
     .task = core::ToolTask::EditContact,
     .form = u"FormMain",
     .places = core::Tool::IconOnly | core::Tool::Menu};
+inline constexpr core::Tool kAddToList{.id = u"AddToList",
+    .icon = u"persons",
+    .text = QT_TRANSLATE_NOOP("telephone", "Add to a list..."),
+    .task = core::ToolTask::HandOver,
+    .form = u"FrmList",
+    .places = core::Tool::Menu};
 
 } // namespace telephone::rows

@@ -126,6 +126,7 @@ void ContactToolsTest::handsOver_data()
     row(View, u"Email2"_s, u"FormEmail"_s);
     row(View, u"DetailView"_s, u"frmSelector"_s);
     row(View, u"EditDetails"_s, u"FormMain"_s);
+    row(View, u"PrintLabel"_s, u"FrmlblReport"_s);
     row(Selector, u"Caller"_s, u"FrmDialer"_s);
     row(Selector, u"ID_Ex"_s, u"FormEmail"_s);
     row(Selector, u"Letter2"_s, u"FrmLetter"_s);

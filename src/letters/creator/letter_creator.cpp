@@ -21,6 +21,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QFontDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -58,6 +59,19 @@ QScrollArea* scrolled(QWidget* page)
     return area;
 }
 
+/// The font of what is selected, or of what is typed next.
+void chooseFont(QTextEdit& field)
+{
+    bool chosen = false;
+    const QFont font = QFontDialog::getFont(&chosen, field.currentCharFormat().font(), &field);
+    if (!chosen)
+        return;
+    QTextCharFormat looks;
+    looks.setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
+    field.mergeCurrentCharFormat(looks);
+    field.setFocus();
+}
+
 } // namespace
 
 LetterCreator::LetterCreator(core::Context& context, const LetterForm& form, QWidget* parent)
@@ -91,7 +105,7 @@ void LetterCreator::layOut()
     auto* left = new QTabWidget;
     left->setObjectName(u"LetterSides"_s);
     left->setDocumentMode(true);
-    left->addTab(scrolled(m_recipients), tr("To"));
+    left->addTab(m_recipients, tr("To"));
     left->addTab(scrolled(m_phrases), tr("Phrases"));
     left->addTab(scrolled(m_details), tr("Record"));
     auto* splitter = new QSplitter;
@@ -126,6 +140,8 @@ QWidget* LetterCreator::layOutLetter()
 
     txtdetails->field().setObjectName(u"txtdetails"_s);
     txtdetails->field().setAccessibleName(tr("Text of the letter"));
+    txtdetails->field().setPlaceholderText(
+        tr("Write here what the letter says, or choose a stored text under \"Phrases\"."));
     RText->field().setObjectName(u"RText"_s);
     RText->field().setAccessibleName(tr("Whole letter"));
     auto* whole = new QWidget;
@@ -210,10 +226,10 @@ void LetterCreator::load()
             found << rows.textAt(row, rows.columnIndex(u"word"));
         return found;
     };
-    for (editor::TextEditor* text : {txtdetails, RText})
+    for (editor::TextEditor* text : {txtdetails, RText}) {
+        text->setWordSource(words);
         text->setSpeller(&context().services.speller);
-    txtdetails->setWordSource(words);
-    RText->setWordSource(words);
+    }
     m_recipients->load();
     m_phrases->load(context().data);
     m_details->load(
@@ -287,9 +303,9 @@ void LetterCreator::performOnText(QStringView id, editor::TextEditor* text)
     else if (id.startsWith(u"Paste"))
         field.paste();
     else if (id == u"Font")
-        QMetaObject::invokeMethod(text, "chooseFont");
+        chooseFont(field);
     else
-        QMetaObject::invokeMethod(text, "checkSpelling");
+        text->perform(editor::TextCommand::CheckSpelling);
 }
 
 // ---- the letter

@@ -10,20 +10,6 @@ namespace letters {
 
 using core::inQuotes;
 
-namespace {
-
-/// The pattern of texts that begin so, whatever letters of the pattern language are in it.
-QString beginningWith(QString beginning)
-{
-    static constexpr QStringView kPatternLetters = u"*?#";
-    beginning.replace(u'[', u"[[]"_s);
-    for (const QChar letter : kPatternLetters)
-        beginning.replace(letter, u"[%1]"_s.arg(letter));
-    return inQuotes(beginning) + u'*';
-}
-
-} // namespace
-
 QString stockTextsSql()
 {
     return u"select distinct ltcaption from cnt_lettercontent where emil_ltr<>'Email'"_s;
@@ -83,7 +69,7 @@ QString signersSql()
 
 QString commonWordsSql(const QString& prefix)
 {
-    return u"Select * from OV_CmmWrds where word like '"_s + beginningWith(prefix) + u"' order by word"_s;
+    return u"Select * from OV_CmmWrds where word like '"_s + core::likeText(prefix) + u"*' order by word"_s;
 }
 
 QString lettersToSql(const QString& person)
@@ -114,7 +100,7 @@ QString mailingListsSql()
 
 QString peopleSql(PeopleOf source, const QString& group, const QString& beginning)
 {
-    QStringList terms;
+    QStringList terms{u"name<>''"_s};
     switch (source) {
     case PeopleOf::Book: break;
     case PeopleOf::Category: terms << u"category1='"_s + inQuotes(group) + u'\''; break;
@@ -124,9 +110,8 @@ QString peopleSql(PeopleOf source, const QString& group, const QString& beginnin
     case PeopleOf::PrintSelection: terms << u"selected=true"_s; break;
     }
     if (!beginning.isEmpty())
-        terms << u"name like '"_s + beginningWith(beginning) + u'\'';
-    const QString where = terms.isEmpty() ? QString() : u" where "_s + terms.join(u" and "_s);
-    return u"select id,name,h_city from cnt_main"_s + where + u" order by name"_s;
+        terms << u"name like '"_s + core::likeText(beginning) + u"*'"_s;
+    return u"select id,name,h_city from cnt_main where "_s + terms.join(u" and "_s) + u" order by name"_s;
 }
 
 } // namespace letters

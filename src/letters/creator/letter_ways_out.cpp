@@ -170,9 +170,7 @@ void LetterCreator::writeFiles()
     const QString place = m_details->folder();
     if (outcome.missing.isEmpty()) {
         playSound(core::sounds::Save);
-        return tellPlace(
-            tr("%n letter(s) saved in %1", nullptr, static_cast<int>(outcome.readers.size())).arg(place),
-            place);
+        return tellPlace(tr("Letters saved in %1: %2").arg(place).arg(outcome.readers.size()), place);
     }
     const QString told
         = tr("Written: %1.\nNot written: %2.")

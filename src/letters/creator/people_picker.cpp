@@ -39,6 +39,7 @@ void PeoplePicker::layOut()
     m_people->letColumnsGiveWay();
     m_people->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_people->setEmptyText(tr("Nobody is here"));
+    m_people->setMinimumHeight(120);
     widgets::FormKit form(this);
     form.group(tr("Select recipients"))
         .fixedCombo(u"CmbPeopleOf"_s, tr("&From"))

@@ -44,6 +44,8 @@ constexpr std::array kBoxes{
 };
 constexpr size_t kFirstOfAddress = 1;
 
+constexpr int kListHeight = 84; ///< of the least list: its heading and two people
+
 } // namespace
 
 RecipientPanel::RecipientPanel(core::Context& context, QWidget* parent)
@@ -67,17 +69,19 @@ void RecipientPanel::layOut()
     list1->letColumnsGiveWay();
     list1->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list1->setEmptyText(tr("Nobody yet. Type a name above,\nor choose people with \"Select\"."));
-    list1->setMinimumHeight(90);
+    list1->setMinimumHeight(kListHeight);
     widgets::FormKit form(m_fields);
     form.group(tr("Recipients"))
         .combo(u"DBCperson"_s, tr("&To"))
         .hint(tr("Enter puts the name into the list; one that is not in the address book is taken as well"))
+        .beside()
         .button(u"CmdAddPerson"_s, tr("Add"), u"add", tr("Write to this person (Enter)"))
         .wide(u"list1"_s, tr("Recipients of the letter"), list1)
         .button(u"CmdSelect"_s, tr("Select..."), u"persons",
             tr("Choose people by category, mailing list or print selection"))
         .button(
             u"CmdRemove"_s, tr("Remove"), u"delete", tr("Take those that are selected off the list (Del)"))
+        .beside()
         .caption(u"lblRecipients"_s)
         .group(tr("Address on the letter"))
         .fixedCombo(u"Combo1"_s, tr("Address t&ype"))
@@ -85,8 +89,10 @@ void RecipientPanel::layOut()
         .line(u"txtadd1"_s, tr("&Address"))
         .line(u"txtadd2"_s, {})
         .combo(u"DBCcity"_s, tr("Cit&y"))
+        .beside()
         .line(u"DBcstate"_s, tr("State"))
         .combo(u"DBCcountry"_s, tr("Country"))
+        .beside()
         .line(u"DBCPin"_s, tr("Pin"))
         .stretch();
     m_fields->layout()->setContentsMargins(0, 0, 0, 0);
@@ -281,9 +287,7 @@ void RecipientPanel::fillList(int row)
         list1->setRows(rows);
         list1->setCurrentRow(row);
     }
-    m_count->setText(m_recipients.isEmpty()
-            ? QString()
-            : tr("%n recipient(s)", nullptr, static_cast<int>(m_recipients.size())));
+    m_count->setText(m_recipients.size() > 1 ? tr("%1 recipients").arg(m_recipients.size()) : QString());
     child<QPushButton>(this, u"CmdRemove"_s)->setEnabled(!m_recipients.isEmpty());
     showCurrent();
     Q_EMIT currentChanged();

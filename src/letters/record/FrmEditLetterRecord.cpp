@@ -88,8 +88,9 @@ void FrmEditLetterRecord::load()
     setFrameTitle(windowTitle());
     m_fields.control<widgets::DateBox>(u"Ssdate1"_s)->setFormat(core::datePattern(shared().NationalMode));
     // Opened by itself it begins with the latest letter.
-    const jet::Recordset last = context().data.openRecordset(u"select max(id) as last from cnt_letters"_s);
-    if (!display(last.hasRow() ? last.number(u"last") : 0))
+    const jet::Recordset last
+        = context().data.openRecordset(u"select id from cnt_letters order by id desc"_s);
+    if (!display(last.hasRow() ? last.number(u"id") : 0))
         m_fields.keepAsLoaded();
 }
 
@@ -117,10 +118,10 @@ bool FrmEditLetterRecord::display(qint64 letter)
 
 void FrmEditLetterRecord::move(int step)
 {
-    const QString sql = step < 0 ? u"select max(id) as other from cnt_letters where id<%1"_s
-                                 : u"select min(id) as other from cnt_letters where id>%1"_s;
+    const QString sql = step < 0 ? u"select id from cnt_letters where id<%1 order by id desc"_s
+                                 : u"select id from cnt_letters where id>%1 order by id"_s;
     const jet::Recordset other = context().data.openRecordset(sql.arg(m_editor.id()));
-    const qint64 letter = other.hasRow() ? other.number(u"other") : 0;
+    const qint64 letter = other.hasRow() ? other.number(u"id") : 0;
     if (letter != 0 && mayDiscard())
         display(letter);
 }

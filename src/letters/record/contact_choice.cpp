@@ -6,6 +6,8 @@
 #include <QCompleter>
 #include <QStandardItemModel>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace letters {
@@ -16,9 +18,8 @@ constexpr int kMostOffered = 40;
 
 QString namesFrom(const QString& beginning)
 {
-    return u"select top %1 id,name,h_city from cnt_main where name like '%2*' order by name"_s
-        .arg(kMostOffered)
-        .arg(core::likeText(beginning));
+    return u"select id,name,h_city from cnt_main where name like '%1*' order by name"_s.arg(
+        core::likeText(beginning));
 }
 
 } // namespace
@@ -56,7 +57,7 @@ qint64 ContactChoice::contactId() const
     if (typed.isEmpty())
         return 0;
     const jet::Recordset named
-        = m_data.openRecordset(u"select top 2 id from cnt_main where name='%1'"_s.arg(core::inQuotes(typed)));
+        = m_data.openRecordset(u"select id from cnt_main where name='%1'"_s.arg(core::inQuotes(typed)));
     return named.count() == 1 ? named.number(u"id") : 0;
 }
 
@@ -66,7 +67,7 @@ void ContactChoice::suggest(const QString& typed)
     if (typed.trimmed().isEmpty())
         return;
     const jet::Recordset people = m_data.openRecordset(namesFrom(typed));
-    for (int row = 0; row < people.count(); ++row) {
+    for (int row = 0; row < std::min(people.count(), kMostOffered); ++row) {
         const QString city = people.textAt(row, 2).simplified();
         auto* item = new QStandardItem(people.textAt(row, 1));
         item->setData(people.valueAt(row, 0), Qt::UserRole);

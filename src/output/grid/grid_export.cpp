@@ -15,6 +15,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace output {
@@ -23,7 +25,6 @@ namespace {
 
 using platform::Answer;
 
-constexpr QStringView kFolder = u"C:\\OVUserfiles\\Exported Files\\Excel";
 constexpr QStringView kFilter = u"Excel File (*.xls)|*.xls|CSV File (*.CSV)|*.CSV|Text File (*.txt)|*.txt|"
                                 "Text File (*.html)|*.html";
 constexpr QStringView kCsvFilter = u"CSV File (*.CSV)|*.CSV";
@@ -35,17 +36,18 @@ QString translated(const char* text)
 
 class GridExport {
 public:
-    GridExport(core::Context& context, const GridTable& grid, QWidget* over)
+    GridExport(core::Context& context, const GridTable& grid, GridFile file, QWidget* over)
         : m_context(context)
         , m_boxes(context.services.boxes)
         , m_grid(grid)
+        , m_file(std::move(file))
         , m_over(over)
     {
     }
 
     bool run()
     {
-        const QString path = askForFile(kFilter, u".xls"_s);
+        const QString path = askForFile(m_file.filter, m_file.ending);
         if (path.isEmpty())
             return false;
         if (gridFormatOf(path) == GridFormat::Xls && !fitsWorkbook(m_grid))
@@ -58,11 +60,10 @@ private:
     QString askForFile(QStringView filter, const QString& ending)
     {
         const platform::Drive& drive = m_context.services.drive;
-        drive.ensureFolder(kFolder);
-        const QString name = platform::Drive::safeFileName(datedTitle(m_context, m_grid.title));
+        drive.ensureFolder(kExportFolder);
         // What the dialog took for an ending may be a part of the name.
         return output::askForFile(m_context, translated("Export"), filter,
-            {drive.local(kFolder), name + ending}, ending, [](const QString& path) {
+            {drive.local(kExportFolder), m_file.stem + ending}, ending, [](const QString& path) {
                 static const QStringList known{u"xls"_s, u"csv"_s, u"txt"_s, u"html"_s, u"htm"_s};
                 return known.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
             });
@@ -123,6 +124,7 @@ private:
     core::Context& m_context;
     platform::MessageBoxes& m_boxes;
     const GridTable& m_grid;
+    GridFile m_file;
     QWidget* m_over;
 };
 
@@ -130,7 +132,13 @@ private:
 
 bool GridXLS(core::Context& context, const GridTable& grid, QWidget* over)
 {
-    return GridExport(context, grid, over).run();
+    const QString stem = platform::Drive::safeFileName(datedTitle(context, grid.title));
+    return saveGrid(context, grid, {kFilter.toString(), stem, u".xls"_s}, over);
+}
+
+bool saveGrid(core::Context& context, const GridTable& grid, const GridFile& file, QWidget* over)
+{
+    return GridExport(context, grid, file, over).run();
 }
 
 QString datedTitle(const core::Context& context, const QString& title)

@@ -22,6 +22,7 @@ constexpr core::Tool kTools[] = {
         .form = u"FullView",
         .places = IconOnly | Menu | GroupStart},
     rows::kEditDetails,
+    rows::kAddToList,
     {.id = u"Export",
         .icon = u"export",
         .text = QT_TRANSLATE_NOOP("telephone", "Export"),

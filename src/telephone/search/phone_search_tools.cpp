@@ -29,6 +29,7 @@ constexpr core::Tool kTools[] = {
         .form = u"FullView",
         .places = IconOnly | Menu},
     rows::kEditDetails,
+    rows::kAddToList,
     {.id = u"SavetoDesktop",
         .icon = u"export",
         .text = QT_TRANSLATE_NOOP("telephone", "Save to the desktop"),
