@@ -86,7 +86,8 @@ private Q_SLOTS:
             {u"frmzodiac"_s, u"CON0075"_s}, {u"frmbday"_s, u"CON0032"_s}, {u"FrmPhReplacer"_s, u"CON0064"_s},
             {u"FrmPhSearch"_s, u"CON0065"_s}, {u"FrmDialer"_s, u"CON0043"_s}, {u"Form1"_s, u"CON001"_s},
             {u"FormMailList"_s, u"CON0017"_s}, {u"FrmLetter"_s, u"CON004"_s},
-            {u"FrmBusinessLetter"_s, u"CON004"_s}, {u"FrmGrpLetter"_s, u"CON004"_s}};
+            {u"FrmBusinessLetter"_s, u"CON004"_s}, {u"FrmGrpLetter"_s, u"CON004"_s},
+            {u"FormLtrSetUp"_s, u"CON009"_s}};
         support::ScreenFixture fixture;
         for (const QString& code : codes)
             fixture.execute(u"insert into ov_tooltip (Code,Tooltip) values ('%1','Help of %1.')"_s.arg(code));

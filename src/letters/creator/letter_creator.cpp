@@ -233,10 +233,6 @@ void LetterCreator::load()
         text->setWordSource(words);
         text->setSpeller(&context().services.speller);
     }
-    for (editor::TextEditor* text : {txtdetails, RText})
-        text->setSpeller(&context().services.speller);
-    txtdetails->setWordSource(words);
-    RText->setWordSource(words);
     m_recipients->load();
     m_phrases->load(context().data);
     m_details->load(
