@@ -2,6 +2,7 @@
 
 #include "letters/labels/sheet_picture.h"
 #include "platform/message_boxes.h"
+#include "widgets/fields.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -109,7 +110,11 @@ SheetDialog::SheetDialog(
 
 void SheetDialog::layOut()
 {
+    auto* layout = new QVBoxLayout(this);
+    auto* sides = new QHBoxLayout;
     auto* form = new QFormLayout;
+    layout->addLayout(sides);
+    sides->addLayout(form);
     const auto add = [form](const QString& name, const QString& label, QWidget* control) {
         control->setObjectName(name);
         form->addRow(label, control);
@@ -133,16 +138,17 @@ void SheetDialog::layOut()
         m_measures << spinOf(measure);
         form->addRow(tr(measure.label), m_measures.last());
     }
+    for (auto* spin : findChildren<QAbstractSpinBox*>()) {
+        const auto* label = qobject_cast<QLabel*>(form->labelForField(spin));
+        widgets::child<QLineEdit>(spin, u"qt_spinbox_lineedit"_s)
+            ->setAccessibleName(label->text().remove(u'&'));
+    }
     lblComplaint->setObjectName(u"lblComplaint"_s);
     lblComplaint->setWordWrap(true);
     lblComplaint->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_picture->setMayChoose(false);
     m_picture->setMinimumSize(200, 270);
-    auto* sides = new QHBoxLayout;
-    sides->addLayout(form);
     sides->addWidget(m_picture, 1);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(sides);
     layout->addWidget(lblComplaint);
     layout->addWidget(m_buttons);
 }

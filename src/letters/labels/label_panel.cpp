@@ -9,6 +9,7 @@
 #include "output/preview/FrmReportViewer.h"
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
+#include "widgets/fields.h"
 #include "widgets/theme.h"
 
 #include <QButtonGroup>
@@ -17,6 +18,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -31,6 +33,7 @@ namespace {
 
 using output::AddressSet;
 using output::LabelSheet;
+using widgets::child;
 
 constexpr int kAddresses = 3;
 constexpr int kTypes = 5;
@@ -119,6 +122,7 @@ QWidget* LabelPanel::layOutTypes(For who)
         auto* label = new QLabel(type);
         if (row < kTypes) {
             label->setText(type + u"   "_s + output::builtinSheets()[size_t(row)].name);
+            label->setWordWrap(true);
         }
         grid->addWidget(label, row + 1, 0);
         for (int column = 0; column < kAddresses; ++column) {
@@ -184,6 +188,7 @@ QWidget* LabelPanel::layOutSheet(For who)
     const auto add = [grid](int row, const QString& text, QSpinBox* spin) {
         auto* label = new QLabel(text);
         label->setBuddy(spin);
+        child<QLineEdit>(spin, u"qt_spinbox_lineedit"_s)->setAccessibleName(QString(text).remove(u'&'));
         grid->addWidget(label, row, 0);
         grid->addWidget(spin, row, 1);
     };

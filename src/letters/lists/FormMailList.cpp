@@ -221,14 +221,11 @@ QWidget* FormMailList::layOutFiles()
     int id = 0;
     for (const Option& option : kFormats)
         add(m_formats, id++, option);
-    row->addSpacing(16);
     row->addWidget(new QLabel(tr("Address:")));
     id = 0;
     for (const Option& option : kAddresses)
         add(m_addresses, id++, option);
     row->addStretch(1);
-    row->addWidget(buttonOf(u"cmdSelect"_s, tr("Sele&ct to print..."), u"filter",
-        tr("Choose among all contacts who is to be printed")));
     row->addWidget(buttonOf(u"SSCommand3"_s, tr("Save as &file"), u"export",
         tr("Write the members with their addresses to a file")));
     return files;
@@ -293,11 +290,6 @@ void FormMailList::connectControls()
     onClick(u"cmdRenameList"_s, [this] { renameList(); });
     onClick(u"cmdDeleteList"_s, [this] { deleteList(); });
     onClick(u"SSCommand3"_s, [this] { saveAsFile(); });
-    onClick(u"cmdSelect"_s, [this] {
-        if (auto* picker = this->context().screens.load<core::PageScreen>(kPicker))
-            picker->openPage(u"Print"_s);
-        this->context().screens.show(kPicker);
-    });
     const auto onKey = [this](Qt::Key key, QWidget* within, auto act) {
         auto* shortcut = new QShortcut(key, within);
         shortcut->setContext(Qt::WidgetShortcut);

@@ -68,6 +68,9 @@ MemberPane::MemberPane(core::Context& context, QWidget* parent)
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_all);
     foot->addWidget(m_none);
+    auto* choose = buttonOf(
+        u"cmdSelect"_s, tr("Sele&ct to print..."), tr("Choose among all contacts who is to be printed"));
+    foot->addWidget(choose);
     foot->addWidget(lblCount, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -78,6 +81,7 @@ MemberPane::MemberPane(core::Context& context, QWidget* parent)
     setFocusProxy(FG);
     connect(FG, &widgets::HeadingGrid::tickChanged, this, &MemberPane::storeTick);
     connect(FG, &widgets::HeadingGrid::currentRowChanged, this, &MemberPane::currentChanged);
+    connect(choose, &QPushButton::clicked, this, &MemberPane::choiceWanted);
     connect(m_all, &QPushButton::clicked, this, [this] { selectAll(true); });
     connect(m_none, &QPushButton::clicked, this, [this] { selectAll(false); });
 }

@@ -42,6 +42,7 @@ public:
 Q_SIGNALS:
     void currentChanged();
     void selectionChanged(); ///< some were ticked or unticked
+    void choiceWanted(); ///< among all contacts, who is to be printed
 
 private:
     void read();

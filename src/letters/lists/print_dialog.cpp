@@ -12,6 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace letters {
 
+namespace {
+
+constexpr int kWide = 880; // each type of labels in one line
+
+} // namespace
+
 PrintDialog::PrintDialog(core::Context& context, QWidget* parent)
     : QDialog(parent)
     , m_panel(new LabelPanel(context, LabelPanel::For::List))
@@ -36,6 +42,7 @@ PrintDialog::PrintDialog(core::Context& context, QWidget* parent)
     layout->addWidget(lblWho);
     layout->addWidget(m_panel, 1);
     layout->addLayout(foot);
+    resize(kWide, sizeHint().height());
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_panel, &LabelPanel::previewWanted, this, [this] {
         accept();
