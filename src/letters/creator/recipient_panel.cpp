@@ -44,6 +44,7 @@ constexpr std::array kBoxes{
 };
 constexpr size_t kFirstOfAddress = 1;
 
+constexpr qsizetype kMany = 1000; ///< more are taken only when the person means it
 constexpr int kListHeight = 92; ///< of the least list: its heading and two people
 
 } // namespace
@@ -242,6 +243,11 @@ void RecipientPanel::add(const QList<qint64>& ids)
         there.insert(to.id);
     QList<qint64> added = ids;
     added.removeIf([&there](qint64 id) { return there.contains(id); });
+    if (added.size() > kMany
+        && m_context.services.boxes.ask(tr("Do you want to write to %1 people?").arg(added.size()),
+               m_context.shared.AppTitle, platform::Icon::Warning)
+            == platform::Answer::No)
+        return;
     if (const auto found = readContacts(added))
         add(*found);
 }
