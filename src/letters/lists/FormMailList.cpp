@@ -274,6 +274,11 @@ void FormMailList::connectControls()
     connect(cmbRelation, &QComboBox::currentTextChanged, this, &FormMailList::showMembers);
     for (QCheckBox* tick : std::as_const(m_ticks))
         connect(tick, &QCheckBox::toggled, this, &FormMailList::showMembers);
+    connect(m_members, &MemberPane::choiceWanted, this, [this] {
+        if (auto* picker = this->context().screens.load<core::PageScreen>(kPicker))
+            picker->openPage(u"Print"_s);
+        this->context().screens.show(kPicker);
+    });
     connect(m_print, &PrintDialog::chosen, this, &FormMailList::print);
     const auto onTool
         = [this](QStringView id, auto act) { connect(m_tools->action(id), &QAction::triggered, this, act); };
