@@ -91,7 +91,7 @@ constexpr int kLongestCategory = 50;
 
 QString monthName(const QString& yearAndMonth)
 {
-    const QDate first = QDate::fromString(yearAndMonth + u"-01"_s, Qt::ISODate);
+    const QDate first(yearAndMonth.left(4).toInt(), yearAndMonth.mid(5).toInt(), 1);
     return first.isValid()
         ? QLocale::c().standaloneMonthName(first.month()) + u' ' + QString::number(first.year())
         : QString();
