@@ -2,6 +2,7 @@
 #include <QtWidgets>
 
 #include "core/take_back.h"
+#include "letters/record/contact_choice.h"
 #include "letters/record/FrmEditLetterRecord.h"
 #include "letters/record/Frmgmail.h"
 #include "letters/record/FrmLetterRecord.h"
@@ -206,6 +207,20 @@ private Q_SLOTS:
         core::takeBack(f->context);
         QVERIFY(!f->drive.exists(path));
         QCOMPARE(f->book.rows(u"select count(*) from cnt_letters"_s), QStringList{u"3"_s});
+    }
+
+    void twoOfOneNameAreToldByTheTown()
+    {
+        auto* screen = f->open<letters::frmgmail1>(u"frmgmail1"_s);
+        auto* person = screen->findChild<letters::ContactChoice*>(u"txtperson"_s);
+        support::type(screen, u"txtperson"_s, u"Ash"_s);
+        QAbstractItemView* popup = person->completer()->popup();
+        QCOMPARE(popup->model()->index(1, 0).data().toString(), u"Asha \u2013 Goa"_s);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+            QTest::keyClick(popup, key);
+        QCOMPARE(person->text(), u"Asha"_s);
+        QCOMPARE(f->book.rows(u"select h_city from cnt_main where id=%1"_s.arg(person->contactId())),
+            QStringList{u"Goa"_s});
     }
 
     // The real program, with the device that SANE has for tests.

@@ -128,11 +128,12 @@ private Q_SLOTS:
 
     void oneLabelAHousehold()
     {
-        const auto rows = people({{u"Asha Rao"_s, u"1 Hill"_s, {}, u"Pune"_s, {}, {}},
-            {u"Carl"_s, {}, {}, {}, {}, {}}, {u"Bob Rao"_s, u"1  hill"_s, {}, u"PUNE"_s, {}, {}},
-            {u"Dora"_s, {}, {}, {}, {}, {}}, {u"Kim Rao"_s, u"1 Hill"_s, {}, u"Pune"_s, {}, {}}});
+        const auto rows
+            = people({{u"Asha Rao"_s, u"1 Hill"_s, {}, u"Pune"_s, {}, {}}, {u"Carl"_s, {}, {}, {}, {}, {}},
+                {u"Bob Rao"_s, u"1  hill"_s, {}, u"PUNE"_s, {}, {}}, {u"Dora"_s, {}, {}, u"Pune"_s, {}, {}},
+                {u"Eva"_s, {}, {}, u"Pune"_s, {}, {}}, {u"Kim Rao"_s, u"1 Hill"_s, {}, u"Pune"_s, {}, {}}});
         const auto joined = householdsOf(*rows, AddressSet::Home);
-        QCOMPARE(joined->count(), 3);
+        QCOMPARE(joined->count(), 4);
         QCOMPARE(joined->text(0, 0), u"Asha Rao, Bob Rao & Kim Rao"_s);
         QCOMPARE(joined->text(2, 0), u"Dora"_s);
     }
@@ -157,6 +158,23 @@ private Q_SLOTS:
         const QByteArray rtf = written(ReportFormat::Rtf, report);
         QCOMPARE(rtf.count("1 \\{Hill\\}"), 30);
         QCOMPARE(rtf.count("\\row"), 16);
+        QCOMPARE(rtf.count("\\clbrdrt"), 30);
+        QVERIFY(rtf.contains("{\\headerf") && rtf.contains("Note -Cut & Paste on Envelopes"));
+    }
+
+    // One label beside nothing needs no distance to the next one.
+    void oneLabelASheet()
+    {
+        LabelSheet sheet = builtinSheets()[2];
+        sheet.layout.columns = sheet.layout.rows = 1;
+        sheet.layout.pitchX = sheet.layout.pitchY = 0;
+        sheet.layout.isFramed = false;
+        const Report report = labelReport(
+            people({{u"Ann"_s, u"1 Hill"_s, {}, {}, {}, {}}}), AddressSet::Home, sheet, u"Nov 22"_s);
+        const QByteArray rtf = written(ReportFormat::Rtf, report);
+        QVERIFY(rtf.contains("\\cellx5618") && !rtf.contains("\\trrh-0") && !rtf.contains("\\clbrdrt"));
+        const QByteArray html = written(ReportFormat::Html, report);
+        QVERIFY(!html.contains("label f b") && !html.contains("Nov 22"));
     }
 
     // The address is seen through the window, whatever stands above it.
@@ -183,8 +201,8 @@ private Q_SLOTS:
     {
         LetterLook look{.style = LetterStyle::Classic};
         for (int line = 0; line < 120; ++line)
-            look.body.paragraphs << formats::TextParagraph{
-                {{u"Line %1 "_s.arg(line), {}}, {u"bold"_s, {.isBold = true, .family = u"Serif"_s}}}};
+            look.body.paragraphs << formats::TextParagraph{{{u"Line %1 "_s.arg(line), {}},
+                {u"bold"_s, {.isBold = true, .family = u"Serif"_s, .points = 14}}}};
         const auto rows = letters(look.body.plain(), 2);
         const Report report = letterReport(look, rows);
         const std::vector<Page> pages = pagesOf(report);
@@ -200,7 +218,7 @@ private Q_SLOTS:
             QCOMPARE(all.count(u"Line %1 bold"_s.arg(line)), 2);
         QVERIFY(written(ReportFormat::Html, report).contains("font-weight:bold;font-family:'Serif'"));
         const QByteArray rtf = written(ReportFormat::Rtf, report);
-        QVERIFY(rtf.contains("\\f1\\fnil Serif;") && rtf.contains("{\\b\\f1 bold}"));
+        QVERIFY(rtf.contains("\\f1\\fnil Serif;") && rtf.contains("{\\b\\f1\\fs28 bold}"));
         QCOMPARE(rtf.count("\\page\n"), 1);
     }
 };

@@ -1,6 +1,7 @@
 #include "letters/labels/FrmlblReport.h"
 
 #include "core/contact_lookups.h"
+#include "core/save_failure.h"
 #include "letters/labels/label_panel.h"
 #include "letters/labels/person_labels.h"
 #include "output/preview/FrmReportViewer.h"
@@ -93,6 +94,8 @@ void FrmlblReport::preview()
     choice.sheet.layout.copies = 1;
     const int labels = choice.sheet.layout.labels() - choice.sheet.layout.firstLabel;
     jet::Recordset rows = personLabels(context().data, m_name, m_id, choice.address, labels);
+    if (!rows.isValid())
+        return core::tellFailedSave(context());
     if (!rows.isEmpty())
         showLabels(context(), std::move(rows), choice, {});
 }

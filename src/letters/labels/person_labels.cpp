@@ -19,11 +19,11 @@ QString columnsOf(output::AddressSet address)
 jet::Recordset personLabels(
     jet::Database& data, const QString& name, qint64 id, output::AddressSet address, int labels)
 {
-    const jet::Recordset person
+    jet::Recordset person
         = data.openRecordset(u"SELECT "_s + columnsOf(address) + u" FROM [cnt_main] b WHERE "_s
             + (id != 0 ? u"b.id="_s + QString::number(id) : u"b.name='"_s + core::inQuotes(name) + u'\''));
     if (!person.hasRow())
-        return {};
+        return person;
     const QStringList asked = output::addressColumns(address);
     const QStringList kept = output::addressColumns(output::AddressSet::Home);
     {

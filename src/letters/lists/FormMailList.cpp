@@ -525,8 +525,9 @@ void FormMailList::askWhatToPrint(bool onlySelected)
     m_onlySelected = onlySelected;
     const QString whose
         = m_members->group().name.isEmpty() ? textsOf(tab()).caption() : m_members->group().name;
-    m_print->ask(onlySelected ? tr("%1: those selected, %2").arg(whose).arg(m_members->selected())
-                              : tr("%1: all members, %2").arg(whose).arg(m_members->grid()->rowCount()));
+    m_print->ask(onlySelected
+            ? tr("%1: those selected, %2").arg(whose, QString::number(m_members->selected()))
+            : tr("%1: all members, %2").arg(whose, QString::number(m_members->grid()->rowCount())));
 }
 
 void FormMailList::print(const LabelChoice& choice)

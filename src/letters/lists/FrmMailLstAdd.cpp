@@ -310,7 +310,10 @@ void FrmMailLstAdd::storeSelection()
 {
     const QList<qint64> marked = (m_ticked - m_stored).values();
     const QList<qint64> unmarked = (m_stored - m_ticked).values();
-    if (!selectContacts(context().data, marked, true) || !selectContacts(context().data, unmarked, false))
+    jet::Batch batch(context().data);
+    selectContacts(context().data, marked, true);
+    selectContacts(context().data, unmarked, false);
+    if (!batch.commit())
         return core::tellFailedSave(context());
     context().frame.showNotice(tr("%1 are selected to be printed").arg(m_ticked.size()));
     backToLists({});

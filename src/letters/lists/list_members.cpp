@@ -89,7 +89,9 @@ MembersAdded addListMembers(jet::Database& book, const QString& list, const QLis
 int rowsOfMember(jet::Database& book, const QString& list, const QString& name, qint64 id)
 {
     const QString of = u"select count(*) from cnt_maillist where "_s + ofList(list);
-    return book.openRecordset(of + u" and ([name] = '%1' or perid = %2)"_s.arg(core::inQuotes(name)).arg(id))
+    return book
+        .openRecordset(
+            of + u" and ([name] = '%1' or perid = %2)"_s.arg(core::inQuotes(name), QString::number(id)))
         .textAt(0)
         .toInt();
 }

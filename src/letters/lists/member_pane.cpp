@@ -145,13 +145,18 @@ void MemberPane::read()
         FG->setCurrentRow(row);
     else
         FG->setCurrentRow(-1);
+    countSelected();
+    tellCount();
+}
+
+void MemberPane::countSelected()
+{
     m_selected
         = m_context.data
               .openRecordset(
                   u"select count(*) from [cnt_main] where selected=true and ("_s + condition() + u')', way())
               .textAt(0)
               .toInt();
-    tellCount();
 }
 
 // Rows that tell only a name stand for all members of that name.
@@ -168,7 +173,10 @@ void MemberPane::storeTick(int row)
         core::tellFailedSave(m_context);
         return read();
     }
-    m_selected += isTicked ? 1 : -1;
+    if (id != 0)
+        m_selected += isTicked ? 1 : -1;
+    else
+        countSelected();
     tellCount();
     Q_EMIT selectionChanged();
 }

@@ -48,6 +48,7 @@ private:
     void read();
     void storeTick(int row);
     void selectAll(bool selected);
+    void countSelected();
     void tellCount();
     QString condition() const;
 

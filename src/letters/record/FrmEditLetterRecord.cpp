@@ -34,7 +34,7 @@ void FrmEditLetterRecord::layOut()
     widgets::FormKit form(
         this, [this](QStringView column) { return context().schema.textSize(u"cnt_letters", column); });
     form.group(tr("Letter"))
-        .line(u"txtperson"_s, tr("P&erson"), u"person"_s)
+        .line(u"txtperson"_s, tr("&Person"), u"person"_s)
         .date(u"Ssdate1"_s, tr("&Date"), u"Date"_s)
         .combo(u"CmbType1"_s, tr("Di&rection"), u"type1"_s)
         .hint(tr("Sent or received"))
@@ -54,12 +54,12 @@ void FrmEditLetterRecord::layOut()
         .line(u"DBCcountry"_s, tr("Co&untry"), u"Country"_s);
     form.nextColumn(2)
         .group(tr("Text"))
-        .memo(u"txtmerged"_s, tr("Te&xt"), u"MERGED"_s, 12)
+        .memo(u"txtmerged"_s, tr("&Letter text"), u"MERGED"_s, 12)
         .grow(4)
         .memo(u"txtnote"_s, tr("N&ote"), u"note"_s, 4);
     form.buttonRow()
-        .button(u"CmdPrevious"_s, tr("&Previous"), u"previous", tr("The letter before in the record"))
-        .button(u"CmdNext"_s, tr("Next"), u"next", tr("The next letter of the record"))
+        .button(u"CmdPrevious"_s, tr("Pre&vious"), u"previous", tr("The letter before in the record"))
+        .button(u"CmdNext"_s, tr("Ne&xt"), u"next", tr("The next letter of the record"))
         .stretch()
         .button(u"CmdSave"_s, tr("&Save"), u"save", tr("Save the changes (Ctrl+S)"))
         .button(u"CmdCancel"_s, tr("&Cancel"), u"cancel", tr("Close without saving (Esc)"));

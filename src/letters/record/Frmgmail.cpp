@@ -257,6 +257,7 @@ bool Frmgmail::showContact(qint64 id)
     if (!contact.hasRow())
         return false;
     m_tabs->setCurrentIndex(int(LetterGroup::Person));
+    m_sought->clear();
     if (!m_groups->selectKey(id)) {
         m_groups->setCurrentRow(0);
         m_sought->setText(contact.textOrEmpty(u"Name").simplified());

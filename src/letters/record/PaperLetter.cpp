@@ -90,7 +90,7 @@ void PaperLetter::layOut()
     widgets::FormKit form(
         letter, [this](QStringView column) { return context().schema.textSize(u"cnt_letters", column); });
     form.group(tr("Letter"))
-        .widget(u"txtperson"_s, tr("P&erson"), m_person, u"person"_s)
+        .widget(u"txtperson"_s, tr("&Person"), m_person, u"person"_s)
         .hint(tr("Whom the letter is from or to; contacts are offered while you type"))
         .date(u"Ssdate1"_s, tr("&Date"), u"Date"_s)
         .combo(u"CmbType1"_s, tr("Di&rection"), u"type1"_s)
@@ -156,10 +156,10 @@ void PaperLetter::layOutScanner(QWidget* page)
     widgets::setIcon(again, u"restore");
     widgets::FormKit form(page);
     form.group()
-        .widget(u"CmbScanner"_s, tr("Scanne&r"), m_scanners)
+        .widget(u"CmbScanner"_s, tr("Scann&er"), m_scanners)
         .beside()
         .widget(u"CmdFindScanners"_s, {}, again)
-        .widget(u"CmbResolution"_s, tr("Res&olution"), m_resolution)
+        .widget(u"CmbResolution"_s, tr("Resol&ution"), m_resolution)
         .beside()
         .widget(u"ChkColor"_s, {}, m_color)
         .beside()
@@ -259,6 +259,8 @@ void PaperLetter::scan()
     const platform::ScanOrder order{m_devices[device].name, m_resolution->currentData().toInt(),
         m_color->isChecked(), m_scans->filePath(u"Page %1.png"_s.arg(++m_scanCount))};
     m_isScanning = true;
+    // A search would end the scan.
+    child<QPushButton>(this, u"CmdFindScanners"_s)->setEnabled(false);
     m_scan->setText(tr("Stop the sc&an"));
     m_scanState->setText(tr("The page is being scanned..."));
     const QPointer<PaperLetter> screen(this);
@@ -271,6 +273,7 @@ void PaperLetter::scan()
 void PaperLetter::scanned(const QString& file, const QString& cause)
 {
     m_isScanning = false;
+    child<QPushButton>(this, u"CmdFindScanners"_s)->setEnabled(true);
     m_scan->setText(tr("Sc&an a page"));
     if (!cause.isEmpty())
         return m_scanState->setText(cause);

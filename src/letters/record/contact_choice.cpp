@@ -15,6 +15,7 @@ namespace letters {
 namespace {
 
 constexpr int kMostOffered = 40;
+constexpr int kName = Qt::UserRole + 1; ///< what stays of a row that is picked
 
 QString namesFrom(const QString& beginning)
 {
@@ -31,13 +32,13 @@ ContactChoice::ContactChoice(jet::Database& book, QWidget* parent)
     , m_completer(new QCompleter(m_found, this))
 {
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    m_completer->setCompletionRole(Qt::EditRole);
+    m_completer->setCompletionRole(kName);
     m_completer->setMaxVisibleItems(12);
     setCompleter(m_completer);
     connect(this, &QLineEdit::textEdited, this, &ContactChoice::suggest);
     connect(m_completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
         [this](const QModelIndex& index) {
-            setContact(index.data(Qt::UserRole).toLongLong(), index.data(Qt::EditRole).toString());
+            setContact(index.data(Qt::UserRole).toLongLong(), index.data(kName).toString());
             Q_EMIT contactPicked();
         });
 }
@@ -68,11 +69,12 @@ void ContactChoice::suggest(const QString& typed)
         return;
     const jet::Recordset people = m_data.openRecordset(namesFrom(typed));
     for (int row = 0; row < std::min(people.count(), kMostOffered); ++row) {
+        // Two of one name are told apart by the town.
+        const QString name = people.textAt(row, 1);
         const QString city = people.textAt(row, 2).simplified();
-        auto* item = new QStandardItem(people.textAt(row, 1));
+        auto* item = new QStandardItem(city.isEmpty() ? name : name + u" \u2013 "_s + city);
         item->setData(people.valueAt(row, 0), Qt::UserRole);
-        if (!city.isEmpty())
-            item->setToolTip(city.toHtmlEscaped());
+        item->setData(name, kName);
         m_found->appendRow(item);
     }
 }

@@ -71,6 +71,9 @@ std::shared_ptr<const ReportSource> householdsOf(const ReportSource& rows, Addre
     for (const QString& column : columns)
         fields << rows.field(column);
     const int name = rows.field(u"name"_s);
+    // People of one town, of whom no street is known, do not live together.
+    const auto hasStreet
+        = [](const QStringList& address) { return !(address[0] + address[1]).trimmed().isEmpty(); };
     QHash<QString, qsizetype> known;
     QList<QStringList> names;
     QList<QStringList> addresses;
@@ -78,7 +81,7 @@ std::shared_ptr<const ReportSource> householdsOf(const ReportSource& rows, Addre
         QStringList address;
         for (const int field : fields)
             address << (field < 0 ? QString() : rows.text(row, field));
-        const QString key = address.join(u'\n').simplified().toCaseFolded();
+        const QString key = hasStreet(address) ? address.join(u'\n').simplified().toCaseFolded() : QString();
         const auto found = key.isEmpty() ? known.cend() : known.constFind(key);
         if (found != known.cend()) {
             names[*found] << rows.text(row, name);

@@ -21,6 +21,14 @@ QString escaped(const QString& text)
 
 constexpr QStringView kClasses[] = {u"v", u"s", u"l", u"q", u"g", u"t"};
 
+/// Printed, the page is the sheet, and nothing but its labels takes room.
+QString sheetStyle(const Paper& paper)
+{
+    return u"@page{size:%1pt %2pt;margin:0}\n@media print{body{padding:0}}\n"
+           ".sheet:last-child{break-after:auto}\n"_s.arg(paper.width / kTwipsAPoint)
+               .arg(paper.height / kTwipsAPoint);
+}
+
 QString styleOf(const Report& report)
 {
     return uR"(
@@ -36,11 +44,15 @@ img{float:right;max-width:63pt;max-height:75pt;margin-left:8px}
 .b{border:1px solid}
 .w{break-after:page}
 .sheet{position:relative;break-after:page;max-width:none}
-.label{position:absolute;overflow:hidden;margin:0;padding:0}
+.label{position:absolute;overflow:hidden;margin:0;padding:0;box-sizing:border-box}
+.label.f{padding:%3pt}
+.label td{padding:0;line-height:1.2}
 .c{text-align:center}.e{text-align:right}
 @media print{body{margin:0;max-width:none}}
-)"_s.arg(9 * report.textScale)
-        .arg(std::round((report.paper.width - 2 * report.paper.margin) / 20));
+%4)"_s.arg(9 * report.textScale)
+        .arg(std::round((report.paper.width - 2 * report.paper.margin) / kTwipsAPoint))
+        .arg(kLabelPadding / kTwipsAPoint)
+        .arg(report.sheet ? sheetStyle(report.paper) : QString());
 }
 
 QString runHtml(const formats::TextRun& run)
@@ -136,20 +148,23 @@ QString blockHtml(const Block& block, const Report& report, double textWidth, co
     return html + u"</section>\n"_s;
 }
 
-QString labelHtml(const PlacedBlock& placed)
+QString labelHtml(const PlacedBlock& placed, bool isFramed)
 {
     const QRectF frame = placed.frame.value_or(
         QRectF(placed.x, placed.y, placed.block.width * placed.scale, placed.height * placed.scale));
     const auto points = [](double twips) { return QString::number(twips / kTwipsAPoint, 'f', 1); };
     QString html
         = u"<section class=\"label%1\" style=\"left:%2pt;top:%3pt;width:%4pt;height:%5pt;font-size:%6%\">"_s
-              .arg(placed.frame ? u" b"_s : QString(), points(frame.x()), points(frame.y()),
-                  points(frame.width()), points(frame.height()), QString::number(100 * placed.scale, 'f', 0));
+              .arg(placed.frame ? (isFramed ? u" f b"_s : u" f"_s) : QString(), points(frame.x()),
+                  points(frame.y()), points(frame.width()), points(frame.height()),
+                  QString::number(100 * placed.scale, 'f', 0));
     for (const Line& line : placed.block.lines) {
         double width = 0;
         for (const Cell& cell : line.cells)
             width += cell.width;
-        html += u"<table><tr>"_s;
+        html += line.isRuled ? u"<table class=\"r\"><tr>"_s : u"<table><tr>"_s;
+        if (line.cells.empty())
+            html += u"<td></td>"_s;
         for (const Cell& cell : line.cells)
             html += cellHtml(cell, width);
         html += u"</tr></table>"_s;
@@ -167,7 +182,7 @@ bool writeSheets(const ReportPager& pager, const std::function<bool(const QStrin
                            .arg(report.paper.width / kTwipsAPoint)
                            .arg(report.paper.height / kTwipsAPoint);
         for (const PlacedBlock& placed : pager.page(number).blocks)
-            html += labelHtml(placed);
+            html += labelHtml(placed, report.sheet->isFramed || report.sheet->hasCrosses);
         if (!write(html + u"</div>\n"_s))
             return false;
         const int rows = number * report.sheet->labels() / report.sheet->copies;
@@ -188,8 +203,9 @@ bool writeHtmlReport(
     };
     const ReportSetter setter(report);
     if (!write(u"<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>"_s + escaped(report.title)
-            + u"</title>\n<style>"_s + styleOf(report) + u"</style>\n</head>\n<body>\n<p class=\"q\">"_s
-            + escaped(report.printDate) + u"</p>\n"_s))
+            + u"</title>\n<style>"_s + styleOf(report) + u"</style>\n</head>\n<body>\n"_s))
+        return false;
+    if (report.hasPageMarks && !write(u"<p class=\"q\">"_s + escaped(report.printDate) + u"</p>\n"_s))
         return false;
     if (report.sheet)
         return writeSheets(ReportPager(report), write, progress) && write(u"</body>\n</html>\n"_s);

@@ -48,6 +48,9 @@ struct Block {
 inline constexpr double kPictureWidth = 1250;
 inline constexpr double kPictureHeight = 1500;
 inline constexpr double kCellGap = 110; ///< between a cell and the one to its right
+/// The heading of a report of labels stands above those of the first sheet, if there is room; few printers
+/// reach further up.
+inline constexpr double kSheetHeadTop = 300;
 inline constexpr double kLabelPadding = 130; ///< between the edge of a label and its text
 
 /// A block that is drawn smaller, so that it fits.

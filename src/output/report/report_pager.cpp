@@ -10,9 +10,6 @@ namespace {
 
 constexpr double kPageFoot = 400; ///< the page's number
 
-// The heading of a report of labels stands above those of the first sheet, if there is room; few printers
-// reach further up.
-constexpr double kSheetHeadTop = 300;
 constexpr double kSheetHeadGap = 90;
 
 /// The lines of a block from one on, as many as fit into the room, but one at least.

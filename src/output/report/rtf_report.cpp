@@ -82,6 +82,8 @@ private:
     QByteArray styleOf(const formats::CharStyle& style) const;
     QByteArray cellText(const Cell& cell, const QByteArray& within) const;
     QByteArray labelText(const PlacedBlock& label) const;
+    QByteArray sheetHead(const Page& first) const;
+    QByteArray sheetRow(const std::vector<const PlacedBlock*>& labels, bool beginsPage) const;
 
     const Report& m_report;
     LookTables m_looks;
@@ -113,7 +115,7 @@ QByteArray RtfReport::styleOf(const formats::CharStyle& style) const
     if (const qsizetype font = m_looks.families.indexOf(style.family); font >= 0)
         rtf += "\\f" + QByteArray::number(font + 1);
     if (style.points > 0)
-        rtf += "\\fs" + number(2 * style.points * m_report.textScale);
+        rtf += "\\fs" + number(2 * style.points);
     if (const qsizetype color = m_looks.colors.indexOf(style.color); color >= 0)
         rtf += "\\cf" + QByteArray::number(color + kFirstLookColor);
     return rtf;
@@ -254,31 +256,70 @@ QByteArray RtfReport::labelText(const PlacedBlock& label) const
     return rtf;
 }
 
-/// The labels of a page as a table whose rows are as high as the labels are, and nothing moves them.
+/// What stands above the labels of the first page, in the margin so that it moves none of them.
+QByteArray RtfReport::sheetHead(const Page& first) const
+{
+    QByteArray texts;
+    for (const PlacedBlock& placed : first.blocks) {
+        for (const Line& line : placed.block.lines) {
+            for (const Cell& cell : line.cells) {
+                if (!placed.frame && !cell.lines.isEmpty())
+                    texts += (texts.isEmpty() ? "" : "\\tab ") + formats::rtfText(cell.text());
+            }
+        }
+    }
+    if (texts.isEmpty())
+        return {};
+    const double width = m_report.paper.width - 2 * m_report.sheet->left;
+    return "\\titlepg\\headery" + number(kSheetHeadTop)
+        + "{\\headerf\\pard\\brdrt\\brdrs\\brdrw10\\brdrb\\brdrs\\brdrw10\\tqc\\tx" + number(width / 2)
+        + "\\tqr\\tx" + number(width) + "{\\fs12\\cf1 " + texts + "}\\par}\n";
+}
+
+/// @param labels of one row of the sheet, null for those that are used up
+QByteArray RtfReport::sheetRow(const std::vector<const PlacedBlock*>& labels, bool beginsPage) const
+{
+    const SheetLayout& sheet = *m_report.sheet;
+    const double gap = sheet.columns > 1 ? sheet.pitchX - sheet.width : 0;
+    QByteArray cells;
+    QByteArray texts;
+    double x = 0;
+    for (const PlacedBlock* label : labels) {
+        if (x > 0 && gap >= 1) {
+            cells += "\\cellx" + number(x += gap);
+            texts += "\\pard\\intbl\\cell";
+        }
+        if (label && sheet.isFramed)
+            cells += "\\clbrdrt\\brdrs\\clbrdrl\\brdrs\\clbrdrb\\brdrs\\clbrdrr\\brdrs";
+        cells += "\\clvertalc\\cellx" + number(x += sheet.width);
+        texts += "\\pard\\intbl\\li" + number(kLabelPadding) + (beginsPage ? "\\pagebb " : " ");
+        beginsPage = false;
+        texts += (label ? labelText(*label) : QByteArray()) + "\\cell";
+    }
+    return "\\trowd\\trgaph0\\trleft0\\trrh-" + number(sheet.height) + cells + texts + "\\row\n";
+}
+
+/// The labels of a page as a table whose cells are as large as the labels are, and nothing moves them.
 QByteArray RtfReport::sheetRtf(const Page& page) const
 {
     const SheetLayout& sheet = *m_report.sheet;
-    std::vector<const PlacedBlock*> labels(static_cast<std::size_t>(sheet.labels()), nullptr);
+    using Row = std::vector<const PlacedBlock*>;
+    std::vector<Row> rows(
+        static_cast<std::size_t>(sheet.rows), Row(static_cast<std::size_t>(sheet.columns), nullptr));
     for (const PlacedBlock& placed : page.blocks) {
         if (!placed.frame)
             continue;
         const int column = qRound((placed.frame->x() - sheet.left) / std::max(sheet.pitchX, 1.0));
         const int row = qRound((placed.frame->y() - sheet.top) / std::max(sheet.pitchY, 1.0));
-        labels[static_cast<std::size_t>(row * sheet.columns + column)] = &placed;
+        rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = &placed;
     }
-    QByteArray rtf;
-    for (int row = 0; row < sheet.rows; ++row) {
-        rtf += "\\trowd\\trgaph0\\trleft0\\trrh-" + number(sheet.pitchY);
-        for (int column = 0; column < sheet.columns; ++column)
-            rtf += "\\clvertalc\\cellx" + number(sheet.pitchX * (column + 1));
-        for (int column = 0; column < sheet.columns; ++column) {
-            rtf += "\\pard\\intbl\\li" + number(kLabelPadding);
-            rtf += row == 0 && column == 0 && page.number > 1 ? "\\pagebb " : " ";
-            if (const PlacedBlock* label = labels[static_cast<std::size_t>(row * sheet.columns + column)])
-                rtf += labelText(*label);
-            rtf += "\\cell";
-        }
-        rtf += "\\row\n";
+    const double gap = sheet.pitchY - sheet.height;
+    QByteArray rtf = page.number == 1 ? sheetHead(page) : QByteArray();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (row > 0 && gap >= 1)
+            rtf += "\\trowd\\trgaph0\\trleft0\\trrh-" + number(gap) + "\\cellx" + number(sheet.width)
+                + "\\pard\\intbl\\fs2\\cell\\row\n";
+        rtf += sheetRow(rows[row], row == 0 && page.number > 1);
     }
     return rtf;
 }

@@ -21,7 +21,6 @@ constexpr RoleLook kLooks[] = {{9, false}, {10.5, true}, {7, false}, {8, false},
 } // namespace
 
 TextMeasure::TextMeasure(double scale)
-    : m_scale(scale)
 {
     for (std::size_t role = 0; role < m_faces.size(); ++role) {
         Face& face = m_faces[role];
@@ -49,7 +48,7 @@ QFont TextMeasure::styled(TextRole role, const formats::CharStyle& style) const
     if (!style.family.isEmpty())
         font.setFamily(style.family);
     if (style.points > 0)
-        font.setPixelSize(std::max(1, qRound(style.points * kTwipsAPoint * m_scale)));
+        font.setPixelSize(std::max(1, qRound(style.points * kTwipsAPoint)));
     font.setBold(font.bold() || style.isBold);
     font.setItalic(style.isItalic);
     font.setUnderline(style.isUnderlined);

@@ -38,7 +38,6 @@ private:
     static bool surelyFits(QStringView text, const Face& face, double width);
     static void wrapParagraph(const QString& text, const Face& face, double width, QStringList& lines);
 
-    double m_scale;
     std::array<Face, kRoles> m_faces;
 };
 

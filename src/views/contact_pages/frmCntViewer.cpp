@@ -6,10 +6,12 @@
 #include "jet/date_text.h"
 #include "views/contact_pages/linked_records.h"
 #include "views/contact_pages/note_pages.h"
+#include "views/contact_pages/page_tools.h"
 #include "widgets/heading_grid.h"
 #include "widgets/theme.h"
 
 #include <QCoreApplication>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -18,6 +20,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTimerEvent>
+#include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -128,11 +131,13 @@ QWidget* frmCntViewer::layOutHead()
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }
     auto* head = new QWidget;
-    auto* layout = new QVBoxLayout(head);
+    auto* layout = new QGridLayout(head);
     layout->setContentsMargins(6, 2, 6, 6);
-    layout->setSpacing(2);
-    layout->addWidget(lblname);
-    layout->addWidget(m_line);
+    layout->setVerticalSpacing(2);
+    layout->addWidget(lblname, 0, 0);
+    layout->addWidget(m_line, 1, 0);
+    layout->addWidget(makePageTools(context(), this, [this] { return m_id; }), 0, 1, 2, 1, Qt::AlignTop);
+    layout->setColumnStretch(0, 1);
     return head;
 }
 

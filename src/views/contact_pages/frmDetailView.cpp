@@ -4,6 +4,7 @@
 #include "core/settings.h"
 #include "platform/clock.h"
 #include "platform/drive.h"
+#include "views/contact_pages/page_tools.h"
 #include "views/contact_pages/record_texts.h"
 #include "views/field_label.h"
 #include "views/full_view/full_view_sql.h"
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -84,6 +86,7 @@ QWidget* frmDetailView::layOutHead()
     layout->setSpacing(12);
     layout->addWidget(picture);
     layout->addWidget(name, 1);
+    layout->addWidget(makePageTools(context(), this, [this] { return m_id; }));
     return head;
 }
 
@@ -231,6 +234,7 @@ bool frmDetailView::showContact(qint64 id)
         = context().data.openRecordset(u"select * from cnt_main where id=%1"_s.arg(id));
     if (!contact.hasRow())
         return false;
+    m_id = id;
     for (const ShownText& shown :
         detailViewTexts(contact, shared().NationalMode, context().services.clock.today()))
         widgets::setTextOf(child<QWidget>(this, shown.control), shown.text);

@@ -19,6 +19,8 @@ Q_SIGNALS:
     void associateShown(qint64 id); ///< the page went to another contact by itself
 
 private:
+    qint64 m_id = 0;
+
     QWidget* layOutHead();
     void layOutContact(QWidget* page);
     void layOutFamily(QWidget* page);

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/drive.h"
 #include "views/contact_pages/contact_page.h"
+#include "views/contact_pages/page_tools.h"
 #include "views/full_view/full_view_sql.h"
 #include "widgets/picture_box.h"
 
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -95,6 +97,7 @@ QWidget* frmNoteView::layOutHead()
     layout->addWidget(m_picture);
     layout->addLayout(names, 1);
     layout->addWidget(lblCaption, 0, Qt::AlignTop);
+    layout->addWidget(makePageTools(context(), this, [this] { return m_id; }), 0, Qt::AlignTop);
     return head;
 }
 

@@ -2,6 +2,8 @@
 
 #include "views/contact_pages/frmDetailView.h"
 #include "views/contact_pages/frmNoteView.h"
+#include "views/contact_pages/page_tools.h"
+#include "widgets/fields.h"
 #include "widgets/theme.h"
 
 #include <QComboBox>
@@ -12,6 +14,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -35,6 +38,12 @@ QWidget* scrolled(QWidget* page)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     return area;
+}
+
+/// The selector has the tools of the contact itself.
+void hideTools(QWidget* page)
+{
+    widgets::child<QToolBar>(page, kPageTools.toString())->hide();
 }
 
 } // namespace
@@ -115,6 +124,7 @@ void SelectorPage::showContact(qint64 id)
             m_detail = new frmDetailView(m_context);
             m_detail->setObjectName(u"frmDetailView"_s);
             connect(m_detail, &frmDetailView::associateShown, this, &SelectorPage::associateShown);
+            hideTools(m_detail);
             m_detailPage = scrolled(m_detail);
             m_pages->addWidget(m_detailPage);
         }
@@ -124,6 +134,7 @@ void SelectorPage::showContact(qint64 id)
             m_note = new frmNoteView(m_context);
             m_note->setObjectName(u"frmNoteView"_s);
             m_note->setViewTabsVisible(false);
+            hideTools(m_note);
             connect(m_note, &frmNoteView::associateShown, this, &SelectorPage::associateShown);
             m_pages->addWidget(m_note);
         }
