@@ -157,7 +157,7 @@ LetterDetails::LetterDetails(const LetterForm& form, QWidget* parent)
         .line(u"txtseno"_s, tr("Serial &number"));
     if (form.hasNote)
         kit.memo(u"note"_s, tr("N&ote"), {}, 2);
-    kit.line(u"Folder"_s, tr("F&older"))
+    kit.line(u"Folder"_s, tr("Fo&lder"))
         .button(u"CmdFolder"_s, tr("Choose..."), u"folder", tr("Choose the folder for files of letters"))
         .button(u"CmdFiles"_s, tr("Save files"), u"file", tr("Write a file for each recipient there"))
         .button(u"Command2"_s, tr("Database"), u"drive",
