@@ -121,6 +121,9 @@ private Q_SLOTS:
         QTest::keyClicks(text, u" PS"_s);
         QVERIFY(s->showContact(4)); // an apostrophe in the name
         QVERIFY(whole().startsWith(u"Sean O'Brien\nLondon\n") && whole().endsWith(u" PS"));
+        f->execute(u"update cnt_main set h_city='Cork' where id=4"_s);
+        f->screens.tellBookChanged();
+        QVERIFY(whole().startsWith(u"Sean O'Brien\nCork\n") && whole().endsWith(u" PS"));
         text->moveCursor(QTextCursor::Start);
         QTest::keyClicks(text, u"To "_s);
         f->boxes.expect(kAnew, Answer::No);

@@ -244,6 +244,8 @@ void LetterCreator::load()
 void LetterCreator::bookChanged()
 {
     m_recipients->bookChanged();
+    if (m_isHandmade)
+        putHead();
     m_details->showHistory(context().data, m_recipients->current().name);
 }
 
@@ -401,17 +403,26 @@ void LetterCreator::composeAnew()
     setWhole(composedLetter(m_head, parts()));
 }
 
+/// Another address on a letter that was changed by hand; false when it has lost the place for it.
+bool LetterCreator::putHead()
+{
+    const formats::RichText newHead = head();
+    if (m_hasOwnHead || newHead == m_head)
+        return true;
+    const auto changed = withOtherHead(RText->text(), m_head, newHead);
+    if (!changed)
+        return false;
+    m_head = newHead;
+    setWhole(*changed);
+    return true;
+}
+
 void LetterCreator::followRecipients()
 {
     if (!m_isHandmade)
         return composeSoon();
-    const formats::RichText newHead = head();
-    if (m_hasOwnHead || newHead == m_head)
+    if (putHead())
         return;
-    if (const auto changed = withOtherHead(RText->text(), m_head, newHead)) {
-        m_head = newHead;
-        return setWhole(*changed);
-    }
     m_hasOwnHead = true;
     child<QLabel>(m_handmade, u"lblHandmade"_s)
         ->setText(tr("You have changed the whole letter and its address by hand: no other address, text or "
