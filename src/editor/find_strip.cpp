@@ -60,6 +60,8 @@ void FindStrip::layOut()
     m_other->setObjectName(u"txtReplace"_s);
     m_other->setPlaceholderText(tr("Replace by"));
     m_other->setAccessibleName(tr("Replace by"));
+    for (QLineEdit* line : {m_wanted, m_other})
+        line->setMinimumWidth(120);
     m_matchCase->setObjectName(u"chkMatchCase"_s);
     m_told->setObjectName(u"lblFound"_s);
     m_told->setTextFormat(Qt::PlainText);

@@ -83,6 +83,7 @@ void SpellingStrip::layOut()
     shut->setAutoDefault(false);
     shut->setFocusPolicy(Qt::TabFocus);
     widgets::setIcon(shut, u"close");
+    shut->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     layout->addWidget(shut);
     connect(shut, &QPushButton::clicked, this, &SpellingStrip::close);
 }

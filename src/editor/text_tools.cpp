@@ -2,6 +2,7 @@
 
 #include "editor/text_looks.h"
 #include "widgets/filled_combo.h"
+#include "widgets/flow_layout.h"
 #include "widgets/theme.h"
 
 #include <QColorDialog>
@@ -22,6 +23,7 @@ namespace editor {
 
 namespace {
 
+constexpr int kGap = 6; ///< between groups of tools
 constexpr double kSmallestSize = 4;
 constexpr double kLargestSize = 200;
 
@@ -108,9 +110,8 @@ TextTools::TextTools(QTextEdit* field)
     , m_size(new QComboBox)
 {
     setObjectName(u"barText"_s);
-    setIconSize({18, 18});
-    setToolButtonStyle(Qt::ToolButtonIconOnly);
-    setMovable(false);
+    auto* layout = new widgets::FlowLayout(this);
+    layout->setContentsMargins(4, 2, 4, 4);
     addBoxes();
     addTools();
     connect(field, &QTextEdit::currentCharFormatChanged, this, &TextTools::follow);
@@ -140,8 +141,8 @@ void TextTools::addBoxes()
     auto* numbers = new QDoubleValidator(kSmallestSize, kLargestSize, 1, m_size);
     numbers->setLocale(QLocale::c());
     m_size->setValidator(numbers);
-    addWidget(m_family);
-    addWidget(m_size);
+    layout()->addWidget(m_family);
+    layout()->addWidget(m_size);
     connect(m_family, &QComboBox::textActivated, this, &TextTools::setFamily);
     connect(m_size, &QComboBox::activated, this, &TextTools::setSize);
     connect(m_size->lineEdit(), &QLineEdit::returnPressed, this, &TextTools::setSize);
@@ -151,7 +152,7 @@ void TextTools::addTools()
 {
     for (const ToolRow& row : kTools) {
         if (std::ranges::find(kGapsBefore, row.command) != std::end(kGapsBefore))
-            addSeparator();
+            layout()->addItem(new QSpacerItem(kGap, 1));
         if (row.command == TextCommand::ClearLooks)
             m_color = colorTool();
         auto* action = new QAction(widgets::icon(row.icon), inEditor(row.text), this);
@@ -163,10 +164,23 @@ void TextTools::addTools()
             Q_EMIT commanded(command);
             follow(); // A switch that can not be switched shows what it is.
         });
-        addAction(action);
-        widgetForAction(action)->setFocusPolicy(Qt::NoFocus);
+        addButton(action);
         m_tools.insert(row.command, action);
     }
+}
+
+// The caret stays where it is when a tool is clicked.
+QToolButton* TextTools::addButton(QAction* action)
+{
+    auto* button = new QToolButton;
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setIconSize({18, 18});
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(action, &QAction::changed, button, [action, button] { button->setVisible(action->isVisible()); });
+    addAction(action);
+    layout()->addWidget(button);
+    return button;
 }
 
 QAction* TextTools::colorTool()
@@ -185,10 +199,7 @@ QAction* TextTools::colorTool()
             setColor(color);
     });
     action->setMenu(menu);
-    addAction(action);
-    auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setFocusPolicy(Qt::NoFocus);
+    addButton(action)->setPopupMode(QToolButton::InstantPopup);
     return action;
 }
 

@@ -3,10 +3,11 @@
 #include "editor/text_commands.h"
 
 #include <QHash>
-#include <QToolBar>
+#include <QWidget>
 
 class QComboBox;
 class QTextEdit;
+class QToolButton;
 
 namespace widgets {
 class FilledCombo;
@@ -14,8 +15,8 @@ class FilledCombo;
 
 namespace editor {
 
-/// The tools of a text in one row. What a narrow place has no room for stands behind the arrow at its end.
-class TextTools : public QToolBar {
+/// The tools of a text, in as many rows as the place asks for.
+class TextTools : public QWidget {
     Q_OBJECT
 
 public:
@@ -29,6 +30,7 @@ Q_SIGNALS:
     void commanded(editor::TextCommand command);
 
 private:
+    QToolButton* addButton(QAction* action);
     void addBoxes();
     void addTools();
     QAction* colorTool();

@@ -57,7 +57,7 @@ private Q_SLOTS:
             {core::keyAction(u"formmain"), u"FormMain1"_s}, {core::keyAction(u"formemail"), u"FrmEmail"_s},
             {core::keyAction(u"previouscall"), u"Form1"_s},
             {core::shortCodeAction(u"e"), u"FrmAddFullRptView MDI"_s},
-            {core::launchPadAction(u"Arrange Letters"), u"Frmgmail"_s}};
+            {core::launchPadAction(u"Arrange Letters"), u"Frmgmail Arrange"_s}};
         for (const auto& [action, screen] : opens)
             QCOMPARE(screenOf(action), screen);
         // Letters count as they are written, and a group is no tool.

@@ -291,7 +291,7 @@ private Q_SLOTS:
         desk.speller.faults = {{u"lettr"_s, {u"letter"_s}}};
         desk.show(u"lettr"_s);
         desk.editor.setReadOnly(true);
-        for (QAction* tool : desk.editor.findChild<QToolBar*>()->actions())
+        for (QAction* tool : desk.editor.findChild<QWidget*>(u"barText"_s)->actions())
             tool->trigger();
         desk.key(Qt::Key_A, Qt::ControlModifier);
         for (const int key : {int(Qt::Key_B), int(Qt::Key_V), int(Qt::Key_X), int(Qt::Key_Y)})

@@ -121,6 +121,9 @@ private Q_SLOTS:
         QTest::keyClicks(text, u" PS"_s);
         QVERIFY(s->showContact(4)); // an apostrophe in the name
         QVERIFY(whole().startsWith(u"Sean O'Brien\nLondon\n") && whole().endsWith(u" PS"));
+        f->execute(u"update cnt_main set h_city='Cork' where id=4"_s);
+        f->screens.tellBookChanged();
+        QVERIFY(whole().startsWith(u"Sean O'Brien\nCork\n") && whole().endsWith(u" PS"));
         text->moveCursor(QTextCursor::Start);
         QTest::keyClicks(text, u"To "_s);
         f->boxes.expect(kAnew, Answer::No);
@@ -134,15 +137,29 @@ private Q_SLOTS:
         s->showContact(4);
         QVERIFY(s->mayClose());
         QTest::keyClicks(s->findChild<QTextEdit*>(u"txtdetails"_s), u"Nearly lost"_s);
+        type(s, u"txtadd1"_s, u"2 Own Street"_s);
+        type(s, u"note"_s, u"Send it soon"_s);
         f->boxes.expect(kSave, Answer::No);
         QVERIFY(s->mayClose());
         f->screens.unload(u"FrmLetter"_s);
         s = static_cast<letters::FrmLetter*>(f->screens.load(u"FrmLetter"_s));
         f->screens.show(u"FrmLetter"_s);
-        QVERIFY(whole().startsWith(u"Sean O'Brien") && whole().contains(u"Nearly lost"));
+        QVERIFY(whole().startsWith(u"Sean O'Brien\n2 Own Street\n") && whole().contains(u"Nearly lost"));
         f->boxes.expect(kSave, Answer::Yes);
         QVERIFY(s->mayClose());
-        QCOMPARE(f->book.firstText(u"select [desc] from cnt_letters"_s), u"Nearly lost"_s);
+        QCOMPARE(f->book.rows(u"select [desc],note,PerId from cnt_letters"_s),
+            QStringList{u"Nearly lost|Send it soon|4"_s});
+    }
+
+    // A name that was only typed may be that of several.
+    void namesakes()
+    {
+        f->execute(u"insert into cnt_main (name,h_city) values ('Rahul Sharma','Pune')"_s);
+        type(s, u"DBCperson"_s, u"Rahul Sharma"_s);
+        f->boxes.expect(u"Several people have this name, and all of them are in the list now. Take those off "
+                        "it whom you do not mean, and try again."_s);
+        act(u"Save"_s);
+        QCOMPARE(f->book.firstText(u"select count(*) from cnt_letters"_s), u"0"_s);
     }
 
     void looksAreKeptInAFile()

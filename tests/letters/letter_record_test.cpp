@@ -193,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("bill") == 4);
         file.close();
         f->shared.PhotoStoreMode = u"Copy"_s;
-        f->book.data().keepChanges({{u"cnt_main"_s, u"Name"_s}});
+        f->book.data().keepChanges({{u"cnt_letters"_s, u"person"_s}});
         auto* screen = f->open<letters::frmgmail1>(u"frmgmail1"_s);
         support::type(screen, u"txtperson"_s, u"..\\..\\Bob"_s);
         f->boxes.expect(u"Please choose the file of the letter"_s);

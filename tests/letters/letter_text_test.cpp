@@ -50,6 +50,21 @@ private Q_SLOTS:
         trap.address.line1 = u"1\n2\n3"_s;
         QCOMPARE(letters::mergedLetter(whole, trap).paragraphs.mid(2, 3),
             RichText::fromPlain(u"1\n2\n3"_s).paragraphs);
+        const RichText added = RichText::fromPlain(u"<<Person Name>>,\nDear <<Person Name>>!\n<<Pin>>"_s);
+        QCOMPARE(letters::mergedLetter(added, asha).plain(), u"Asha Oberoi,\nDear Asha Oberoi!\n<<Pin>>"_s);
+    }
+
+    // Whatever a person makes of the head, the address is printed once and the greeting as it was written.
+    void handmadeGreeting()
+    {
+        Recipient trust{3, u"Dear Friends Trust"_s, u"all"_s, {}, {}};
+        const RichText head = letters::letterHead(trust);
+        RichText whole = letters::composedLetter(trust, letter);
+        QCOMPARE(letters::belowHead(whole, head).plain(), below);
+        QCOMPARE(letters::spokenTo(whole, head), u"all"_s);
+        whole.paragraphs[1] = RichText::fromPlain(u"My friends"_s).paragraphs[0];
+        QCOMPARE(letters::belowHead(whole, head).plain(), u"My friends\n"_s + below);
+        QVERIFY(!letters::spokenTo(whole, head));
     }
 
     void otherHead()

@@ -238,6 +238,11 @@ private Q_SLOTS:
         auto* fields = f.list(u"Grid2"_s);
         support::clickRow(fields, 0, 3);
         QCOMPARE(f.rows(u"select fldname from cnt_EmailShow where show=true"_s), u"Subject"_s);
+        f.execute(u"update cntb_setup set ltrcat='Old'"_s);
+        f.openPage(u"Journal"_s);
+        support::type(f.form, u"cmbLetterJournal"_s, {});
+        support::click(f.form, u"cmdSaveJournal"_s);
+        QCOMPARE(f.rows(u"select count(*) from cntb_setup where ltrcat is null"_s), u"1"_s);
         f.openPage(u"User fields"_s);
         f.boxes.expect(u"Please select a Group"_s);
         support::click(f.form, u"Edit"_s);

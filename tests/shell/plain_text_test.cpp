@@ -67,9 +67,11 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             lookAtLabels(name);
             lookAtTips(screen);
+            // A letter to several has marks in place of a contact.
             for (const auto* page : screen->findChildren<QTextEdit*>())
-                QVERIFY2(
-                    page->toPlainText().isEmpty() || page->toPlainText().contains(Markup), qPrintable(name));
+                QVERIFY2(page->toPlainText().isEmpty() || page->toPlainText().contains(Markup)
+                        || page->toPlainText().startsWith(u"<<Person Name>>"),
+                    qPrintable(name));
         }
         QVERIFY2(m_labels > 20 && m_tips > 5, qPrintable(u"%1 labels, %2 tips"_s.arg(m_labels).arg(m_tips)));
     }

@@ -19,9 +19,10 @@ void writeWishLetter(core::Context& context, const jet::Recordset& contact, cons
     }
     context.shared.selectedContactId = id;
     context.shared.selectedContactName = contact.textOrEmpty(u"Name");
-    if (auto* letter = context.screens.load<core::ContactScreen>(kLetterScreen))
-        letter->showContact(id);
-    if (auto* letter = context.screens.load<core::PageScreen>(kLetterScreen))
+    auto* contactLetter = context.screens.load<core::ContactScreen>(kLetterScreen);
+    // The person may go on with the letter that is there.
+    const bool isTaken = contactLetter && contactLetter->showContact(id);
+    if (auto* letter = context.screens.load<core::PageScreen>(kLetterScreen); letter && isTaken)
         letter->openPage(kind);
     context.screens.show(kLetterScreen);
 }

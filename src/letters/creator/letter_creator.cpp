@@ -108,8 +108,8 @@ QWidget* LetterCreator::layOutLetter()
 {
     auto* strip = new QHBoxLayout(m_handmade);
     strip->setContentsMargins(8, 4, 8, 4);
-    auto* told
-        = new QLabel(tr("You have changed the whole letter by hand: text and phrases no longer go into it."));
+    auto* told = new QLabel;
+    told->setObjectName(u"lblHandmade"_s);
     told->setWordWrap(true);
     auto* again = new QPushButton(tr("Compose anew"));
     again->setObjectName(u"CmdCompose"_s);
@@ -244,6 +244,8 @@ void LetterCreator::load()
 void LetterCreator::bookChanged()
 {
     m_recipients->bookChanged();
+    if (m_isHandmade)
+        putHead();
     m_details->showHistory(context().data, m_recipients->current().name);
 }
 
@@ -374,6 +376,8 @@ void LetterCreator::setHandmade(bool handmade)
 {
     m_isHandmade = handmade;
     m_hasOwnHead = false;
+    child<QLabel>(m_handmade, u"lblHandmade"_s)
+        ->setText(tr("You have changed the whole letter by hand: text and phrases no longer go into it."));
     m_handmade->setVisible(handmade);
 }
 
@@ -399,18 +403,30 @@ void LetterCreator::composeAnew()
     setWhole(composedLetter(m_head, parts()));
 }
 
+/// Another address on a letter that was changed by hand; false when it has lost the place for it.
+bool LetterCreator::putHead()
+{
+    const formats::RichText newHead = head();
+    if (m_hasOwnHead || newHead == m_head)
+        return true;
+    const auto changed = withOtherHead(RText->text(), m_head, newHead);
+    if (!changed)
+        return false;
+    m_head = newHead;
+    setWhole(*changed);
+    return true;
+}
+
 void LetterCreator::followRecipients()
 {
     if (!m_isHandmade)
         return composeSoon();
-    const formats::RichText newHead = head();
-    if (m_hasOwnHead || newHead == m_head)
+    if (putHead())
         return;
-    if (const auto changed = withOtherHead(RText->text(), m_head, newHead)) {
-        m_head = newHead;
-        return setWhole(*changed);
-    }
     m_hasOwnHead = true;
+    child<QLabel>(m_handmade, u"lblHandmade"_s)
+        ->setText(tr("You have changed the whole letter and its address by hand: no other address, text or "
+                     "phrase goes into it, whoever it is for."));
     composeAnew();
 }
 
@@ -419,7 +435,7 @@ void LetterCreator::chooseCaption(const QString& caption)
     if (caption.isEmpty())
         return m_caption.clear();
     const QString there = txtdetails->plainText();
-    if (!there.trimmed().isEmpty() && there != m_stock
+    if (!there.trimmed().isEmpty() && (there != m_stock || txtdetails->text().isFormatted())
         && context().services.boxes.ask(
                tr("Do you want to replace the text that you have written by the stored text \"%1\"?")
                    .arg(caption),
@@ -509,7 +525,7 @@ bool LetterCreator::takeContacts(const QList<qint64>& ids, const QString& listNa
     const auto found = m_recipients->readContacts(ids);
     if (!found || found->isEmpty())
         return false;
-    if (m_isDirty && m_recipients->isAddressTyped()
+    if (m_isDirty && m_recipients->isTyped()
         && context().services.boxes.ask(
                tr("You have typed an address by hand. Do you want to write to somebody else instead?"),
                shared().AppTitle, platform::Icon::Warning)

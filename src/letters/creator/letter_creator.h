@@ -80,6 +80,7 @@ private:
     void setWhole(const formats::RichText& letter);
     void setHandmade(bool handmade);
     void followWhole();
+    bool putHead();
     void followRecipients();
     void chooseCaption(const QString& caption);
     void greetFamily();

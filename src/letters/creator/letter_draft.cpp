@@ -11,7 +11,21 @@ namespace {
 
 constexpr QChar kBetween(0x1f); ///< the parts of an address
 constexpr QChar kBetweenPeople(0x1e);
-constexpr qsizetype kPartsOfAStranger = 8;
+constexpr qsizetype kPartsOfARecipient = 10;
+constexpr QStringView kTyped = u"typed";
+
+struct TextOfDraft {
+    QStringView name;
+    QString LetterToKeep::*text;
+};
+constexpr TextOfDraft kTexts[] = {
+    {u"caption", &LetterToKeep::caption},
+    {u"category", &LetterToKeep::category},
+    {u"type", &LetterToKeep::type},
+    {u"serial number", &LetterToKeep::serialNumber},
+    {u"kind", &LetterToKeep::kind},
+    {u"note", &LetterToKeep::note},
+};
 
 QString rtfOf(const formats::RichText& text)
 {
@@ -23,10 +37,11 @@ formats::RichText textOf(const QString& rtf)
     return formats::readRtf(rtf.toLatin1()).value_or(formats::RichText());
 }
 
-QString strangerText(const Recipient& to)
+QString recipientText(const Recipient& to)
 {
     const LetterAddress& at = to.address;
-    return QStringList{to.name, to.salutation, at.line1, at.line2, at.city, at.state, at.country, at.pin}
+    return QStringList{QString::number(to.id), to.name, to.salutation, to.category, at.line1, at.line2,
+        at.city, at.state, at.country, at.pin}
         .join(kBetween);
 }
 
@@ -35,23 +50,26 @@ QString strangerText(const Recipient& to)
 widgets::FieldValues draftValues(const LetterDraft& draft)
 {
     widgets::FieldValues values;
-    const auto& openings = draft.parts.openings;
-    const auto& closings = draft.parts.closings;
+    const LetterParts& parts = draft.letter.parts;
+    const auto& openings = parts.openings;
+    const auto& closings = parts.closings;
     values.texts.insert(u"openings"_s, QStringList(openings.begin(), openings.end()).join(kBetween));
     values.texts.insert(u"closings"_s, QStringList(closings.begin(), closings.end()).join(kBetween));
-    values.texts.insert(u"ending"_s, draft.parts.ending);
-    values.texts.insert(u"signature"_s, draft.parts.signature);
-    values.texts.insert(u"body"_s, rtfOf(draft.parts.body));
+    values.texts.insert(u"ending"_s, parts.ending);
+    values.texts.insert(u"signature"_s, parts.signature);
+    values.texts.insert(u"body"_s, rtfOf(parts.body));
     if (draft.whole)
         values.texts.insert(u"whole"_s, rtfOf(*draft.whole));
-    QStringList ids;
-    for (const qint64 id : draft.contacts)
-        ids << QString::number(id);
-    values.texts.insert(u"contacts"_s, ids.join(u','));
-    QStringList strangers;
-    for (const Recipient& to : draft.strangers)
-        strangers << strangerText(to);
-    values.texts.insert(u"strangers"_s, strangers.join(kBetweenPeople));
+    for (const TextOfDraft& each : kTexts)
+        values.texts.insert(each.name.toString(), draft.letter.*each.text);
+    values.dates.insert(u"date"_s, draft.letter.date);
+    QStringList people;
+    for (const Recipient& to : draft.recipients)
+        people << recipientText(to);
+    values.texts.insert(u"recipients"_s, people.join(kBetweenPeople));
+    values.texts.insert(u"address type"_s, QString::number(int(draft.addressType)));
+    if (draft.isAddressTyped)
+        values.texts.insert(u"address"_s, kTyped.toString());
     return values;
 }
 
@@ -60,25 +78,29 @@ std::optional<LetterDraft> draftFrom(const widgets::FieldValues& values)
     if (values.texts.isEmpty())
         return std::nullopt;
     LetterDraft draft;
+    LetterParts& parts = draft.letter.parts;
     const QStringList openings = values.text(u"openings").split(kBetween);
-    for (qsizetype line = 0; line < std::ssize(draft.parts.openings); ++line)
-        draft.parts.openings.at(size_t(line)) = openings.value(line);
+    for (qsizetype line = 0; line < std::ssize(parts.openings); ++line)
+        parts.openings.at(size_t(line)) = openings.value(line);
     const QStringList closings = values.text(u"closings").split(kBetween);
-    for (qsizetype line = 0; line < std::ssize(draft.parts.closings); ++line)
-        draft.parts.closings.at(size_t(line)) = closings.value(line);
-    draft.parts.ending = values.text(u"ending");
-    draft.parts.signature = values.text(u"signature");
-    draft.parts.body = textOf(values.text(u"body"));
+    for (qsizetype line = 0; line < std::ssize(parts.closings); ++line)
+        parts.closings.at(size_t(line)) = closings.value(line);
+    parts.ending = values.text(u"ending");
+    parts.signature = values.text(u"signature");
+    parts.body = textOf(values.text(u"body"));
     if (values.texts.contains(u"whole"_s))
         draft.whole = textOf(values.text(u"whole"));
-    for (const QString& id : values.text(u"contacts").split(u',', Qt::SkipEmptyParts))
-        draft.contacts << id.toLongLong();
-    for (const QString& stranger : values.text(u"strangers").split(kBetweenPeople, Qt::SkipEmptyParts)) {
-        const QStringList parts = stranger.split(kBetween);
-        if (parts.size() == kPartsOfAStranger)
-            draft.strangers << Recipient{
-                0, parts[0], parts[1], {parts[2], parts[3], parts[4], parts[5], parts[6], parts[7]}, {}};
+    for (const TextOfDraft& each : kTexts)
+        draft.letter.*each.text = values.text(each.name);
+    draft.letter.date = values.date(u"date").value_or(QDate());
+    for (const QString& person : values.text(u"recipients").split(kBetweenPeople, Qt::SkipEmptyParts)) {
+        const QStringList of = person.split(kBetween);
+        if (of.size() == kPartsOfARecipient)
+            draft.recipients << Recipient{
+                of[0].toLongLong(), of[1], of[2], {of[4], of[5], of[6], of[7], of[8], of[9]}, of[3]};
     }
+    draft.addressType = AddressType(values.text(u"address type").toInt());
+    draft.isAddressTyped = values.text(u"address") == kTyped;
     return draft;
 }
 

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "letters/creator/letter_text.h"
+#include "letters/creator/letter_record.h"
 #include "widgets/field_values.h"
 
 namespace letters {
 
 /// A letter that was not saved, as it is kept until its screen is opened again.
 struct LetterDraft {
-    LetterParts parts = {};
+    LetterToKeep letter = {};
     std::optional<formats::RichText> whole = {}; ///< when it was changed by hand
-    QList<qint64> contacts = {};
-    QList<Recipient> strangers = {}; ///< who are not in the book
+    QList<Recipient> recipients = {};
+    AddressType addressType = {};
+    bool isAddressTyped = false; ///< one that the book does not have
 };
 
 widgets::FieldValues draftValues(const LetterDraft& draft);

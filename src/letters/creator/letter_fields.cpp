@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 using widgets::child;
@@ -156,7 +157,7 @@ LetterDetails::LetterDetails(const LetterForm& form, QWidget* parent)
         .line(u"txtseno"_s, tr("Serial &number"));
     if (form.hasNote)
         kit.memo(u"note"_s, tr("N&ote"), {}, 2);
-    kit.line(u"Folder"_s, tr("F&older"))
+    kit.line(u"Folder"_s, tr("Fo&lder"))
         .button(u"CmdFolder"_s, tr("Choose..."), u"folder", tr("Choose the folder for files of letters"))
         .button(u"CmdFiles"_s, tr("Save files"), u"file", tr("Write a file for each recipient there"))
         .button(u"Command2"_s, tr("Database"), u"drive",
@@ -177,19 +178,22 @@ LetterDetails::LetterDetails(const LetterForm& form, QWidget* parent)
     onClick(u"Command2"_s, &LetterDetails::databaseWanted);
     connect(m_history, &widgets::HeadingGrid::chosen, this,
         [this] { Q_EMIT letterChosen(m_history->currentKey()); });
-    connect(txtseno, &QLineEdit::textEdited, this, &LetterDetails::changed);
-    if (m_note) {
-        connect(m_note, &QPlainTextEdit::textChanged, this, [this] {
-            if (m_note->document()->isModified())
-                Q_EMIT changed();
-        });
-    }
+    const auto tell = [this] {
+        if (!m_isShowing)
+            Q_EMIT changed();
+    };
+    connect(Ssdate1, &widgets::DateBox::dateChanged, this, tell);
+    connect(DBCgrp, &QComboBox::currentTextChanged, this, tell);
+    connect(DBCmlcat, &QComboBox::currentTextChanged, this, tell);
+    connect(txtseno, &QLineEdit::textChanged, this, tell);
+    if (m_note)
+        connect(m_note, &QPlainTextEdit::textChanged, this, tell);
 }
 
 void LetterDetails::load(jet::Database& book, const QString& datePattern, const QDate& today)
 {
     Ssdate1->setFormat(datePattern);
-    Ssdate1->setDate(today);
+    show({.date = today});
     m_history->showAs(u"date"_s,
         [datePattern](const QVariant& date) { return jet::formatDate(date.toDate(), datePattern); });
     DBCgrp->setSource(withBlank(book, letterTypesSql()));
@@ -205,6 +209,7 @@ LetterDetails::Values LetterDetails::values() const
 
 void LetterDetails::show(const Values& values)
 {
+    const QScopedValueRollback showing(m_isShowing, true);
     Ssdate1->setDate(values.date.isValid() ? std::optional(values.date) : std::nullopt);
     DBCgrp->setText(values.type);
     DBCmlcat->setText(values.category);

@@ -94,6 +94,7 @@ private:
     QLineEdit* Folder = nullptr;
     QPlainTextEdit* m_note = nullptr;
     widgets::HeadingGrid* m_history;
+    bool m_isShowing = false; ///< the fields are being filled
 };
 
 } // namespace letters

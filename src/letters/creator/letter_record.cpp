@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -95,7 +96,7 @@ void addToJournal(
 formats::RichText withKeptLooks(const platform::Drive& drive, const QString& path, const QString& plain)
 {
     QFile file(path.isEmpty() ? QString() : localPath(drive, path));
-    if (!file.fileName().isEmpty() && file.size() <= kLargestFile && file.open(QIODevice::ReadOnly)) {
+    if (QFileInfo(file).isFile() && file.size() <= kLargestFile && file.open(QIODevice::ReadOnly)) {
         const auto kept = formats::readRtf(file.read(kLargestFile));
         if (kept && kept->plain() == plain)
             return *kept;

@@ -14,6 +14,7 @@ namespace {
 constexpr QStringView kIndent = u"\t\t";
 // What the head of a letter to several may hold beside its markers, such as a date.
 constexpr qsizetype kLongestHead = 20;
+constexpr QStringView kDear = u"Dear ";
 
 struct Marker {
     QStringView line;
@@ -39,6 +40,44 @@ QString salutationLine(const Recipient& recipient)
 QString groupSalutationLine()
 {
     return u"Dear \t"_s;
+}
+
+struct HeadPlace {
+    qsizetype address; ///< lines that are as they were composed
+    qsizetype greeting; ///< the line that speaks to the reader; -1 without one
+};
+
+/// A name in the address may begin as the greeting does, so that is looked for below the address.
+HeadPlace headIn(const RichText& letter, const RichText& head)
+{
+    const auto& lines = letter.paragraphs;
+    const qsizetype last = std::min(lines.size(), head.paragraphs.size() - 1);
+    HeadPlace place{0, -1};
+    while (
+        place.address < last && lines.at(place.address).plain() == head.paragraphs.at(place.address).plain())
+        ++place.address;
+    const qsizetype end = std::min(lines.size(), place.address + kLongestHead);
+    for (qsizetype at = place.address; at < end && place.greeting < 0; ++at) {
+        if (lines.at(at).plain().startsWith(kDear))
+            place.greeting = at;
+    }
+    return place;
+}
+
+/// A line of the head to which a person has added something beside its markers.
+QString withValues(const QString& line, const Recipient& recipient)
+{
+    QString filled;
+    for (qsizetype at = 0; at < line.size();) {
+        const auto marker = std::find_if(kMarkers.begin(), kMarkers.end(), [&](const Marker& candidate) {
+            return candidate.value && candidate.line.startsWith(u"<<")
+                && QStringView(line).sliced(at).startsWith(candidate.line);
+        });
+        const bool isMarker = marker != kMarkers.end();
+        filled += isMarker ? marker->value(recipient) : line.mid(at, 1);
+        at += isMarker ? marker->line.size() : 1;
+    }
+    return filled;
 }
 
 /// A line of the text; more than one for a value that holds several.
@@ -146,7 +185,9 @@ RichText mergedLetter(const RichText& groupLetter, const Recipient& recipient)
     size_t next = 0; // markers stand in their order, each once
     qsizetype at = 0;
     const auto& lines = groupLetter.paragraphs;
-    for (const qsizetype end = std::min(lines.size(), kLongestHead); at < end; ++at) {
+    const qsizetype greeting = headIn(groupLetter, {}).greeting;
+    const qsizetype end = greeting < 0 ? std::min(lines.size(), kLongestHead) : greeting + 1;
+    for (; at < end; ++at) {
         const QString line = lines.at(at).plain();
         if (line.trimmed() == u"Dear") {
             merged.paragraphs << inLooksOf(lines.at(at), salutationLine(recipient));
@@ -156,7 +197,8 @@ RichText mergedLetter(const RichText& groupLetter, const Recipient& recipient)
         const auto marker = std::find_if(kMarkers.begin() + next, kMarkers.end(),
             [&line](const Marker& candidate) { return line == candidate.line; });
         if (marker == kMarkers.end()) {
-            merged.paragraphs << lines.at(at);
+            const QString filled = at <= greeting ? withValues(line, recipient) : line;
+            merged.paragraphs << (filled == line ? QList{lines.at(at)} : inLooksOf(lines.at(at), filled));
             continue;
         }
         next = size_t(marker - kMarkers.begin()) + 1;
@@ -168,14 +210,18 @@ RichText mergedLetter(const RichText& groupLetter, const Recipient& recipient)
     return merged;
 }
 
-RichText belowHead(const RichText& letter)
+RichText belowHead(const RichText& letter, const RichText& head)
 {
-    const auto& lines = letter.paragraphs;
-    for (qsizetype at = 0, end = std::min(lines.size(), kLongestHead); at < end; ++at) {
-        if (lines.at(at).plain().startsWith(u"Dear "))
-            return {.paragraphs = lines.mid(at + 1)};
-    }
-    return letter;
+    const auto [address, greeting] = headIn(letter, head);
+    return {.paragraphs = letter.paragraphs.mid(greeting < 0 ? address : greeting + 1)};
+}
+
+std::optional<QString> spokenTo(const RichText& letter, const RichText& head)
+{
+    const qsizetype greeting = headIn(letter, head).greeting;
+    if (greeting < 0)
+        return std::nullopt;
+    return letter.paragraphs.at(greeting).plain().mid(kDear.size()).trimmed();
 }
 
 void readFromMerged(const RichText& merged, Recipient& recipient, LetterParts& parts)

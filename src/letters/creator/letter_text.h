@@ -49,8 +49,11 @@ std::optional<formats::RichText> withOtherHead(
 /// the line that speaks to the reader.
 formats::RichText mergedLetter(const formats::RichText& groupLetter, const Recipient& recipient);
 
-/// What stands below the line that speaks to the reader; the whole letter when there is no such line.
-formats::RichText belowHead(const formats::RichText& letter);
+/// What stands below the line that speaks to the reader; without such a line, what stands below the address
+/// of the head with which the letter was composed.
+formats::RichText belowHead(const formats::RichText& letter, const formats::RichText& head);
+/// Whom that line speaks to, which is nobody in a letter to several; nothing when there is no such line.
+std::optional<QString> spokenTo(const formats::RichText& letter, const formats::RichText& head);
 /// What only the text of a kept letter tells: how it speaks to its reader, who signs it, and the looks of
 /// its body.
 void readFromMerged(const formats::RichText& merged, Recipient& recipient, LetterParts& parts);

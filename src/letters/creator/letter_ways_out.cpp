@@ -22,13 +22,16 @@
 #include "platform/message_boxes.h"
 #include "platform/shell.h"
 #include "platform/storage.h"
+#include "widgets/fields.h"
 
 #include <QAction>
 #include <QFileInfo>
 #include <QLocale>
 #include <QSaveFile>
+#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
+using widgets::child;
 
 namespace letters {
 
@@ -71,7 +74,12 @@ void fillSender(jet::Database& data, output::LetterLook& look)
 /// Those that the letter goes to; says so when there are none.
 QList<Recipient> LetterCreator::chosenRecipients()
 {
-    m_recipients->takeTypedName();
+    if (m_recipients->takeTypedName() > 1) {
+        child<QTabWidget>(this, u"LetterSides"_s)->setCurrentIndex(0);
+        inform(tr("Several people have this name, and all of them are in the list now. Take those off it "
+                  "whom you do not mean, and try again."));
+        return {};
+    }
     compose();
     const QList<Recipient> recipients = m_recipients->recipients();
     if (recipients.isEmpty())
@@ -136,14 +144,20 @@ void LetterCreator::preview(int style)
         .signature = text.signature,
         .body = openingsAndBody(text)};
     look.closing.removeAll(QString());
-    for (const Recipient& to : recipients)
-        look.readers << to.salutation;
     if (m_isHandmade) {
-        // What was changed by hand has its closing in it.
-        look.body = belowHead(RText->text());
+        // What was changed by hand has its closing in it, and may speak to its readers in its own way.
+        const formats::RichText whole = RText->text();
+        const MergedFor letters = lettersTo();
+        look.isGreetedInBody = !spokenTo(whole, m_head);
+        for (const Recipient& to : recipients)
+            look.readers << spokenTo(letters(to), letterHead(to)).value_or(QString());
+        look.body = belowHead(whole, m_head);
         look.closing.clear();
         look.ending.clear();
         look.signature.clear();
+    } else {
+        for (const Recipient& to : recipients)
+            look.readers << to.salutation;
     }
     fillSender(context().data, look);
     const auto rows = std::make_shared<output::RecordsetSource>(
@@ -214,8 +228,8 @@ void LetterCreator::merge(bool withLetterFile)
     if (recipients.isEmpty())
         return;
     const auto merged = mergeLetters(context().services.wordProcessor,
-        m_isHandmade ? belowHead(RText->text()) : composedLetter(formats::RichText(), parts()), recipients,
-        m_form.mergeFolder.toString(), context().services.clock.today());
+        m_isHandmade ? belowHead(RText->text(), m_head) : composedLetter(formats::RichText(), parts()),
+        recipients, m_form.mergeFolder.toString(), context().services.clock.today());
     if (!merged)
         return;
     if (!*merged)
@@ -281,15 +295,20 @@ bool LetterCreator::mayEndProgram()
 
 void LetterCreator::keepDraft()
 {
-    LetterDraft draft{.parts = parts()};
+    const LetterDetails::Values details = m_details->values();
+    LetterDraft draft{.letter = {.parts = parts(),
+                          .caption = m_caption,
+                          .category = details.category,
+                          .type = details.type,
+                          .serialNumber = details.serialNumber,
+                          .kind = m_kind,
+                          .note = details.note,
+                          .date = details.date},
+        .recipients = m_recipients->recipients(),
+        .addressType = m_recipients->addressType(),
+        .isAddressTyped = m_recipients->isAddressTyped()};
     if (m_isHandmade)
         draft.whole = RText->text();
-    for (const Recipient& to : m_recipients->recipients()) {
-        if (to.id != 0)
-            draft.contacts << to.id;
-        else
-            draft.strangers << to;
-    }
     shared().unsavedEntries.insert(objectName(), draftValues(draft));
 }
 
@@ -298,9 +317,15 @@ void LetterCreator::showDraft()
     const auto draft = draftFrom(shared().unsavedEntries.take(objectName()));
     if (!draft)
         return;
-    showParts(draft->parts);
-    m_recipients->setRecipients(
-        m_recipients->readContacts(draft->contacts).value_or(QList<Recipient>()) + draft->strangers);
+    const LetterToKeep& letter = draft->letter;
+    m_kind = letter.kind;
+    m_caption = letter.caption;
+    m_phrases->setCaption(m_caption);
+    showParts(letter.parts);
+    m_details->show({letter.date, letter.type, letter.category, letter.serialNumber, letter.note});
+    m_recipients->setAddressType(draft->addressType);
+    m_recipients->setRecipients(draft->recipients, !draft->isAddressTyped);
+    m_recipients->bookChanged();
     compose();
     if (draft->whole) {
         setWhole(*draft->whole);

@@ -97,7 +97,7 @@ void RecipientPanel::layOut()
         .line(u"txtfirst"_s, tr("&Dear"))
         .line(u"txtadd1"_s, tr("&Address"))
         .line(u"txtadd2"_s, {})
-        .combo(u"DBCcity"_s, tr("Cit&y"))
+        .combo(u"DBCcity"_s, tr("&City"))
         .beside()
         .line(u"DBcstate"_s, tr("State"))
         .combo(u"DBCcountry"_s, tr("Country"))
@@ -176,7 +176,7 @@ void RecipientPanel::bookChanged()
     DBCperson->refill();
     m_picker->readAgain();
     if (!m_isAddressTyped)
-        readAddresses();
+        return readAddresses();
     for (Recipient& to : m_recipients) {
         if (to.id != 0 && m_context.data.openRecordset(core::contactNameSql(to.id)).isEmpty())
             to.id = 0;
@@ -204,9 +204,22 @@ Recipient RecipientPanel::current() const
     return m_recipients.value(list1->currentRow(), m_free);
 }
 
+bool RecipientPanel::isTyped() const
+{
+    return m_isAddressTyped || m_free != Recipient()
+        || std::any_of(
+            m_recipients.begin(), m_recipients.end(), [](const Recipient& to) { return to.id == 0; });
+}
+
 AddressType RecipientPanel::addressType() const
 {
     return AddressType(std::max(0, m_type));
+}
+
+void RecipientPanel::setAddressType(AddressType type)
+{
+    m_type = int(type);
+    Combo1->setCurrentIndex(m_type);
 }
 
 void RecipientPanel::setRecipients(const QList<Recipient>& recipients, bool areAsInBook)
@@ -267,19 +280,21 @@ void RecipientPanel::add(const QList<Recipient>& recipients)
 }
 
 // Of several people with the name all are put into the list, where their cities tell them apart.
-void RecipientPanel::takeTypedName()
+qsizetype RecipientPanel::takeTypedName()
 {
     const QString name = DBCperson->currentText().trimmed();
     if (name.isEmpty())
-        return;
+        return 0;
     const jet::Recordset known = m_context.data.openRecordset(
         u"select id from cnt_main where name='"_s + core::inQuotes(name) + u'\'');
     QList<qint64> ids;
     for (int row = 0; row < known.count(); ++row)
         ids << known.valueAt(row, 0).toLongLong();
     DBCperson->setText({});
-    if (!ids.isEmpty())
-        return add(ids);
+    if (!ids.isEmpty()) {
+        add(ids);
+        return ids.size();
+    }
     Recipient stranger = m_recipients.isEmpty() ? m_free : Recipient();
     stranger.name = name;
     if (stranger.salutation.trimmed().isEmpty())
@@ -288,6 +303,7 @@ void RecipientPanel::takeTypedName()
     add(QList<Recipient>{stranger});
     Q_EMIT typed();
     m_boxes.at(kFirstOfAddress)->setFocus();
+    return 0;
 }
 
 void RecipientPanel::removeSelected()
@@ -388,8 +404,10 @@ void RecipientPanel::readAddresses()
             continue;
         const jet::Recordset contact
             = m_context.data.openRecordset(u"select * from cnt_main where id="_s + QString::number(to.id));
-        if (!contact.hasRow())
+        if (!contact.hasRow()) {
+            to.id = 0;
             continue;
+        }
         const QString spokenTo = to.salutation == to.name ? QString() : to.salutation;
         to = recipientOf(contact, addressType());
         if (!spokenTo.isEmpty())

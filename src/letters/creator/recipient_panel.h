@@ -43,7 +43,11 @@ public:
     /// @param areAsInBook whether names and addresses follow the book
     void setRecipients(const QList<Recipient>& recipients, bool areAsInBook = true);
     bool isAddressTyped() const { return m_isAddressTyped; } ///< one that the book does not have
-    void takeTypedName(); ///< that was not yet put into the list
+    bool isTyped() const; ///< an address, or somebody who is not in the book
+    void setAddressType(AddressType type); ///< of those that are put into the list from now on
+    /// Puts a name into the list that was only typed so far, with all contacts that bear it.
+    /// @return how many contacts those are
+    qsizetype takeTypedName();
     /// Contacts of the book with their addresses, in this order; those that are gone are left out. Nothing
     /// when the person has stopped the reading of a long list.
     std::optional<QList<Recipient>> readContacts(const QList<qint64>& ids);

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,18 +54,28 @@ FormLtrSetUp::FormLtrSetUp(core::Context& context, QWidget* parent)
     SSTab1->setObjectName(u"SSTab1"_s);
     SSTab1->setAccessibleName(tr("Subjects"));
     widgets::letIconsGiveWay(SSTab1);
-    addTab(listsOf(ListTab::Openings), tr("Openings"), u"letter", u"CON009"_s);
-    addTab(listsOf(ListTab::LetterTexts), tr("Letter texts"), u"note", u"CON0010"_s);
-    addTab(listsOf(ListTab::MailTexts), tr("E-mail texts"), u"envelope", u"CON0010"_s);
-    addTab(listsOf(ListTab::Categories) << named(new JournalPanel(context), "Journal"), tr("Categories"),
-        u"category", u"CON0011"_s);
-    addTab(listsOf(ListTab::Phrases), tr("Phrases"), u"list", u"CON0015"_s);
-    addTab(listsOf(ListTab::Mail) << named(new SignaturePanel(context), "Signature")
-                                  << named(new MailFieldsPanel(context), "Fields"),
+    addTab([this] { return listsOf(ListTab::Openings); }, tr("Openings"), u"letter", u"CON009"_s);
+    addTab([this] { return listsOf(ListTab::LetterTexts); }, tr("Letter texts"), u"note", u"CON0010"_s);
+    addTab([this] { return listsOf(ListTab::MailTexts); }, tr("E-mail texts"), u"envelope", u"CON0010"_s);
+    addTab(
+        [this] {
+            return listsOf(ListTab::Categories) << named(new JournalPanel(this->context()), "Journal");
+        },
+        tr("Categories"), u"category", u"CON0011"_s);
+    addTab([this] { return listsOf(ListTab::Phrases); }, tr("Phrases"), u"list", u"CON0015"_s);
+    addTab(
+        [this] {
+            return listsOf(ListTab::Mail) << named(new SignaturePanel(this->context()), "Signature")
+                                          << named(new MailFieldsPanel(this->context()), "Fields");
+        },
         tr("E-mail"), u"edit", u"CON0014"_s);
-    addTab({named(mailDatabase(), "Email lists")}, tr("E-mail database"), u"drive", u"CON0016"_s);
-    addTab({named(narrow(new UserFieldsPanel(context)), "User fields")}, tr("User fields"), u"star",
-        kGeneralHelp.toString());
+    addTab([this] { return QList<QWidget*>{named(mailDatabase(), "Email lists")}; }, tr("E-mail database"),
+        u"drive", u"CON0016"_s);
+    addTab(
+        [this] {
+            return QList<QWidget*>{named(narrow(new UserFieldsPanel(this->context())), "User fields")};
+        },
+        tr("User fields"), u"star", kGeneralHelp.toString());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 10, 10, 10);
     layout->setSpacing(8);
@@ -75,14 +86,28 @@ FormLtrSetUp::FormLtrSetUp(core::Context& context, QWidget* parent)
 }
 
 // On a small screen a page scrolls, rather than the window growing out of it.
-void FormLtrSetUp::addTab(
-    const QList<QWidget*>& panels, const QString& caption, QStringView icon, const QString& helpCode)
+void FormLtrSetUp::addTab(Panels panels, const QString& caption, QStringView icon, const QString& helpCode)
 {
+    auto* scroller = new QScrollArea;
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setProperty(kHelpCode, helpCode);
+    SSTab1->addTab(scroller, widgets::icon(icon), caption);
+    m_panels << std::move(panels);
+}
+
+// The panels of a tab are made when it is looked at first.
+QWidget* FormLtrSetUp::pageOf(int tab)
+{
+    auto* scroller = static_cast<QScrollArea*>(SSTab1->widget(tab));
+    if (scroller->widget())
+        return scroller->widget();
     auto* page = new QWidget;
     auto* row = new widgets::WrappingRow(page);
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(0);
     core::Screens& screens = context().screens;
+    const QList<QWidget*> panels = m_panels.at(tab)();
     for (QWidget* each : panels) {
         if (each->maximumWidth() == QWIDGETSIZE_MAX && panels.size() > 1)
             each->setMaximumWidth(2 * kWidestList);
@@ -90,12 +115,8 @@ void FormLtrSetUp::addTab(
         connect(static_cast<core::SetupPanel*>(each), &core::SetupPanel::vocabulariesChanged, this,
             [&screens] { screens.tellVocabulariesChanged(); });
     }
-    auto* scroller = new QScrollArea;
     scroller->setWidget(page);
-    scroller->setWidgetResizable(true);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setProperty(kHelpCode, helpCode);
-    SSTab1->addTab(scroller, widgets::icon(icon), caption);
+    return page;
 }
 
 QList<QWidget*> FormLtrSetUp::listsOf(ListTab tab)
@@ -160,7 +181,7 @@ void FormLtrSetUp::load()
 void FormLtrSetUp::openPage(const QString& page)
 {
     for (int tab = 0; tab < SSTab1->count(); ++tab) {
-        for (auto* panel : SSTab1->widget(tab)->findChildren<core::SetupPanel*>()) {
+        for (auto* panel : pageOf(tab)->findChildren<core::SetupPanel*>()) {
             if (panel->property(kPage).toString().compare(page, Qt::CaseInsensitive) != 0)
                 continue;
             SSTab1->setCurrentIndex(tab);
@@ -186,7 +207,7 @@ void FormLtrSetUp::bookChanged()
 // What is typed and not saved stays while other tabs are looked at.
 void FormLtrSetUp::readTab()
 {
-    const auto* page = static_cast<QScrollArea*>(SSTab1->currentWidget())->widget();
+    const QWidget* page = pageOf(SSTab1->currentIndex());
     for (auto* panel : page->findChildren<core::SetupPanel*>(Qt::FindDirectChildrenOnly)) {
         if (!panel->isTouched())
             panel->refresh();

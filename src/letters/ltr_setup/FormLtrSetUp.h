@@ -3,6 +3,8 @@
 #include "core/handover/page_screen.h"
 #include "core/screen.h"
 
+#include <functional>
+
 class QTabWidget;
 
 namespace core {
@@ -13,8 +15,8 @@ namespace letters {
 
 enum class ListTab;
 
-/// The set-up of letters and mail: what their creators offer, and the stored texts. A tab is read when it is
-/// looked at; other screens follow each change at once.
+/// The set-up of letters and mail: what their creators offer, and the stored texts. A tab is made and read
+/// when it is looked at; other screens follow each change at once.
 class FormLtrSetUp : public core::Screen, public core::PageScreen {
     Q_OBJECT
 
@@ -28,14 +30,17 @@ public:
     QSize sizeHint() const override;
 
 private:
-    void addTab(
-        const QList<QWidget*>& panels, const QString& caption, QStringView icon, const QString& helpCode);
+    using Panels = std::function<QList<QWidget*>()>;
+
+    void addTab(Panels panels, const QString& caption, QStringView icon, const QString& helpCode);
+    QWidget* pageOf(int tab);
     QList<QWidget*> listsOf(ListTab tab);
     QWidget* mailDatabase();
     QWidget* layOutFoot();
     void readTab();
 
     QTabWidget* SSTab1;
+    QList<Panels> m_panels; ///< by tab
 };
 
 } // namespace letters

@@ -114,10 +114,12 @@ JournalWords journalWordsOf(jet::Database& data, Noted what)
 
 bool storeJournalWords(jet::Database& data, Noted what, const JournalWords& words)
 {
+    // Without a word its column has no value, and the journal has words of its own.
+    const auto wordOf = [](const QString& word) { return word.isEmpty() ? QVariant() : QVariant(word); };
     jet::Recordset settings = data.openRecordset(settingsSql());
     editOrAdd(settings);
-    settings.set(journalColumn(what, false), words.category);
-    settings.set(journalColumn(what, true), words.subcategory);
+    settings.set(journalColumn(what, false), wordOf(words.category));
+    settings.set(journalColumn(what, true), wordOf(words.subcategory));
     return settings.update();
 }
 

@@ -105,13 +105,13 @@ constexpr core::Tool kTools[] = {
 constexpr QStringView kSorts[] = {u"SortByType", u"SortByName", u"SortByDate", u"SortByName,Date"};
 
 constexpr QStringView kLetterHeadings
-    = u"|Date             |Direction   |Person                     |Type         |Category       "
-      u"|Opening 1            |Opening 2            |Opening 3            |Further 1            "
-      u"|Further 2            ";
+    = u"|Date          |Direction  |Person               |Type        |Category     "
+      u"|Opening 1        |Opening 2        |Opening 3        |Further 1        "
+      u"|Further 2        ";
 constexpr QStringView kAddressHeadings
-    = u"|Date             |Direction   |Person                     |Type         |Category       "
-      u"|Address 1              |Address 2              |City          |State         |Country       |Pin    "
-      u" ";
+    = u"|Date          |Direction  |Person               |Type        |Category     "
+      u"|Address 1         |Address 2         |City         |State        "
+      u"|Country       |Pin     ";
 
 QStringList columnsWith(const QStringList& others)
 {
@@ -153,7 +153,6 @@ void FrmLetterRecord::layOut()
     m_grid->setEmptyText(
         tr("No letter was kept yet. Letters that you save in the letter creator stand here."));
     m_grid->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_grid->letColumnsGiveWay();
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_grid);

@@ -166,6 +166,7 @@ void Frmgmail::layOut()
     splitter->setSizes({240, 560});
     auto* page = new QVBoxLayout;
     page->setContentsMargins(8, 6, 8, 8);
+    page->setSpacing(8);
     page->addWidget(m_sought);
     page->addWidget(splitter, 1);
     auto* bar = m_tools->makeToolBar(this);

@@ -40,6 +40,7 @@ public:
         , m_bodyField(m_rows->field(u"Body"_s))
         , m_personField(m_rows->field(u"person"_s))
         , m_readers(look.readers)
+        , m_isGreeted(look.isGreetedInBody)
         , m_body(look.body)
     {
         set(u"sender"_s, look.senderName);
@@ -47,7 +48,7 @@ public:
         set(u"sender line"_s, (QStringList{look.senderName} << look.senderAddress).join(u" \u00b7 "_s));
         set(u"address line"_s, look.senderAddress.join(u" \u00b7 "_s));
         set(u"date"_s, look.date);
-        set(u"greeting"_s, look.greeting);
+        set(u"greeting"_s, m_isGreeted ? QString() : look.greeting);
         set(u"closing"_s, look.closing.join(u'\n'));
         set(u"ending"_s, look.ending);
         set(u"signature"_s, look.signature);
@@ -64,6 +65,8 @@ public:
     QString text(int row, int field) const override
     {
         if (field == kReader) {
+            if (m_isGreeted)
+                return {};
             const QString reader = m_readers.value(row);
             return reader.trimmed().isEmpty() ? m_rows->text(row, m_personField) : reader;
         }
@@ -90,6 +93,7 @@ private:
     int m_bodyField;
     int m_personField;
     QStringList m_readers;
+    bool m_isGreeted; ///< by the text itself
     formats::RichText m_body;
     QStringList m_names;
     QStringList m_texts;

@@ -17,6 +17,7 @@ struct LetterLook {
     QString date = {};
     QString greeting = {}; ///< in front of the name
     QStringList readers = {}; ///< how each is spoken to, by row; by the name where nothing is given
+    bool isGreetedInBody = false; ///< no line of its own speaks to the reader
     QStringList closing = {}; ///< lines below the body
     QString ending = {};
     QString signature = {};
