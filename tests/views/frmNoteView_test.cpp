@@ -97,6 +97,15 @@ private Q_SLOTS:
         QCOMPARE(m_fixture->shared.selectedContactId, 1);
     }
 
+    void theContactGoesToAList()
+    {
+        m_fixture->addTarget(u"FrmList"_s);
+        open()->showContact(7);
+        auto* bar = child<QToolBar>(m_form, u"PageTools"_s);
+        QTest::mouseClick(bar->widgetForAction(child<QAction>(m_form, u"AddToList"_s)), Qt::LeftButton);
+        QCOMPARE(m_fixture->target(u"FrmList"_s)->contacts, QList<qint64>{7});
+    }
+
     void associateIsShown()
     {
         m_fixture->execute(u"update cnt_main set Asso1 = 'Zen Traders' where id=1"_s);
