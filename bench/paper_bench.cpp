@@ -102,10 +102,10 @@ void keepLetters(jet::Database& book, const QTemporaryDir& folder)
 {
     const platform::FolderDrive drive(folder.path(), folder.path());
     QList<letters::Recipient> readers;
-    const jet::Recordset people
+    jet::Recordset people
         = book.openRecordset(u"select * from cnt_main where id<=%1 order by id"_s.arg(kReaders));
-    for (jet::Recordset row = people; row.hasRow(); row.moveNext())
-        readers << letters::recipientOf(row, letters::AddressType::Home);
+    for (; people.hasRow(); people.moveNext())
+        readers << letters::recipientOf(people, letters::AddressType::Home);
     for (const bool hasLooks : {false, true}) {
         const letters::LetterToKeep letter = letterOf(hasLooks, u"C:\\OVUserfiles\\Letters"_s);
         const double kept = timed([&] {
