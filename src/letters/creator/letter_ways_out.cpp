@@ -162,7 +162,7 @@ void LetterCreator::preview(int style)
     fillSender(context().data, look);
     const auto rows = std::make_shared<output::RecordsetSource>(
         context().data.openRecordset(u"Select * from rptletter"), output::reportDates(shared().NationalMode));
-    output::ShowReportViewer(context(), output::letterReport(look, rows), windowTitle());
+    output::ShowReportViewer(context(), output::letterReport(look, rows), tr("Letter Preview"));
 }
 
 void LetterCreator::writeFiles()
