@@ -115,10 +115,17 @@ private Q_SLOTS:
                 QTest::keyClick(names, Qt::Key_Down);
             QCoreApplication::processEvents();
         }
-        f.list(u"lst"_s + name);
+        auto* list = f.list(u"lst"_s + name);
+        const auto choose = [list](const QString& word) {
+            for (int row = 0; row < list->rowCount(); ++row) {
+                if (list->textAt(row, list->recordset().columns().value(0)) == word)
+                    return support::clickRow(list, row);
+            }
+        };
         support::type(f.form, u"txt"_s + name, u"Bob's 1"_s);
         support::click(f.form, save);
         QCOMPARE(f.rows(read), u"Bob's 1"_s);
+        choose(u"Bob's 1"_s);
         support::type(f.form, u"txt"_s + name, u"Bob's 2"_s);
         QTest::keyClick(child<QWidget>(f.form, u"txt"_s + name), Qt::Key_Return);
         QCOMPARE(f.rows(read), u"Bob's 2"_s);
@@ -131,11 +138,7 @@ private Q_SLOTS:
         QVERIFY(support::isTold(u"Type a word first."_s));
         QCOMPARE(f.rows(read), u"Bob's 2"_s);
         support::type(f.form, u"txt"_s + name, {});
-        auto* list = f.list(u"lst"_s + name);
-        for (int row = 0; row < list->rowCount(); ++row) {
-            if (list->textAt(row, list->recordset().columns().value(0)) == u"Bob's 2")
-                support::clickRow(list, row);
-        }
+        choose(u"Bob's 2"_s);
         support::click(f.form, remove);
         QCOMPARE(f.rows(read), QString());
         QCOMPARE(f.rows(u"select openchoice, closechoice from cntb_letter where closechoice is not null"_s),

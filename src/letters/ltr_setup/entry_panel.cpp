@@ -293,9 +293,13 @@ void EntryPanel::save()
         return tell(notStored(tr("It could not be stored.")));
     playSound(m_list.saveSound);
     m_shown = typed();
-    // The row of a new entry is found by its value, the one of a changed entry is the same as before.
+    // The row of a new entry is found by its value, the one of a changed entry is the same as before. Behind
+    // a new word the box is free for the next one, which else would take its place.
     m_place.value = value;
-    readRows(isNew && hasSeveralFields(m_list) ? EntryPlace{value, 0} : m_place);
+    if (isNew)
+        readRows(hasSeveralFields(m_list) ? EntryPlace{value, 0} : EntryPlace());
+    else
+        readRows(m_place);
     // A text that is now for the other kind stands in the other list.
     if (m_rows->currentRow() < 0) {
         m_place = {};
