@@ -9,6 +9,7 @@
 #include "letters/record/letter_actions.h"
 #include "letters/record/letter_pane.h"
 #include "letters/record/record_statements.h"
+#include "letters/record/record_tools.h"
 #include "output/grid/list_print.h"
 #include "widgets/found_strip.h"
 #include "widgets/heading_grid.h"
@@ -28,23 +29,6 @@ namespace {
 using enum core::Tool::Place;
 
 constexpr core::Tool kTools[] = {
-    {.id = u"WriteAgain",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("letters", "Open"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Open the letter in the letter creator (Enter)"),
-        .places = Labelled | Menu},
-    {.id = u"ListEdit",
-        .icon = u"edit",
-        .text = QT_TRANSLATE_NOOP("letters", "Edit"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Change what the record says of the letter (F2)"),
-        .places = Labelled | Menu,
-        .key = Qt::Key_F2},
-    {.id = u"CmdDelete",
-        .icon = u"delete",
-        .text = QT_TRANSLATE_NOOP("letters", "Delete"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Delete the letter from the record (Del)"),
-        .places = Labelled | Menu,
-        .key = Qt::Key_Delete},
     {.id = u"CmdRefresh",
         .icon = u"restore",
         .text = QT_TRANSLATE_NOOP("letters", "Refresh"),
@@ -78,27 +62,10 @@ constexpr core::Tool kTools[] = {
         .text = QT_TRANSLATE_NOOP("letters", "Addresses"),
         .toolTip = QT_TRANSLATE_NOOP("letters", "Show the addresses in the list"),
         .places = IconOnly},
-    {.id = u"ViewPerson",
-        .icon = u"card",
-        .text = QT_TRANSLATE_NOOP("letters", "Person"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Show the person in the full view"),
-        .form = u"FullView",
-        .places = IconOnly | Menu},
-    {.id = u"PrintLetter",
-        .icon = u"printer",
-        .text = QT_TRANSLATE_NOOP("letters", "Print the letter"),
-        .places = IconOnly | Menu},
     {.id = u"FindReplace",
         .icon = u"search",
         .text = QT_TRANSLATE_NOOP("letters", "Find and replace"),
         .form = u"FrmFind",
-        .places = IconOnly},
-    {.id = u"Summary",
-        .icon = u"report",
-        .text = QT_TRANSLATE_NOOP("letters", "Summary"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "How many letters of each kind there are"),
-        .task = core::ToolTask::Open,
-        .form = u"FrmLettSum",
         .places = IconOnly},
 };
 
@@ -136,6 +103,7 @@ FrmLetterRecord::FrmLetterRecord(core::Context& context, QWidget* parent)
     , m_grid(new widgets::HeadingGrid)
     , m_list(new core::ListPresenter(context.data, m_grid, this))
     , m_strip(new widgets::FoundStrip)
+    , m_recordTools(new RecordTools(context, m_grid, this))
     , m_pane(new LetterPane(context))
 {
     setWindowTitle(tr("Letter Record"));
@@ -152,7 +120,6 @@ void FrmLetterRecord::layOut()
     m_grid->setAccessibleName(tr("Letters"));
     m_grid->setEmptyText(
         tr("No letter was kept yet. Letters that you save in the letter creator stand here."));
-    m_grid->setContextMenuPolicy(Qt::CustomContextMenu);
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_grid);
@@ -162,7 +129,8 @@ void FrmLetterRecord::layOut()
     page->setContentsMargins(8, 6, 8, 8);
     page->addWidget(m_strip);
     page->addWidget(splitter, 1);
-    auto* bar = m_tools->makeToolBar(this);
+    auto* bar = m_recordTools->makeToolBar(this);
+    m_tools->addTo(bar);
     auto* sorts = m_tools->makeMenu(u"SortMenu"_s, this, FilterMenu);
     QAction* sort = bar->addAction(tr("Order"));
     sort->setObjectName(u"SortBy"_s);
@@ -188,11 +156,7 @@ void FrmLetterRecord::connectTools()
         connect(m_tools->action(id), &QAction::triggered, this, perform);
         m_grid->addAction(m_tools->action(id));
     };
-    on(u"WriteAgain", [this] { writeAgain(context(), m_grid->currentKey()); });
-    on(u"ListEdit", [this] { editLetter(context(), m_grid->currentKey()); });
-    on(u"CmdDelete", [this] { remove(); });
-    on(u"ViewPerson", [this] { showPerson(context(), m_grid->currentKey()); });
-    on(u"PrintLetter", [this] { printLetter(context(), m_grid->currentKey()); });
+    connect(m_recordTools, &RecordTools::removeWanted, this, &FrmLetterRecord::remove);
     on(u"CmdRefresh", [this] { showAll(); });
     on(u"ViewLetterField", [this] { showColumns(kLetterHeadings, letterColumns()); });
     on(u"ViewAddressField", [this] { showColumns(kAddressHeadings, addressColumns()); });
@@ -202,12 +166,6 @@ void FrmLetterRecord::connectTools()
     });
     for (const QStringView id : kSorts)
         connect(m_tools->action(id), &QAction::triggered, this, [this, id] { open(recordSql(id)); });
-    connect(m_grid, &widgets::HeadingGrid::chosen, m_tools->action(u"WriteAgain"), &QAction::trigger);
-    QMenu* menu = m_tools->makeMenu(u"LetterMenu"_s, this);
-    connect(m_grid, &QWidget::customContextMenuRequested, this, [this, menu](const QPoint& at) {
-        if (m_grid->currentKey() != 0)
-            menu->popup(m_grid->viewport()->mapToGlobal(at));
-    });
 }
 
 void FrmLetterRecord::load()
@@ -268,9 +226,7 @@ void FrmLetterRecord::followList()
 {
     const qint64 letter = m_grid->currentKey();
     m_pane->show(letter);
-    for (const QStringView id : {u"WriteAgain", u"ListEdit", u"CmdDelete", u"ViewPerson", u"PrintLetter"})
-        m_tools->action(id)->setEnabled(
-            letter != 0 && (id != u"ViewPerson" || context().screens.has(u"FullView")));
+    m_recordTools->follow();
     setPosition(m_list->position());
 }
 

@@ -17,6 +17,7 @@ class HeadingGrid;
 namespace letters {
 
 class LetterPane;
+class RecordTools;
 
 /// Every letter sent or received, in several orders, and the text of the one that is chosen.
 class FrmLetterRecord : public core::Screen, public core::ContactScreen, public core::Refreshable {
@@ -44,6 +45,7 @@ private:
     widgets::HeadingGrid* m_grid;
     core::ListPresenter* m_list;
     widgets::FoundStrip* m_strip;
+    RecordTools* m_recordTools;
     LetterPane* m_pane;
 };
 

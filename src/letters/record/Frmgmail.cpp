@@ -12,6 +12,7 @@
 #include "letters/record/letter_actions.h"
 #include "letters/record/letter_drag.h"
 #include "letters/record/letter_pane.h"
+#include "letters/record/record_tools.h"
 #include "output/grid/list_print.h"
 #include "platform/message_boxes.h"
 #include "widgets/heading_grid.h"
@@ -37,23 +38,6 @@ namespace {
 using enum core::Tool::Place;
 
 constexpr core::Tool kTools[] = {
-    {.id = u"WriteAgain",
-        .icon = u"letter",
-        .text = QT_TRANSLATE_NOOP("letters", "Open"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Open the letter in the letter creator (Enter)"),
-        .places = Labelled | Menu},
-    {.id = u"EditLetter",
-        .icon = u"edit",
-        .text = QT_TRANSLATE_NOOP("letters", "Edit"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Change what the record says of the letter (F2)"),
-        .places = Labelled | Menu,
-        .key = Qt::Key_F2},
-    {.id = u"DeleteLetter",
-        .icon = u"delete",
-        .text = QT_TRANSLATE_NOOP("letters", "Delete"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Delete the chosen letters from the record (Del)"),
-        .places = Labelled | Menu,
-        .key = Qt::Key_Delete},
     {.id = u"MoveTo",
         .icon = u"category",
         .text = QT_TRANSLATE_NOOP("letters", "Category"),
@@ -67,23 +51,6 @@ constexpr core::Tool kTools[] = {
         .task = core::ToolTask::Open,
         .form = u"frmgmail1",
         .places = Labelled | GroupStart},
-    {.id = u"ViewPerson",
-        .icon = u"card",
-        .text = QT_TRANSLATE_NOOP("letters", "Person"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "Show the person in the full view"),
-        .form = u"FullView",
-        .places = IconOnly | Menu},
-    {.id = u"PrintLetter",
-        .icon = u"printer",
-        .text = QT_TRANSLATE_NOOP("letters", "Print the letter"),
-        .places = IconOnly | Menu},
-    {.id = u"Summary",
-        .icon = u"report",
-        .text = QT_TRANSLATE_NOOP("letters", "Summary"),
-        .toolTip = QT_TRANSLATE_NOOP("letters", "How many letters of each kind there are"),
-        .task = core::ToolTask::Open,
-        .form = u"FrmLettSum",
-        .places = IconOnly},
 };
 
 constexpr int kTypingMs = 250;
@@ -108,6 +75,7 @@ Frmgmail::Frmgmail(core::Context& context, QWidget* parent)
     , m_groups(new widgets::HeadingGrid)
     , m_grid(new widgets::HeadingGrid)
     , m_list(new core::ListPresenter(context.data, m_grid, this))
+    , m_recordTools(new RecordTools(context, m_grid, this))
     , m_pane(new LetterPane(context))
     , m_drag(new LetterDrag(m_grid, m_groups, this))
 {
@@ -146,7 +114,6 @@ void Frmgmail::layOut()
     m_grid->setObjectName(u"Grid1"_s);
     m_grid->setAccessibleName(tr("Letters"));
     m_grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_grid->setContextMenuPolicy(Qt::CustomContextMenu);
     m_grid->letColumnsGiveWay();
     auto* left = new QWidget;
     auto* groups = new QVBoxLayout(left);
@@ -169,7 +136,8 @@ void Frmgmail::layOut()
     page->setSpacing(8);
     page->addWidget(m_sought);
     page->addWidget(splitter, 1);
-    auto* bar = m_tools->makeToolBar(this);
+    auto* bar = m_recordTools->makeToolBar(this);
+    m_tools->addTo(bar);
     auto* lists = new output::ListTools(context(), m_grid, this, windowTitle());
     lists->addTo(bar);
     auto* layout = new QVBoxLayout(this);
@@ -187,21 +155,9 @@ void Frmgmail::layOut()
 
 void Frmgmail::connectTools()
 {
-    const auto on = [this](QStringView id, auto perform) {
-        connect(m_tools->action(id), &QAction::triggered, this, perform);
-        m_grid->addAction(m_tools->action(id));
-    };
-    on(u"WriteAgain", [this] { writeAgain(context(), m_grid->currentKey()); });
-    on(u"EditLetter", [this] { editLetter(context(), m_grid->currentKey()); });
-    on(u"DeleteLetter", [this] { remove(); });
-    on(u"ViewPerson", [this] { showPerson(context(), m_grid->currentKey()); });
-    on(u"PrintLetter", [this] { printLetter(context(), m_grid->currentKey()); });
-    connect(m_grid, &widgets::HeadingGrid::chosen, m_tools->action(u"WriteAgain"), &QAction::trigger);
-    QMenu* menu = m_tools->makeMenu(u"LetterMenu"_s, this);
-    connect(m_grid, &QWidget::customContextMenuRequested, this, [this, menu](const QPoint& at) {
-        if (m_grid->currentKey() != 0)
-            menu->popup(m_grid->viewport()->mapToGlobal(at));
-    });
+    connect(m_recordTools, &RecordTools::removeWanted, this, &Frmgmail::remove);
+    m_grid->addAction(m_tools->action(u"MoveTo"));
+    findChild<QMenu*>(u"LetterMenu"_s)->addAction(m_tools->action(u"MoveTo"));
 }
 
 void Frmgmail::fillCategories(QMenu* menu)
@@ -334,10 +290,8 @@ void Frmgmail::followList()
 {
     const qint64 letter = m_grid->currentKey();
     m_pane->show(letter);
-    for (const QStringView id :
-        {u"WriteAgain", u"EditLetter", u"DeleteLetter", u"MoveTo", u"ViewPerson", u"PrintLetter"})
-        m_tools->action(id)->setEnabled(
-            letter != 0 && (id != u"ViewPerson" || context().screens.has(u"FullView")));
+    m_recordTools->follow();
+    m_tools->action(u"MoveTo")->setEnabled(letter != 0);
     setPosition(m_list->position());
 }
 

@@ -23,6 +23,7 @@ namespace letters {
 
 class LetterDrag;
 class LetterPane;
+class RecordTools;
 
 /// The record of letters put together by person, category or month, searched by words, and arranged: letters
 /// are dragged into a category.
@@ -60,6 +61,7 @@ private:
     widgets::HeadingGrid* m_groups;
     widgets::HeadingGrid* m_grid;
     core::ListPresenter* m_list;
+    RecordTools* m_recordTools;
     LetterPane* m_pane;
     LetterDrag* m_drag;
 };
