@@ -111,7 +111,8 @@ QWidget* FormLtrSetUp::pageOf(int tab)
     for (QWidget* each : panels) {
         if (each->maximumWidth() == QWIDGETSIZE_MAX && panels.size() > 1)
             each->setMaximumWidth(2 * kWidestList);
-        row->add(each);
+        // Messages are sentences, the other lists have words.
+        row->add(each, each->property(kPage).toString() == u"Messages" ? 3 : 1);
         connect(static_cast<core::SetupPanel*>(each), &core::SetupPanel::vocabulariesChanged, this,
             [&screens] { screens.tellVocabulariesChanged(); });
     }
